@@ -1,0 +1,56 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Compiler, warnings, sanitizers and helper tools: the same for every target of ours.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+if(KELVORAX_TIDY)
+    find_program(CLANG_TIDY_PROGRAM clang-tidy REQUIRED)
+endif()
+
+if(KELVORAX_ASSERTIONS)
+    string(REPLACE "-DNDEBUG" "" CMAKE_CXX_FLAGS_RELWITHDEBINFO "${CMAKE_CXX_FLAGS_RELWITHDEBINFO}")
+endif()
+
+if(KELVORAX_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_package(Threads REQUIRED)
+
+# Warnings and checks for one of our targets.
+function(kelvorax_checked target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror)
+    if(KELVORAX_TIDY)
+        set_target_properties(${target} PROPERTIES CXX_CLANG_TIDY
+            "${CLANG_TIDY_PROGRAM};--quiet;--extra-arg=-Wno-unknown-warning-option")
+    endif()
+endfunction()
+
+# A static library of ours: kelvorax_library(name SOURCES a.cpp LINK other).
+function(kelvorax_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    kelvorax_checked(${name})
+endfunction()
+
+# A GoogleTest program: kelvorax_gtest(name SOURCES a.cpp LINK lib).
+function(kelvorax_gtest name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} GTest::gmock GTest::gtest_main)
+    kelvorax_checked(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS engine TIMEOUT 300)
+endfunction()
