@@ -117,6 +117,10 @@ json generalNode(const Dictionary& dictionary) {
 
 } // namespace
 
+std::string describeVariable(const Variable& variable) {
+    return variableNode(variable).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
 std::string writePayload(const Dictionary& dictionary) {
     json document = {{"format", payloadFormat},
                      {"version", payloadVersion},
