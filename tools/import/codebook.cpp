@@ -105,7 +105,7 @@ private:
             const auto name =
                 std::find(columnNames.begin(), columnNames.end(), upperCase(csv_.field(i)));
             if (name == columnNames.end())
-                csv_.fail(i, "unknown column " + quoted(std::string(csv_.field(i))) +
+                csv_.fail(i, "unknown column " + inQuotes(std::string(csv_.field(i))) +
                                  "; a codebook has level, field, type, code, label, is_missing");
             columns_[static_cast<std::size_t>(name - columnNames.begin())] = i;
         }
@@ -122,7 +122,7 @@ private:
     std::string nameIn(ColumnName column) const {
         const std::string name = text(column);
         if (!isName(name))
-            fail(column, "a name holds letters, digits, \"_\" and \"-\" only, not " + quoted(name));
+            fail(column, "a name holds letters, digits, \"_\" and \"-\" only, not " + inQuotes(name));
         return upperCase(name);
     }
 
@@ -168,12 +168,12 @@ private:
         plan.place = csv_.place(columns_[Field]);
         const bool typed = !text(Type).empty();
         if (typed && !applyType(plan, upperCase(text(Type))))
-            fail(Type, "unknown type " + quoted(text(Type)));
+            fail(Type, "unknown type " + inQuotes(text(Type)));
         for (FieldPlan& field : owner.fields) {
             if (field.name != plan.name)
                 continue;
             if (typed && !sameType(field, plan))
-                fail(Type, quoted(text(Type)) + " is not the type that " + field.name +
+                fail(Type, inQuotes(text(Type)) + " is not the type that " + field.name +
                                " got before");
             return field;
         }
@@ -191,12 +191,12 @@ private:
             fail(Code, "a parent key has no codes of its own");
         CodeEntry entry{codeText(field), text(Label), meaning()};
         if (entry.label.empty() && entry.meaning == CodeMeaning::Valid)
-            fail(Label, "the code " + quoted(entry.code) + " has no label");
+            fail(Label, "the code " + inQuotes(entry.code) + " has no label");
         for (const CodeEntry& other : field.codes) {
             if (other.code == entry.code)
-                fail(Code, "the code " + quoted(entry.code) + " stands here twice");
+                fail(Code, "the code " + inQuotes(entry.code) + " stands here twice");
             if (other.meaning == entry.meaning && entry.meaning != CodeMeaning::Valid)
-                fail(IsMissing, field.name + " has such a code already: " + quoted(other.code));
+                fail(IsMissing, field.name + " has such a code already: " + inQuotes(other.code));
         }
         const bool number = parseReal(entry.code).has_value();
         if (entry.meaning != CodeMeaning::Valid &&
@@ -209,7 +209,7 @@ private:
         const std::string word = upperCase(text(IsMissing));
         if (!word.empty() && word != "MISSING" && word != "NOTAPP")
             fail(IsMissing,
-                 "expected \"missing\", \"notapp\" or nothing, found " + quoted(text(IsMissing)));
+                 "expected \"missing\", \"notapp\" or nothing, found " + inQuotes(text(IsMissing)));
         return word.empty()        ? CodeMeaning::Valid
                : word == "MISSING" ? CodeMeaning::Missing
                                    : CodeMeaning::NotApplicable;
@@ -220,7 +220,7 @@ private:
         const std::string code = text(Code);
         if (field.type == ValueType::String) {
             if (field.exactWidth() && characterCount(code) != static_cast<std::size_t>(field.width))
-                fail(Code, quoted(code) + " does not have " + std::to_string(field.width) +
+                fail(Code, inQuotes(code) + " does not have " + std::to_string(field.width) +
                                " characters");
             return code;
         }
@@ -233,7 +233,7 @@ private:
         } else if (const auto value = parseBoolean(code)) {
             return *value ? "1" : "0";
         }
-        fail(Code, quoted(code) + " is no value of this type");
+        fail(Code, inQuotes(code) + " is no value of this type");
     }
 
     CsvReader csv_;

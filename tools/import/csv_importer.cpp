@@ -74,7 +74,7 @@ private:
         rootName_ = !request_.root.empty() ? upperCase(request_.root)
                                            : book_.root.value_or("DATABASE");
         if (!isName(rootName_))
-            throw std::runtime_error(quoted(rootName_) + " cannot be the name of the root.");
+            throw std::runtime_error(inQuotes(rootName_) + " cannot be the name of the root.");
         rootIsLevel_ = levels_.front().plan->name == rootName_;
         for (std::size_t i = 1; i < levels_.size(); ++i)
             if (levels_[i].plan->name == rootName_)

@@ -30,7 +30,7 @@ void LevelFile::bindColumns(const LevelPlan& plan) {
         const std::string name(csv_.field(i));
         const FieldPlan* field = plan.find(upperCase(name));
         if (field == nullptr)
-            csv_.fail(i, "unknown column " + quoted(name) + ": the codebook has no such field of " +
+            csv_.fail(i, "unknown column " + inQuotes(name) + ": the codebook has no such field of " +
                              plan.name);
         if (std::find(columns_.begin(), columns_.end(), field) != columns_.end())
             csv_.fail(i, "the column " + field->name + " stands here twice");
@@ -59,7 +59,7 @@ CsvValue LevelFile::value(std::size_t column) const {
     if (value.blank)
         return value;
     const auto refuse = [&](const std::string& problem) {
-        csv_.fail(column, field.name + ": " + quoted(std::string(value.text)) + problem);
+        csv_.fail(column, field.name + ": " + inQuotes(std::string(value.text)) + problem);
     };
     if (field.type == ValueType::Integer) {
         const auto number = parseInteger(value.text);
@@ -193,7 +193,7 @@ void LevelScan::noteKey(const LevelFile& level, std::uint64_t parent) {
         csv.fail(*level.keyColumn(), "the key of " + plan_.name + " is blank");
     const bool isText = plan_.withRole(FieldRole::Key)->type == ValueType::String;
     if (!keys_.add(parent, isText ? keyTexts_.numberOf(key.text) : key.integer))
-        csv.fail(*level.keyColumn(), "the key " + quoted(std::string(key.text)) +
+        csv.fail(*level.keyColumn(), "the key " + inQuotes(std::string(key.text)) +
                                          " occurs twice" +
                                          (position_.chain.empty() ? "" : " under one parent"));
 }
@@ -232,7 +232,7 @@ std::uint64_t LevelScan::lookUpParent(const LevelFile& level) const {
             row = ancestor.keys_.find(record, *key);
         if (!row)
             level.csv().fail(columns[i], "no record of " + ancestor.plan().name + " has the key " +
-                                             quoted(text) + (i > 0 ? " there" : ""));
+                                             inQuotes(text) + (i > 0 ? " there" : ""));
         record = ancestor.recordOfRow_.empty() ? *row : ancestor.recordOfRow_[*row];
     }
     return record;
@@ -257,7 +257,7 @@ std::optional<std::uint64_t> LevelScan::rowWithKey(const LevelFile& child, std::
         return std::nullopt;
     if (found->second == ambiguous)
         child.csv().fail(column, "several records of " + plan_.name + " have the key " +
-                                     quoted(std::string(child.csv().field(column))) +
+                                     inQuotes(std::string(child.csv().field(column))) +
                                      "; the keys of the levels above are needed too");
     return found->second;
 }

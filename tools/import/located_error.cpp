@@ -8,7 +8,7 @@ LocatedError::LocatedError(const std::string& file, Place place, const std::stri
                          std::to_string(place.column) + ": error: " + text),
       file_(file), place_(place), text_(text) {}
 
-std::string quoted(const std::string& text) {
+std::string inQuotes(const std::string& text) {
     constexpr std::size_t longest = 60;
     std::string shown = "\"";
     std::size_t used = 0;

@@ -29,6 +29,6 @@ private:
 };
 
 /// The text in quotes, shortened and without control characters, for messages.
-std::string quoted(const std::string& text);
+std::string inQuotes(const std::string& text);
 
 } // namespace kelx::tools
