@@ -42,7 +42,7 @@ const std::vector<MessageEntry> table = {
     error(Error::NumberTooLarge, "KEL_E_NUMBER_TOO_LARGE",
           "The number %1 is too large: it needs more than 64 bits.",
           "Whole numbers go to 9223372036854775807; write larger ones with a point."),
-    error(Error::Unexpected, "KEL_E_UNEXPECTED", "Found %1, but expected %2.",
+    error(Error::Unexpected, "KEL_E_UNEXPECTED", "Found %1, but expected %2.%3",
           "Something else should stand at this place; the message says what."),
     error(Error::TooDeep, "KEL_E_TOO_DEEP", "The expression is nested too deeply here.",
           "An expression may nest parentheses, functions and signs 200 deep."),

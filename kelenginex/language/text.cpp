@@ -102,7 +102,7 @@ std::string upperCase(std::string_view text) {
     return result;
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     constexpr std::size_t longest = 60;
     if (text.size() <= longest)
         return "\"" + std::string(text) + "\"";
