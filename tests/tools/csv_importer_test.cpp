@@ -91,8 +91,8 @@ std::vector<std::string> values(const catalog::Dictionary& dictionary, const cha
     std::vector<std::string> texts;
     const storage::ColumnInfo& info = column->info();
     const auto size = storage::physicalSize(info.physical);
-    const auto* bytes = static_cast<const char*>(
-        column->read(0, static_cast<std::size_t>(info.records), scratch));
+    const auto* bytes =
+        static_cast<const char*>(column->read(0, static_cast<std::size_t>(info.records), scratch));
     for (std::uint64_t i = 0; i < info.records; ++i) {
         if (info.physical == storage::Physical::Real64) {
             double value = 0;
@@ -215,17 +215,18 @@ TEST_F(ImportTest, RefusesFaultyDataAtTheirPlace) {
     EXPECT_EQ(faultWith("person.csv", "home,age,sex,born,note\n3,1,1,01,sixsix\n"),
               "person.csv:2:10: error: NOTE: \"sixsix\" has 6 characters, not at most 5");
     EXPECT_EQ(faultWith("person.csv", "home,age,sex,born,note\n3,1,1,1,\n"),
-              "person.csv:2:7: error: BORN: \"1\" has 1 characters, not 2");
+              "person.csv:2:7: error: BORN: \"1\" has 1 character, not 2");
     EXPECT_EQ(faultWith("person.csv", "home,note,age,sex,born\n3,\"a\nb\",x7,1,01\n"),
               "person.csv:3:4: error: AGE: \"x7\" is not a number");
     for (const char* number : {"1.5", "1e3", "99999999999999999999"})
-        EXPECT_EQ(faultWith("person.csv", std::string("home,sex,age,born,note\n3,1,") + number +
-                                              ",01,\n"),
+        EXPECT_EQ(faultWith("person.csv",
+                            std::string("home,sex,age,born,note\n3,1,") + number + ",01,\n"),
                   std::string("person.csv:2:5: error: AGE: \"") + number +
                       "\" is not a whole number that can be held");
     for (const char* number : {"1,5", "nan", "inf", " 1", "0x1", "1.2.3"})
-        EXPECT_THAT(faultWith("town.csv", std::string("code,name,share\n01,A,\"") + number + "\"\n"),
-                    testing::StartsWith("town.csv:2:6: error: SHARE: "));
+        EXPECT_THAT(
+            faultWith("town.csv", std::string("code,name,share\n01,A,\"") + number + "\"\n"),
+            testing::StartsWith("town.csv:2:6: error: SHARE: "));
     EXPECT_THAT(faultWith("home.csv", "town,id,power,w\n01,5,maybe,2\n"),
                 testing::StartsWith("home.csv:2:6: error: POWER: \"maybe\" is neither"));
     EXPECT_EQ(faultWith("town.csv", "code,name,share\n01,\xe9,1\n"),
@@ -254,7 +255,8 @@ TEST_F(ImportTest, RefusesAFaultyCodebook) {
     };
     EXPECT_EQ(fault("town,code,key number,,,\n"),
               "codebook.csv:2:11: error: unknown type \"key number\"");
-    EXPECT_EQ(fault("town,code,text(0),,,\n"), "codebook.csv:2:11: error: unknown type \"text(0)\"");
+    EXPECT_EQ(fault("town,code,text(0),,,\n"),
+              "codebook.csv:2:11: error: unknown type \"text(0)\"");
     EXPECT_EQ(fault("town,a b,text,,,\n"),
               "codebook.csv:2:6: error: a name holds letters, digits, \"_\" and \"-\" only, not "
               "\"a b\"");

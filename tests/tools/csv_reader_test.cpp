@@ -77,8 +77,7 @@ TEST(CsvReader, LocatesWhatIsNoCsv) {
     EXPECT_EQ(faultOf("a,b\n1,x\"y\n"), "2:4 a quote inside a field that does not begin with one");
     EXPECT_EQ(faultOf("a,b\n\"1\"x,2\n"), "2:4 text behind the closing quote of a field");
     EXPECT_EQ(faultOf("a\rb\n"), "1:2 a carriage return without a line feed");
-    EXPECT_EQ(faultOf(std::string("a\nx\0y\n", 6)),
-              "2:2 a zero byte; is this really a text file?");
+    EXPECT_EQ(faultOf(std::string("a\nx\0y\n", 6)), "2:2 a zero byte; is this really a text file?");
     // Latin-1, an overlong form, a surrogate, a value past the last one, a cut sequence.
     for (const char* bytes : {"\xe9", "\xc0\xaf", "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xe2\x82"})
         EXPECT_EQ(faultOf("a,b\nü," + std::string(bytes) + "\n"), "2:3 bytes that are no UTF-8");

@@ -74,10 +74,10 @@ TEST(CsvRoundTrip, ShuffledRowsGiveTheSameDatabase) {
     for (const auto& [name, text] : canonical)
         folder.write("in/" + name, text);
     // Rows of different parents change places; those of one parent keep their order.
-    folder.write("in/HOME.csv", "AREA_CODE,ID,W,LIT\n02,1,1e+300,\n01,2,1.5,yes\n01,1,0.10,false\n");
-    folder.write("in/PERSON.csv",
-                 "NOTE,HOME_ID,AGE,BORN,INCOME,AREA_CODE\nx,1,98,02,0.0000001,02\n"
-                 "é,1,,,-1,01\n\"\",2,30,01,1234.50,01\n\"a,b\",2,099,00,,01\n");
+    folder.write("in/HOME.csv",
+                 "AREA_CODE,ID,W,LIT\n02,1,1e+300,\n01,2,1.5,yes\n01,1,0.10,false\n");
+    folder.write("in/PERSON.csv", "NOTE,HOME_ID,AGE,BORN,INCOME,AREA_CODE\nx,1,98,02,0.0000001,02\n"
+                                  "é,1,,,-1,01\n\"\",2,30,01,1234.50,01\n\"a,b\",2,099,00,,01\n");
     tools::importCsv(requestFor(folder.path() / "in", folder.path() / "db.kxdb"));
     auto files = exported(folder.path() / "db.kxdb", folder.path() / "csv");
     EXPECT_EQ(files["HOME.csv"], canonical.at("HOME.csv"));

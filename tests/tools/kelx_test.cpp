@@ -161,8 +161,7 @@ TEST_F(KelxTest, ImportsAndConverts) {
                   "01,01,1,1,x,2020,1\n");
     const Outcome fault = kelx("import @/bad/bad.kxdb" + levels);
     EXPECT_EQ(fault.status, 1);
-    EXPECT_EQ(fault.err,
-              path("csv/EMIGRANT.csv") + ":2:11: error: AGE: \"x\" is not a number\n");
+    EXPECT_EQ(fault.err, path("csv/EMIGRANT.csv") + ":2:11: error: AGE: \"x\" is not a number\n");
     EXPECT_TRUE(TemporaryFolder::contents(folder->path() / "bad").empty());
 }
 

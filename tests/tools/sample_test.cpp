@@ -43,10 +43,9 @@ std::vector<double> numbers(const catalog::Entity& entity, const char* variable)
     std::vector<double> result;
     storage::ColumnScratch scratch;
     for (std::uint64_t begin = 0; begin < info.records; begin += storage::recordsPerBlock) {
-        const auto count =
-            std::min<std::uint64_t>(storage::recordsPerBlock, info.records - begin);
-        const auto* bytes = static_cast<const char*>(
-            column->read(begin, static_cast<std::size_t>(count), scratch));
+        const auto count = std::min<std::uint64_t>(storage::recordsPerBlock, info.records - begin);
+        const auto* bytes =
+            static_cast<const char*>(column->read(begin, static_cast<std::size_t>(count), scratch));
         for (std::uint64_t i = 0; i < count; ++i) {
             double real = 0;
             std::uint64_t code = 0;
@@ -194,8 +193,8 @@ TEST_F(SampleTest, ItsCompanionsFitTogether) {
     for (const char* key : {"namePrj", "created", "workDir", "resultDir"})
         EXPECT_NE(project[key], "") << key;
     EXPECT_TRUE(std::filesystem::exists(std::string(project["dictionaries"][0]["location"])));
-    EXPECT_TRUE(std::filesystem::exists(
-        std::string(project["program"][2]["lastPrograms"][0]["location"])));
+    EXPECT_TRUE(
+        std::filesystem::exists(std::string(project["program"][2]["lastPrograms"][0]["location"])));
     const auto selection = json::parse(folder->read("a/capital_sel.json"));
     EXPECT_EQ(selection["typeFile"], "selection");
     EXPECT_EQ(selection["selections"][0]["entity"], "DISTRICT");

@@ -87,9 +87,9 @@ public:
         readHeader();
         while (csv_.next()) {
             if (csv_.fields() != width_)
-                csv_.fail(std::min(width_, csv_.fields()),
-                          "expected " + std::to_string(width_) + " fields, found " +
-                              std::to_string(csv_.fields()));
+                csv_.fail(std::min(width_, csv_.fields()), "expected " + std::to_string(width_) +
+                                                               " fields, found " +
+                                                               std::to_string(csv_.fields()));
             readRow();
         }
         return std::move(book_);
@@ -122,7 +122,8 @@ private:
     std::string nameIn(ColumnName column) const {
         const std::string name = text(column);
         if (!isName(name))
-            fail(column, "a name holds letters, digits, \"_\" and \"-\" only, not " + inQuotes(name));
+            fail(column,
+                 "a name holds letters, digits, \"_\" and \"-\" only, not " + inQuotes(name));
         return upperCase(name);
     }
 
@@ -173,16 +174,16 @@ private:
             if (field.name != plan.name)
                 continue;
             if (typed && !sameType(field, plan))
-                fail(Type, inQuotes(text(Type)) + " is not the type that " + field.name +
-                               " got before");
+                fail(Type,
+                     inQuotes(text(Type)) + " is not the type that " + field.name + " got before");
             return field;
         }
         if (!typed)
             fail(Type, plan.name + " has no type");
         const bool single = plan.role != FieldRole::Value && plan.role != FieldRole::ParentKey;
         if (single && owner.withRole(plan.role) != nullptr)
-            fail(Type, owner.name + " has such a field already: " +
-                           owner.withRole(plan.role)->name);
+            fail(Type,
+                 owner.name + " has such a field already: " + owner.withRole(plan.role)->name);
         return owner.fields.emplace_back(std::move(plan));
     }
 
@@ -199,8 +200,7 @@ private:
                 fail(IsMissing, field.name + " has such a code already: " + inQuotes(other.code));
         }
         const bool number = parseReal(entry.code).has_value();
-        if (entry.meaning != CodeMeaning::Valid &&
-            (!number || field.type == ValueType::Boolean))
+        if (entry.meaning != CodeMeaning::Valid && (!number || field.type == ValueType::Boolean))
             fail(Code, "a missing or not-applicable code must be a number");
         field.codes.push_back(std::move(entry));
     }
@@ -262,6 +262,8 @@ const LevelPlan* Codebook::find(const std::string& wanted) const {
     return found == levels.end() ? nullptr : &*found;
 }
 
-Codebook readCodebook(const std::filesystem::path& file) { return CodebookReader(file).read(); }
+Codebook readCodebook(const std::filesystem::path& file) {
+    return CodebookReader(file).read();
+}
 
 } // namespace kelx::tools

@@ -20,8 +20,8 @@ const std::string& ColumnTexts::at(std::uint64_t record) {
             throw std::runtime_error("A column has fewer records than its entity.");
         blockBegin_ = record - record % storage::recordsPerBlock;
         blockEnd_ = std::min<std::uint64_t>(records, blockBegin_ + storage::recordsPerBlock);
-        block_ = column_->read(blockBegin_, static_cast<std::size_t>(blockEnd_ - blockBegin_),
-                               scratch_);
+        block_ =
+            column_->read(blockBegin_, static_cast<std::size_t>(blockEnd_ - blockBegin_), scratch_);
     }
     format(static_cast<std::size_t>(record - blockBegin_));
     record_ = record;
@@ -45,7 +45,8 @@ void ColumnTexts::format(std::size_t index) {
     else if (info.type == storage::ValueType::String)
         text_ = column_->text(code);
     else
-        text_ = integerText(static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code));
+        text_ =
+            integerText(static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code));
 }
 
 } // namespace kelx::tools

@@ -64,8 +64,7 @@ std::string freeName(const Entity& entity) {
 /// A record of a level, moving forward, and its key.
 class RunningRecord {
 public:
-    explicit RunningRecord(const Entity& entity)
-        : entity_(entity), pointers_(entity.pointers()) {
+    explicit RunningRecord(const Entity& entity) : entity_(entity), pointers_(entity.pointers()) {
         if (entity.codeVar != nullptr)
             texts_ = std::make_unique<ColumnTexts>(*entity.codeVar);
     }
@@ -168,8 +167,7 @@ private:
         row(codebook,
             {entity.name, "", entity.parent == nullptr ? "root" : "", "", entity.label, ""});
         for (const Entity* above : keyLevels(entity))
-            row(codebook,
-                {entity.name, parentKeyName(*above, entity), "parent key", "", "", ""});
+            row(codebook, {entity.name, parentKeyName(*above, entity), "parent key", "", "", ""});
         if (needsKey(entity))
             row(codebook, {entity.name, freeName(entity), "key integer", "", "", ""});
         for (const auto& variable : entity.variables)
@@ -195,8 +193,7 @@ private:
                                       : ""});
         }
         if (missing)
-            row(codebook,
-                {level, variable.name, type, realText(*variable.missing), "", "missing"});
+            row(codebook, {level, variable.name, type, realText(*variable.missing), "", "missing"});
         if (notapp)
             row(codebook, {level, variable.name, type, realText(*variable.notapp), "", "notapp"});
     }

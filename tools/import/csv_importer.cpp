@@ -47,10 +47,9 @@ public:
 
 private:
     Level& levelNamed(const std::string& name) {
-        const auto found =
-            std::find_if(levels_.begin(), levels_.end(), [&](const Level& level) {
-                return level.plan->name == upperCase(name);
-            });
+        const auto found = std::find_if(levels_.begin(), levels_.end(), [&](const Level& level) {
+            return level.plan->name == upperCase(name);
+        });
         if (found == levels_.end())
             throw std::runtime_error(name + " is none of the levels.");
         return *found;
@@ -71,8 +70,8 @@ private:
                     throw std::runtime_error("The level " + name + " is given twice.");
             levels_.push_back(std::move(level));
         }
-        rootName_ = !request_.root.empty() ? upperCase(request_.root)
-                                           : book_.root.value_or("DATABASE");
+        rootName_ =
+            !request_.root.empty() ? upperCase(request_.root) : book_.root.value_or("DATABASE");
         if (!isName(rootName_))
             throw std::runtime_error(inQuotes(rootName_) + " cannot be the name of the root.");
         rootIsLevel_ = levels_.front().plan->name == rootName_;
@@ -97,9 +96,8 @@ private:
     /// A described level without a file is a slip, unless it is the root.
     void checkCodebook() const {
         for (const LevelPlan& plan : book_.levels) {
-            const bool given =
-                std::any_of(levels_.begin(), levels_.end(),
-                            [&](const Level& level) { return level.plan == &plan; });
+            const bool given = std::any_of(levels_.begin(), levels_.end(),
+                                           [&](const Level& level) { return level.plan == &plan; });
             if (!given && plan.name != rootName_)
                 throw LocatedError(book_.file, plan.place,
                                    "the level " + plan.name + " has no file");
@@ -212,9 +210,8 @@ private:
             told.sorted = !level.scan->order().empty();
             for (const ColumnSummary& column : level.scan->columns())
                 if (column.field->role != FieldRole::ParentKey)
-                    told.variables.push_back({column.field->name, column.field->type,
-                                              column.blanks, column.field->coded,
-                                              column.outsideLabels});
+                    told.variables.push_back({column.field->name, column.field->type, column.blanks,
+                                              column.field->coded, column.outsideLabels});
         }
         return report;
     }
@@ -230,6 +227,8 @@ private:
 
 } // namespace
 
-ImportReport importCsv(const ImportRequest& request) { return Importer(request).run(); }
+ImportReport importCsv(const ImportRequest& request) {
+    return Importer(request).run();
+}
 
 } // namespace kelx::tools

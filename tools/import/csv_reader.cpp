@@ -148,8 +148,7 @@ bool CsvReader::splitQuoted(std::size_t& at, std::size_t rawBegin, bool atEnd) {
             unescaped_.append(buffer_, piece, quote - piece + (another ? 1 : 0));
         if (!another) {
             at = quote + 1;
-            const std::size_t length =
-                doubled ? unescaped_.size() - stored : quote - content;
+            const std::size_t length = doubled ? unescaped_.size() - stored : quote - content;
             fields_.push_back({rawBegin, doubled ? stored : content, length, doubled});
             return true;
         }
@@ -165,8 +164,7 @@ std::string_view CsvReader::field(std::size_t index) const {
 }
 
 Place CsvReader::place(std::size_t index) const {
-    return placeOf(index < fields_.size() ? fields_[index].rawBegin
-                                          : recordBegin_ + recordLength_);
+    return placeOf(index < fields_.size() ? fields_[index].rawBegin : recordBegin_ + recordLength_);
 }
 
 Place CsvReader::placeOf(std::size_t offset) const {

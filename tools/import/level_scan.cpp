@@ -9,8 +9,7 @@ namespace kelx::tools {
 
 using storage::ValueType;
 
-LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan,
-                     const Codebook& book)
+LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book)
     : csv_(file) {
     if (!csv_.next())
         csv_.fail(0, "the file has no header");
@@ -30,8 +29,8 @@ void LevelFile::bindColumns(const LevelPlan& plan) {
         const std::string name(csv_.field(i));
         const FieldPlan* field = plan.find(upperCase(name));
         if (field == nullptr)
-            csv_.fail(i, "unknown column " + inQuotes(name) + ": the codebook has no such field of " +
-                             plan.name);
+            csv_.fail(i, "unknown column " + inQuotes(name) +
+                             ": the codebook has no such field of " + plan.name);
         if (std::find(columns_.begin(), columns_.end(), field) != columns_.end())
             csv_.fail(i, "the column " + field->name + " stands here twice");
         if (field->role == FieldRole::Key)
@@ -46,8 +45,7 @@ bool LevelFile::next() {
     if (csv_.fields() != columns_.size())
         csv_.fail(std::min(csv_.fields(), columns_.size()),
                   "expected " + integerText(static_cast<std::int64_t>(columns_.size())) +
-                      " fields, found " +
-                      integerText(static_cast<std::int64_t>(csv_.fields())));
+                      " fields, found " + integerText(static_cast<std::int64_t>(csv_.fields())));
     return true;
 }
 
@@ -81,14 +79,15 @@ CsvValue LevelFile::value(std::size_t column) const {
         const std::size_t length = characterCount(value.text);
         const auto width = static_cast<std::size_t>(field.width);
         if (length > width || (field.exactWidth() && length != width))
-            refuse(" has " + std::to_string(length) + " characters, not " +
+            refuse(" has " + std::to_string(length) +
+                   (length == 1 ? " character, not " : " characters, not ") +
                    (field.exactWidth() ? "" : "at most ") + std::to_string(width));
     }
     return value;
 }
 
-LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan,
-                     const Codebook& book, Position position)
+LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
+                     Position position)
     : plan_(plan), bookName_(book.file), file_(file), position_(std::move(position)) {
     LevelFile level(file, plan, book);
     checkParentKeys(level);
@@ -123,9 +122,8 @@ void LevelScan::checkParentKeys(const LevelFile& level) const {
     const std::size_t above = position_.chain.size();
     if (keys > above)
         throw LocatedError(bookName_, plan_.place,
-                           plan_.name + " has " + std::to_string(keys) +
-                               " parent keys, but only " + std::to_string(above) +
-                               " levels above it");
+                           plan_.name + " has " + std::to_string(keys) + " parent keys, but only " +
+                               std::to_string(above) + " levels above it");
     if (keys == 0 && above > 0)
         throw LocatedError(bookName_, plan_.place,
                            plan_.name + " lies under " + position_.chain.back()->plan().name +
@@ -164,8 +162,8 @@ void LevelScan::noteValue(ColumnSummary& summary, const LevelFile& level, std::s
         const std::size_t point = value.text.find('.');
         const std::size_t digits =
             point == std::string_view::npos ? 0 : value.text.size() - point - 1;
-        summary.decimals = std::max(summary.decimals, static_cast<int>(std::min<std::size_t>(
-                                                          digits, 15)));
+        summary.decimals =
+            std::max(summary.decimals, static_cast<int>(std::min<std::size_t>(digits, 15)));
     }
     if (summary.field->coded && !hasLabel(summary, value, column))
         ++summary.outsideLabels;
@@ -222,8 +220,8 @@ std::uint64_t LevelScan::lookUpParent(const LevelFile& level) const {
         const LevelScan& ancestor = *position_.chain[depth];
         const std::string text(level.csv().field(columns[i]));
         if (text.empty())
-            level.csv().fail(columns[i], "the parent key " + level.columns()[columns[i]]->name +
-                                             " is blank");
+            level.csv().fail(columns[i],
+                             "the parent key " + level.columns()[columns[i]]->name + " is blank");
         const auto key = ancestor.keyNumber(text);
         std::optional<std::uint64_t> row;
         if (key && i == 0 && depth > 0)

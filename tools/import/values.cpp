@@ -46,9 +46,13 @@ std::optional<bool> parseBoolean(std::string_view text) {
     return std::nullopt;
 }
 
-std::string integerText(std::int64_t value) { return shortest(value); }
+std::string integerText(std::int64_t value) {
+    return shortest(value);
+}
 
-std::string realText(double value) { return shortest(value); }
+std::string realText(double value) {
+    return shortest(value);
+}
 
 std::size_t characterCount(std::string_view utf8) {
     return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) {
@@ -64,11 +68,10 @@ std::string upperCase(std::string_view text) {
 }
 
 bool isName(std::string_view text) {
-    return !text.empty() && text.size() <= 100 &&
-           std::all_of(text.begin(), text.end(), [](char c) {
-               return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-                      c == '_' || c == '-';
-           });
+    return !text.empty() && text.size() <= 100 && std::all_of(text.begin(), text.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               c == '_' || c == '-';
+    });
 }
 
 } // namespace kelx::tools

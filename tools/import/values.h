@@ -10,7 +10,7 @@
 namespace kelx::tools {
 
 std::optional<std::int64_t> parseInteger(std::string_view text);
-std::optional<double> parseReal(std::string_view text); ///< finite numbers only
+std::optional<double> parseReal(std::string_view text);  ///< finite numbers only
 std::optional<bool> parseBoolean(std::string_view text); ///< 0, 1, false, true, no, yes
 std::string integerText(std::int64_t value);
 std::string realText(double value); ///< the shortest that reads back as the same number

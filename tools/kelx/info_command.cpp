@@ -34,7 +34,9 @@ storage::ColumnInfo columnInfo(const catalog::Variable& variable) {
     return info;
 }
 
-std::string nameOf(const catalog::Variable* variable) { return variable ? variable->name : ""; }
+std::string nameOf(const catalog::Variable* variable) {
+    return variable ? variable->name : "";
+}
 
 ordered_json describe(const catalog::Variable& variable) {
     const storage::ColumnInfo info = columnInfo(variable);

@@ -167,7 +167,8 @@ void addRun(CLI::App& app, Action& action) {
         ->type_name("FOLDER");
     command->add_flag("--time", request->time, "Tell the seconds that each command took");
     command
-        ->add_option("--threads", request->threads, "Number of threads (default: one for each core)")
+        ->add_option("--threads", request->threads,
+                     "Number of threads (default: one for each core)")
         ->check(CLI::Range(0, 1024));
     addPasswordFile(*command, request->passwordFile);
     command->callback([&action, request, program, text] {

@@ -12,7 +12,8 @@ namespace {
 using nlohmann::json;
 namespace fs = std::filesystem;
 
-const char* const populationProgram = R"(// Who lives in the country: weighted by the household's expansion factor.
+const char* const populationProgram =
+    R"(// Who lives in the country: weighted by the household's expansion factor.
 RUNDEF Population
     TITLE "Population of the sample country"
 
@@ -86,10 +87,9 @@ std::string projectText(const fs::path& folder) {
     project["program"] = json::array({json{{"loadLastProgram", true}}, elementDir("Programs", here),
                                       lastFiles("lastPrograms", file("population.spc"))});
     project["executer"] = json::array();
-    project["selection"] =
-        json::array({json{{"useSelection", false}, {"defaultSelection", ""}},
-                     elementDir("Selections", here),
-                     lastFiles("lastSelections", file("capital_sel.json"))});
+    project["selection"] = json::array({json{{"useSelection", false}, {"defaultSelection", ""}},
+                                        elementDir("Selections", here),
+                                        lastFiles("lastSelections", file("capital_sel.json"))});
     project["map"] = json::array();
     project["universe"] = json::array({{{"useUniverse", false}, {"defaultUniverse", -1}}});
     project["tableStyle"] = project["graphStyle"] = style;

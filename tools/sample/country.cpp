@@ -43,13 +43,13 @@ public:
 
 private:
     std::string word() {
-        static constexpr std::array<const char*, 18> onsets = {
-            "b", "br", "d", "dr", "f", "g", "k", "l", "m", "n", "p", "r", "s", "st", "t", "tr",
-            "v", "z"};
-        static constexpr std::array<const char*, 8> vowels = {"a", "e", "i", "o",
+        static constexpr std::array<const char*, 18> onsets = {"b", "br", "d", "dr", "f", "g",
+                                                               "k", "l",  "m", "n",  "p", "r",
+                                                               "s", "st", "t", "tr", "v", "z"};
+        static constexpr std::array<const char*, 8> vowels = {"a", "e",  "i",  "o",
                                                               "u", "ia", "ei", "au"};
-        static constexpr std::array<const char*, 8> ends = {"", "n", "r", "s", "l", "th", "ra",
-                                                            "na"};
+        static constexpr std::array<const char*, 8> ends = {"",  "n",  "r",  "s",
+                                                            "l", "th", "ra", "na"};
         std::string name;
         for (int left = random_.between(2, 3); left > 0; --left) {
             name += onsets[static_cast<std::size_t>(random_.below(18))];

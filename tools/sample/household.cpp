@@ -116,8 +116,8 @@ int coded(Random& random, int value, int missing, double share) {
 
 void addDwelling(Household& household, const District& district, Random& random) {
     const bool urban = random.chance(district.urban);
-    const int tenure = urban ? random.pick(std::array{46, 14, 32, 8})
-                             : random.pick(std::array{70, 6, 9, 15});
+    const int tenure =
+        urban ? random.pick(std::array{46, 14, 32, 8}) : random.pick(std::array{70, 6, 9, 15});
     household.tenure = coded(random, 1 + tenure, codes::shortMissing, 0.006);
     const int water = urban ? random.pick(std::array{74, 14, 5, 5, 2})
                             : random.pick(std::array{22, 21, 26, 12, 19});
@@ -137,9 +137,10 @@ void addEmigrants(Household& household, const District& district, Random& random
     for (int left = 1 + random.pick(std::array{75, 18, 7}); left > 0; --left) {
         Emigrant emigrant;
         emigrant.sex = random.chance(0.43) ? 2 : 1;
-        emigrant.age = random.chance(0.02) ? codes::ageMissing
-                                           : 14 + random.below(14) + random.below(18);
-        emigrant.year = random.chance(0.03) ? 0 : 2025 - std::min(random.below(10), random.below(10));
+        emigrant.age =
+            random.chance(0.02) ? codes::ageMissing : 14 + random.below(14) + random.below(18);
+        emigrant.year =
+            random.chance(0.03) ? 0 : 2025 - std::min(random.below(10), random.below(10));
         emigrant.destination =
             coded(random, 1 + random.pick(std::array{38, 17, 29, 16}), codes::shortMissing, 0.02);
         household.emigrants.push_back(emigrant);

@@ -96,9 +96,9 @@ Answers answersOf(const Person& person, const District& district, int provinces,
                                : told(maritalOf(person, random), codes::shortMissing, 0.008);
     const int years = educationOf(person, district.urban, random);
     answers.education = age < 5 ? codes::longNotApplicable : told(years, codes::longMissing, 0.01);
-    answers.literate = age < 5 ? codes::shortNotApplicable
-                               : told(readsAndWrites(person, years, random) ? 1 : 2,
-                                      codes::shortMissing, 0.007);
+    answers.literate =
+        age < 5 ? codes::shortNotApplicable
+                : told(readsAndWrites(person, years, random) ? 1 : 2, codes::shortMissing, 0.007);
     const int activity = age < 10 ? 0 : activityOf(person, years, random);
     answers.activity =
         age < 10 ? codes::shortNotApplicable : told(activity, codes::shortMissing, 0.009);

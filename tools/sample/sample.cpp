@@ -106,8 +106,7 @@ private:
         households_.pointers().addParent(static_cast<std::uint64_t>(number));
     }
 
-    void writeHousehold(const Household& household, std::int64_t number,
-                        const District& district) {
+    void writeHousehold(const Household& household, std::int64_t number, const District& district) {
         households_.begin().add(number).add(household.type).add(household.tenure);
         households_.add(household.water);
         household.electricity < 0 ? households_.addBlank() : households_.add(household.electricity);
@@ -123,9 +122,8 @@ private:
     }
 
     void writePerson(const Person& person, std::int64_t number, const District& district) {
-        const Answers answers =
-            answersOf(person, district, static_cast<int>(birthplaces_.size()),
-                      Random(request_.seed, Persons, report_.persons));
+        const Answers answers = answersOf(person, district, static_cast<int>(birthplaces_.size()),
+                                          Random(request_.seed, Persons, report_.persons));
         persons_.begin().add(number).add(person.sex).add(answers.age).add(person.relation);
         persons_.add(answers.marital).add(answers.education).add(answers.literate);
         persons_.add(answers.activity).add(answers.occupation).addReal(answers.income);
@@ -171,8 +169,7 @@ SampleReport writeSample(const SampleRequest& request) {
     names.emplace_back("sample.kxdb");
     Staging staging(folder / "sample.kxdb", names, request.overwrite);
 
-    const SampleReport report =
-        SampleWriter(request, country, *dictionary, staging.folder()).run();
+    const SampleReport report = SampleWriter(request, country, *dictionary, staging.folder()).run();
     for (const auto& [name, text] : companions)
         writeText(staging.folder() / name, text);
     dictionary->dataFolder = staging.folder();

@@ -41,8 +41,7 @@ Variable* addVariable(Entity& entity, const std::string& name, const std::string
 /// A whole number from lowest to highest, its special codes aside.
 Variable* addNumber(Entity& entity, const std::string& name, const std::string& label, int lowest,
                     int highest, Labels labels = {}) {
-    Variable* variable =
-        addVariable(entity, name, label, ValueType::Integer, std::move(labels));
+    Variable* variable = addVariable(entity, name, label, ValueType::Integer, std::move(labels));
     variable->ranges.push_back({4, static_cast<double>(lowest), static_cast<double>(highest)});
     return variable;
 }
@@ -95,8 +94,7 @@ void addHouseholdVariables(Entity& household) {
     addVariable(household, "ELECTRICITY", "Has electricity", ValueType::Boolean,
                 {{"0", "No"}, {"1", "Yes"}});
     setCodes(*addNumber(household, "ROOMS", "Number of rooms", 1, 12), {}, codes::longMissing);
-    household.weightVar =
-        addVariable(household, "WEIGHT", "Expansion factor", ValueType::Real);
+    household.weightVar = addVariable(household, "WEIGHT", "Expansion factor", ValueType::Real);
     household.weightVar->decimals = 3;
 }
 
