@@ -45,6 +45,7 @@ struct Variable {
     bool active = true;
     bool define = false; ///< made by a DEFINE of the running program
     bool local = false;  ///< made by a program
+    bool hidden = false; ///< kept for dictionaries that mark it so; has no effect of its own
     std::optional<int> sensitive;
     std::vector<Range> ranges;
     std::vector<std::pair<std::string, std::string>> valueLabels; ///< value, label
@@ -62,6 +63,8 @@ struct Variable {
     /// Takes values from here instead of the file (variables that a program makes).
     void setColumn(std::shared_ptr<const storage::Column> column);
     void closeColumn(); ///< the next column() opens the file anew
+    /// Takes over everything but the entity and the open data.
+    void copyDescription(const Variable& from);
 
 private:
     mutable std::shared_ptr<const storage::Column> column_;
@@ -77,6 +80,7 @@ struct Entity {
     bool selectable = false;
     bool isVirtual = false;
     bool active = true;
+    bool hidden = false; ///< kept for dictionaries that mark it so; has no effect of its own
     int tag = -1;
     std::optional<int> sensitive;
     Variable* codeVar = nullptr;
@@ -94,6 +98,7 @@ struct Entity {
     /// Offsets of this entity's records under the parent's; null for the root. Opened at the first
     /// call and kept. Throws storage::FileError.
     std::shared_ptr<const storage::PointerFile> pointers() const;
+    void closePointers();          ///< the next pointers() opens the file anew
     std::uint64_t records() const; ///< 1 for the root
 
 private:

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "catalog/reader.h"
+
+#include "catalog/assembly.h"
+#include "catalog/data_files.h"
+#include "catalog/names.h"
+#include "storage/atomic_file.h"
+#include "storage/error.h"
+#include "storage/kxdb_file.h"
+
+#include <algorithm>
+#include <fstream>
+#include <system_error>
+
+namespace kelx::catalog {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string readText(const fs::path& file) {
+    std::error_code error;
+    const auto size = fs::file_size(file, error);
+    if (error) {
+        throw storage::FileError(file, "cannot be read: " + error.message());
+    }
+    if (size > Limits::fileBytes) {
+        throw storage::FileError(file, "larger than any dictionary (256 MB)");
+    }
+    std::string text(static_cast<std::size_t>(size), '\0');
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream.read(text.data(), static_cast<std::streamsize>(text.size()))) {
+        throw storage::FileError(file, "cannot be read to its end");
+    }
+    return text;
+}
+
+bool looksLikeXml(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    char first[4] = {};
+    stream.read(first, sizeof first);
+    const std::string_view bytes(first, static_cast<std::size_t>(stream.gcount()));
+    return bytes.find('<') != std::string_view::npos;
+}
+
+bool isDicx(const fs::path& file) {
+    const std::string extension = lowerCase(file.extension().string());
+    return extension == ".dicx" || (extension != ".kxdb" && looksLikeXml(file));
+}
+
+/// Names may come with a relative path; what is opened later must not hang on the working folder.
+fs::path absoluteFile(const fs::path& file) {
+    std::error_code error;
+    const fs::path result = fs::absolute(file, error).lexically_normal();
+    return error ? file : result;
+}
+
+std::unique_ptr<Dictionary> readBinary(const fs::path& file, const Questions& questions) {
+    const auto password = [&]() -> std::string {
+        if (!questions.password) {
+            throw storage::FileError(file, "protected by a password");
+        }
+        return questions.password(file.stem().string());
+    };
+    const storage::KxdbContent content = storage::readKxdb(file, password);
+    auto dictionary = parsePayload(content.payload, file);
+    dictionary->key = content.key;
+    return dictionary;
+}
+
+void askForDataFolder(Dictionary& dictionary, const Questions& questions) {
+    if (!questions.dataFolder || !namesAnyFile(dictionary) || findsAnyFile(dictionary)) {
+        return;
+    }
+    const std::string name =
+        dictionary.name.empty() ? dictionary.file.stem().string() : dictionary.name;
+    const std::string folder = questions.dataFolder(name);
+    if (folder.empty()) {
+        throw std::runtime_error("Missing data location.");
+    }
+    dictionary.dataFolder = absoluteFile(folder);
+}
+
+void write(const Dictionary& dictionary, const fs::path& file) {
+    if (sameName(file.extension().string(), ".dicx")) {
+        storage::AtomicFile output(file);
+        output.write(writeDicx(dictionary));
+        output.commit();
+    } else {
+        storage::writeKxdb(file, {writePayload(dictionary), dictionary.key});
+    }
+}
+
+} // namespace
+
+std::unique_ptr<Dictionary> readDictionary(const fs::path& file, const Questions& questions) {
+    const fs::path path = absoluteFile(file);
+    auto dictionary = isDicx(path) ? parseDicx(readText(path), path) : readBinary(path, questions);
+    askForDataFolder(*dictionary, questions);
+    describeFromData(*dictionary);
+    return dictionary;
+}
+
+void saveDictionary(Dictionary& dictionary, const fs::path& file) {
+    const fs::path path = absoluteFile(file);
+    FileNameMove move(dictionary, path.parent_path());
+    write(dictionary, path);
+    move.keep();
+    dictionary.file = path;
+    dictionary.dataFolder = path.parent_path();
+    dictionary.dirty = false;
+}
+
+} // namespace kelx::catalog

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "storage/posix_io.h"
+
+#include "storage/error.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <random>
+#include <system_error>
+#include <unistd.h>
+
+namespace kelx::storage {
+
+namespace {
+
+std::filesystem::path folderOf(const std::filesystem::path& file) {
+    const auto folder = file.parent_path();
+    return folder.empty() ? std::filesystem::path(".") : folder;
+}
+
+std::string randomName() {
+    static constexpr char letters[] = "abcdefghijklmnopqrstuvwxyz0123456789";
+    thread_local std::random_device device;
+    std::uniform_int_distribution<std::size_t> any(0, sizeof(letters) - 2);
+    std::string name = ".kelx-";
+    for (int i = 0; i < 12; ++i)
+        name += letters[any(device)];
+    return name + ".tmp";
+}
+
+} // namespace
+
+void failWithErrno(const std::filesystem::path& file, const std::string& what) {
+    throw FileError(file, what + ": " + std::generic_category().message(errno));
+}
+
+TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        TemporaryFile created{folderOf(file) / randomName(), -1};
+        created.descriptor =
+            ::open(created.name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (created.descriptor >= 0)
+            return created;
+        if (errno != EEXIST)
+            break;
+    }
+    failWithErrno(file, "cannot be created");
+}
+
+void writeFully(int descriptor, std::uint64_t offset, std::span<const std::byte> bytes,
+                const std::filesystem::path& file) {
+    while (!bytes.empty()) {
+        const auto done =
+            ::pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (done < 0 && errno == EINTR)
+            continue;
+        if (done <= 0)
+            failWithErrno(file, "cannot be written");
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+        offset += static_cast<std::uint64_t>(done);
+    }
+}
+
+void readFully(int descriptor, std::uint64_t offset, std::span<std::byte> bytes,
+               const std::filesystem::path& file) {
+    while (!bytes.empty()) {
+        const auto done =
+            ::pread(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (done < 0 && errno == EINTR)
+            continue;
+        if (done < 0)
+            failWithErrno(file, "cannot be read");
+        if (done == 0)
+            throw FileError(file, "ends too early");
+        bytes = bytes.subspan(static_cast<std::size_t>(done));
+        offset += static_cast<std::uint64_t>(done);
+    }
+}
+
+void syncFolderOf(const std::filesystem::path& file) {
+    const int folder = ::open(folderOf(file).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        failWithErrno(file, "its folder cannot be synced");
+    const bool synced = ::fsync(folder) == 0 || errno == EINVAL; // some file systems know no sync
+    ::close(folder);
+    if (!synced)
+        failWithErrno(file, "its folder cannot be synced");
+}
+
+} // namespace kelx::storage

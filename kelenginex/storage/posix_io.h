@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+// The system calls behind our files, complete or with a FileError.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+
+namespace kelx::storage {
+
+/// Throws a FileError with the system's own words for errno.
+[[noreturn]] void failWithErrno(const std::filesystem::path& file, const std::string& what);
+
+/// A new, empty file with a name of its own in the folder of file.
+struct TemporaryFile {
+    std::filesystem::path name;
+    int descriptor = -1;
+};
+TemporaryFile createTemporaryBeside(const std::filesystem::path& file);
+
+void writeFully(int descriptor, std::uint64_t offset, std::span<const std::byte> bytes,
+                const std::filesystem::path& file);
+void readFully(int descriptor, std::uint64_t offset, std::span<std::byte> bytes,
+               const std::filesystem::path& file);
+void syncFolderOf(const std::filesystem::path& file);
+
+} // namespace kelx::storage
