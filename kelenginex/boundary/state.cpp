@@ -47,7 +47,7 @@ void DictionaryState::wrap(catalog::Entity& entity, TKelEntity* parent) {
         wrapper = std::make_unique<TKelEntity>(owner);
     }
     TKelEntity* const self = wrapper.get();
-    TKelEntity::Data& data = KelBoundaryAccess::data(*self);
+    auto& data = KelBoundaryAccess::data(*self);
     data.state = this;
     data.own.reset();
     data.entity = &entity;
@@ -59,7 +59,7 @@ void DictionaryState::wrap(catalog::Entity& entity, TKelEntity* parent) {
         if (shown == nullptr) {
             shown = std::make_unique<TKelVariable>(self);
         }
-        TKelVariable::Data& inside = KelBoundaryAccess::data(*shown);
+        auto& inside = KelBoundaryAccess::data(*shown);
         inside.state = this;
         inside.own.reset();
         inside.variable = variable.get();
@@ -78,8 +78,7 @@ void DictionaryState::wrap(catalog::Entity& entity, TKelEntity* parent) {
 
 void DictionaryState::remove(catalog::Variable& variable) {
     for (catalog::Entity* entity : dictionary->entities()) {
-        for (catalog::Variable** role :
-             {&entity->codeVar, &entity->labelVar, &entity->weightVar}) {
+        for (catalog::Variable** role : {&entity->codeVar, &entity->labelVar, &entity->weightVar}) {
             *role = *role == &variable ? nullptr : *role;
         }
     }

@@ -89,8 +89,11 @@ struct TKelDictionary::Data {
 
 /// The inside of boundary objects, for the library's own use.
 struct KelBoundaryAccess {
-    static TKelEntity::Data& data(const TKelEntity& entity) { return *entity.d; }
-    static TKelVariable::Data& data(const TKelVariable& variable) { return *variable.d; }
+    /// What an object holds; the including file must know the object's Data.
+    template <typename Object>
+    static auto& data(const Object& object) {
+        return *object.d;
+    }
     static kelx::boundary::DictionaryState& state(const TKelDictionary& dictionary) {
         return *dictionary.d->state;
     }

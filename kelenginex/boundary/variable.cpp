@@ -15,8 +15,7 @@ namespace {
 
 namespace catalog = kelx::catalog;
 
-static_assert(static_cast<int>(eVarType::BOOLEAN) ==
-              static_cast<int>(catalog::ValueType::Boolean));
+static_assert(static_cast<int>(eVarType::BOOLEAN) == static_cast<int>(catalog::ValueType::Boolean));
 static_assert(static_cast<int>(eVarType::STRING) == static_cast<int>(catalog::ValueType::String));
 
 void checkFree(const catalog::Variable& variable, const std::string& name) {

@@ -10,7 +10,7 @@ namespace kelx::boundary {
 
 /// Integers plain, doubles in shortest round-trip fixed notation, texts as they are.
 std::string toText(const TKelVariant& value);
-double toDouble(const TKelVariant& value);       ///< 0 for text without number
+double toDouble(const TKelVariant& value);        ///< 0 for text without number
 std::int64_t toInteger(const TKelVariant& value); ///< truncated, saturated
 
 } // namespace kelx::boundary

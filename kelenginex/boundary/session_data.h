@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a session holds between its calls.
+#pragma once
+
+#include "TKelDictionary.h"
+#include "TKelOutput.h"
+#include "TKelSession.h"
+#include "TKelSpcErrorsListener.h"
+
+#include "execution/result.h"
+#include "execution/run.h"
+#include "language/bound.h"
+#include "language/messages.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+struct TKelSession::Data {
+    std::shared_ptr<TKelDictionary> dictionary; ///< kept: outputs point into it
+    TKelSpcErrorsListener* listener = nullptr;
+    TKelTimerCallback timer;
+    kelx::language::BoundProgram program;
+    kelx::execution::RunResult result; ///< points into the program
+    std::vector<std::unique_ptr<TKelOutput>> outputs;
+    std::shared_ptr<TKelRunDefinition> definition;
+
+    /// Drops what an earlier run left.
+    void forget();
+    /// Hands the messages to the listener.
+    void report(const kelx::language::Messages& messages) const;
+    /// Throws where the program must not run, its messages reported.
+    void compile(const std::string& text, kelx::language::Messages& messages);
+    void run(kelx::language::Messages& messages);
+    void makeOutputs();
+};

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: Apache-2.0
+// A program as it was read: structure without meaning. Names are not looked up yet.
+#pragma once
+
+#include "language/bound.h"
+#include "language/keywords.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace kelx::language::ast {
+
+/// Byte offsets in the program.
+struct Span {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
+/// Entity.Variable, Entity.* or a name alone.
+struct Name {
+    std::string entity; ///< empty where it stands alone
+    std::string name;
+    bool all = false; ///< Entity.*
+    Position position;
+    Position namePosition; ///< of the part behind the "."
+    Span span;
+};
+
+/// An interval of constants, as in IN.
+struct Interval {
+    language::Interval bounds;
+    bool single = false; ///< one value, not two ends
+    Position position;
+    Span span;
+};
+
+struct Node;
+using NodePtr = std::unique_ptr<Node>;
+
+enum class NodeKind { Constant, Name, Operation, Call };
+
+/// A part of an expression.
+struct Node {
+    NodeKind kind = NodeKind::Constant;
+    Operation operation = Operation::Constant; ///< of an Operation
+    Constant constant;
+    Name name; ///< of a Name; a Call has its function's name in it
+    std::string operatorText;
+    std::vector<NodePtr> arguments;
+    std::vector<Interval> intervals; ///< of IN
+    Position position;
+    Span span;
+    int depth = 1;
+};
+
+struct SelectionFile {
+    std::string file;
+};
+struct SelectionArea {
+    std::string entity, code;
+    std::optional<std::string> label;
+    Position position;
+};
+using InlineSelection = std::vector<SelectionArea>;
+
+/// RUNDEF. Only what the program says is set.
+struct RunDefinition {
+    std::string name;
+    std::optional<std::string> title, selectionLabel, filterLabel;
+    std::variant<std::monostate, SelectionFile, InlineSelection, NodePtr> selection;
+    Position selectionPosition;
+    NodePtr filter, weight;
+    std::optional<WeightMode> weightMode;
+    std::optional<int> decimals;
+    Position position;
+};
+
+/// WEIGHT as a command of its own.
+struct WeightCommand {
+    NodePtr weight;
+};
+
+/// DEFINE, of which only the name is known.
+struct Definition {
+    Name name;
+};
+
+/// A table, with or without the word TABLE.
+struct Table {
+    Keyword kind = Keyword::Frequency;
+    std::string kindWord; ///< FREQ, CROSSTABS, COUNT
+    std::string name;     ///< empty for the short form
+    Position position;
+    std::vector<std::vector<Name>> dimensions; ///< the list of the command, then one for each BY
+    std::optional<Name> entity;                ///< of COUNT
+    NodePtr weight, tally, filter;
+    std::optional<std::string> title;
+    std::optional<int> decimals;
+    Span span;
+};
+
+using Command = std::variant<RunDefinition, WeightCommand, Definition, Table>;
+using Program = std::vector<Command>;
+
+} // namespace kelx::language::ast

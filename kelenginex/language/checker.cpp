@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/checker.h"
+
+#include "language/expression_checker.h"
+#include "language/run_checker.h"
+#include "language/table_checker.h"
+
+namespace kelx::language {
+
+namespace {
+
+class Checker {
+public:
+    explicit Checker(CheckerContext& context)
+        : context_(context), expressions_(context), runs_(context, expressions_),
+          tables_(context, expressions_), settings_(runs_.defaults()) {}
+
+    BoundProgram run(const ast::Program& program) {
+        for (const ast::Command& command : program)
+            std::visit([this](const auto& c) { take(c); }, command);
+        bound_.lastSettings = settings_.settings;
+        return std::move(bound_);
+    }
+
+private:
+    void take(const ast::RunDefinition& run) { settings_ = runs_.check(run); }
+    void take(const ast::WeightCommand& command) {
+        runs_.setWeight(expressions_.number(*command.weight, "WEIGHT"));
+        settings_ = runs_.defaults();
+    }
+    void take(const ast::Definition& definition) {
+        context_.expectName(definition.name.entity, definition.name.name);
+    }
+    void take(const ast::Table& table) { tables_.check(table, settings_, bound_); }
+
+    CheckerContext& context_;
+    ExpressionChecker expressions_;
+    RunChecker runs_;
+    TableChecker tables_;
+    CheckedSettings settings_;
+    BoundProgram bound_;
+};
+
+} // namespace
+
+BoundProgram check(const ast::Program& program, CheckerContext& context) {
+    return Checker(context).run(program);
+}
+
+} // namespace kelx::language

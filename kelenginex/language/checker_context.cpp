@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/checker_context.h"
+
+#include "language/text.h"
+#include "storage/error.h"
+
+namespace kelx::language {
+
+namespace {
+
+std::string keyOf(const std::string& entity, const std::string& name) {
+    return lowerCase(entity) + "." + lowerCase(name);
+}
+
+} // namespace
+
+void CheckerContext::expectName(const std::string& entity, const std::string& name) {
+    expected_.insert(keyOf(entity, name));
+    expected_.insert(keyOf("", name));
+}
+
+bool CheckerContext::isExpected(const std::string& entity, const std::string& name) const {
+    return expected_.contains(keyOf(entity, name));
+}
+
+bool CheckerContext::checkData(const catalog::Variable& variable, Position position) {
+    const auto [entry, isNew] = checked_.emplace(&variable, true);
+    if (!isNew)
+        return entry->second;
+    entry->second = false;
+    if (!variable.fileFound()) {
+        report(Error::DataFileMissing, position,
+               {variable.fullName(), variable.filePath().string()});
+        return false;
+    }
+    try {
+        entry->second = typeOf(variable) != ValueType::None;
+        if (!entry->second)
+            report(Error::DataFileDamaged, position,
+                   {variable.fullName(), "neither the dictionary nor the file tells their type."});
+    } catch (const storage::FileError& fault) {
+        report(Error::DataFileDamaged, position, {variable.fullName(), fault.what()});
+    }
+    return entry->second;
+}
+
+ValueType CheckerContext::typeOf(const catalog::Variable& variable) const {
+    return variable.type == ValueType::None ? variable.column()->info().type : variable.type;
+}
+
+} // namespace kelx::language

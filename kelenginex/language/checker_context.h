@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+// What all checks of one program share.
+#pragma once
+
+#include "catalog/model.h"
+#include "language/compile.h"
+#include "language/message_table.h"
+#include "language/names.h"
+
+#include <initializer_list>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace kelx::language {
+
+class CheckerContext {
+public:
+    CheckerContext(std::string_view program, const Names& names, const CompileOptions& options,
+                   Messages& messages)
+        : program_(program), names_(names), options_(options), messages_(messages) {}
+
+    const Names& names() const { return names_; }
+    const CompileOptions& options() const { return options_; }
+    Messages& messages() { return messages_; }
+    std::string_view program() const { return program_; }
+
+    template <typename Code>
+    void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
+        messages_.add(makeMessage(code, position, values));
+    }
+    /// Hints cost time: after many errors nobody reads them.
+    bool wantsHints() const { return messages_.all().size() < 200; }
+
+    /// A name that a command makes which is not supported yet; its use is no further fault.
+    void expectName(const std::string& entity, const std::string& name);
+    bool isExpected(const std::string& entity, const std::string& name) const;
+
+    /// False where the variable's data cannot be used, which is reported once.
+    bool checkData(const catalog::Variable& variable, Position position);
+    /// The type of a variable; where the dictionary names none, the data's own.
+    ValueType typeOf(const catalog::Variable& variable) const;
+
+private:
+    std::string_view program_;
+    const Names& names_;
+    const CompileOptions& options_;
+    Messages& messages_;
+    std::set<std::string> expected_;
+    std::unordered_map<const catalog::Variable*, bool> checked_;
+};
+
+} // namespace kelx::language

@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/lexer.h"
+
+#include "language/message_table.h"
+#include "language/reserved_words.h"
+#include "language/text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kelx::language {
+
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Letters of other scripts count: every byte beyond ASCII belongs to a word.
+bool isWordByte(char c) {
+    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// A character as a message can show it.
+std::string visible(char c) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(c);
+    if (code >= ' ' && code < 0x7f)
+        return inQuotes({&c, 1});
+    return std::string("U+00") + digits[code >> 4] + digits[code & 15];
+}
+
+struct Symbol {
+    std::string_view written, meant;
+};
+
+/// Longer ones first.
+constexpr std::array<Symbol, 18> symbols = {{{"<==", "<="},
+                                             {">==", ">="},
+                                             {"==", "="},
+                                             {"<>", "<>"},
+                                             {"<=", "<="},
+                                             {">=", ">="},
+                                             {"=", "="},
+                                             {"<", "<"},
+                                             {">", ">"},
+                                             {".", "."},
+                                             {",", ","},
+                                             {"(", "("},
+                                             {")", ")"},
+                                             {":", ":"},
+                                             {"+", "+"},
+                                             {"-", "-"},
+                                             {"*", "*"},
+                                             {"/", "/"}}};
+
+class Lexer {
+public:
+    Lexer(std::string_view program, const OddNames& oddNames, Messages& messages)
+        : program_(program), oddNames_(oddNames), messages_(messages) {}
+
+    std::vector<Token> run() {
+        while (skipBlanks())
+            next();
+        add(TokenKind::End, 0);
+        return std::move(tokens_);
+    }
+
+private:
+    std::string_view rest() const { return program_.substr(at_); }
+    char peek(std::size_t ahead = 0) const {
+        return at_ + ahead < program_.size() ? program_[at_ + ahead] : '\0';
+    }
+
+    /// Moves on and keeps count of lines and columns.
+    void advance(std::size_t bytes) {
+        for (const std::size_t end = at_ + bytes; at_ < end; ++at_) {
+            const char c = program_[at_];
+            if (c == '\n' || (c == '\r' && peek(1) != '\n')) {
+                ++position_.line;
+                position_.column = 1;
+                lineBegins_ = true;
+            } else if ((static_cast<unsigned char>(c) & 0xc0) != 0x80) {
+                ++position_.column;
+            }
+        }
+    }
+
+    /// True where a token begins after blanks and comments.
+    bool skipBlanks() {
+        while (at_ < program_.size()) {
+            const char c = peek();
+            if (c == ' ' || (c >= '\t' && c <= '\r'))
+                advance(1);
+            else if (rest().starts_with("\xef\xbb\xbf") && at_ == 0)
+                at_ += 3;
+            else if (rest().starts_with("//"))
+                advance(std::min(rest().find_first_of("\r\n"), rest().size()));
+            else if (rest().starts_with("/*"))
+                skipComment();
+            else
+                return true;
+        }
+        return false;
+    }
+
+    void skipComment() {
+        const std::size_t end = rest().find("*/", 2);
+        if (end == std::string_view::npos)
+            messages_.add(makeMessage(Error::UnterminatedComment, position_));
+        advance(end == std::string_view::npos ? rest().size() : end + 2);
+    }
+
+    Token& add(TokenKind kind, std::size_t length) {
+        Token token;
+        token.kind = kind;
+        token.firstOnLine = lineBegins_;
+        token.text = program_.substr(at_, length);
+        token.length = length;
+        token.begin = at_;
+        token.position = position_;
+        lineBegins_ = false;
+        advance(length);
+        tokens_.push_back(token);
+        return tokens_.back();
+    }
+
+    void next() {
+        const std::size_t word = wordLength();
+        if (word > 0)
+            addWord(word);
+        else if (isDigit(peek()) || (peek() == '.' && isDigit(peek(1)) && !afterWord()))
+            addNumber();
+        else if (peek() == '"')
+            addText();
+        else if (peek() == '{')
+            addBraced();
+        else
+            addSymbol();
+    }
+
+    bool afterDot() const {
+        return !tokens_.empty() && tokens_.back().isSymbol(".") && tokens_.back().end() == at_;
+    }
+    bool afterWord() const {
+        return !tokens_.empty() && tokens_.back().kind == TokenKind::Word &&
+               tokens_.back().end() == at_;
+    }
+
+    /// Length of the name or word that begins here; 0 where none does.
+    std::size_t wordLength() const {
+        const std::size_t odd = oddNameLength();
+        if (odd > 0)
+            return odd;
+        std::size_t length = 0;
+        while (isWordByte(peek(length)))
+            ++length;
+        if (afterDot() || length == 0 || !isDigit(peek()))
+            return length;
+        return isNumberLike(rest().substr(0, length)) ? 0 : length;
+    }
+
+    /// "12" and "1e5" (also the "1e" of 1e-5) are no words, "2nd" is.
+    bool isNumberLike(std::string_view run) const {
+        const std::size_t digits = std::min(run.find_first_not_of("0123456789"), run.size());
+        if (digits == run.size())
+            return true;
+        if (run[digits] != 'e' && run[digits] != 'E')
+            return false;
+        const std::string_view exponent = run.substr(digits + 1);
+        if (exponent.empty())
+            return (peek(run.size()) == '-' || peek(run.size()) == '+') &&
+                   isDigit(peek(run.size() + 1));
+        return exponent.find_first_not_of("0123456789") == std::string_view::npos;
+    }
+
+    std::size_t oddNameLength() const {
+        if (oddNames_.names.empty() || !isWordByte(peek()))
+            return 0;
+        std::size_t length = 0;
+        while (length < oddNames_.longest && (isWordByte(peek(length)) || peek(length) == '-'))
+            ++length;
+        for (; length > 0; --length) {
+            if (isWordByte(peek(length)) && isWordByte(peek(length - 1)))
+                continue;
+            const std::string_view name = rest().substr(0, length);
+            const bool allDigits = name.find_first_not_of("0123456789") == std::string_view::npos;
+            if ((afterDot() || !allDigits) && oddNames_.names.contains(lowerCase(name)))
+                return length;
+        }
+        return 0;
+    }
+
+    void addWord(std::size_t length) {
+        const bool isName = !tokens_.empty() && tokens_.back().isSymbol(".");
+        Token& token = add(TokenKind::Word, length);
+        if (isName)
+            return;
+        token.keyword = keywordOf(token.text);
+        token.reserved = isReserved(token.text);
+        if (token.is(Keyword::Selectionlabel) || token.is(Keyword::Filterlabel))
+            addLabel();
+    }
+
+    /// What follows on the line, where it is not in quotes.
+    void addLabel() {
+        std::size_t blanks = 0;
+        while (peek(blanks) == ' ' || peek(blanks) == '\t')
+            ++blanks;
+        std::string_view line = rest().substr(blanks);
+        line = line.substr(0, line.find_first_of("\r\n"));
+        line = line.substr(0, std::min(line.find("//"), line.find("/*")));
+        while (!line.empty() && (line.back() == ' ' || line.back() == '\t'))
+            line.remove_suffix(1);
+        if (line.empty() || line.front() == '"' || line.front() == '.')
+            return;
+        advance(blanks);
+        add(TokenKind::Label, line.size());
+    }
+
+    void addNumber() {
+        std::size_t length = 0;
+        const auto digits = [&] {
+            while (isDigit(peek(length)))
+                ++length;
+        };
+        digits();
+        if (peek(length) == '.' && isDigit(peek(length + 1))) {
+            ++length;
+            digits();
+        }
+        if (peek(length) == 'e' || peek(length) == 'E') {
+            const std::size_t sign = peek(length + 1) == '-' || peek(length + 1) == '+' ? 1 : 0;
+            if (isDigit(peek(length + 1 + sign))) {
+                length += 1 + sign;
+                digits();
+            }
+        }
+        add(TokenKind::Number, length);
+    }
+
+    void addText() {
+        std::size_t length = 1;
+        for (;; ++length) {
+            const std::size_t offset = rest().substr(length).find_first_of("\"\r\n");
+            if (offset == std::string_view::npos || rest()[length + offset] != '"')
+                return addOpenText(std::min(offset, rest().size() - length) + length);
+            length += offset + 1;
+            if (peek(length) != '"')
+                break;
+        }
+        add(TokenKind::Text, length);
+    }
+
+    void addOpenText(std::size_t length) {
+        messages_.add(makeMessage(Error::UnterminatedString, position_));
+        add(TokenKind::Text, length);
+    }
+
+    void addBraced() {
+        const std::size_t end = rest().find('}');
+        if (end == std::string_view::npos)
+            messages_.add(makeMessage(Error::UnterminatedBrace, position_));
+        add(end == std::string_view::npos ? TokenKind::Invalid : TokenKind::Braced,
+            end == std::string_view::npos ? rest().size() : end + 1);
+    }
+
+    void addSymbol() {
+        for (const Symbol& symbol : symbols) {
+            if (!rest().starts_with(symbol.written))
+                continue;
+            if (symbol.written == "." && afterWord()) {
+                tokens_.back().keyword = Keyword::None;
+                tokens_.back().reserved = false;
+            }
+            add(TokenKind::Symbol, symbol.written.size()).text = symbol.meant;
+            return;
+        }
+        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek())}));
+        add(TokenKind::Invalid, 1);
+    }
+
+    std::string_view program_;
+    const OddNames& oddNames_;
+    Messages& messages_;
+    std::vector<Token> tokens_;
+    std::size_t at_ = 0;
+    Position position_;
+    bool lineBegins_ = true;
+};
+
+} // namespace
+
+std::string Token::value() const {
+    if (kind != TokenKind::Text)
+        return std::string(text);
+    std::string result;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (text[i] == '"' && ++i >= text.size())
+            break;
+        result += text[i];
+    }
+    return result;
+}
+
+std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames,
+                            Messages& messages) {
+    return Lexer(program, oddNames, messages).run();
+}
+
+} // namespace kelx::language

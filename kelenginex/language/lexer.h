@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// Cuts a program into tokens.
+#pragma once
+
+#include "language/keywords.h"
+#include "language/messages.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace kelx::language {
+
+enum class TokenKind {
+    End,
+    Word,
+    Number,
+    Text,    ///< in double quotes, quotes included
+    Label,   ///< without quotes, to the end of the line
+    Braced,  ///< between braces, braces included
+    Symbol,  ///< punctuation and operators; `==` and the like already as `=`
+    Invalid, ///< reported already
+};
+
+/// A piece of the program; views point into its text.
+struct Token {
+    TokenKind kind = TokenKind::End;
+    Keyword keyword = Keyword::None; ///< None next to a "."
+    bool reserved = false;           ///< cannot stand alone as a name
+    bool firstOnLine = false;
+    std::string_view text;
+    std::size_t begin = 0;  ///< byte offset in the program
+    std::size_t length = 0; ///< in the program; `text` differs for `==`
+    Position position;
+
+    std::size_t end() const { return begin + length; }
+    bool is(Keyword word) const { return keyword == word; }
+    bool isSymbol(std::string_view symbol) const {
+        return kind == TokenKind::Symbol && text == symbol;
+    }
+    /// The text without its quotes, "" being a quote; a label as it stands.
+    std::string value() const;
+};
+
+/// Names that do not look like words ("INCOME-2", "2ND"), in lower case. A run of characters is
+/// such a name only where this set holds it.
+struct OddNames {
+    std::unordered_set<std::string> names;
+    std::size_t longest = 0;
+};
+
+/// The tokens of a program, an End last. The text must outlive them. Faults go to messages.
+std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames, Messages& messages);
+
+} // namespace kelx::language

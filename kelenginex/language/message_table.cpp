@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/message_table.h"
+
+namespace kelx::language {
+
+namespace {
+
+constexpr MessageEntry error(Error code, const char* name, const char* pattern,
+                             const char* documentation) {
+    return {Severity::Error, static_cast<int>(code), name, pattern, documentation};
+}
+
+constexpr MessageEntry warning(Warning code, const char* name, const char* pattern,
+                               const char* documentation) {
+    return {Severity::Warning, static_cast<int>(code), name, pattern, documentation};
+}
+
+const std::vector<MessageEntry> table = {
+    error(Error::More, "KEL_E_MORE", "and %1 more",
+          "Stands after the last message shown and counts those that are left out."),
+    error(Error::NotUtf8, "KEL_E_NOT_UTF8",
+          "The program is not valid UTF-8 here. Save it with the encoding UTF-8.",
+          "Programs are UTF-8 texts; a file in another encoding is refused as a whole."),
+    error(Error::ProgramTooLarge, "KEL_E_PROGRAM_TOO_LARGE",
+          "The program is too long: a program may have %1 bytes.",
+          "Protects against a wrong file that is opened as a program."),
+    error(Error::UnterminatedString, "KEL_E_UNTERMINATED_STRING",
+          "The text that begins here has no closing quote on its line.",
+          "A text in double quotes ends on the line on which it begins; \"\" is a quote inside."),
+    error(Error::UnterminatedComment, "KEL_E_UNTERMINATED_COMMENT",
+          "The comment that begins here is never closed with */.",
+          "A comment that begins with /* needs a */."),
+    error(Error::UnterminatedBrace, "KEL_E_UNTERMINATED_BRACE",
+          "The value that begins here is never closed with }.",
+          "A value of EXECUTE stands between { and }."),
+    error(Error::UnknownCharacter, "KEL_E_UNKNOWN_CHARACTER",
+          "The character %1 has no meaning in a program.",
+          "Only texts in quotes, labels and comments may hold any character."),
+    error(Error::BadNumber, "KEL_E_BAD_NUMBER",
+          "%1 is neither a number nor the name of a variable.",
+          "A number has digits, perhaps one point, and perhaps an exponent."),
+    error(Error::NumberTooLarge, "KEL_E_NUMBER_TOO_LARGE",
+          "The number %1 is too large: it needs more than 64 bits.",
+          "Whole numbers go to 9223372036854775807; write larger ones with a point."),
+    error(Error::Unexpected, "KEL_E_UNEXPECTED", "Found %1, but expected %2.%3",
+          "Something else should stand at this place; the message says what."),
+    error(Error::TooDeep, "KEL_E_TOO_DEEP", "The expression is nested too deeply here.",
+          "An expression may nest parentheses, functions and signs 200 deep."),
+    error(Error::MisplacedClause, "KEL_E_MISPLACED_CLAUSE", "%1 cannot stand here: %2.",
+          "The clause belongs to another command, or to none."),
+    error(Error::RepeatedClause, "KEL_E_REPEATED_CLAUSE", "%1 is given twice for one command.",
+          "Of two such clauses it is not clear which one is meant."),
+    error(Error::NotSupported, "KEL_E_NOT_SUPPORTED", "%1 is not supported yet.",
+          "The command or clause belongs to the language, but this version does not run it."),
+    error(Error::BadDecimals, "KEL_E_BAD_DECIMALS", "DECIMALS takes a number from 0 to 15, not %1.",
+          "The number of digits behind the decimal point that are shown."),
+    error(Error::UnknownEntity, "KEL_E_UNKNOWN_ENTITY", "There is no entity %1.%2",
+          "The dictionary has no entity with that name or alias."),
+    error(Error::UnknownVariable, "KEL_E_UNKNOWN_VARIABLE", "There is no variable %1.%2",
+          "The dictionary has no variable with that name or alias."),
+    error(Error::AmbiguousName, "KEL_E_AMBIGUOUS_NAME",
+          "More than one variable is called %1. Write one of %2.",
+          "A variable may stand without its entity only where its name is unique."),
+    error(Error::EntityNotVariable, "KEL_E_ENTITY_NOT_VARIABLE",
+          "%1 is an entity, but a variable is needed here, such as %2.",
+          "An entity's name alone stands for its code only in a comparison with a text."),
+    error(Error::UnknownFunction, "KEL_E_UNKNOWN_FUNCTION", "There is no function %1.%2",
+          "The name before a parenthesis is no function of the language."),
+    error(Error::ArgumentCount, "KEL_E_ARGUMENT_COUNT", "%1 is written %2; found %3 arguments.",
+          "The function has another number of arguments."),
+    error(Error::ArgumentType, "KEL_E_ARGUMENT_TYPE", "Argument %1 of %2 must be %3.",
+          "The argument is of another type than the function takes."),
+    error(Error::OperandType, "KEL_E_OPERAND_TYPE",
+          "The operands of %1 must be %2, but this is %3.",
+          "Arithmetic takes numbers; AND, OR and NOT take conditions."),
+    error(Error::CompareTypes, "KEL_E_COMPARE_TYPES", "%1 cannot be compared with %2.%3",
+          "Both sides of a comparison must be numbers, texts, or truth values."),
+    error(Error::NotACondition, "KEL_E_NOT_A_CONDITION", "%1 takes a condition, but this is %2.",
+          "A filter or selection is an expression that is true or false."),
+    error(Error::NotANumber, "KEL_E_NOT_A_NUMBER", "%1 takes a number, but this is %2.",
+          "Weights and tallies are added up."),
+    error(Error::Branches, "KEL_E_BRANCHES",
+          "%1 and %2 cannot be used together: neither of them is part of the other.",
+          "The entities of an expression or a table must lie one below the other."),
+    error(Error::FilterBranch, "KEL_E_FILTER_BRANCH",
+          "The %1 is about %2, but the table counts %3, which is neither above nor below it.",
+          "A filter or selection must lie on the same branch as the records that are counted."),
+    error(Error::NoCode, "KEL_E_NO_CODE",
+          "%1 has no compound code: neither it nor an entity above it has a code variable.",
+          "A compound code is made of the code variables from the top down."),
+    error(Error::NoVariables, "KEL_E_NO_VARIABLES", "%1 has no variables.",
+          "ENTITY.* takes all variables of the entity, and there are none."),
+    error(Error::DataFileMissing, "KEL_E_DATA_FILE_MISSING",
+          "The data of %1 are missing: there is no file %2.",
+          "The variable is in the dictionary, but its file is not in the data folder."),
+    error(Error::DataFileDamaged, "KEL_E_DATA_FILE_DAMAGED", "The data of %1 cannot be read: %2",
+          "The variable's file is damaged or of another kind."),
+    error(Error::TooManyTables, "KEL_E_TOO_MANY_TABLES",
+          "The program would make more than %1 tables.",
+          "Lists of variables make their product, one table each."),
+    error(Error::CrosstabsWithoutBy, "KEL_E_CROSSTABS_WITHOUT_BY",
+          "CROSSTABS needs BY and a variable for the columns.",
+          "A cross table has at least two variables; use FREQ for one."),
+    error(Error::SelectionFile, "KEL_E_SELECTION_FILE", "The selection file %1 %2.",
+          "The file that SELECTION names is missing or holds something else than areas."),
+    warning(Warning::More, "KEL_W_MORE", "and %1 more",
+            "Stands after the last warning shown and counts those that are left out."),
+    warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
+            "The filter is about %1: each %2 that has at least one such %1 is kept.",
+            "The filter lies below the records that the table counts."),
+    warning(Warning::SelectionBelow, "KEL_W_SELECTION_BELOW",
+            "The selection lists %1 only: no %2 can be selected by it.",
+            "Areas select the records in them, not the ones above."),
+    warning(Warning::EmptyInterval, "KEL_W_EMPTY_INTERVAL",
+            "The interval %1 holds no value: its lower end is above its upper end.",
+            "Ends of an interval are written in ascending order."),
+    warning(Warning::TableNameAgain, "KEL_W_TABLE_NAME_AGAIN", "There is already a table named %1.",
+            "Two tables of a program have the same name."),
+};
+
+std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {
+    std::string text;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        const bool marked = pattern[i] == '%' && i + 1 < pattern.size();
+        const std::size_t index = marked ? static_cast<std::size_t>(pattern[i + 1] - '1') : 0;
+        if (marked && index < values.size()) {
+            text += values.begin()[index];
+            ++i;
+        } else {
+            text += pattern[i];
+        }
+    }
+    return text;
+}
+
+Message make(Severity severity, int code, Position position,
+             std::initializer_list<std::string> values) {
+    const MessageEntry* entry = findMessage(severity, code);
+    return {severity, code, position, entry == nullptr ? "" : fill(entry->pattern, values)};
+}
+
+} // namespace
+
+const std::vector<MessageEntry>& messageTable() {
+    return table;
+}
+
+const MessageEntry* findMessage(Severity severity, int code) {
+    for (const MessageEntry& entry : table) {
+        if (entry.severity == severity && entry.code == code)
+            return &entry;
+    }
+    return nullptr;
+}
+
+const char* codeName(Severity severity, int code) {
+    const MessageEntry* entry = findMessage(severity, code);
+    return entry == nullptr ? "" : entry->name;
+}
+
+Message makeMessage(Error code, Position position, std::initializer_list<std::string> values) {
+    return make(Severity::Error, static_cast<int>(code), position, values);
+}
+
+Message makeMessage(Warning code, Position position, std::initializer_list<std::string> values) {
+    return make(Severity::Warning, static_cast<int>(code), position, values);
+}
+
+} // namespace kelx::language

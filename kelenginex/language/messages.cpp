@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/messages.h"
+
+#include "language/message_table.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace kelx::language {
+
+namespace {
+
+bool isError(const Message& message) {
+    return message.severity == Severity::Error;
+}
+
+bool standsBefore(const Message& left, const Message& right) {
+    return std::tie(left.position.line, left.position.column) <
+           std::tie(right.position.line, right.position.column);
+}
+
+} // namespace
+
+bool Messages::hasErrors() const {
+    return std::any_of(list_.begin(), list_.end(), isError);
+}
+
+std::size_t Messages::errorCount() const {
+    return static_cast<std::size_t>(std::count_if(list_.begin(), list_.end(), isError));
+}
+
+std::vector<Message> Messages::forDisplay() const {
+    std::vector<Message> sorted = list_;
+    std::stable_sort(sorted.begin(), sorted.end(), standsBefore);
+    std::vector<Message> result;
+    std::size_t errors = 0, warnings = 0;
+    for (const Message& message : sorted) {
+        if ((isError(message) ? errors : warnings)++ < shown)
+            result.push_back(message);
+    }
+    if (result.size() == sorted.size())
+        return result;
+    const std::string rest = std::to_string(sorted.size() - result.size());
+    const Position end = result.back().position;
+    result.push_back(errors > shown ? makeMessage(Error::More, end, {rest})
+                                    : makeMessage(Warning::More, end, {rest}));
+    return result;
+}
+
+} // namespace kelx::language

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/names.h"
+
+#include "language/text.h"
+
+#include <algorithm>
+
+namespace kelx::language {
+
+namespace {
+
+using catalog::Entity;
+using catalog::Variable;
+
+std::vector<std::string> namesOf(const Entity& entity, const std::string& prefix) {
+    std::vector<std::string> result;
+    for (const auto& variable : entity.variables) {
+        result.push_back(prefix + variable->name);
+        if (!variable->alias.empty())
+            result.push_back(prefix + variable->alias);
+    }
+    return result;
+}
+
+} // namespace
+
+std::string didYouMean(const std::string& suggestion) {
+    return suggestion.empty() ? "" : " Did you mean " + suggestion + "?";
+}
+
+Names::Names(const catalog::Dictionary& dictionary) {
+    const std::vector<Entity*> all =
+        dictionary.root == nullptr ? std::vector<Entity*>() : dictionary.entities();
+    for (const Entity* entity : all) {
+        entities_.emplace(lowerCase(entity->name), entity);
+        addName(entity->name);
+        auto& own = byEntity_[entity];
+        for (const auto& variable : entity->variables) {
+            own.emplace(lowerCase(variable->name), variable.get());
+            byName_[lowerCase(variable->name)].push_back(variable.get());
+            addName(variable->name);
+        }
+    }
+    // Names win over aliases.
+    for (const Entity* entity : all) {
+        if (!entity->alias.empty())
+            entities_.emplace(lowerCase(entity->alias), entity);
+        addName(entity->alias);
+        for (const auto& variable : entity->variables) {
+            if (variable->alias.empty())
+                continue;
+            byEntity_[entity].emplace(lowerCase(variable->alias), variable.get());
+            byAlias_[lowerCase(variable->alias)].push_back(variable.get());
+            addName(variable->alias);
+        }
+    }
+}
+
+/// Only names that would not be read as one word are odd.
+void Names::addName(const std::string& name) {
+    if (name.empty() || (name.find('-') == std::string::npos && (name[0] < '0' || name[0] > '9')))
+        return;
+    oddNames_.names.insert(lowerCase(name));
+    oddNames_.longest = std::max(oddNames_.longest, name.size());
+}
+
+const Entity* Names::entity(std::string_view name) const {
+    const auto found = entities_.find(lowerCase(name));
+    return found == entities_.end() ? nullptr : found->second;
+}
+
+const Variable* Names::variable(const Entity& entity, std::string_view name) const {
+    const auto& own = byEntity_.at(&entity);
+    const auto found = own.find(lowerCase(name));
+    return found == own.end() ? nullptr : found->second;
+}
+
+const std::vector<const Variable*>& Names::variables(std::string_view name) const {
+    static const std::vector<const Variable*> none;
+    const std::string key = lowerCase(name);
+    for (const Variables* index : {&byName_, &byAlias_}) {
+        const auto found = index->find(key);
+        if (found != index->end())
+            return found->second;
+    }
+    return none;
+}
+
+std::string Names::similarEntity(std::string_view name) const {
+    std::vector<std::string> candidates;
+    for (const auto& [key, entity] : entities_)
+        candidates.push_back(entity->name);
+    std::sort(candidates.begin(), candidates.end());
+    return didYouMean(nearest(name, candidates));
+}
+
+/// A variable of that very name elsewhere is a better guess than a similar name here.
+std::string Names::similarVariable(const Entity& entity, std::string_view name) const {
+    const auto& same = variables(name);
+    if (!same.empty())
+        return didYouMean(same.front()->fullName());
+    const std::string near = nearest(name, namesOf(entity, ""));
+    return didYouMean(near.empty() ? near : entity.name + "." + near);
+}
+
+std::string Names::similarVariable(std::string_view name) const {
+    std::vector<std::string> candidates;
+    for (const auto& [entity, own] : byEntity_) {
+        const std::vector<std::string> more = namesOf(*entity, "");
+        candidates.insert(candidates.end(), more.begin(), more.end());
+        candidates.push_back(entity->name);
+    }
+    std::sort(candidates.begin(), candidates.end());
+    return didYouMean(nearest(name, candidates));
+}
+
+} // namespace kelx::language

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/run_checker.h"
+
+#include "language/selection_file.h"
+#include "language/text.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace kelx::language {
+
+namespace {
+
+bool hasCode(const Entity& entity) {
+    for (const Entity* level = &entity; level != nullptr; level = level->parent) {
+        if (level->codeVar != nullptr)
+            return true;
+    }
+    return false;
+}
+
+/// Programs that were written elsewhere name files with backslashes.
+std::filesystem::path resolve(std::string file, const std::filesystem::path& folder) {
+    std::replace(file.begin(), file.end(), '\\', '/');
+    return folder / std::filesystem::path(file);
+}
+
+} // namespace
+
+RunSettings RunChecker::start() const {
+    RunSettings settings;
+    settings.weightMode = weight_ != nullptr              ? WeightMode::Explicit
+                          : context_.options().autoWeight ? WeightMode::Automatic
+                                                          : WeightMode::None;
+    settings.weight = weight_;
+    return settings;
+}
+
+CheckedSettings RunChecker::defaults() const {
+    return {std::make_shared<const RunSettings>(start()), {}};
+}
+
+CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
+    RunSettings settings = start();
+    settings.name = run.name;
+    settings.title = run.title;
+    settings.decimals = run.decimals;
+    settings.filterLabel = run.filterLabel;
+    if (!std::holds_alternative<std::monostate>(run.selection))
+        settings.selection = selection(run);
+    if (run.selectionLabel) {
+        if (!settings.selection)
+            settings.selection.emplace();
+        settings.selection->label = *run.selectionLabel;
+    }
+    if (run.filter != nullptr)
+        settings.filter = expressions_.condition(*run.filter, "FILTER");
+    if (run.weightMode) {
+        settings.weightMode = *run.weightMode;
+        settings.weight =
+            run.weight != nullptr ? expressions_.number(*run.weight, "WEIGHT") : nullptr;
+    }
+    return {std::make_shared<const RunSettings>(std::move(settings)), run.selectionPosition};
+}
+
+AreaSelection RunChecker::selection(const ast::RunDefinition& run) {
+    if (const auto* file = std::get_if<ast::SelectionFile>(&run.selection))
+        return fromFile(file->file, run.selectionPosition);
+    if (const auto* areas = std::get_if<ast::InlineSelection>(&run.selection))
+        return fromInline(*areas);
+    AreaSelection result;
+    const auto& node = std::get<ast::NodePtr>(run.selection);
+    if (node != nullptr)
+        result.expression = expressions_.condition(*node, "SELECTION");
+    if (result.expression != nullptr)
+        result.label = result.expression->text;
+    return result;
+}
+
+AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
+    AreaSelection result;
+    SelectionFileContent content;
+    try {
+        content = readSelectionFile(resolve(file, context_.options().baseFolder));
+    } catch (const std::runtime_error& fault) {
+        context_.report(Error::SelectionFile, position, {inQuotes(file), fault.what()});
+        return result;
+    }
+    result.label = content.label;
+    for (const SelectionFileContent::Group& group : content.groups) {
+        const Entity* entity = context_.names().entity(group.entity);
+        if (entity == nullptr) {
+            context_.report(Error::SelectionFile, position,
+                            {inQuotes(file), "names the entity " + inQuotes(group.entity) +
+                                                 ", which the dictionary does not have"});
+            continue;
+        }
+        if (!group.codes.empty() && !hasCode(*entity)) {
+            context_.report(Error::NoCode, position, {entity->name});
+            continue;
+        }
+        for (const std::string& code : group.codes)
+            result.areas.push_back({entity, code});
+    }
+    return result;
+}
+
+AreaSelection RunChecker::fromInline(const ast::InlineSelection& areas) {
+    AreaSelection result;
+    for (const ast::SelectionArea& area : areas) {
+        addArea(result, expressions_.entity(area.entity, area.position), area.code, area.position);
+        result.label += (result.label.empty() ? "" : ", ") + area.label.value_or(area.code);
+    }
+    return result;
+}
+
+void RunChecker::addArea(AreaSelection& selection, const Entity* entity, const std::string& code,
+                         Position position) {
+    if (entity == nullptr)
+        return;
+    if (hasCode(*entity))
+        selection.areas.push_back({entity, code});
+    else
+        context_.report(Error::NoCode, position, {entity->name});
+}
+
+} // namespace kelx::language

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// Checks RUNDEF: what holds for the commands after it.
+#pragma once
+
+#include "language/ast.h"
+#include "language/checker_context.h"
+#include "language/expression_checker.h"
+
+#include <memory>
+
+namespace kelx::language {
+
+/// Settings and where they were made, for messages.
+struct CheckedSettings {
+    std::shared_ptr<const RunSettings> settings;
+    Position selectionPosition;
+};
+
+class RunChecker {
+public:
+    RunChecker(CheckerContext& context, ExpressionChecker& expressions)
+        : context_(context), expressions_(expressions) {}
+
+    /// What holds before any RUNDEF.
+    CheckedSettings defaults() const;
+    CheckedSettings check(const ast::RunDefinition& run);
+    /// WEIGHT as a command: holds for the program wherever RUNDEF says nothing of weights.
+    void setWeight(ExpressionPtr weight) { weight_ = std::move(weight); }
+
+private:
+    RunSettings start() const;
+    AreaSelection selection(const ast::RunDefinition& run);
+    AreaSelection fromFile(const std::string& file, Position position);
+    AreaSelection fromInline(const ast::InlineSelection& areas);
+    void addArea(AreaSelection& selection, const Entity* entity, const std::string& code,
+                 Position position);
+
+    CheckerContext& context_;
+    ExpressionChecker& expressions_;
+    ExpressionPtr weight_;
+};
+
+} // namespace kelx::language

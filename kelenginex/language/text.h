@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// Small rules about texts, independent of any locale.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kelx::language {
+
+std::string lowerCase(std::string_view text); ///< A to Z only
+std::string upperCase(std::string_view text);
+std::string inQuotes(std::string_view text); ///< in double quotes, shortened where it is long
+std::string trimmed(std::string_view text);
+/// Blanks outside of quotes become one space each; none at the ends. Comments go away.
+std::string simplified(std::string_view source);
+/// Offset of the first byte that is not UTF-8; null where all is well.
+std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
+
+/// The candidate that differs least from the word, in any case; empty where none is near.
+std::string nearest(std::string_view word, const std::vector<std::string>& candidates);
+
+} // namespace kelx::language

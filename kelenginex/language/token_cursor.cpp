@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/token_cursor.h"
+
+#include "language/text.h"
+
+#include <algorithm>
+
+namespace kelx::language {
+
+const Token& TokenCursor::peek(std::size_t ahead) const {
+    return tokens_[std::min(at_ + ahead, tokens_.size() - 1)];
+}
+
+const Token& TokenCursor::take() {
+    const Token& token = tokens_[at_];
+    if (at_ + 1 < tokens_.size())
+        ++at_;
+    return token;
+}
+
+bool TokenCursor::takeSymbol(std::string_view symbol) {
+    const bool found = peek().isSymbol(symbol);
+    if (found)
+        take();
+    return found;
+}
+
+bool TokenCursor::takeKeyword(Keyword keyword) {
+    const bool found = peek().is(keyword);
+    if (found)
+        take();
+    return found;
+}
+
+bool TokenCursor::atClause() const {
+    return (placesOf(peek().keyword) & (isTableClause | isRunClause)) != 0;
+}
+
+bool TokenCursor::atCommand() const {
+    return (placesOf(peek().keyword) & startsCommand) != 0;
+}
+
+/// While skipping, a kind of table counts only at the start of a line: elsewhere it may be part of
+/// what is skipped, as in DEFINE A.B AS SUM C.D.
+bool TokenCursor::startsCommandHere() const {
+    const unsigned places = placesOf(peek().keyword);
+    if ((places & startsAnywhere) != 0)
+        return true;
+    const bool afterAs = at_ > 0 && tokens_[at_ - 1].is(Keyword::As);
+    return (places & startsCommand) != 0 && peek().firstOnLine && !afterAs;
+}
+
+void TokenCursor::skipToClause() {
+    while (!atEnd() && !atClause() && !startsCommandHere())
+        take();
+}
+
+void TokenCursor::skipToCommand() {
+    while (!atEnd() && !startsCommandHere())
+        take();
+}
+
+void TokenCursor::unexpected(const std::string& expected, const std::vector<std::string>& words) {
+    if (peek().kind == TokenKind::Invalid || reportedAt_ == at_)
+        return;
+    reportedAt_ = at_;
+    std::string hint;
+    if (peek().kind == TokenKind::Word && peek().is(Keyword::None))
+        hint = nearest(peek().text, words);
+    report(Error::Unexpected, peek().position,
+           {describe(peek()), expected, hint.empty() ? "" : " Did you mean " + hint + "?"});
+}
+
+std::string describe(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::End:
+        return "the end of the program";
+    case TokenKind::Text:
+        return "the text " + inQuotes(token.value());
+    case TokenKind::Label:
+        return "the label " + inQuotes(token.text);
+    case TokenKind::Number:
+        return "the number " + std::string(token.text);
+    case TokenKind::Word:
+        return token.reserved ? "the reserved word " + upperCase(token.text) : inQuotes(token.text);
+    default:
+        return inQuotes(token.text);
+    }
+}
+
+} // namespace kelx::language
