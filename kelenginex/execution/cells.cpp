@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "execution/cells.h"
+
+#include <algorithm>
+
+namespace kelx::execution {
+
+void DenseCells::resize(std::size_t cells, bool weighted) {
+    counts.assign(cells, 0);
+    sums.assign(weighted ? cells : 0, 0);
+}
+
+void DenseCells::merge(const DenseCells& other) {
+    for (std::size_t i = 0; i < counts.size(); ++i)
+        counts[i] += other.counts[i];
+    for (std::size_t i = 0; i < sums.size(); ++i)
+        sums[i] += other.sums[i];
+}
+
+void DenseCells::clear() {
+    std::fill(counts.begin(), counts.end(), 0);
+    std::fill(sums.begin(), sums.end(), 0);
+}
+
+std::uint64_t HashCells::hash(const std::uint64_t* codes) const {
+    std::uint64_t result = 0x9e3779b97f4a7c15ULL;
+    for (std::size_t i = 0; i < dimensions_; ++i) {
+        result = (result ^ codes[i]) * 0xff51afd7ed558ccdULL;
+        result ^= result >> 32;
+    }
+    return result;
+}
+
+std::size_t HashCells::find(const std::uint64_t* codes) {
+    if ((counts_.size() + 1) * 2 > slots_.size())
+        grow();
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t slot = static_cast<std::size_t>(hash(codes)) & mask;
+    while (slots_[slot] != 0) {
+        const std::size_t cell = slots_[slot] - 1;
+        if (std::equal(codes, codes + dimensions_, codes_.data() + cell * dimensions_))
+            return cell;
+        slot = (slot + 1) & mask;
+    }
+    codes_.insert(codes_.end(), codes, codes + dimensions_);
+    counts_.push_back(0);
+    sums_.push_back(0);
+    slots_[slot] = counts_.size();
+    return counts_.size() - 1;
+}
+
+void HashCells::grow() {
+    slots_.assign(std::max<std::size_t>(slots_.size() * 2, 1024), 0);
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t cell = 0; cell < counts_.size(); ++cell) {
+        std::size_t slot = static_cast<std::size_t>(hash(codes(cell).data())) & mask;
+        while (slots_[slot] != 0)
+            slot = (slot + 1) & mask;
+        slots_[slot] = cell + 1;
+    }
+}
+
+void HashCells::add(const std::uint64_t* codes, std::uint64_t count, double sum) {
+    const std::size_t cell = find(codes);
+    counts_[cell] += count;
+    sums_[cell] += sum;
+}
+
+void HashCells::merge(const HashCells& other) {
+    for (std::size_t cell = 0; cell < other.size(); ++cell)
+        add(other.codes(cell).data(), other.count(cell), other.sum(cell));
+}
+
+void HashCells::clear() {
+    codes_.clear();
+    counts_.clear();
+    sums_.clear();
+    std::fill(slots_.begin(), slots_.end(), 0);
+}
+
+} // namespace kelx::execution

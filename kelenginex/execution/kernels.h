@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+// The innermost loops, in one form for every processor and one for those with AVX2.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kelx::execution {
+
+/// Bytes that may be written past the end of a buffer that expand() fills.
+constexpr std::size_t expandSlack = 64;
+
+/// Loops over codes of one width.
+template <class Code>
+struct CodeKernels {
+    /// truths[i] = first <= codes[i] <= first + width, 0xff or 0; joined to what is there by OR.
+    void (*testRange)(const Code* codes, std::size_t count, Code first, Code width,
+                      std::uint8_t* truths);
+    /// Values spread over runs; out has expandSlack bytes beyond the last end.
+    void (*expand)(const Code* values, const std::uint32_t* ends, std::size_t runs, Code* out);
+    /// out[i] (+)= min(codes[i] - lowest, domain) * stride.
+    void (*index8)(const Code* codes, std::size_t count, Code lowest, Code domain,
+                   std::uint32_t stride, bool add, std::uint8_t* out);
+    void (*index32)(const Code* codes, std::size_t count, Code lowest, Code domain,
+                    std::uint32_t stride, bool add, std::uint32_t* out);
+};
+
+struct Kernels {
+    CodeKernels<std::uint8_t> code8;
+    CodeKernels<std::uint16_t> code16;
+    CodeKernels<std::uint32_t> code32;
+    CodeKernels<std::uint64_t> code64;
+
+    /// Adds to counts[first + k] the records with code first + k, k < kinds. A null mask takes all.
+    void (*countFew)(const std::uint8_t* codes, const std::uint8_t* mask, std::size_t count,
+                     std::uint8_t first, unsigned kinds, std::uint64_t* counts);
+    std::uint64_t (*countMask)(const std::uint8_t* mask, std::size_t count);
+    /// Adds to counts[index[i]].
+    void (*histogram8)(const std::uint8_t* index, std::size_t count, std::uint64_t* counts);
+    void (*histogram32)(const std::uint32_t* index, std::size_t count, std::uint64_t* counts);
+    /// Keeps where the mask is set, in order; gives the number kept. May work in place.
+    std::size_t (*compact8)(const std::uint8_t* in, const std::uint8_t* mask, std::size_t count,
+                            std::uint8_t* out);
+    std::size_t (*compact32)(const std::uint32_t* in, const std::uint8_t* mask, std::size_t count,
+                             std::uint32_t* out);
+    std::size_t (*compactReal)(const double* in, const std::uint8_t* mask, std::size_t count,
+                               double* out);
+    /// sums[index[i]] += weights[i], one after the other.
+    void (*addWeights)(const std::uint32_t* index, const double* weights, std::size_t count,
+                       double* sums);
+    void (*andMasks)(std::uint8_t* mask, const std::uint8_t* other, std::size_t count);
+    void (*expandReal)(const double* values, const std::uint32_t* ends, std::size_t runs,
+                       double* out);
+
+    template <class Code>
+    const CodeKernels<Code>& of() const {
+        if constexpr (sizeof(Code) == 1)
+            return code8;
+        else if constexpr (sizeof(Code) == 2)
+            return code16;
+        else if constexpr (sizeof(Code) == 4)
+            return code32;
+        else
+            return code64;
+    }
+};
+
+/// The fastest set that this processor runs.
+const Kernels& kernels();
+/// The set that every processor runs; both give the same results.
+const Kernels& baselineKernels();
+
+} // namespace kelx::execution

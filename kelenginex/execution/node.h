@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+// Expressions made ready to run: a tree of nodes, each of which works on whole stretches.
+#pragma once
+
+#include "execution/frames.h"
+#include "execution/vector.h"
+#include "language/bound.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace kelx::execution {
+
+/// A part of an expression. It belongs to an entity and has a value for each record of that
+/// entity's frame. One for each thread.
+class Node {
+public:
+    /// A null entity is that of a constant.
+    Node(ValueType type, const Entity* entity) : entity_(entity) { result_.type = type; }
+    virtual ~Node() = default;
+    Node(const Node&) = delete;
+    Node& operator=(const Node&) = delete;
+
+    ValueType type() const { return result_.type; }
+    const Entity* entity() const { return entity_; }
+    /// The values over the current frame; worked out once a step.
+    const Vector& value(Frames& frames);
+    /// False where no record of one of the column's blocks can be true; only for nodes of the
+    /// entity that the block is of.
+    virtual bool mayBeTrue(std::size_t /*block*/) const { return true; }
+
+protected:
+    /// Fills result_; count is the length of the entity's frame, 1 for a constant.
+    virtual void work(Frames& frames, std::size_t count) = 0;
+    Vector result_;
+
+private:
+    const Entity* entity_;
+    std::uint64_t serial_ = 0;
+};
+
+/// Makes nodes and keeps them. Equal expressions become the same node, so that tables of a pass
+/// share their work.
+class NodePool {
+public:
+    NodePool();
+    ~NodePool();
+    /// The node of an expression, its values spread to the records of entity at, which is at or
+    /// below the expression's own. Throws storage::FileError, or std::runtime_error on what is not
+    /// supported.
+    Node& at(const language::Expression& expression, const Entity& at);
+    /// The node with values for its own entity's records.
+    Node& own(const language::Expression& expression);
+
+private:
+    std::unique_ptr<Node> make(const language::Expression& expression);
+    std::vector<Node*> argumentsOf(const language::Expression& expression);
+    Node& keep(std::unique_ptr<Node> node);
+
+    std::vector<std::unique_ptr<Node>> nodes_;
+    std::vector<std::pair<const language::Expression*, Node*>> known_;
+    struct Spread {
+        Node* from;
+        const Entity* at;
+        Node* node;
+    };
+    std::vector<Spread> spread_;
+};
+
+// Makers of the kinds of nodes, by the file that has them.
+std::unique_ptr<Node> makeConstant(const language::Constant& constant);
+std::unique_ptr<Node> makeVariable(const catalog::Variable& variable);
+std::unique_ptr<Node> makeCompoundCode(const Entity& entity);
+std::unique_ptr<Node> makeSpread(Node& from, const Entity& at);
+/// Null where the comparison cannot be made on codes.
+std::unique_ptr<Node> makeCodeTest(const language::Expression& expression);
+std::unique_ptr<Node> makeComparison(language::Operation operation, Node& left, Node& right,
+                                     const Entity* entity);
+std::unique_ptr<Node> makeIn(const std::vector<language::Interval>& intervals, Node& operand);
+std::unique_ptr<Node> makeLogic(language::Operation operation, std::vector<Node*> operands,
+                                const Entity* entity);
+std::unique_ptr<Node> makeArithmetic(language::Operation operation, std::vector<Node*> operands,
+                                     const Entity* entity);
+std::unique_ptr<Node> makeFunction(const std::string& name, std::vector<Node*> arguments,
+                                   const Entity* entity);
+
+/// A view of numbers (or truth values) as doubles or integers, converted where need be.
+class NumberView {
+public:
+    const double* reals(const Vector& vector);
+    const std::int64_t* integers(const Vector& vector);
+
+private:
+    std::vector<double> reals_;
+    std::vector<std::int64_t> integers_;
+};
+
+/// States for two operands together; fills result.states unless all are valid.
+void combineStates(const Vector& a, const Vector& b, std::size_t count, Vector& result);
+bool isNumber(ValueType type);
+
+} // namespace kelx::execution

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which records of a step are counted.
+#pragma once
+
+#include "execution/node.h"
+#include "plan/hierarchy.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace kelx::execution {
+
+/// A condition on the records of a unit. One for each thread.
+class RecordFilter {
+public:
+    virtual ~RecordFilter() = default;
+    /// Clears mask bytes (0 or 0xff) of the records that do not pass.
+    virtual void apply(Frames& frames, std::uint8_t* mask) = 0;
+    /// False where no record of a block of the unit can pass.
+    virtual bool mayPass(std::size_t /*block*/) const { return true; }
+};
+
+/// On an entity below the unit the condition asks for at least one passing record under each.
+/// Throws std::runtime_error where the entities lie on different branches.
+std::unique_ptr<RecordFilter> makeFilter(const language::ExpressionPtr& condition,
+                                         const Entity& unit, NodePool& pool);
+
+} // namespace kelx::execution

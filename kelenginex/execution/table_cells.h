@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where the figures of one table are kept: dense or hashed, as its dimensions ask.
+#pragma once
+
+#include "execution/cells.h"
+#include "execution/code_source.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace kelx::execution {
+
+/// The shape of a table: the domains of its dimensions and how their codes make a cell's number.
+struct TableShape {
+    std::vector<CodeDomain> domains;
+    std::vector<std::uint32_t> strides; ///< of dense cells
+    std::size_t cells = 0;              ///< dense cells in all; 0: the table is hashed
+    bool weighted = false;
+
+    TableShape(std::vector<CodeDomain> of, bool isWeighted);
+    bool dense() const { return cells > 0; }
+};
+
+/// Figures by cell; partial ones are merged into the whole.
+class TableCells {
+public:
+    explicit TableCells(const TableShape& shape);
+
+    DenseCells dense;
+    HashCells hashed;
+
+    void merge(const TableCells& other);
+    void clear();
+    /// use(codes, records, sum) for each cell that occurred; a blank's code is all ones.
+    template <class Use>
+    void forEach(Use use) const {
+        if (!shape_.dense()) {
+            for (std::size_t cell = 0; cell < hashed.size(); ++cell)
+                use(hashed.codes(cell), hashed.count(cell), hashed.sum(cell));
+            return;
+        }
+        std::vector<std::uint64_t> codes(shape_.domains.size());
+        for (std::size_t cell = 0; cell < shape_.cells; ++cell) {
+            if (dense.counts[cell] == 0)
+                continue;
+            decode(cell, codes);
+            use(std::span<const std::uint64_t>(codes), dense.counts[cell],
+                shape_.weighted ? dense.sums[cell] : 0.0);
+        }
+    }
+
+private:
+    void decode(std::size_t cell, std::vector<std::uint64_t>& codes) const;
+    TableShape shape_;
+};
+
+} // namespace kelx::execution

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "plan/plan.h"
+
+#include "plan/same_expression.h"
+#include "plan/selection.h"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <string>
+
+namespace kelx::plan {
+namespace {
+
+using language::ExpressionPtr;
+using language::RunSettings;
+using language::TableCommand;
+
+/// Makes passes of the tables in their order.
+class Planner {
+public:
+    explicit Planner(language::Messages& messages) : messages_(messages) {}
+
+    void add(std::size_t index, const TableCommand& command) {
+        PlannedTable table{index, &command, dimensionsOf(command)};
+        const Entity& unit = unitOf(command);
+        passFor(unit, command).tables.push_back(std::move(table));
+    }
+    Plan take() { return std::move(plan_); }
+
+private:
+    static const Entity& unitOf(const TableCommand& command) {
+        const Entity* unit = command.unit != nullptr ? command.unit : command.countEntity;
+        if (unit == nullptr)
+            throw std::logic_error(command.name + " counts no entity");
+        return *unit;
+    }
+
+    static std::vector<ExpressionPtr> dimensionsOf(const TableCommand& command) {
+        std::vector<ExpressionPtr> result = command.dimensions;
+        const Entity* area = command.settings->areaBreak;
+        if (area == nullptr || command.kind != language::TableKind::Frequency)
+            return result;
+        const bool isThere = !result.empty() &&
+                             result.front()->operation == language::Operation::CompoundCode &&
+                             result.front()->codeEntity == area;
+        if (!isThere) {
+            auto code = std::make_shared<language::Expression>();
+            code->operation = language::Operation::CompoundCode;
+            code->type = language::ValueType::String;
+            code->entity = code->codeEntity = area;
+            code->text = "CMPCODE(" + area->name + ")";
+            result.insert(result.begin(), code);
+        }
+        return result;
+    }
+
+    Pass& passFor(const Entity& unit, const TableCommand& command) {
+        const RunSettings& settings = *command.settings;
+        Pass pass{&unit, rangesFor(unit, command), {}, {}};
+        if (settings.selection && settings.selection->expression)
+            pass.filters.push_back(settings.selection->expression);
+        if (settings.filter)
+            pass.filters.push_back(settings.filter);
+        for (Pass& other : plan_.passes) {
+            if (isSame(pass, other))
+                return other;
+        }
+        plan_.passes.push_back(std::move(pass));
+        return plan_.passes.back();
+    }
+
+    static bool isSame(const Pass& a, const Pass& b) {
+        if (a.unit != b.unit || a.ranges != b.ranges || a.filters.size() != b.filters.size())
+            return false;
+        for (std::size_t i = 0; i < a.filters.size(); ++i) {
+            if (!sameExpression(a.filters[i].get(), b.filters[i].get()))
+                return false;
+        }
+        return true;
+    }
+
+    RecordRanges rangesFor(const Entity& unit, const TableCommand& command) {
+        const RunSettings& settings = *command.settings;
+        if (!settings.selection || settings.selection->areas.empty())
+            return joined({{0, unit.records()}});
+        return recordsUnder(areasOf(settings, command), unit);
+    }
+
+    const SelectedAreas& areasOf(const RunSettings& settings, const TableCommand& command) {
+        const auto known = areas_.find(&settings);
+        if (known != areas_.end())
+            return known->second;
+        SelectedAreas areas = findAreas(*settings.selection);
+        for (const auto& area : areas.unknown)
+            warn(command, "No " + area.entity->name + " has the code \"" + area.code +
+                              "\" of the selection.");
+        return areas_.emplace(&settings, std::move(areas)).first->second;
+    }
+
+    void warn(const TableCommand& command, const std::string& text) {
+        if (said_.insert(text).second)
+            messages_.add({language::Severity::Warning, 0, command.position, text});
+    }
+
+    language::Messages& messages_;
+    Plan plan_;
+    std::map<const RunSettings*, SelectedAreas> areas_;
+    std::set<std::string> said_;
+};
+
+} // namespace
+
+Plan makePlan(const language::BoundProgram& program, language::Messages& messages) {
+    Planner planner(messages);
+    for (std::size_t i = 0; i < program.tables.size(); ++i)
+        planner.add(i, program.tables[i]);
+    return planner.take();
+}
+
+} // namespace kelx::plan

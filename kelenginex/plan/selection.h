@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+// From the areas that a run is about to ranges of records.
+#pragma once
+
+#include "language/bound.h"
+#include "plan/hierarchy.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace kelx::plan {
+
+/// Areas found, by entity, and codes that no record has.
+struct SelectedAreas {
+    std::map<const Entity*, RecordRanges> records;
+    std::vector<language::AreaSelection::Area> unknown;
+};
+
+/// Finds the records with the listed compound codes, going only into areas whose code begins one.
+SelectedAreas findAreas(const language::AreaSelection& selection);
+
+/// Records of the unit whose ancestor (or which themselves) are among the areas. Areas of entities
+/// that are not above or at the unit select nothing.
+RecordRanges recordsUnder(const SelectedAreas& areas, const Entity& unit);
+
+} // namespace kelx::plan
