@@ -54,3 +54,17 @@ function(kelvorax_gtest name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS engine TIMEOUT 300)
 endfunction()
+
+# A QTest program, without a screen and with a home of its own:
+# kelvorax_qtest(name SOURCES a.cpp LINK lib).
+function(kelvorax_qtest name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
+    kelvorax_checked(${name})
+    set(home ${CMAKE_CURRENT_BINARY_DIR}/${name}_home)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS workbench TIMEOUT 120 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_DATA_HOME=${home}/data;XDG_CONFIG_HOME=${home}/config;XDG_RUNTIME_DIR=${home};LC_ALL=C.UTF-8")
+endfunction()
