@@ -4,12 +4,9 @@
 #include "storage/coding.h"
 #include "storage/column_file.h"
 #include "storage/spool.h"
-#include "storage/utf8.h"
+#include "storage/text_table.h"
 
-#include <algorithm>
-#include <deque>
-#include <numeric>
-#include <unordered_map>
+#include <limits>
 
 namespace kelx::storage {
 
@@ -147,54 +144,29 @@ private:
 class TextWriter final : public WriterBase {
 public:
     TextWriter(const std::filesystem::path& file, const ColumnPlan& plan)
-        : WriterBase(file), plan_(plan), spool_(file) {}
+        : WriterBase(file), plan_(plan), spool_(file), texts_(file) {}
 
-    void addText(std::string_view utf8) override {
-        auto found = numbers_.find(utf8);
-        if (found == numbers_.end())
-            found = numbers_.emplace(keep(utf8), numbers_.size()).first;
-        spool_.add(static_cast<std::int64_t>(found->second));
-    }
+    void addText(std::string_view utf8) override { spool_.add(texts_.numberOf(utf8)); }
     void addBlank() override { spool_.addBlank(); }
     std::uint64_t records() const override { return spool_.records(); }
-    void commit() override;
+    void commit() override {
+        spool_.finish();
+        texts_.sort();
+        const auto physical = physicalFor(texts_.size() == 0 ? 0 : texts_.size() - 1);
+        drain(
+            spool_, file_, {plan_.type, physical, 0, plan_.decimals}, plan_.key,
+            [&](std::int64_t number) { return texts_.ranks()[static_cast<std::size_t>(number)]; },
+            [&](ColumnFileBuilder& builder) {
+                builder.addTexts(texts_.sorted());
+                builder.commit();
+            });
+    }
 
 private:
-    std::string_view keep(std::string_view utf8) {
-        if (!isUtf8(utf8))
-            throw FileError(file_, "cannot hold a text that is not UTF-8 (record " +
-                                       std::to_string(records() + 1) + ")");
-        if (texts_.size() + 1 >= blankCode(Physical::Code32))
-            throw FileError(file_, "cannot hold so many different texts");
-        return texts_.emplace_back(utf8);
-    }
     ColumnPlan plan_;
     Spool spool_;
-    std::deque<std::string> texts_;
-    std::unordered_map<std::string_view, std::size_t> numbers_;
+    TextTable texts_;
 };
-
-void TextWriter::commit() {
-    spool_.finish();
-    std::vector<std::uint32_t> order(texts_.size());
-    std::iota(order.begin(), order.end(), 0u);
-    std::sort(order.begin(), order.end(),
-              [&](std::uint32_t a, std::uint32_t b) { return texts_[a] < texts_[b]; });
-    std::vector<std::uint32_t> ranks(texts_.size());
-    std::vector<std::string_view> sorted(texts_.size());
-    for (std::uint32_t rank = 0; rank < order.size(); ++rank) {
-        ranks[order[rank]] = rank;
-        sorted[rank] = texts_[order[rank]];
-    }
-    const auto physical = physicalFor(texts_.empty() ? 0 : texts_.size() - 1);
-    drain(
-        spool_, file_, {plan_.type, physical, 0, plan_.decimals}, plan_.key,
-        [&](std::int64_t number) { return ranks[static_cast<std::size_t>(number)]; },
-        [&](ColumnFileBuilder& builder) {
-            builder.addTexts(sorted);
-            builder.commit();
-        });
-}
 
 std::unique_ptr<ColumnWriter> directWriter(const std::filesystem::path& file,
                                            const ColumnPlan& plan, std::int64_t lowest,
