@@ -25,8 +25,8 @@ const std::vector<Fault> faults = {
      "KEL_E_NOT_SUPPORTED 1:1 EXECUTE is not supported yet.\n"
      "KEL_E_UNTERMINATED_BRACE 1:21 The value that begins here is never closed with }.\n"},
     {"FREQ SEX2 TITLE \"\xc3\xb1\" FILTER \xc3\xb1 # 5",
-     "KEL_E_UNKNOWN_CHARACTER 1:30 The character \"#\" has no meaning in a program.\n"
-     "KEL_E_UNKNOWN_VARIABLE 1:28 There is no variable \"\xc3\xb1\".\n"},
+     "KEL_E_UNKNOWN_VARIABLE 1:28 There is no variable \"\xc3\xb1\".\n"
+     "KEL_E_UNKNOWN_CHARACTER 1:30 The character \"#\" has no meaning in a program.\n"},
     {"FREQ SEX2 FILTER AGE > \x01",
      "KEL_E_UNKNOWN_CHARACTER 1:24 The character U+0001 has no meaning "
      "in a program.\n"},
@@ -140,8 +140,8 @@ const std::vector<Fault> faults = {
     {"FREQ SEX2 FILTER AGE AND NOT \"x\" OR GRP + 1 > -WORKS",
      "KEL_E_OPERAND_TYPE 1:18 The operands of AND must be conditions, but this is a number.\n"
      "KEL_E_OPERAND_TYPE 1:30 The operands of NOT must be conditions, but this is a text.\n"
-     "KEL_E_OPERAND_TYPE 1:38 The operands of \"+\" must be numbers, but this is a text.\n"
-     "KEL_E_OPERAND_TYPE 1:49 The operands of \"-\" must be numbers, but this is a condition.\n"},
+     "KEL_E_OPERAND_TYPE 1:37 The operands of \"+\" must be numbers, but this is a text.\n"
+     "KEL_E_OPERAND_TYPE 1:48 The operands of \"-\" must be numbers, but this is a condition.\n"},
     {"FREQ SEX2 FILTER AGE = \"5\" OR GRP = 5 OR PROVINCE = 3 OR WORKS > FALSE OR WORKS = 1",
      "KEL_E_COMPARE_TYPES 1:24 a number cannot be compared with a text. Leave out the quotes.\n"
      "KEL_E_COMPARE_TYPES 1:37 a text cannot be compared with a number. Put the number in quotes.\n"

@@ -150,7 +150,7 @@ TEST(Rundef, SetsWhatFollows) {
     EXPECT_EQ(program.lastSettings->name, "second");
     EXPECT_EQ(program.lastSettings->filter, nullptr);
     EXPECT_EQ(program.tables[2].text, "FREQ  ROOMS");
-    EXPECT_EQ(program.tables[2].position.line, 5);
+    EXPECT_EQ(program.tables[2].position.line, 6);
     EXPECT_NE(census.compile("").lastSettings, nullptr);
 }
 
