@@ -62,8 +62,7 @@ private:
             category.value = category.code;
             return states_.ofText(category.code);
         }
-        const auto value =
-            static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code);
+        const auto value = static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code);
         category.value = value;
         category.code = std::to_string(value);
         return states_.ofInteger(value);
@@ -155,9 +154,8 @@ private:
 
 /// Sorts cells and adds up those that have come to be the same.
 void sortAndJoin(std::vector<Cell>& cells) {
-    std::stable_sort(cells.begin(), cells.end(), [](const Cell& a, const Cell& b) {
-        return a.categories < b.categories;
-    });
+    std::stable_sort(cells.begin(), cells.end(),
+                     [](const Cell& a, const Cell& b) { return a.categories < b.categories; });
     std::vector<Cell> joined;
     for (Cell& cell : cells) {
         if (!joined.empty() && joined.back().categories == cell.categories) {

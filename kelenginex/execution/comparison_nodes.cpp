@@ -119,8 +119,8 @@ protected:
             compare<double>(operation_, {viewA_.reals(a), viewB_.reals(b), stepA, stepB}, count,
                             truths);
         else
-            compare<std::int64_t>(operation_, {viewA_.integers(a), viewB_.integers(b), stepA, stepB},
-                                  count, truths);
+            compare<std::int64_t>(
+                operation_, {viewA_.integers(a), viewB_.integers(b), stepA, stepB}, count, truths);
         dropNoValue(a, count, result_.truths);
         dropNoValue(b, count, result_.truths);
     }

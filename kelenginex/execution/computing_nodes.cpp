@@ -28,8 +28,7 @@ public:
         };
         if (operation_ == Operation::And)
             return std::all_of(operands_.begin(), operands_.end(), may);
-        return operation_ == Operation::Not ||
-               std::any_of(operands_.begin(), operands_.end(), may);
+        return operation_ == Operation::Not || std::any_of(operands_.begin(), operands_.end(), may);
     }
 
 protected:
@@ -105,8 +104,8 @@ protected:
 
 private:
     static ValueType typeOf(Operation operation, ValueType a, ValueType b) {
-        const bool real = operation == Operation::Divide || a == ValueType::Real ||
-                          b == ValueType::Real;
+        const bool real =
+            operation == Operation::Divide || a == ValueType::Real || b == ValueType::Real;
         return real ? ValueType::Real : ValueType::Integer;
     }
 

@@ -40,7 +40,8 @@ Text left(Text text, Integer count) {
 }
 
 Text right(Text text, Integer count) {
-    return count <= 0 ? Text{} : text.substr(byteOf(text, std::max<Integer>(length(text) - count, 0)));
+    return count <= 0 ? Text{}
+                      : text.substr(byteOf(text, std::max<Integer>(length(text) - count, 0)));
 }
 
 Text substr(Text text, Integer start, Integer count) {

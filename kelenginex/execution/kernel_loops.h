@@ -12,10 +12,8 @@ namespace {
 using Byte = std::uint8_t;
 using Bytes32 [[gnu::vector_size(32)]] = Byte;
 
-Bytes32 loadBytes(const Byte* from) {
-    Bytes32 value;
-    __builtin_memcpy(&value, from, sizeof value);
-    return value;
+void load(const Byte* from, Bytes32& to) {
+    __builtin_memcpy(&to, from, sizeof to);
 }
 
 /// Up to Kinds codes with a byte counter a lane for each; folded before a lane could overflow.
@@ -28,8 +26,11 @@ void countGroup(const Byte* codes, const Byte* mask, std::size_t count, Byte fir
         const std::size_t steps = left < 255 ? left : 255;
         Bytes32 sums[Kinds] = {};
         for (std::size_t step = 0; step < steps; ++step, i += 32) {
-            const Bytes32 value = loadBytes(codes + i);
-            const Bytes32 kept = Masked ? loadBytes(mask + i) : Bytes32{};
+            Bytes32 value;
+            load(codes + i, value);
+            Bytes32 kept = {};
+            if (Masked)
+                load(mask + i, kept);
 #pragma GCC unroll 8
             for (unsigned k = 0; k < Kinds; ++k) {
                 const auto hit = (Bytes32)(value == (Byte)(first + k));

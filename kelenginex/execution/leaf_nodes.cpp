@@ -69,8 +69,7 @@ private:
     void readReals(const double* values, std::size_t count) {
         result_.reals.assign(values, values + count);
         for (std::size_t i = 0; i < count; ++i)
-            result_.states[i] =
-                std::isnan(values[i]) ? state::blank : states_.ofNumber(values[i]);
+            result_.states[i] = std::isnan(values[i]) ? state::blank : states_.ofNumber(values[i]);
     }
 
     template <class Code>
@@ -82,8 +81,8 @@ private:
         if (result_.allValid)
             return;
         for (std::size_t i = 0; i < count; ++i)
-            result_.states[i] = isBlank(codes[i]) ? state::blank
-                                                  : states_.ofInteger(result_.integers[i]);
+            result_.states[i] =
+                isBlank(codes[i]) ? state::blank : states_.ofInteger(result_.integers[i]);
     }
 
     template <class Code>

@@ -22,9 +22,7 @@ public:
     /// Calls back where it is time to; true where the run is to stop, from then on.
     bool poll();
     bool cancelled() const { return cancelled_; }
-    double seconds() const {
-        return std::chrono::duration<double>(Clock::now() - start_).count();
-    }
+    double seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
 
 private:
     using Clock = std::chrono::steady_clock;

@@ -65,8 +65,8 @@ void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
         findWeights(frames);
     mask = ownMask(frames, mask);
     const std::size_t count = frames.baseFrame().count;
-    const bool oneByte = sources_.size() == 1 &&
-                         sources_[0]->domain().physical == storage::Physical::Code8;
+    const bool oneByte =
+        sources_.size() == 1 && sources_[0]->domain().physical == storage::Physical::Code8;
     if (!shape_.dense())
         addHashed(frames, mask);
     else if (shape_.weighted)

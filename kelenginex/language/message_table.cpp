@@ -116,6 +116,9 @@ const std::vector<MessageEntry> table = {
             "Ends of an interval are written in ascending order."),
     warning(Warning::TableNameAgain, "KEL_W_TABLE_NAME_AGAIN", "There is already a table named %1.",
             "Two tables of a program have the same name."),
+    warning(Warning::UnknownArea, "KEL_W_UNKNOWN_AREA",
+            "No %1 has the code \"%2\" that the selection lists.",
+            "A code of a selection that no area has; it selects nothing."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

