@@ -2,6 +2,7 @@
 #include "dictionary/mirror/PathResolver.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStringList>
 
 namespace {
@@ -14,10 +15,10 @@ QString withForwardSlashes(QString path) {
 
 QString resolvePath(const QString& name, const QString& folder) {
     QStringList parts = withForwardSlashes(name).split('/');
-    QDir base(withForwardSlashes(folder));
+    QString base = QDir::cleanPath(withForwardSlashes(folder));
     while (!parts.isEmpty() && parts.first() == QLatin1String("..")) {
         parts.removeFirst();
-        base.setPath(QDir::cleanPath(base.filePath(QStringLiteral(".."))));
+        base = QFileInfo(base).path(); // the root stays the root
     }
-    return base.filePath(parts.join('/'));
+    return QDir(base).filePath(parts.join('/'));
 }
