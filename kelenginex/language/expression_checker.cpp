@@ -104,11 +104,15 @@ bool lower(const Entity*& entity, const Entity* other) {
     return other->isAncestorOf(*entity);
 }
 
-ExpressionPtr ExpressionChecker::finished(Built built, const ast::Node& node) const {
-    if (built != nullptr)
-        built->text =
-            simplified(context_.program().substr(node.span.begin, node.span.end - node.span.begin));
-    return built;
+ExpressionPtr ExpressionChecker::finished(Built built, std::string text) {
+    if (built == nullptr)
+        return nullptr;
+    built->text = std::move(text);
+    return std::make_shared<const Expression>(std::move(*built));
+}
+
+std::string ExpressionChecker::source(ast::Span span) const {
+    return simplified(context_.program().substr(span.begin, span.end - span.begin));
 }
 
 ExpressionPtr ExpressionChecker::condition(const ast::Node& node, const std::string& clause) {
@@ -117,7 +121,7 @@ ExpressionPtr ExpressionChecker::condition(const ast::Node& node, const std::str
         context_.report(Error::NotACondition, node.position, {clause, describe(built->type)});
         return nullptr;
     }
-    return finished(std::move(built), node);
+    return finished(std::move(built), source(node.span));
 }
 
 ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string& clause) {
@@ -126,22 +130,15 @@ ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string
         context_.report(Error::NotANumber, node.position, {clause, describe(built->type)});
         return nullptr;
     }
-    return finished(std::move(built), node);
+    return finished(std::move(built), source(node.span));
 }
 
 ExpressionPtr ExpressionChecker::variable(const ast::Name& name) {
-    Built built = checkName(name, name.position);
-    if (built != nullptr)
-        built->text =
-            simplified(context_.program().substr(name.span.begin, name.span.end - name.span.begin));
-    return built;
+    return finished(checkName(name, name.position), source(name.span));
 }
 
 ExpressionPtr ExpressionChecker::variable(const Variable& variable, Position position) {
-    Built built = value(variable, position);
-    if (built != nullptr)
-        built->text = variable.fullName();
-    return built;
+    return finished(value(variable, position), variable.fullName());
 }
 
 const Entity* ExpressionChecker::entity(const std::string& name, Position position) {
