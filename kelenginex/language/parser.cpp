@@ -53,7 +53,7 @@ private:
     bool parseDecimals(std::optional<int>& into);
     bool parseRunWeight(ast::RunDefinition& run, const Token& clause);
     bool misplaced(const std::string& reason);
-    bool notSupported();
+    void notSupported();
     bool firstTime(const Token& clause);
 
     TokenCursor cursor_;
@@ -84,7 +84,7 @@ void Parser::parseCommand() {
     }
     if ((places & notSupportedYet) != 0) {
         notSupported();
-        return (places & startsCommand) != 0 ? cursor_.skipToCommand() : cursor_.skipToClause();
+        return (places & startsCommand) != 0 ? cursor_.skipToCommand() : cursor_.skipClause();
     }
     if (cursor_.atClause()) {
         misplaced("it must follow the command that it belongs to");
@@ -96,11 +96,10 @@ void Parser::parseCommand() {
 }
 
 /// Tells once for each word, and leaves the cursor behind the word.
-bool Parser::notSupported() {
+void Parser::notSupported() {
     const Token& token = cursor_.take();
     if (unsupported_.insert(token.keyword).second)
         cursor_.report(Error::NotSupported, token.position, {upperCase(token.text)});
-    return false;
 }
 
 bool Parser::misplaced(const std::string& reason) {
@@ -150,8 +149,11 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
         cursor_.take();
         return false;
     }
-    if ((places & notSupportedYet) != 0)
-        return notSupported();
+    if ((places & notSupportedYet) != 0) {
+        notSupported();
+        cursor_.skipClause();
+        return true;
+    }
     cursor_.take();
     if (!firstTime(clause))
         return false;
@@ -249,17 +251,20 @@ bool Parser::parseText(std::optional<std::string>& into, const char* what) {
 bool Parser::parseDecimals(std::optional<int>& into) {
     constexpr int most = 15;
     const Token& token = cursor_.peek();
+    const bool number = token.kind == TokenKind::Number;
+    if (!number && token.kind != TokenKind::Text) {
+        cursor_.unexpected("the number of decimals");
+        return false;
+    }
+    cursor_.take();
     int value = -1;
     const char* const end = token.text.data() + token.text.size();
-    const bool number = token.kind == TokenKind::Number;
     if (number && std::from_chars(token.text.data(), end, value).ptr == end && value >= 0 &&
-        value <= most) {
-        cursor_.take();
+        value <= most)
         into = value;
-        return true;
-    }
-    cursor_.report(Error::BadDecimals, token.position, {describe(token)});
-    return false;
+    else
+        cursor_.report(Error::BadDecimals, token.position, {describe(token)});
+    return true;
 }
 
 void Parser::parseTable() {
@@ -351,8 +356,11 @@ bool Parser::parseTableClause(ast::Table& table) {
         cursor_.take();
         return false;
     }
-    if ((places & notSupportedYet) != 0)
-        return notSupported();
+    if ((places & notSupportedYet) != 0) {
+        notSupported();
+        cursor_.skipClause();
+        return true;
+    }
     const bool dimension = clause.is(Keyword::By) || clause.is(Keyword::Tally);
     if (dimension && table.kind == Keyword::Count)
         return misplaced("COUNT counts the records of an entity; use FREQ for a table");

@@ -84,15 +84,6 @@ std::size_t endOfPiece(std::string_view text, std::size_t at) {
 
 } // namespace
 
-std::string lowerCase(std::string_view text) {
-    std::string result(text);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return result;
-}
-
 std::string upperCase(std::string_view text) {
     std::string result(text);
     for (char& c : result) {

@@ -2,6 +2,8 @@
 // Small rules about texts, independent of any locale.
 #pragma once
 
+#include "catalog/names.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -10,9 +12,9 @@
 
 namespace kelx::language {
 
-std::string lowerCase(std::string_view text); ///< A to Z only
-std::string upperCase(std::string_view text);
-std::string inQuotes(std::string_view text); ///< in double quotes, shortened where it is long
+using catalog::lowerCase;
+std::string upperCase(std::string_view text); ///< a to z only
+std::string inQuotes(std::string_view text);  ///< in double quotes, shortened where it is long
 std::string trimmed(std::string_view text);
 /// Blanks outside of quotes become one space each; none at the ends. Comments go away.
 std::string simplified(std::string_view source);

@@ -40,8 +40,8 @@ bool TokenCursor::atCommand() const {
     return (placesOf(peek().keyword) & startsCommand) != 0;
 }
 
-/// While skipping, a kind of table counts only at the start of a line: elsewhere it may be part of
-/// what is skipped, as in DEFINE A.B AS SUM C.D.
+/// Elsewhere on a line, the name of a kind of table may be part of what is skipped, as in DEFINE
+/// A.B AS SUM C.D.
 bool TokenCursor::startsCommandHere() const {
     const unsigned places = placesOf(peek().keyword);
     if ((places & startsAnywhere) != 0)
@@ -51,6 +51,11 @@ bool TokenCursor::startsCommandHere() const {
 }
 
 void TokenCursor::skipToClause() {
+    while (!atEnd() && !atClause() && !atCommand())
+        take();
+}
+
+void TokenCursor::skipClause() {
     while (!atEnd() && !atClause() && !startsCommandHere())
         take();
 }

@@ -29,6 +29,9 @@ public:
     bool atClause() const;  ///< a word that begins a clause of a table or of RUNDEF
     bool atCommand() const; ///< a word that begins a command where one is expected
     void skipToClause();    ///< to the next clause or command
+    // To the next clause or command past words that are not understood: there the name of a kind of
+    // table begins a command only at the start of a line.
+    void skipClause();
     void skipToCommand();
 
     void report(Error code, Position position, std::initializer_list<std::string> values = {}) {

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: Apache-2.0
+// Random data of several chunks against plain loops, and runs that are stopped.
+#include "small_country.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cmath>
+#include <random>
+#include <thread>
+
+namespace kelx::test {
+namespace {
+
+/// Households of 0 to 6 persons, 2.4 million persons, values by a fixed generator.
+class LargeCountry : public TestDatabase {
+public:
+    static constexpr std::size_t households = 800000;
+
+    LargeCountry() {
+        std::mt19937 random(42);
+        const auto below = [&](unsigned n) { return static_cast<std::int64_t>(random() % n); };
+        std::vector<std::uint64_t> sizes(households);
+        for (std::uint64_t& size : sizes)
+            size = random() % 7;
+        entity("COUNTRY", "HOUSEHOLD", {households});
+        entity("HOUSEHOLD", "PERSON", sizes);
+        std::vector<double> weights;
+        for (std::size_t h = 0; h < households; ++h) {
+            type.push_back(below(6));
+            weights.push_back(0.1 + static_cast<double>(below(1000)) / 7);
+            for (std::uint64_t i = 0; i < sizes[h]; ++i)
+                household.push_back(h);
+        }
+        const std::size_t persons = household.size();
+        for (std::size_t i = 0; i < persons; ++i) {
+            sex.push_back(below(2) + 1);
+            age.push_back(below(50) == 0 ? std::optional<std::int64_t>() : below(100));
+            work.push_back(below(5000) - 100);
+            income.push_back(static_cast<double>(below(40)) / 4);
+            late.push_back(i + 1000 > persons ? 1 : 0);
+        }
+        weight = weights;
+        integers("HOUSEHOLD", "TYPE", type);
+        reals("HOUSEHOLD", "WT", weights);
+        integers("PERSON", "SEX", sex);
+        integers("PERSON", "AGE", age);
+        integers("PERSON", "WORK", work);
+        integers("PERSON", "LATE", late);
+        reals("PERSON", "INCOME", income);
+    }
+
+    Integers type, sex, age, work, late;
+    std::vector<double> weight, income;
+    std::vector<std::size_t> household;
+};
+
+class Large : public testing::Test {
+protected:
+    static void SetUpTestSuite() { country_ = std::make_unique<LargeCountry>(); }
+    static void TearDownTestSuite() { country_.reset(); }
+
+    Figures of(const std::string& program) {
+        outcome_ = runAll(country_->dictionary, program);
+        return figures(outcome_.result.tables.at(0));
+    }
+    /// Adds up by a key for each person; an empty key is left out.
+    template <class Key, class Value>
+    static Figures expected(Key key, Value value) {
+        Figures result;
+        for (std::size_t i = 0; i < country_->household.size(); ++i) {
+            const std::string name = key(i);
+            if (!name.empty())
+                result[name] += value(i);
+        }
+        return result;
+    }
+    static std::string text(const std::optional<std::int64_t>& value) {
+        return value ? std::to_string(*value) : "MV";
+    }
+    static void expectNear(const Figures& actual, const Figures& expected) {
+        ASSERT_EQ(actual.size(), expected.size());
+        for (const auto& [key, value] : expected)
+            EXPECT_NEAR(actual.at(key), value, 1e-9 * std::fabs(value)) << key;
+    }
+    static double one(std::size_t) { return 1; }
+
+    static std::unique_ptr<LargeCountry> country_;
+    Outcome outcome_;
+};
+std::unique_ptr<LargeCountry> Large::country_;
+
+TEST_F(Large, frequencies) {
+    const LargeCountry& c = *country_;
+    EXPECT_EQ(of("FREQ PERSON.SEX"), expected([&](auto i) { return text(c.sex[i]); }, one));
+    EXPECT_EQ(of("FREQ PERSON.AGE"), expected([&](auto i) { return text(c.age[i]); }, one));
+    EXPECT_EQ(of("FREQ PERSON.WORK"), expected([&](auto i) { return text(c.work[i]); }, one));
+}
+
+TEST_F(Large, crosstabsOfSmallLargeAndHashedDomains) {
+    const LargeCountry& c = *country_;
+    EXPECT_EQ(
+        of("FREQ HOUSEHOLD.TYPE BY PERSON.SEX"),
+        expected([&](auto i) { return text(c.type[c.household[i]]) + "|" + text(c.sex[i]); }, one));
+    EXPECT_EQ(of("FREQ PERSON.AGE BY HOUSEHOLD.TYPE FILTER PERSON.SEX = 2"),
+              expected(
+                  [&](auto i) {
+                      return *c.sex[i] == 2 ? text(c.age[i]) + "|" + text(c.type[c.household[i]])
+                                            : "";
+                  },
+                  one));
+    of("FREQ PERSON.INCOME BY PERSON.SEX FILTER PERSON.AGE < 3");
+    double records = 0;
+    for (const auto& [key, value] : figures(outcome_.result.tables[0]))
+        records += value;
+    double young = 0;
+    for (const auto& age : c.age)
+        young += age && *age < 3 ? 1 : 0;
+    EXPECT_EQ(records, young);
+    EXPECT_EQ(outcome_.result.tables[0].cells.size(), 80U);
+}
+
+TEST_F(Large, weightedSumsAreTheSameOnAnyNumberOfThreads) {
+    const LargeCountry& c = *country_;
+    const auto weight = [&](std::size_t i) { return c.weight[c.household[i]]; };
+    expectNear(of("FREQ HOUSEHOLD.TYPE BY PERSON.SEX WEIGHT HOUSEHOLD.WT"),
+               expected([&](auto i) { return text(c.type[c.household[i]]) + "|" + text(c.sex[i]); },
+                        weight));
+    expectNear(
+        of("FREQ PERSON.SEX FILTER PERSON.AGE >= 15 WEIGHT HOUSEHOLD.WT TALLY PERSON.INCOME"),
+        expected([&](auto i) { return c.age[i] && *c.age[i] >= 15 ? text(c.sex[i]) : ""; },
+                 [&](std::size_t i) { return weight(i) * c.income[i]; }));
+}
+
+TEST_F(Large, blocksRuledOutLoseNothing) {
+    EXPECT_EQ(of("FREQ PERSON.LATE FILTER PERSON.LATE = 1").at("1"), 999);
+    EXPECT_EQ(of("RUNDEF r FILTER PERSON.LATE = 1 OR PERSON.WORK = 4899\nCOUNT PERSON").at(""),
+              expected(
+                  [&](auto i) {
+                      return *country_->late[i] == 1 || *country_->work[i] == 4899 ? "x" : "";
+                  },
+                  one)
+                  .at("x"));
+}
+
+TEST_F(Large, householdsWithAnyPassingPerson) {
+    const LargeCountry& c = *country_;
+    std::map<std::size_t, bool> any;
+    for (std::size_t i = 0; i < c.household.size(); ++i) {
+        if (c.age[i] && *c.age[i] > 95)
+            any[c.household[i]] = true;
+    }
+    EXPECT_EQ(of("RUNDEF r FILTER PERSON.AGE > 95\nCOUNT HOUSEHOLD").at(""),
+              static_cast<double>(any.size()));
+}
+
+class Stopping : public Large, public testing::WithParamInterface<unsigned> {};
+
+TEST_P(Stopping, leavesNothingAndComesSoon) {
+    using Clock = std::chrono::steady_clock;
+    execution::RunOptions options;
+    options.threads = GetParam();
+    Clock::time_point asked{};
+    int calls = 0;
+    options.progress = [&](int, int, int) {
+        if (++calls == 2)
+            asked = Clock::now();
+        return calls >= 2;
+    };
+    std::string program;
+    for (int i = 0; i < 200; ++i)
+        program += "FREQ PERSON.INCOME BY PERSON.WORK\n";
+    const Outcome outcome = runWith(country_->dictionary, program, options);
+    const auto delay = Clock::now() - asked;
+    EXPECT_TRUE(outcome.result.cancelled);
+    EXPECT_TRUE(outcome.result.tables.empty());
+    EXPECT_EQ(calls, 2);
+    EXPECT_LT(delay, std::chrono::milliseconds(1000)); // the aim is 200, on a machine at rest
+}
+
+TEST_P(Stopping, tellsProgressInOrder) {
+    execution::RunOptions options;
+    options.threads = GetParam();
+    const auto caller = std::this_thread::get_id();
+    int last = 0;
+    options.progress = [&](int expected, int elapsed, int percent) {
+        EXPECT_EQ(std::this_thread::get_id(), caller);
+        EXPECT_GE(percent, last);
+        EXPECT_LE(percent, 100);
+        EXPECT_GE(expected, elapsed);
+        last = percent;
+        return false;
+    };
+    const Outcome outcome =
+        runWith(country_->dictionary, "FREQ PERSON.INCOME BY PERSON.WORK", options);
+    EXPECT_FALSE(outcome.result.cancelled);
+    EXPECT_GT(last, 0);
+}
+
+TEST_P(Stopping, carriesWhatTheCallbackThrows) {
+    execution::RunOptions options;
+    options.threads = GetParam();
+    int calls = 0;
+    options.progress = [&](int, int, int) -> bool {
+        if (++calls > 1)
+            throw std::runtime_error("enough");
+        return false;
+    };
+    EXPECT_THROW(runWith(country_->dictionary, "FREQ PERSON.INCOME BY PERSON.WORK", options),
+                 std::runtime_error);
+}
+
+INSTANTIATE_TEST_SUITE_P(Threads, Stopping, testing::Values(1U, 2U));
+
+} // namespace
+} // namespace kelx::test

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fixture.h"
+#include "language/message_table.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace kelx::language {
+
+struct Fault {
+    const char* program;
+    const char* messages;
+};
+
+const std::vector<Fault> faults = {
+    // Characters and words.
+    {"FREQ SEX2\nTITLE \"n\xf1o\"",
+     "KEL_E_NOT_UTF8 2:9 The program is not valid UTF-8 here. Save it "
+     "with the encoding UTF-8.\n"},
+    {"FREQ SEX2 TITLE \"a\n  FILTER AGE > 5", "KEL_E_UNTERMINATED_STRING 1:17 The text that begins "
+                                              "here has no closing quote on its line.\n"},
+    {"FREQ SEX2 /* x\n*", "KEL_E_UNTERMINATED_COMMENT 1:11 The comment that begins here is never "
+                          "closed with */.\n"},
+    {"EXECUTE \"a.spc\" x = {3",
+     "KEL_E_NOT_SUPPORTED 1:1 EXECUTE is not supported yet.\n"
+     "KEL_E_UNTERMINATED_BRACE 1:21 The value that begins here is never closed with }.\n"},
+    {"FREQ SEX2 TITLE \"\xc3\xb1\" FILTER \xc3\xb1 # 5",
+     "KEL_E_UNKNOWN_VARIABLE 1:28 There is no variable \"\xc3\xb1\".\n"
+     "KEL_E_UNKNOWN_CHARACTER 1:30 The character \"#\" has no meaning in a program.\n"},
+    {"FREQ SEX2 FILTER AGE > \x01",
+     "KEL_E_UNKNOWN_CHARACTER 1:24 The character U+0001 has no meaning "
+     "in a program.\n"},
+    {"FREQ SEX2 FILTER AGE > 12ab",
+     "KEL_E_BAD_NUMBER 1:24 \"12ab\" is neither a number nor the name of a variable.\n"},
+    {"FREQ SEX2 FILTER AGE > 9223372036854775808",
+     "KEL_E_NUMBER_TOO_LARGE 1:24 The number \"9223372036854775808\" is too large: it needs more "
+     "than 64 bits.\n"},
+
+    // Structure.
+    {"FRQ SEX2\nFREQ SEX2", "KEL_E_UNEXPECTED 1:1 Found \"FRQ\", but expected a command, such as "
+                            "RUNDEF, TABLE or FREQ. Did you mean FREQ?\n"},
+    {"FREQ SEX2\n  TITEL \"x\"\nFREQ AGE BY",
+     "KEL_E_UNEXPECTED 2:3 Found \"TITEL\", but expected a clause of the table, such as BY or "
+     "TITLE, or a new command. Did you mean TITLE?\n"
+     "KEL_E_UNEXPECTED 3:12 Found the end of the program, but expected a variable, such as "
+     "Entity.Variable, or Entity.* for all of them.\n"},
+    {"FREQ TITLE \"x\"",
+     "KEL_E_UNEXPECTED 1:6 Found the reserved word TITLE, but expected a variable, "
+     "such as Entity.Variable, or Entity.* for all of them.\n"},
+    {"FREQ LINE",
+     "KEL_E_UNEXPECTED 1:6 Found the reserved word LINE, but expected a variable, such as "
+     "Entity.Variable, or Entity.* for all of them (a variable of this name is written "
+     "Entity.LINE).\n"},
+    {"FREQ PERSON.\"x\"", "KEL_E_UNEXPECTED 1:13 Found the text \"x\", but expected the name of a "
+                          "variable or *.\n"},
+    {"FREQ SEX2 FILTER AGE >\nFREQ AGE",
+     "KEL_E_UNEXPECTED 2:1 Found the reserved word FREQ, but expected a value, such as a number, a "
+     "text in quotes, Entity.Variable, a function or \"(\".\n"},
+    {"FREQ SEX2 FILTER (AGE > 5 TITLE \"x\"",
+     "KEL_E_UNEXPECTED 1:27 Found the reserved word TITLE, but expected an operator or \")\".\n"},
+    {"FREQ SEX2 FILTER AGE IN 5",
+     "KEL_E_UNEXPECTED 1:25 Found the number 5, but expected \"(\" and the "
+     "values of IN, as in IN (1:5, 9).\n"},
+    {"FREQ SEX2 FILTER AGE IN (1:)",
+     "KEL_E_UNEXPECTED 1:28 Found \")\", but expected a number or a text "
+     "in quotes.\n"},
+    {"FREQ SEX2 FILTER AGE IN (LOWEST)",
+     "KEL_E_UNEXPECTED 1:32 Found \")\", but expected \":\" and the "
+     "other end of the interval.\n"},
+    {"TABLE t PERSON.SEX FREQ AGE",
+     "KEL_E_UNEXPECTED 1:9 Found \"PERSON\", but expected AS and the kind "
+     "of the table, such as FREQ.\n"},
+    {"TABLE FREQ SEX2",
+     "KEL_E_UNEXPECTED 1:7 Found the reserved word FREQ, but expected the name of the "
+     "table.\n"},
+    {"RUNDEF r my TITLE \"x\"",
+     "KEL_E_UNEXPECTED 1:10 Found \"my\", but expected a clause of RUNDEF, such as SELECTION or "
+     "FILTER, or a command.\n"},
+    {"RUNDEF FILTERLABEL\nFREQ SEX2",
+     "KEL_E_UNEXPECTED 2:1 Found the reserved word FREQ, but expected "
+     "a label.\n"},
+    {"COUNT PERSON.SEX",
+     "KEL_E_UNEXPECTED 1:7 Found a variable, but expected the entity to count.\n"},
+    {"FREQ SEX2 SELECTION \"x\" TITLE \"y\"",
+     "KEL_E_MISPLACED_CLAUSE 1:11 SELECTION cannot stand here: it belongs to RUNDEF, before the "
+     "tables.\n"},
+    {"RUNDEF TALLY AGE",
+     "KEL_E_MISPLACED_CLAUSE 1:8 TALLY cannot stand here: it belongs to a table, "
+     "not to RUNDEF.\n"},
+    {"TITLE \"x\" FREQ SEX2",
+     "KEL_E_MISPLACED_CLAUSE 1:1 TITLE cannot stand here: it must follow the "
+     "command that it belongs to.\n"},
+    {"COUNT PERSON BY SEX2",
+     "KEL_E_MISPLACED_CLAUSE 1:14 BY cannot stand here: COUNT counts the records "
+     "of an entity; use FREQ for a table.\n"},
+    {"RUNDEF NOWEIGHT WEIGHT 1", "KEL_E_MISPLACED_CLAUSE 1:17 WEIGHT cannot stand here: WEIGHT, "
+                                 "AUTOWEIGHT and NOWEIGHT exclude each other.\n"},
+    {"FREQ SEX2 TITLE \"a\" BY AGE TITLE \"b\"",
+     "KEL_E_REPEATED_CLAUSE 1:28 TITLE is given twice for one command.\n"},
+    {"FREQ SEX2 DECIMALS 16 FREQ AGE DECIMALS \"2\"",
+     "KEL_E_BAD_DECIMALS 1:20 DECIMALS takes a number from 0 to 15, not the number 16.\n"
+     "KEL_E_BAD_DECIMALS 1:41 DECIMALS takes a number from 0 to 15, not the text \"2\".\n"},
+    {"CROSSTABS SEX2", "KEL_E_CROSSTABS_WITHOUT_BY 1:1 CROSSTABS needs BY and a variable for the "
+                       "columns.\n"},
+
+    // Names.
+    {"FREQ PERSONS.SEX", "KEL_E_UNKNOWN_ENTITY 1:6 There is no entity \"PERSONS\". Did you mean "
+                         "PERSON?\n"},
+    {"FREQ HOUSEHOLD.ROMS",
+     "KEL_E_UNKNOWN_VARIABLE 1:16 There is no variable \"ROMS\" in HOUSEHOLD. Did "
+     "you mean HOUSEHOLD.ROOMS?\n"},
+    {"FREQ HOUSEHOLD.AGE",
+     "KEL_E_UNKNOWN_VARIABLE 1:16 There is no variable \"AGE\" in HOUSEHOLD. Did "
+     "you mean PERSON.AGE?\n"},
+    {"FREQ ROMS",
+     "KEL_E_UNKNOWN_VARIABLE 1:6 There is no variable \"ROMS\". Did you mean ROOMS?\n"},
+    {"COUNT HOUSES", "KEL_E_UNKNOWN_ENTITY 1:7 There is no entity \"HOUSES\".\n"},
+    {"FREQ SEX", "KEL_E_AMBIGUOUS_NAME 1:6 More than one variable is called \"SEX\". Write one of "
+                 "PERSON.SEX, DEATH.SEX.\n"},
+    {"FREQ PROVINCE",
+     "KEL_E_ENTITY_NOT_VARIABLE 1:6 PROVINCE is an entity, but a variable is needed "
+     "here, such as PROVINCE.CODE.\n"},
+    {"FREQ NATION.*", "KEL_E_NO_VARIABLES 1:6 NATION has no variables.\n"},
+    {"FREQ SEX2 FILTER NATION = \"0\"",
+     "KEL_E_NO_CODE 1:18 NATION has no compound code: neither it nor "
+     "an entity above it has a code variable.\n"},
+
+    // Types.
+    {"FREQ SEX2 FILTER LENGHT(GRP) = 1",
+     "KEL_E_UNKNOWN_FUNCTION 1:18 There is no function \"LENGHT\". "
+     "Did you mean LENGTH?\n"},
+    {"FREQ SEX2 FILTER LEFT(GRP) = \"a\"",
+     "KEL_E_ARGUMENT_COUNT 1:18 LEFT is written LEFT(text, size); "
+     "found 1 arguments.\n"},
+    {"FREQ SEX2 FILTER LEFT(AGE, 1.5) = \"a\" OR MISSING(AGE + 1) OR CMPCODE(AGE + 1) = \"\"",
+     "KEL_E_ARGUMENT_TYPE 1:23 Argument 1 of LEFT must be a text.\n"
+     "KEL_E_ARGUMENT_TYPE 1:28 Argument 2 of LEFT must be a whole number.\n"
+     "KEL_E_ARGUMENT_TYPE 1:50 Argument 1 of MISSING must be a variable.\n"
+     "KEL_E_ARGUMENT_TYPE 1:70 Argument 1 of CMPCODE must be an entity.\n"},
+    {"FREQ SEX2 FILTER AGE AND NOT \"x\" OR GRP + 1 > -WORKS",
+     "KEL_E_OPERAND_TYPE 1:18 The operands of AND must be conditions, but this is a number.\n"
+     "KEL_E_OPERAND_TYPE 1:30 The operands of NOT must be conditions, but this is a text.\n"
+     "KEL_E_OPERAND_TYPE 1:37 The operands of \"+\" must be numbers, but this is a text.\n"
+     "KEL_E_OPERAND_TYPE 1:48 The operands of \"-\" must be numbers, but this is a condition.\n"},
+    {"FREQ SEX2 FILTER AGE = \"5\" OR GRP = 5 OR PROVINCE = 3 OR WORKS > FALSE OR WORKS = 1",
+     "KEL_E_COMPARE_TYPES 1:24 a number cannot be compared with a text. Leave out the quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:37 a text cannot be compared with a number. Put the number in quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:53 a text cannot be compared with a number. Put the code in quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:66 a condition cannot be compared with a condition.\n"
+     "KEL_E_COMPARE_TYPES 1:83 a condition cannot be compared with a number.\n"},
+    {"FREQ SEX2 FILTER AGE IN (1:5, \"6\")",
+     "KEL_E_COMPARE_TYPES 1:31 a number cannot be compared with a text. Leave out the quotes.\n"},
+    {"FREQ SEX2 FILTER AGE", "KEL_E_NOT_A_CONDITION 1:18 FILTER takes a condition, but this is a "
+                             "number.\n"},
+    {"WEIGHT GRP FREQ SEX2 TALLY AGE > 3",
+     "KEL_E_NOT_A_NUMBER 1:8 WEIGHT takes a number, but this is a "
+     "text.\n"
+     "KEL_E_NOT_A_NUMBER 1:28 TALLY takes a number, but this is a "
+     "condition.\n"},
+
+    // Entities.
+    {"FREQ PERSON.SEX BY DEATH.SEX",
+     "KEL_E_BRANCHES 1:20 PERSON and DEATH cannot be used together: "
+     "neither of them is part of the other.\n"},
+    {"FREQ ROOMS FILTER AGE > 3 AND CAUSE = 1",
+     "KEL_E_BRANCHES 1:31 PERSON and DEATH cannot be used together: neither of them is part of the "
+     "other.\n"},
+    {"FREQ AGE\n FILTER CAUSE = 3",
+     "KEL_E_FILTER_BRANCH 2:9 The filter is about DEATH, but the table "
+     "counts PERSON, which is neither above nor below it.\n"},
+    {"RUNDEF WEIGHT WEIGHT2 FREQ CAUSE",
+     "KEL_E_BRANCHES 1:23 DEATH and PERSON cannot be used together: "
+     "neither of them is part of the other.\n"},
+
+    // Warnings.
+    {"RUNDEF FILTER AGE > 60 FREQ ROOMS, RENT, AGE",
+     "KEL_W_FILTER_BELOW 1:15 The filter is about PERSON: each HOUSEHOLD that has at least one "
+     "such "
+     "PERSON is kept.\n"},
+    {"FREQ AGE FILTER AGE IN (5 : 1)",
+     "KEL_W_EMPTY_INTERVAL 1:25 The interval 5 : 1 holds no value: its "
+     "lower end is above its upper end.\n"},
+    {"TABLE t FREQ AGE\nTABLE T FREQ ROOMS",
+     "KEL_W_TABLE_NAME_AGAIN 2:1 There is already a table named "
+     "T.\n"},
+};
+
+class Faults : public ::testing::TestWithParam<Fault> {};
+
+TEST_P(Faults, AreToldWhereTheyAre) {
+    Census census;
+    census.compile(GetParam().program);
+    EXPECT_EQ(told(census.messages), GetParam().messages) << GetParam().program;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Faults, ::testing::ValuesIn(faults));
+
+TEST(Unsupported, IsToldOnceForEachWord) {
+    Census census;
+    const BoundProgram program = census.compile(
+        "TABLESTYLE \"f\"\n"
+        "RUNDEF r AREABREAK PROVINCE TITLE \"x\"\n"
+        "define PROVINCE.KEY as cmpcode (PROVINCE)\n"
+        "DEFINE HOUSEHOLD.N AS\n COUNT PERSON\n FILTER AGE > 3 TYPE integer\n"
+        "FREQ PROVINCE.KEY BY SEX2 FILTER N > 3\n"
+        "FREQ SEX2 SORT DESC sum 3 OUTFILE xls \"a.xlsx\" utf8 overwrite TITLE \"t\"\n"
+        "AVERAGE AGE BY SEX2\nTABLE a AS average AGE\nTABLE b AS\nSUM AGE\n"
+        "AREALIST  PROVINCE, PROVINCE.NAME,\n T\nSORT PROVINCE.NAME\nCOUNT DEATH\n"
+        "STATS of AGE\nEXECUTE \"a.spc\" x = {1, 2}\n");
+    EXPECT_EQ(told(census.messages), "KEL_E_NOT_SUPPORTED 1:1 TABLESTYLE is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 2:10 AREABREAK is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 3:1 DEFINE is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 8:11 SORT is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 8:27 OUTFILE is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 9:1 AVERAGE is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 12:1 SUM is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 13:1 AREALIST is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 17:1 STATS is not supported yet.\n"
+                                     "KEL_E_NOT_SUPPORTED 18:1 EXECUTE is not supported yet.\n");
+    ASSERT_EQ(program.tables.size(), 2u);
+    EXPECT_EQ(program.tables[0].title, "t");
+    EXPECT_EQ(program.tables[1].name, "COUNT_1");
+}
+
+TEST(DataFiles, MustBeThere) {
+    Census census;
+    const std::string file = census.variable("PERSON", "LOST").filePath().string();
+    census.compile("FREQ SEX2\nFREQ PERSON.LOST, AGE BY LOST");
+    EXPECT_EQ(told(census.messages),
+              "KEL_E_DATA_FILE_MISSING 2:6 The data of PERSON.LOST are missing: "
+              "there is no file " +
+                  file + ".\n");
+    std::filesystem::remove(census.variable("HOUSEHOLD", "WEIGHT").filePath());
+    std::filesystem::remove(census.variable("PROVINCE", "CODE").filePath());
+    census.compile("FREQ SEX2\nRUNDEF NOWEIGHT FREQ SEX2 FILTER DISTRICT = \"1\"");
+    EXPECT_EQ(located(census.messages),
+              "KEL_E_DATA_FILE_MISSING 1:1\nKEL_E_DATA_FILE_MISSING 2:34\n");
+    census.add("PERSON", "BROKEN", ValueType::None);
+    census.compile("RUNDEF NOWEIGHT FREQ BROKEN");
+    EXPECT_EQ(located(census.messages), "KEL_E_DATA_FILE_DAMAGED 1:22\n");
+}
+
+TEST(MessageTable, IsTestedAsAWhole) {
+    std::set<std::string> seen = {"KEL_E_MORE",
+                                  "KEL_W_MORE",
+                                  "KEL_E_NOT_SUPPORTED",
+                                  "KEL_E_DATA_FILE_MISSING",
+                                  "KEL_E_TOO_DEEP",
+                                  "KEL_E_PROGRAM_TOO_LARGE",
+                                  "KEL_E_TOO_MANY_TABLES",
+                                  "KEL_E_DATA_FILE_DAMAGED",
+                                  "KEL_E_SELECTION_FILE",
+                                  "KEL_W_SELECTION_BELOW"};
+    for (const Fault& fault : faults) {
+        Census census;
+        census.compile(fault.program);
+        for (const Message& message : census.messages.all())
+            seen.insert(codeName(message.severity, message.code));
+    }
+    for (const MessageEntry& entry : messageTable())
+        EXPECT_TRUE(seen.contains(entry.name)) << entry.name << " has no test";
+}
+
+} // namespace kelx::language

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fixture.h"
+
+#include "catalog/names.h"
+#include "language/message_table.h"
+
+#include <atomic>
+#include <fstream>
+#include <unistd.h>
+
+namespace kelx::language {
+
+namespace {
+
+std::filesystem::path newFolder() {
+    static std::atomic<int> number = 0;
+    const std::string name =
+        "kelx-language-" + std::to_string(getpid()) + "-" + std::to_string(++number);
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
+    std::filesystem::create_directories(folder);
+    return folder;
+}
+
+catalog::Entity* addEntity(catalog::Entity& parent, const std::string& name) {
+    auto entity = std::make_unique<catalog::Entity>();
+    entity->name = name;
+    return parent.addChild(std::move(entity));
+}
+
+const char* symbolOf(Operation operation) {
+    switch (operation) {
+    case Operation::And:
+        return "AND";
+    case Operation::Or:
+        return "OR";
+    case Operation::Equal:
+        return "=";
+    case Operation::NotEqual:
+        return "<>";
+    case Operation::Less:
+        return "<";
+    case Operation::LessEqual:
+        return "<=";
+    case Operation::Greater:
+        return ">";
+    case Operation::GreaterEqual:
+        return ">=";
+    case Operation::Add:
+        return "+";
+    case Operation::Subtract:
+        return "-";
+    case Operation::Multiply:
+        return "*";
+    case Operation::Divide:
+        return "/";
+    default:
+        return "?";
+    }
+}
+
+std::string show(const Constant& constant) {
+    if (const auto* integer = std::get_if<std::int64_t>(&constant))
+        return std::to_string(*integer);
+    if (const auto* real = std::get_if<double>(&constant))
+        return "real " + catalog::numberText(*real);
+    if (const auto* text = std::get_if<std::string>(&constant))
+        return "'" + *text + "'";
+    return std::get<bool>(constant) ? "TRUE" : "FALSE";
+}
+
+std::string show(const Interval& interval) {
+    const std::string low = interval.low ? show(*interval.low) : "lowest";
+    const std::string high = interval.high ? show(*interval.high) : "highest";
+    return low + ":" + high;
+}
+
+std::string arguments(const Expression& expression) {
+    std::string list;
+    for (const auto& argument : expression.arguments)
+        list += (list.empty() ? "" : ", ") + shape(*argument);
+    return "(" + list + ")";
+}
+
+std::string list(const Messages& messages, bool withTexts) {
+    std::string result;
+    for (const Message& message : messages.forDisplay()) {
+        result += codeName(message.severity, message.code) +
+                  (" " + std::to_string(message.position.line)) + ":" +
+                  std::to_string(message.position.column) + (withTexts ? " " + message.text : "") +
+                  "\n";
+    }
+    return result;
+}
+
+} // namespace
+
+Census::Census() {
+    dictionary.dataFolder = options.baseFolder = newFolder();
+    dictionary.root = std::make_unique<catalog::Entity>();
+    dictionary.root->name = "NATION";
+    dictionary.root->dictionary = &dictionary;
+    catalog::Entity* province = addEntity(*dictionary.root, "PROVINCE");
+    catalog::Entity* district = addEntity(*province, "DISTRICT");
+    catalog::Entity* household = addEntity(*district, "HOUSEHOLD");
+    addEntity(*household, "PERSON")->alias = "POP";
+    addEntity(*household, "DEATH");
+    province->codeVar = &add("PROVINCE", "CODE", ValueType::String);
+    add("PROVINCE", "NAME", ValueType::String);
+    district->codeVar = &add("DISTRICT", "CODE", ValueType::String);
+    add("DISTRICT", "POP-2020", ValueType::Integer);
+    household->weightVar = &add("HOUSEHOLD", "WEIGHT", ValueType::Real);
+    add("HOUSEHOLD", "ROOMS", ValueType::Integer);
+    add("HOUSEHOLD", "RENT", ValueType::Real);
+    add("PERSON", "SEX", ValueType::Integer);
+    add("PERSON", "AGE", ValueType::Integer).alias = "YEARS";
+    add("PERSON", "GRP", ValueType::String);
+    add("PERSON", "WORKS", ValueType::Boolean);
+    add("PERSON", "2NDJOB", ValueType::Integer);
+    add("PERSON", "LINE", ValueType::Integer);
+    add("PERSON", "SEX2", ValueType::Integer);
+    add("PERSON", "WEIGHT2", ValueType::Real);
+    add("DEATH", "SEX", ValueType::Integer);
+    add("DEATH", "CAUSE", ValueType::Integer);
+    add("PERSON", "LOST", ValueType::Integer);
+    std::filesystem::remove(variable("PERSON", "LOST").filePath());
+}
+
+Census::~Census() {
+    std::error_code ignored;
+    std::filesystem::remove_all(options.baseFolder, ignored);
+}
+
+catalog::Variable& Census::add(const std::string& entityName, const std::string& name,
+                               ValueType type) {
+    auto variable = std::make_unique<catalog::Variable>();
+    variable->name = name;
+    variable->type = type;
+    variable->fileName = entityName + "_" + name + ".kbf";
+    write(variable->fileName, "x");
+    return *entity(entityName).addVariable(std::move(variable));
+}
+
+std::filesystem::path Census::write(const std::string& file, const std::string& content) const {
+    const std::filesystem::path path = options.baseFolder / file;
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+BoundProgram Census::compile(const std::string& program) {
+    messages = {};
+    return language::compile(program, dictionary, options, messages);
+}
+
+std::string located(const Messages& messages) {
+    return list(messages, false);
+}
+
+std::string told(const Messages& messages) {
+    return list(messages, true);
+}
+
+std::string shape(const Expression& expression) {
+    switch (expression.operation) {
+    case Operation::Constant:
+        return show(expression.constant);
+    case Operation::VariableValue:
+        return expression.variable->fullName();
+    case Operation::CompoundCode:
+        return "code " + expression.codeEntity->name;
+    case Operation::Not:
+        return "NOT" + arguments(expression);
+    case Operation::Negate:
+        return "-" + arguments(expression);
+    case Operation::Function:
+        return expression.function + arguments(expression);
+    case Operation::In: {
+        std::string result = "(" + shape(*expression.arguments[0]) + " IN";
+        for (const Interval& interval : expression.intervals)
+            result += " " + show(interval);
+        return result + ")";
+    }
+    default:
+        return "(" + shape(*expression.arguments.at(0)) + " " + symbolOf(expression.operation) +
+               " " + shape(*expression.arguments.at(1)) + ")";
+    }
+}
+
+std::string summary(const BoundProgram& program) {
+    std::string result;
+    for (const TableCommand& table : program.tables) {
+        result += table.name + " " + table.unit->name + ":";
+        for (std::size_t i = 0; i < table.dimensions.size(); ++i)
+            result += (i == 0 ? " " : " BY ") + shape(*table.dimensions[i]);
+        if (table.weight != nullptr)
+            result += " weight " + shape(*table.weight);
+        if (table.tally != nullptr)
+            result += " tally " + shape(*table.tally);
+        if (table.filter != nullptr)
+            result += " filter " + shape(*table.filter);
+        if (table.settings->filter != nullptr)
+            result += " all " + shape(*table.settings->filter);
+        if (table.title)
+            result += " title " + *table.title;
+        if (table.decimals)
+            result += " decimals " + std::to_string(*table.decimals);
+        result += "\n";
+    }
+    return result;
+}
+
+} // namespace kelx::language

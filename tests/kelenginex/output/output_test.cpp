@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "output/table.h"
+
+#include "small_country.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace kelx::test {
+namespace {
+
+class Output : public testing::Test {
+protected:
+    output::Table of(const std::string& program) {
+        last_ = runAll(country_.dictionary, program);
+        return output::makeTable(last_.result.tables.at(0), country_.dictionary);
+    }
+    static std::vector<std::string> rows(const output::Table& table) {
+        std::vector<std::string> result;
+        for (std::int64_t r = 0; r < table.rows(); ++r) {
+            std::string line;
+            for (std::size_t c = 0; c < table.fields.size(); ++c)
+                line += (c > 0 ? "," : "") + output::toText(table.at(r, c));
+            result.push_back(line);
+        }
+        return result;
+    }
+    SmallCountry country_;
+    Outcome last_;
+};
+
+TEST_F(Output, valuesAsTextAreShortestAndWithoutExponent) {
+    EXPECT_EQ(output::toText(output::Value(std::int64_t{-7})), "-7");
+    EXPECT_EQ(output::toText(output::Value(0.1)), "0.1");
+    EXPECT_EQ(output::toText(output::Value(1e21)), "1000000000000000000000");
+    EXPECT_EQ(output::toText(output::Value(1e-7)), "0.0000001");
+    EXPECT_EQ(output::toText(output::Value(-0.0)), "0");
+    EXPECT_EQ(output::toText(output::Value(42.0)), "42");
+    EXPECT_EQ(output::toText(output::Value()), "");
+}
+
+TEST_F(Output, oneDimensionHasTotalOfValidAndMarkers) {
+    const output::Table table = of("FREQ PERSON.AGE");
+    EXPECT_EQ(rows(table),
+              (std::vector<std::string>{"7,7,,2", "15,15,,1", "34,34,,1", "70,70,,1",
+                                        "0,__tot__,tot,5", "0,__mv__,mv,2", "0,__na__,na,1"}));
+    EXPECT_EQ(table.unit, "PERSON");
+    EXPECT_EQ(table.fields.back().name, "PERSON");
+    EXPECT_EQ(table.area, "All Database");
+    EXPECT_EQ(table.database, "Test country");
+}
+
+TEST_F(Output, twoDimensionsHaveTotalsOfBoth) {
+    // Counted by hand: the missing type is of a household without persons, ages of women 99, 98
+    // and blank are MV or NA.
+    EXPECT_EQ(
+        rows(of("CROSSTABS HOUSEHOLD.TYPE BY PERSON.AGE FILTER PERSON.SEX = 2")),
+        (std::vector<std::string>{"1,1,,70,70,,1", "1,1,,0,__tot__,tot,1", "1,1,,0,__mv__,mv,1",
+                                  "2,2,,0,__mv__,mv,1", "2,2,,0,__na__,na,1",
+                                  "0,__tot__,tot,70,70,,1", "0,__tot__,tot,0,__tot__,tot,1",
+                                  "0,__tot__,tot,0,__mv__,mv,2", "0,__tot__,tot,0,__na__,na,1"}));
+}
+
+TEST_F(Output, theGrandTotalStandsInEmptyTables) {
+    EXPECT_EQ(rows(of("FREQ PERSON.SEX BY PERSON.JOB FILTER FALSE")),
+              (std::vector<std::string>{"0,__tot__,tot,0,__tot__,tot,0"}));
+}
+
+TEST_F(Output, countsHaveOneRow) {
+    const output::Table table = of("COUNT PERSON");
+    EXPECT_EQ(rows(table), (std::vector<std::string>{"PERSON,8"}));
+    EXPECT_EQ(table.entity, country_.dictionary.findEntity("PERSON"));
+    EXPECT_EQ(table.kind, "COUNT");
+}
+
+TEST_F(Output, jsonHasItsKeysInOrderAndNumbersAsNumbers) {
+    const output::Table table =
+        of("RUNDEF r FILTER PERSON.AGE < 90 FILTERLABEL young\nTABLE t AS FREQ PERSON.SEX "
+           "WEIGHT HOUSEHOLD.WT FILTER PERSON.JOB TITLE \"Say \"\"sex\"\"\"");
+    const auto json = nlohmann::ordered_json::parse(output::asJson(table));
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : json.items())
+        keys.push_back(key);
+    EXPECT_EQ(keys, (std::vector<std::string>{"name", "title", "kind", "method", "unit", "database",
+                                              "area", "filter", "weight", "tally",
+                                              "universalFilter", "suppressed", "decimals",
+                                              "variables", "fields", "rows", "seconds"}));
+    EXPECT_EQ(json["title"], "Say \"sex\"");
+    EXPECT_EQ(json["universalFilter"], "young");
+    EXPECT_EQ(json["weight"], "HOUSEHOLD.WT");
+    EXPECT_TRUE(json["tally"].is_null());
+    EXPECT_EQ(json["variables"][0]["label"], "Sex");
+    EXPECT_EQ(json["rows"][0], nlohmann::json::parse(R"(["1", "Male", "", 1.5])"));
+    EXPECT_EQ(json["rows"][2], nlohmann::json::parse(R"(["0", "__tot__", "tot", 2.0])"));
+}
+
+TEST_F(Output, csvQuotesWhatNeedsIt) {
+    catalog::Variable& sex = *country_.dictionary.findEntity("PERSON")->findVariable("SEX");
+    sex.valueLabels = {{"1", "Men, \"boys\""}, {"2", "Women"}};
+    EXPECT_EQ(output::asCsv(of("FREQ PERSON.SEX")),
+              "PERSON.SEX,PERSON.SEX label,PERSON.SEX kind,PERSON\r\n"
+              "1,\"Men, \"\"boys\"\"\",,4\r\n2,Women,,4\r\n0,__tot__,tot,8\r\n");
+}
+
+TEST_F(Output, textAlignsCharactersAndSaysTheUnit) {
+    EXPECT_EQ(output::asText(of("TABLE t AS FREQ PROVINCE.NAME WEIGHT 2")), R"(t (FREQUENCY)
+Database: Test country
+Area: All Database
+Unit of count: PROVINCE
+Weight: 2
+
+NAME     Province
+-----------------
+North           2
+South           2
+Sud-Oué         2
+Total           6
+)");
+    EXPECT_EQ(output::asText(of("TABLE t AS CROSSTABS PROVINCE.NAME BY PERSON.AGE "
+                                "FILTER PROVINCE.CODE <> \"01\"")),
+              R"(t (FREQUENCY)
+Database: Test country
+Area: All Database
+Unit of count: PERSON
+Filter: PROVINCE.CODE <> "01"
+
+NAME by AGE  7  15  70  Total  MV
+---------------------------------
+South        2   -   1      3   -
+Sud-Oué      -   1   -      1   1
+Total        2   1   1      4   1
+)");
+}
+
+} // namespace
+} // namespace kelx::test

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "import/csv_importer.h"
+
+#include "catalog/reader.h"
+#include "import/level_scan.h"
+#include "import/level_writer.h"
+#include "import/staging.h"
+#include "import/values.h"
+#include "storage/error.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
+
+namespace kelx::tools {
+
+namespace {
+
+using storage::ValueType;
+namespace fs = std::filesystem;
+
+constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
+
+struct Level {
+    const LevelPlan* plan = nullptr;
+    fs::path file;
+    std::size_t parent = none;
+    std::unique_ptr<LevelScan> scan;
+    catalog::Entity* entity = nullptr;
+};
+
+class Importer {
+public:
+    explicit Importer(const ImportRequest& request)
+        : request_(request), book_(readCodebook(request.codebook)) {}
+
+    ImportReport run() {
+        listLevels();
+        placeLevels();
+        checkCodebook();
+        for (Level& level : levels_)
+            scan(level);
+        buildDictionary();
+        write();
+        return report();
+    }
+
+private:
+    Level& levelNamed(const std::string& name) {
+        const auto found =
+            std::find_if(levels_.begin(), levels_.end(), [&](const Level& level) {
+                return level.plan->name == upperCase(name);
+            });
+        if (found == levels_.end())
+            throw std::runtime_error(name + " is none of the levels.");
+        return *found;
+    }
+
+    void listLevels() {
+        if (request_.levels.empty())
+            throw std::runtime_error("There is no level to import.");
+        for (const auto& [name, file] : request_.levels) {
+            Level level;
+            level.plan = book_.find(upperCase(name));
+            level.file = file;
+            if (level.plan == nullptr)
+                throw std::runtime_error(book_.file + ": the level " + name +
+                                         " is not in the codebook.");
+            for (const Level& other : levels_)
+                if (other.plan == level.plan)
+                    throw std::runtime_error("The level " + name + " is given twice.");
+            levels_.push_back(std::move(level));
+        }
+        rootName_ = !request_.root.empty() ? upperCase(request_.root)
+                                           : book_.root.value_or("DATABASE");
+        if (!isName(rootName_))
+            throw std::runtime_error(inQuotes(rootName_) + " cannot be the name of the root.");
+        rootIsLevel_ = levels_.front().plan->name == rootName_;
+        for (std::size_t i = 1; i < levels_.size(); ++i)
+            if (levels_[i].plan->name == rootName_)
+                throw std::runtime_error("The root " + rootName_ + " must be the first level.");
+    }
+
+    void placeLevels() {
+        for (std::size_t i = 1; i < levels_.size(); ++i)
+            levels_[i].parent = i - 1;
+        for (const auto& [child, parent] : request_.under) {
+            Level& below = levelNamed(child);
+            const Level& above = levelNamed(parent);
+            if (&above >= &below)
+                throw std::runtime_error(above.plan->name + " must be given before " +
+                                         below.plan->name + ", which lies under it.");
+            below.parent = static_cast<std::size_t>(&above - levels_.data());
+        }
+    }
+
+    /// A described level without a file is a slip, unless it is the root.
+    void checkCodebook() const {
+        for (const LevelPlan& plan : book_.levels) {
+            const bool given =
+                std::any_of(levels_.begin(), levels_.end(),
+                            [&](const Level& level) { return level.plan == &plan; });
+            if (!given && plan.name != rootName_)
+                throw LocatedError(book_.file, plan.place,
+                                   "the level " + plan.name + " has no file");
+        }
+    }
+
+    bool isRoot(const Level& level) const { return rootIsLevel_ && &level == levels_.data(); }
+
+    void scan(Level& level) {
+        LevelScan::Position position;
+        position.isRoot = isRoot(level);
+        for (std::size_t above = level.parent; above != none; above = levels_[above].parent)
+            if (!isRoot(levels_[above]))
+                position.chain.insert(position.chain.begin(), levels_[above].scan.get());
+        level.scan = std::make_unique<LevelScan>(level.file, *level.plan, book_, position);
+    }
+
+    void buildDictionary() {
+        dictionary_.name = request_.database.stem().string();
+        dictionary_.label = dictionary_.name;
+        dictionary_.key = request_.key;
+        dictionary_.root = std::make_unique<catalog::Entity>();
+        catalog::Entity& root = *dictionary_.root;
+        root.dictionary = &dictionary_;
+        root.name = root.label = rootName_;
+        if (const LevelPlan* plan = book_.find(rootName_); plan != nullptr && !plan->label.empty())
+            root.label = dictionary_.label = plan->label;
+        for (Level& level : levels_)
+            addEntity(level);
+    }
+
+    void addEntity(Level& level) {
+        if (isRoot(level)) {
+            level.entity = dictionary_.root.get();
+        } else {
+            auto entity = std::make_unique<catalog::Entity>();
+            entity->name = level.plan->name;
+            entity->label = level.plan->label.empty() ? level.plan->name : level.plan->label;
+            entity->fileName = dataFile(entity->name, ".kpt");
+            entity->selectable = level.plan->withRole(FieldRole::Key) != nullptr && hasBelow(level);
+            catalog::Entity& parent =
+                level.parent == none ? *dictionary_.root : *levels_[level.parent].entity;
+            level.entity = parent.addChild(std::move(entity));
+        }
+        for (const ColumnSummary& column : level.scan->columns())
+            if (column.field->role != FieldRole::ParentKey)
+                addVariable(*level.entity, column);
+    }
+
+    bool hasBelow(const Level& level) const {
+        return std::any_of(levels_.begin(), levels_.end(), [&](const Level& other) {
+            return other.parent != none && &levels_[other.parent] == &level;
+        });
+    }
+
+    void addVariable(catalog::Entity& entity, const ColumnSummary& column) {
+        const FieldPlan& field = *column.field;
+        auto made = std::make_unique<catalog::Variable>();
+        made->name = field.name;
+        made->label = field.label;
+        made->fileName = dataFile(entity.name + "_" + field.name, ".kbf");
+        made->type = field.type;
+        made->size = field.width;
+        if (field.type == ValueType::Real)
+            made->decimals = column.decimals;
+        for (const CodeEntry& entry : field.codes) {
+            if (!entry.label.empty())
+                made->valueLabels.emplace_back(entry.code, entry.label);
+            if (entry.meaning == CodeMeaning::Missing)
+                made->missing = parseReal(entry.code);
+            if (entry.meaning == CodeMeaning::NotApplicable)
+                made->notapp = parseReal(entry.code);
+        }
+        catalog::Variable* variable = entity.addVariable(std::move(made));
+        if (field.role == FieldRole::Key)
+            entity.codeVar = variable;
+        if (field.role == FieldRole::Label)
+            entity.labelVar = variable;
+        if (field.role == FieldRole::Weight)
+            entity.weightVar = variable;
+    }
+
+    /// A file name that no other one of this database has.
+    std::string dataFile(const std::string& stem, const std::string& extension) {
+        std::string name = stem + extension;
+        for (int n = 2; !files_.insert(name).second; ++n)
+            name = stem + "_" + std::to_string(n) + extension;
+        return name;
+    }
+
+    void write() {
+        const std::string own = request_.database.filename().string();
+        std::vector<std::string> names(files_.begin(), files_.end());
+        names.push_back(own); // last: the database is there once its data are
+        Staging staging(request_.database, names, request_.overwrite);
+        dictionary_.file = staging.folder() / own;
+        dictionary_.dataFolder = staging.folder();
+        for (const Level& level : levels_)
+            writeLevel(*level.scan, book_, *level.entity, staging.folder(), request_.key);
+        catalog::saveDictionary(dictionary_, dictionary_.file);
+        staging.publish();
+    }
+
+    ImportReport report() const {
+        ImportReport report;
+        for (const Level& level : levels_) {
+            ImportReport::Level& told = report.levels.emplace_back();
+            told.name = level.plan->name;
+            told.records = level.scan->records();
+            told.sorted = !level.scan->order().empty();
+            for (const ColumnSummary& column : level.scan->columns())
+                if (column.field->role != FieldRole::ParentKey)
+                    told.variables.push_back({column.field->name, column.field->type,
+                                              column.blanks, column.field->coded,
+                                              column.outsideLabels});
+        }
+        return report;
+    }
+
+    const ImportRequest& request_;
+    Codebook book_;
+    std::vector<Level> levels_;
+    std::string rootName_;
+    bool rootIsLevel_ = false;
+    std::set<std::string> files_;
+    catalog::Dictionary dictionary_;
+};
+
+} // namespace
+
+ImportReport importCsv(const ImportRequest& request) { return Importer(request).run(); }
+
+} // namespace kelx::tools

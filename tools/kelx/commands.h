@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+// The subcommands. Each adds itself to the command line and to what is run afterwards.
+#pragma once
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace kelx::tool {
+
+/// A subcommand's work; returns the exit status.
+using Action = std::function<int()>;
+
+constexpr int success = 0;
+constexpr int failure = 1; ///< a fault of a program or of data
+constexpr int misuse = 2;  ///< a fault of the command line
+
+void addSample(CLI::App& app, Action& action);
+void addInfo(CLI::App& app, Action& action);
+void addRun(CLI::App& app, Action& action);
+void addImport(CLI::App& app, Action& action);
+void addConvert(CLI::App& app, Action& action);
+
+} // namespace kelx::tool
