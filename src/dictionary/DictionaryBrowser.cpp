@@ -67,7 +67,7 @@ DictionaryBrowser::DictionaryBrowser(QWidget* parent)
     setStretchFactor(0, 0);
     setStretchFactor(1, 1);
     const int unit = fontMetrics().averageCharWidth();
-    setSizes({36 * unit, 120 * unit});
+    setSizes({48 * unit, 120 * unit});
     retranslate();
 }
 
@@ -76,6 +76,7 @@ void DictionaryBrowser::makeTree() {
     tree_->setObjectName(QStringLiteral("entityTree"));
     tree_->setModel(entities_);
     tree_->setUniformRowHeights(true);
+    tree_->setIndentation(tree_->fontMetrics().height());
     tree_->header()->setStretchLastSection(false);
     tree_->header()->setSectionResizeMode(EntityTreeModel::NameColumn, QHeaderView::Stretch);
     tree_->header()->setSectionResizeMode(EntityTreeModel::RecordsColumn,
@@ -111,7 +112,7 @@ QWidget* DictionaryBrowser::makeVariablesPane() {
     table_->setSortingEnabled(true);
     table_->sortByColumn(-1, Qt::AscendingOrder);
     table_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    setColumnWidths(table_, {22, 38, 12, 18, 8, 13});
+    setColumnWidths(table_, {20, 30, 12, 15, 9, 14});
     connect(filterLine_, &QLineEdit::textChanged, this, [this](const QString& text) {
         filter_->setText(text);
         updateCount();
@@ -209,10 +210,10 @@ void DictionaryBrowser::retranslate() {
     tree_->setAccessibleName(tr("Entities"));
     table_->setAccessibleName(tr("Variables"));
     labels_->setAccessibleName(tr("Value labels"));
-    // Headers ask their models for texts only when they paint.
-    for (QHeaderView* header :
-         {tree_->header(), table_->horizontalHeader(), labels_->horizontalHeader()})
-        header->viewport()->update();
+    // New titles need new widths.
+    emit entities_->headerDataChanged(Qt::Horizontal, 0, EntityTreeModel::ColumnCount - 1);
+    emit filter_->headerDataChanged(Qt::Horizontal, 0, VariableTableModel::ColumnCount - 1);
+    emit valueLabels_->headerDataChanged(Qt::Horizontal, 0, ValueLabelModel::ColumnCount - 1);
     const TKpVariable* variable = currentVariable();
     labelsBox_->setTitle(variable == nullptr ? tr("Value labels")
                                              : tr("Value labels of %1").arg(variable->fullName));

@@ -70,7 +70,7 @@ void FrequencyView::showTable(const FrequencyTable& table) {
     for (const int column :
          {FrequencyModel::CodeColumn, FrequencyModel::CountColumn, FrequencyModel::PercentColumn})
         table_->setColumnWidth(column, table_->fontMetrics().averageCharWidth() *
-                                           (column == FrequencyModel::CountColumn ? 20 : 12));
+                                           (column == FrequencyModel::CountColumn ? 20 : 15));
     retranslate();
 }
 
@@ -97,6 +97,6 @@ void FrequencyView::retranslate() {
     copy_->setText(tr("Copy Table"));
     copy_->setEnabled(filled_);
     table_->setAccessibleName(tr("Frequency table"));
-    table_->horizontalHeader()->viewport()->update();
+    emit model_->headerDataChanged(Qt::Horizontal, 0, FrequencyModel::ColumnCount - 1);
     table_->viewport()->update();
 }
