@@ -102,9 +102,9 @@ TEST_F(RawTest, PackedDecimals) {
 TEST_F(RawTest, CharacterFields) {
     const auto texts = open("ab    Züx y", {RawType::Chr, 3, 0, ValueType::String}, 4);
     EXPECT_EQ(readTexts(*texts), (Texts{"ab", std::nullopt, "Zü", "x y"}));
-    const auto numbers = open(" 12 -3  +7 ", {RawType::Chr, 4, 0, ValueType::Integer}, 3);
+    const auto numbers = open(" 12 -3   +7 ", {RawType::Chr, 4, 0, ValueType::Integer}, 3);
     EXPECT_EQ(readIntegers(*numbers), (Integers{12, -3, 7}));
-    const auto reals = open("1.5  250    ", {RawType::Chr, 4, 2, ValueType::Real}, 3);
+    const auto reals = open("1.5 250     ", {RawType::Chr, 4, 2, ValueType::Real}, 3);
     EXPECT_EQ(readReals(*reals), (Reals{1.5, 2.5, std::nullopt}));
     EXPECT_THAT(faultOfOpening("12 1x ", {RawType::Chr, 3}, 2),
                 HasSubstr("record 2 holds \"1x\", which is no whole number"));
@@ -115,7 +115,7 @@ TEST_F(RawTest, CharacterFields) {
 }
 
 TEST_F(RawTest, WideCharacterFields) {
-    const std::u16string units = u"Zü \xd83d\xde00     1";
+    const std::u16string units = u"Zü \xd83d\xde00   1";
     const std::string bytes(reinterpret_cast<const char*>(units.data()), units.size() * 2);
     const auto texts = open(bytes, {RawType::Uni, 3, 0, ValueType::None}, 3);
     EXPECT_EQ(readTexts(*texts), (Texts{"Zü", "😀", "  1"}));
