@@ -104,11 +104,13 @@ bool lower(const Entity*& entity, const Entity* other) {
     return other->isAncestorOf(*entity);
 }
 
-ExpressionPtr ExpressionChecker::finished(Built built, std::string text) {
+ExpressionPtr ExpressionChecker::finished(Built&& built, std::string text) {
     if (built == nullptr)
         return nullptr;
-    built->text = std::move(text);
-    return std::make_shared<const Expression>(std::move(*built));
+    auto expression = std::make_shared<Expression>(std::move(*built));
+    built.reset();
+    expression->text = std::move(text);
+    return expression;
 }
 
 std::string ExpressionChecker::source(ast::Span span) const {
@@ -220,7 +222,9 @@ const Variable* ExpressionChecker::findAlone(const ast::Name& name) {
 
 ExpressionChecker::Built ExpressionChecker::checkName(const ast::Name& name, Position position) {
     const Variable* variable = find(name);
-    return variable == nullptr ? nullptr : value(*variable, position);
+    if (variable == nullptr)
+        return nullptr;
+    return value(*variable, position);
 }
 
 ExpressionChecker::Built ExpressionChecker::value(const Variable& variable, Position position) {
@@ -276,7 +280,9 @@ ExpressionChecker::Built ExpressionChecker::checkLogic(const ast::Node& node) {
         }
         good = argument != nullptr && append(*built, std::move(argument)) && good;
     }
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 ExpressionChecker::Built ExpressionChecker::checkArithmetic(const ast::Node& node) {
@@ -295,7 +301,9 @@ ExpressionChecker::Built ExpressionChecker::checkArithmetic(const ast::Node& nod
     }
     if (node.operation == Operation::Divide)
         built->type = ValueType::Real;
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 /// The entity that a name alone stands for, null for anything else.
@@ -339,7 +347,9 @@ ExpressionChecker::Built ExpressionChecker::checkComparison(const ast::Node& nod
     }
     Built built = make(node.operation, ValueType::Boolean, node.position);
     const bool good = append(*built, std::move(left)) && append(*built, std::move(right));
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 ExpressionChecker::Built ExpressionChecker::checkIn(const ast::Node& node) {
@@ -357,7 +367,9 @@ ExpressionChecker::Built ExpressionChecker::checkIn(const ast::Node& node) {
         good = checkInterval(interval, *operand) && good;
         built->intervals.push_back(interval.bounds);
     }
-    return append(*built, std::move(operand)) && good ? std::move(built) : nullptr;
+    if (!append(*built, std::move(operand)) || !good)
+        return nullptr;
+    return built;
 }
 
 bool ExpressionChecker::checkInterval(const ast::Interval& interval, const Expression& operand) {
@@ -433,7 +445,9 @@ ExpressionChecker::Built ExpressionChecker::checkArgument(const ast::Node& node,
     const bool name = node.kind == NodeKind::Name;
     if (parameter == Parameter::Entity && name && node.name.entity.empty()) {
         const Entity* found = entity(node.name.name, node.position);
-        return found == nullptr ? nullptr : compoundCode(*found, node.position);
+        if (found == nullptr)
+            return nullptr;
+        return compoundCode(*found, node.position);
     }
     const bool value = parameter != Parameter::Entity && parameter != Parameter::Variable;
     Built built;
