@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalog/reader.h"
 #include "import/csv_importer.h"
+#include "storage/error.h"
 #include "temporary_folder.h"
 
 #include <gmock/gmock.h>
+
+#include <cstring>
 
 namespace tools = kelx::tools;
 namespace catalog = kelx::catalog;

@@ -12,7 +12,7 @@ namespace kelx::tool {
 
 namespace {
 
-int writeSample(tools::SampleRequest request) {
+int runSample(tools::SampleRequest request) {
     tools::SampleReport report;
     {
         ProgressBar bar;
@@ -43,7 +43,7 @@ void addSample(CLI::App& app, Action& action) {
     command->add_option("--seed", request->seed,
                         "The same seed gives the same country (default 1)");
     command->add_flag("--overwrite", request->overwrite, "Replace files that exist");
-    command->callback([&action, request] { action = [request] { return writeSample(*request); }; });
+    command->callback([&action, request] { action = [request] { return runSample(*request); }; });
 }
 
 } // namespace kelx::tool
