@@ -146,7 +146,7 @@ TEST_F(SampleTest, PeopleArePlausible) {
     const auto sex = numbers(person, "SEX");
     EXPECT_NEAR(static_cast<double>(persons) / static_cast<double>(report.households), 4, 0.5);
     EXPECT_NEAR(share(sex, 2, 2), 0.51, 0.03);
-    EXPECT_NEAR(share(age, 0, 14), 0.30, 0.06);
+    EXPECT_NEAR(share(age, 0, 14), 0.34, 0.04);
     EXPECT_NEAR(share(age, 65, 98), 0.06, 0.03);
     EXPECT_NEAR(share(age, 99, 99), 0.006, 0.002);
     EXPECT_EQ(share(age, 0, 99), 1);

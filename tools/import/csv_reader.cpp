@@ -58,7 +58,7 @@ bool CsvReader::fill() {
     if (endReached_)
         return false;
     const std::size_t old = buffer_.size();
-    const std::size_t wanted = std::max(chunk, old);
+    const std::size_t wanted = std::min(std::max(chunk, old), longestRecord + chunk - old);
     buffer_.resize(old + wanted);
     stream_.read(buffer_.data() + old, static_cast<std::streamsize>(wanted));
     buffer_.resize(old + static_cast<std::size_t>(stream_.gcount()));

@@ -53,11 +53,11 @@ private:
     void addHead() {
         const int type = household_.type;
         const double woman = type == OneParent ? 0.78 : type == OnePerson ? 0.5 : 0.22;
-        int age = 22 + random_.below(18) + random_.below(18);
+        int age = 18 + random_.below(14) + random_.below(24);
         if (type == OnePerson || type == Couple)
-            age = random_.chance(0.5) ? random_.between(21, 45) : random_.between(45, 88);
+            age = random_.chance(0.5) ? random_.between(19, 40) : random_.between(40, 88);
         else if (type == Extended)
-            age = 30 + random_.below(25) + random_.below(25);
+            age = 24 + random_.below(25) + random_.below(30);
         add(random_.chance(woman) ? 2 : 1, age, Head);
     }
 
@@ -83,7 +83,7 @@ private:
         bool any = false;
         for (int i = 0; i < births; ++i) {
             const int age = mother - (16 + random_.below(13) + random_.below(14));
-            const bool leftHome = age > 18 && random_.chance(age > 26 ? 0.9 : 0.5);
+            const bool leftHome = age > 18 && random_.chance(age > 27 ? 0.85 : 0.25);
             if (age < 0 || leftHome)
                 continue;
             add(1 + (random_.chance(0.49) ? 1 : 0), age, Child);
