@@ -50,7 +50,7 @@ public:
 
     std::vector<std::unique_ptr<Tabulator>>& tables() { return tables_; }
 
-    /// False where goOn, asked after every step, said so.
+    /// False where goOn, asked after each table's share of a step, said so.
     bool work(const Chunk& chunk, const std::function<bool()>& goOn) {
         for (plan::RecordRange range : chunk) {
             while (range.begin < range.end) {
@@ -84,12 +84,13 @@ private:
                 std::min<std::uint64_t>(stepRecords_, range.end - range.begin);
             frames_.move(range.begin, static_cast<std::size_t>(count));
             const std::uint8_t* mask = findMask();
-            for (Tabulator* table : wanted_)
+            for (Tabulator* table : wanted_) {
                 table->add(frames_, mask);
+                if (!goOn()) // a step over many tables may take long
+                    return false;
+            }
             range.begin += count;
             progress_.add(count);
-            if (!goOn())
-                return false;
         }
         return true;
     }

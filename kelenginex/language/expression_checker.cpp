@@ -104,11 +104,17 @@ bool lower(const Entity*& entity, const Entity* other) {
     return other->isAncestorOf(*entity);
 }
 
-ExpressionPtr ExpressionChecker::finished(Built built, const ast::Node& node) const {
-    if (built != nullptr)
-        built->text =
-            simplified(context_.program().substr(node.span.begin, node.span.end - node.span.begin));
-    return built;
+ExpressionPtr ExpressionChecker::finished(Built&& built, std::string text) {
+    if (built == nullptr)
+        return nullptr;
+    auto expression = std::make_shared<Expression>(std::move(*built));
+    built.reset();
+    expression->text = std::move(text);
+    return expression;
+}
+
+std::string ExpressionChecker::source(ast::Span span) const {
+    return simplified(context_.program().substr(span.begin, span.end - span.begin));
 }
 
 ExpressionPtr ExpressionChecker::condition(const ast::Node& node, const std::string& clause) {
@@ -117,7 +123,7 @@ ExpressionPtr ExpressionChecker::condition(const ast::Node& node, const std::str
         context_.report(Error::NotACondition, node.position, {clause, describe(built->type)});
         return nullptr;
     }
-    return finished(std::move(built), node);
+    return finished(std::move(built), source(node.span));
 }
 
 ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string& clause) {
@@ -126,22 +132,15 @@ ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string
         context_.report(Error::NotANumber, node.position, {clause, describe(built->type)});
         return nullptr;
     }
-    return finished(std::move(built), node);
+    return finished(std::move(built), source(node.span));
 }
 
 ExpressionPtr ExpressionChecker::variable(const ast::Name& name) {
-    Built built = checkName(name, name.position);
-    if (built != nullptr)
-        built->text =
-            simplified(context_.program().substr(name.span.begin, name.span.end - name.span.begin));
-    return built;
+    return finished(checkName(name, name.position), source(name.span));
 }
 
 ExpressionPtr ExpressionChecker::variable(const Variable& variable, Position position) {
-    Built built = value(variable, position);
-    if (built != nullptr)
-        built->text = variable.fullName();
-    return built;
+    return finished(value(variable, position), variable.fullName());
 }
 
 const Entity* ExpressionChecker::entity(const std::string& name, Position position) {
@@ -223,7 +222,9 @@ const Variable* ExpressionChecker::findAlone(const ast::Name& name) {
 
 ExpressionChecker::Built ExpressionChecker::checkName(const ast::Name& name, Position position) {
     const Variable* variable = find(name);
-    return variable == nullptr ? nullptr : value(*variable, position);
+    if (variable == nullptr)
+        return nullptr;
+    return value(*variable, position);
 }
 
 ExpressionChecker::Built ExpressionChecker::value(const Variable& variable, Position position) {
@@ -279,7 +280,9 @@ ExpressionChecker::Built ExpressionChecker::checkLogic(const ast::Node& node) {
         }
         good = argument != nullptr && append(*built, std::move(argument)) && good;
     }
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 ExpressionChecker::Built ExpressionChecker::checkArithmetic(const ast::Node& node) {
@@ -298,7 +301,9 @@ ExpressionChecker::Built ExpressionChecker::checkArithmetic(const ast::Node& nod
     }
     if (node.operation == Operation::Divide)
         built->type = ValueType::Real;
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 /// The entity that a name alone stands for, null for anything else.
@@ -342,7 +347,9 @@ ExpressionChecker::Built ExpressionChecker::checkComparison(const ast::Node& nod
     }
     Built built = make(node.operation, ValueType::Boolean, node.position);
     const bool good = append(*built, std::move(left)) && append(*built, std::move(right));
-    return good ? std::move(built) : nullptr;
+    if (!good)
+        return nullptr;
+    return built;
 }
 
 ExpressionChecker::Built ExpressionChecker::checkIn(const ast::Node& node) {
@@ -360,7 +367,9 @@ ExpressionChecker::Built ExpressionChecker::checkIn(const ast::Node& node) {
         good = checkInterval(interval, *operand) && good;
         built->intervals.push_back(interval.bounds);
     }
-    return append(*built, std::move(operand)) && good ? std::move(built) : nullptr;
+    if (!append(*built, std::move(operand)) || !good)
+        return nullptr;
+    return built;
 }
 
 bool ExpressionChecker::checkInterval(const ast::Interval& interval, const Expression& operand) {
@@ -436,7 +445,9 @@ ExpressionChecker::Built ExpressionChecker::checkArgument(const ast::Node& node,
     const bool name = node.kind == NodeKind::Name;
     if (parameter == Parameter::Entity && name && node.name.entity.empty()) {
         const Entity* found = entity(node.name.name, node.position);
-        return found == nullptr ? nullptr : compoundCode(*found, node.position);
+        if (found == nullptr)
+            return nullptr;
+        return compoundCode(*found, node.position);
     }
     const bool value = parameter != Parameter::Entity && parameter != Parameter::Variable;
     Built built;

@@ -47,7 +47,8 @@ private:
     bool checkInterval(const ast::Interval& interval, const Expression& operand);
     bool append(Expression& to, Built argument);
     void reportUnknown(const ast::Name& name, const std::string& hint);
-    ExpressionPtr finished(Built built, const ast::Node& node) const;
+    static ExpressionPtr finished(Built&& built, std::string text);
+    std::string source(ast::Span span) const;
 
     CheckerContext& context_;
 };

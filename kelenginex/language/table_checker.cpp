@@ -206,7 +206,7 @@ void TableChecker::checkAreas(const TableCommand& command, const CheckedSettings
 std::string TableChecker::nameFor(const ast::Table& table, std::size_t number, std::size_t count) {
     if (table.name.empty())
         return shortName(table.kindWord);
-    const std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
+    std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
     if (!names_.insert(lowerCase(name)).second)
         context_.report(Warning::TableNameAgain, table.position, {name});
     return name;

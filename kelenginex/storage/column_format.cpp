@@ -3,9 +3,10 @@
 
 #include "storage/block_stats.h"
 
+#include <algorithm>
 #include <bit>
-#include <cmath>
 #include <limits>
+#include <string>
 
 namespace kelx::storage {
 

@@ -16,7 +16,7 @@ std::filesystem::path newFolder() {
     static std::atomic<int> number = 0;
     const std::string name =
         "kelx-language-" + std::to_string(getpid()) + "-" + std::to_string(++number);
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
+    std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
     std::filesystem::create_directories(folder);
     return folder;
 }
@@ -141,7 +141,7 @@ catalog::Variable& Census::add(const std::string& entityName, const std::string&
 }
 
 std::filesystem::path Census::write(const std::string& file, const std::string& content) const {
-    const std::filesystem::path path = options.baseFolder / file;
+    std::filesystem::path path = options.baseFolder / file;
     std::ofstream(path, std::ios::binary) << content;
     return path;
 }

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/dialogs/KelvoraFileDialog.h"
+
+#include "app/settings/KelSystem.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+std::optional<QString>& preparedAnswer() {
+    static std::optional<QString> answer;
+    return answer;
+}
+
+} // namespace
+
+KelvoraFileDialog::KelvoraFileDialog(QString kind, const QString& folder, QString caption)
+    : kind_(std::move(kind)),
+      folder_(folder.isEmpty() ? KelSystem::instance().directoryFor(kind_) : folder),
+      caption_(std::move(caption)) {}
+
+QString KelvoraFileDialog::openFile(const QString& filter) const {
+    QString path;
+    if (auto answer = std::exchange(preparedAnswer(), std::nullopt))
+        path = *answer;
+    else
+        path =
+            QFileDialog::getOpenFileName(QApplication::activeWindow(), caption_, folder_, filter);
+    if (!path.isEmpty())
+        KelSystem::instance().setDirectoryFor(kind_, QFileInfo(path).absolutePath());
+    return path;
+}
+
+void KelvoraFileDialog::answerNext(const QString& path) {
+    preparedAnswer() = path;
+}

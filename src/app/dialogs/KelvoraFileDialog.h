@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The file dialog of the system: it begins where the last file of the same kind was.
+#pragma once
+
+#include <QString>
+
+class KelvoraFileDialog {
+public:
+    /// kind: a folder word of KelSystem. An empty folder means the remembered one.
+    KelvoraFileDialog(QString kind, const QString& folder, QString caption);
+
+    /// The chosen existing file, whose folder is remembered; empty where the user cancels.
+    QString openFile(const QString& filter) const;
+
+    /// The next dialog is not shown and gives this path, for tests and tours.
+    static void answerNext(const QString& path);
+
+private:
+    QString kind_;
+    QString folder_;
+    QString caption_;
+};

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Message boxes of the system. A test answers them beforehand and reads what they said.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+enum class MessageKind { Error, Information, Warning, Question };
+
+void showError(const QString& text);
+void showInformation(const QString& text);
+void showWarning(const QString& text);
+/// True for Yes. There is no Cancel.
+bool askYesNo(const QString& title, const QString& text);
+
+/// Takes the user's place: gets every message, and its answer counts for questions.
+using MessageAnswer = std::function<bool(MessageKind, const QString& text)>;
+/// An empty function gives the boxes back to the user.
+void answerMessages(MessageAnswer answer);

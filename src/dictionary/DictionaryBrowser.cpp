@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dictionary/DictionaryBrowser.h"
+
+#include "dictionary/EntityTreeModel.h"
+#include "dictionary/ValueLabelModel.h"
+#include "dictionary/VariableFilter.h"
+#include "dictionary/VariableTableModel.h"
+#include "dictionary/mirror/TKpEntity.h"
+#include "dictionary/mirror/TKpVariable.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace {
+
+QTableView* makeTable(QAbstractItemModel* model, const QString& objectName) {
+    auto* table = new QTableView;
+    table->setObjectName(objectName);
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setTabKeyNavigation(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setStretchLastSection(true);
+    return table;
+}
+
+/// Widths from the text that a column usually holds, in any font.
+void setColumnWidths(QTableView* table, const QList<int>& characters) {
+    const int unit = table->fontMetrics().averageCharWidth();
+    for (int column = 0; column < characters.size(); ++column)
+        table->setColumnWidth(column, characters[column] * unit);
+}
+
+} // namespace
+
+DictionaryBrowser::DictionaryBrowser(QWidget* parent)
+    : QSplitter(Qt::Horizontal, parent), entities_(new EntityTreeModel(this)),
+      variables_(new VariableTableModel(this)), filter_(new VariableFilter(this)),
+      valueLabels_(new ValueLabelModel(this)) {
+    setObjectName(QStringLiteral("dictionaryBrowser"));
+    setChildrenCollapsible(false);
+    filter_->setSourceModel(variables_);
+    makeTree();
+    addWidget(tree_);
+    auto* right = new QSplitter(Qt::Vertical);
+    right->setChildrenCollapsible(false);
+    right->addWidget(makeVariablesPane());
+    right->addWidget(makeValueLabelsPane());
+    right->setStretchFactor(0, 3);
+    right->setStretchFactor(1, 1);
+    addWidget(right);
+    setStretchFactor(0, 0);
+    setStretchFactor(1, 1);
+    const int unit = fontMetrics().averageCharWidth();
+    setSizes({48 * unit, 120 * unit});
+    retranslate();
+}
+
+void DictionaryBrowser::makeTree() {
+    tree_ = new QTreeView;
+    tree_->setObjectName(QStringLiteral("entityTree"));
+    tree_->setModel(entities_);
+    tree_->setUniformRowHeights(true);
+    tree_->setIndentation(tree_->fontMetrics().height());
+    tree_->header()->setStretchLastSection(false);
+    tree_->header()->setSectionResizeMode(EntityTreeModel::NameColumn, QHeaderView::Stretch);
+    tree_->header()->setSectionResizeMode(EntityTreeModel::RecordsColumn,
+                                          QHeaderView::ResizeToContents);
+    connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &DictionaryBrowser::showEntity);
+}
+
+QWidget* DictionaryBrowser::makeVariablesPane() {
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    heading_ = new QLabel;
+    heading_->setObjectName(QStringLiteral("entityHeading"));
+    heading_->setTextFormat(Qt::PlainText);
+    QFont bold = heading_->font();
+    bold.setBold(true);
+    heading_->setFont(bold);
+
+    filterLine_ = new QLineEdit;
+    filterLine_->setObjectName(QStringLiteral("variableFilter"));
+    filterLine_->setClearButtonEnabled(true);
+    filterLabel_ = new QLabel;
+    filterLabel_->setBuddy(filterLine_);
+    count_ = new QLabel;
+    count_->setObjectName(QStringLiteral("variableCount"));
+    auto* row = new QHBoxLayout;
+    row->addWidget(filterLabel_);
+    row->addWidget(filterLine_, 1);
+    row->addWidget(count_);
+
+    table_ = makeTable(filter_, QStringLiteral("variableTable"));
+    table_->setSortingEnabled(true);
+    table_->sortByColumn(-1, Qt::AscendingOrder);
+    table_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    setColumnWidths(table_, {20, 30, 12, 15, 9, 14});
+    connect(filterLine_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        filter_->setText(text);
+        updateCount();
+    });
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &DictionaryBrowser::showVariable);
+    connect(table_, &QTableView::activated, this, [this] {
+        if (TKpVariable* variable = currentVariable())
+            emit variableActivated(variable);
+    });
+
+    layout->addWidget(heading_);
+    layout->addLayout(row);
+    layout->addWidget(table_, 1);
+    return pane;
+}
+
+QWidget* DictionaryBrowser::makeValueLabelsPane() {
+    labelsBox_ = new QGroupBox;
+    labelsBox_->setObjectName(QStringLiteral("valueLabelsBox"));
+    auto* layout = new QVBoxLayout(labelsBox_);
+    labels_ = makeTable(valueLabels_, QStringLiteral("valueLabelTable"));
+    setColumnWidths(labels_, {14});
+    layout->addWidget(labels_);
+    return labelsBox_;
+}
+
+void DictionaryBrowser::setRoot(TKpEntity* root) {
+    valueLabels_->setVariable(nullptr);
+    variables_->setEntity(nullptr);
+    entities_->setRoot(root);
+    filterLine_->clear();
+    tree_->expandAll();
+    tree_->setCurrentIndex(entities_->indexOf(root));
+    if (root == nullptr)
+        showEntity({});
+}
+
+TKpVariable* DictionaryBrowser::currentVariable() const {
+    const QModelIndex index = table_->currentIndex();
+    return index.isValid() ? variables_->variableAt(filter_->mapToSource(index).row()) : nullptr;
+}
+
+void DictionaryBrowser::addVariableAction(QAction* action) {
+    table_->addAction(action);
+}
+
+void DictionaryBrowser::showValueLabels(bool visible) {
+    labelsBox_->setVisible(visible);
+}
+
+void DictionaryBrowser::focusFilter() {
+    filterLine_->setFocus(Qt::ShortcutFocusReason);
+    filterLine_->selectAll();
+}
+
+void DictionaryBrowser::showEntity(const QModelIndex& index) {
+    const TKpEntity* entity = entities_->entityAt(index);
+    variables_->setEntity(entity);
+    table_->setCurrentIndex(filter_->index(0, 0));
+    if (!table_->currentIndex().isValid())
+        showVariable({});
+    retranslate();
+}
+
+void DictionaryBrowser::showVariable(const QModelIndex&) {
+    TKpVariable* variable = currentVariable();
+    valueLabels_->setVariable(variable);
+    labelsBox_->setTitle(variable == nullptr ? tr("Value labels")
+                                             : tr("Value labels of %1").arg(variable->fullName));
+    emit currentVariableChanged(variable);
+}
+
+void DictionaryBrowser::updateCount() {
+    count_->setText(tr("%1 of %2").arg(filter_->rowCount()).arg(variables_->rowCount()));
+}
+
+void DictionaryBrowser::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QSplitter::changeEvent(event);
+}
+
+void DictionaryBrowser::retranslate() {
+    const TKpEntity* entity = entities_->entityAt(tree_->currentIndex());
+    if (entity == nullptr)
+        heading_->setText(tr("No dictionary is open. Choose File > Open Dictionary."));
+    else
+        heading_->setText(entity->label.isEmpty() ? entity->name
+                                                  : entity->name + " – " + entity->label);
+    filterLabel_->setText(tr("&Filter:"));
+    filterLine_->setPlaceholderText(tr("Name, label or group"));
+    filterLine_->setToolTip(tr("Show the variables whose name, label or group holds this text"));
+    filterLine_->setAccessibleName(tr("Filter of the variables"));
+    tree_->setAccessibleName(tr("Entities"));
+    table_->setAccessibleName(tr("Variables"));
+    labels_->setAccessibleName(tr("Value labels"));
+    // New titles need new widths.
+    emit entities_->headerDataChanged(Qt::Horizontal, 0, EntityTreeModel::ColumnCount - 1);
+    emit filter_->headerDataChanged(Qt::Horizontal, 0, VariableTableModel::ColumnCount - 1);
+    emit valueLabels_->headerDataChanged(Qt::Horizontal, 0, ValueLabelModel::ColumnCount - 1);
+    const TKpVariable* variable = currentVariable();
+    labelsBox_->setTitle(variable == nullptr ? tr("Value labels")
+                                             : tr("Value labels of %1").arg(variable->fullName));
+    updateCount();
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "projects/TfrmProject.h"
+
+#include "dictionary/mirror/TKpEntity.h"
+#include "kel.h"
+
+TfrmProject& TfrmProject::instance() {
+    static TfrmProject project;
+    return project;
+}
+
+void TfrmProject::beginOpening(const QString& path, DictionaryKind kind) {
+    openingPath_ = path;
+    openingKind_ = kind;
+    staged_.reset();
+}
+
+void TfrmProject::stageDictionary(std::shared_ptr<TKelDictionary> dictionary) {
+    staged_ = std::move(dictionary);
+    if (staged_)
+        staged_->setDirty(false);
+}
+
+void TfrmProject::adoptStagedDictionary() {
+    close();
+    dictionary_ = std::move(staged_);
+    dictionaryPath_ = openingPath_;
+    kind_ = openingKind_;
+    openingPath_.clear();
+}
+
+void TfrmProject::abandonOpening() {
+    staged_.reset();
+    openingPath_.clear();
+}
+
+void TfrmProject::close() {
+    outputs_.clear();
+    session_.reset();
+    execute_.reset();
+    root_.reset();
+    dictionary_.reset();
+    dictionaryPath_.clear();
+    allPathsFound_ = true;
+}
+
+void TfrmProject::setRoot(std::shared_ptr<TKpEntity> root) {
+    root_ = std::move(root);
+}
+
+void TfrmProject::setRun(std::shared_ptr<TKelSession> session, std::vector<TKelOutput*> outputs) {
+    outputs_ = std::move(outputs);
+    session_ = std::move(session);
+}
+
+void TfrmProject::setExecute(std::shared_ptr<TKelExecute> execute) {
+    execute_ = std::move(execute);
+}

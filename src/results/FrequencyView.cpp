@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/FrequencyView.h"
+
+#include "results/FrequencyModel.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel* makeLabel(const QString& objectName) {
+    auto* label = new QLabel;
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setWordWrap(true);
+    return label;
+}
+
+QTableView* makeTable(QAbstractItemModel* model) {
+    auto* table = new QTableView;
+    table->setObjectName(QStringLiteral("frequencyTable"));
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setTabKeyNavigation(false);
+    table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(FrequencyModel::LabelColumn,
+                                                    QHeaderView::Stretch);
+    return table;
+}
+
+} // namespace
+
+FrequencyView::FrequencyView(QWidget* parent)
+    : QWidget(parent), model_(new FrequencyModel(this)),
+      title_(makeLabel(QStringLiteral("frequencyTitle"))),
+      note_(makeLabel(QStringLiteral("frequencyNote"))), table_(makeTable(model_)),
+      copy_(new QAction(this)) {
+    QFont bold = title_->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.2);
+    title_->setFont(bold);
+    copy_->setObjectName(QStringLiteral("actionCopyTable"));
+    copy_->setShortcut(QKeySequence::Copy);
+    copy_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copy_, &QAction::triggered, this, &FrequencyView::copyToClipboard);
+    table_->addAction(copy_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(title_);
+    layout->addWidget(note_);
+    layout->addWidget(table_, 1);
+    retranslate();
+}
+
+void FrequencyView::showTable(const FrequencyTable& table) {
+    filled_ = true;
+    model_->setTable(table);
+    for (const int column :
+         {FrequencyModel::CodeColumn, FrequencyModel::CountColumn, FrequencyModel::PercentColumn})
+        table_->setColumnWidth(column, table_->fontMetrics().averageCharWidth() *
+                                           (column == FrequencyModel::CountColumn ? 20 : 15));
+    retranslate();
+}
+
+void FrequencyView::clear() {
+    filled_ = false;
+    model_->setTable({});
+    retranslate();
+}
+
+void FrequencyView::copyToClipboard() const {
+    QGuiApplication::clipboard()->setText(model_->table().toText());
+}
+
+void FrequencyView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void FrequencyView::retranslate() {
+    title_->setText(filled_ ? model_->table().title() : tr("No results yet"));
+    note_->setText(filled_ ? model_->table().note()
+                           : tr("Select a variable and choose Frequency (F9)."));
+    copy_->setText(tr("Copy Table"));
+    copy_->setEnabled(filled_);
+    table_->setAccessibleName(tr("Frequency table"));
+    emit model_->headerDataChanged(Qt::Horizontal, 0, FrequencyModel::ColumnCount - 1);
+    table_->viewport()->update();
+}

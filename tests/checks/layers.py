@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Checks the direction of includes: each folder may include itself and what its line allows."""
+import pathlib
+import re
+import sys
+
+ENGINE = ["storage", "catalog", "language", "plan", "execution", "output"]
+
+# Folder -> folders that it may include. Ground first; an arrow upwards is a fault.
+ALLOWED = {"src/engine/boundary": []}
+for number, layer in enumerate(ENGINE):
+    ALLOWED[f"kelenginex/{layer}"] = [f"kelenginex/{lower}" for lower in ENGINE[:number]]
+EVERY_LAYER = [f"kelenginex/{layer}" for layer in ENGINE]
+ALLOWED["kelenginex/boundary"] = EVERY_LAYER + ["src/engine/boundary"]
+
+BOUNDARY = ["src/engine/boundary"]
+ALLOWED["src/app/settings"] = []
+ALLOWED["src/engine"] = BOUNDARY
+ALLOWED["src/dictionary"] = BOUNDARY + ["src/app/settings"]
+ALLOWED["src/projects"] = BOUNDARY + ["src/dictionary", "src/app/settings"]
+ALLOWED["src/app"] = BOUNDARY + ["src/app/settings", "src/engine", "src/dictionary",
+                                 "src/projects"]
+
+ALLOWED["tools/sample"] = EVERY_LAYER
+ALLOWED["tools/import"] = EVERY_LAYER
+ALLOWED["tools/kelx"] = EVERY_LAYER + ["tools/sample", "tools/import"]
+ALLOWED["tools/tour"] = BOUNDARY + ["src/app", "src/app/settings", "src/dictionary", "src/engine",
+                                    "src/projects"]
+
+ROOTS = ["src", "src/engine/boundary", "kelenginex", "tools"]
+INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+
+
+def folder_of(path):
+    """The longest listed folder that the file lies in."""
+    parents = [str(p) for p in path.parents]
+    return next((p for p in parents if p in ALLOWED), None)
+
+
+def resolve(top, source, name):
+    for base in [source.parent] + [pathlib.Path(root) for root in ROOTS]:
+        candidate = pathlib.Path(base / name)
+        if (top / candidate).is_file():
+            return pathlib.Path(*candidate.parts)
+    return None
+
+
+def main():
+    top = pathlib.Path(__file__).resolve().parents[2]
+    faults = []
+    count = 0
+    for root in ["src", "kelenginex", "tools"]:
+        for path in sorted((top / root).rglob("*")):
+            if path.suffix not in (".h", ".cpp"):
+                continue
+            source = path.relative_to(top)
+            here = folder_of(source)
+            if here is None:
+                faults.append(f"{source}: its folder has no line in the allow-list")
+                continue
+            for name in INCLUDE.findall(path.read_text(encoding="utf-8")):
+                target = resolve(top, source, name)
+                if target is None:
+                    continue  # made by the build, or a system header
+                count += 1
+                there = folder_of(target)
+                if there != here and there not in ALLOWED[here]:
+                    faults.append(f"{source}: includes {target}, but {here} must not include {there}")
+    print(f"layers: {count} includes between our files, {len(faults)} against the direction")
+    for fault in faults:
+        print("  " + fault)
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main job of the workbench, done in the real window, with a picture of each step.
+#pragma once
+
+#include <QString>
+
+class MainWindow;
+
+/// Throws std::runtime_error where a step does not do what a user expects.
+class Tour {
+public:
+    Tour(MainWindow& window, QString folder) : window_(window), folder_(std::move(folder)) {}
+
+    void run(const QString& dictionary);
+    int pictures() const { return pictures_; }
+
+private:
+    void open(const QString& dictionary);
+    void selectEntity(const QString& name);
+    void selectVariable(const QString& name);
+    void filter(const QString& text);
+    void frequency();
+    void languages();
+    void darkPalette();
+    void shoot(const QString& name); ///< NN-name.png
+
+    MainWindow& window_;
+    QString folder_;
+    int pictures_ = 0;
+};
