@@ -67,10 +67,10 @@ FrequencyView::FrequencyView(QWidget* parent)
 void FrequencyView::showTable(const FrequencyTable& table) {
     filled_ = true;
     model_->setTable(table);
-    for (const int column :
-         {FrequencyModel::CodeColumn, FrequencyModel::CountColumn, FrequencyModel::PercentColumn})
-        table_->setColumnWidth(column, table_->fontMetrics().averageCharWidth() *
-                                           (column == FrequencyModel::CountColumn ? 20 : 15));
+    const int unit = table_->fontMetrics().averageCharWidth();
+    table_->setColumnWidth(FrequencyModel::CodeColumn, 9 * unit);
+    table_->setColumnWidth(FrequencyModel::CountColumn, 19 * unit);
+    table_->setColumnWidth(FrequencyModel::PercentColumn, 14 * unit);
     retranslate();
 }
 
