@@ -15,18 +15,21 @@ EVERY_LAYER = [f"kelenginex/{layer}" for layer in ENGINE]
 ALLOWED["kelenginex/boundary"] = EVERY_LAYER + ["src/engine/boundary"]
 
 BOUNDARY = ["src/engine/boundary"]
-ALLOWED["src/app/settings"] = []
 ALLOWED["src/engine"] = BOUNDARY
-ALLOWED["src/dictionary"] = BOUNDARY + ["src/app/settings"]
-ALLOWED["src/projects"] = BOUNDARY + ["src/dictionary", "src/app/settings"]
-ALLOWED["src/app"] = BOUNDARY + ["src/app/settings", "src/engine", "src/dictionary",
-                                 "src/projects"]
+ALLOWED["src/dictionary/mirror"] = BOUNDARY
+ALLOWED["src/projects"] = BOUNDARY + ["src/dictionary/mirror"]
+ALLOWED["src/app/settings"] = []
+ALLOWED["src/app/dialogs"] = ["src/app/settings"]
+ALLOWED["src/dictionary"] = BOUNDARY + ["src/dictionary/mirror", "src/projects"]
+ALLOWED["src/results"] = BOUNDARY
+WORKBENCH = ["src/engine", "src/dictionary/mirror", "src/projects", "src/app/settings",
+             "src/app/dialogs", "src/dictionary", "src/results"]
+ALLOWED["src/app"] = BOUNDARY + WORKBENCH
 
-ALLOWED["tools/sample"] = EVERY_LAYER
 ALLOWED["tools/import"] = EVERY_LAYER
-ALLOWED["tools/kelx"] = EVERY_LAYER + ["tools/sample", "tools/import"]
-ALLOWED["tools/tour"] = BOUNDARY + ["src/app", "src/app/settings", "src/dictionary", "src/engine",
-                                    "src/projects"]
+ALLOWED["tools/sample"] = EVERY_LAYER + ["tools/import"]
+ALLOWED["tools/kelx"] = EVERY_LAYER + ["tools/import", "tools/sample"]
+ALLOWED["tools/tour"] = BOUNDARY + WORKBENCH + ["src/app"]
 
 ROOTS = ["src", "src/engine/boundary", "kelenginex", "tools"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)

@@ -69,6 +69,13 @@ void Tour::run(const QString& dictionary) {
     darkPalette();
 }
 
+void Tour::firstTable(const QString& dictionary) {
+    open(dictionary);
+    selectEntity(QStringLiteral("PERSON"));
+    selectVariable(QStringLiteral("SEX"));
+    frequency();
+}
+
 void Tour::open(const QString& dictionary) {
     KelvoraFileDialog::answerNext(dictionary);
     QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);

@@ -12,6 +12,8 @@ public:
     Tour(MainWindow& window, QString folder) : window_(window), folder_(std::move(folder)) {}
 
     void run(const QString& dictionary);
+    /// Opens the dictionary and makes a first table, without pictures.
+    void firstTable(const QString& dictionary);
     int pictures() const { return pictures_; }
 
 private:

@@ -37,9 +37,7 @@ QString makeSample(const QString& folder) {
     return QDir(folder).filePath(found.first());
 }
 
-void prepare(const QString& folder) {
-    if (!QDir().mkpath(folder))
-        throw std::runtime_error("cannot make the folder " + folder.toStdString());
+void startWorkbench() {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setApplicationName(QStringLiteral("KelXProcess"));
     QApplication::setApplicationVersion(QStringLiteral("67f53c7a"));
@@ -48,26 +46,43 @@ void prepare(const QString& folder) {
     UIInvoker::instance();
     kel::init(std::make_shared<TKelConfigImpl>());
     kel::setupLocale("en");
-    // Nobody is there to answer: messages go to the standard error, and the step then fails.
-    answerMessages([](MessageKind, const QString& text) {
-        std::fprintf(stderr, "%s\n", qPrintable(text));
-        return false;
-    });
 }
 
-int tour(const QString& folder, const QString& dictionary) {
-    const QTemporaryDir sample;
-    MainWindow window;
-    window.resize(1280, 760);
+void nameWindow(MainWindow& window) {
     window.setWindowTitle(QApplication::applicationName() + ' ' +
                           QApplication::applicationVersion());
+}
+
+/// Nobody is there to answer: messages go to the standard error, and the step then fails.
+bool refuse(MessageKind /*kind*/, const QString& text) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    return false;
+}
+
+int takePictures(const QString& folder, const QString& dictionary) {
+    if (!QDir().mkpath(folder))
+        throw std::runtime_error("cannot make the folder " + folder.toStdString());
+    answerMessages(refuse);
+    MainWindow window;
+    nameWindow(window);
+    window.resize(1280, 760);
     window.show();
     window.activateWindow();
     Tour steps(window, folder);
-    steps.run(dictionary.isEmpty() ? makeSample(sample.path()) : dictionary);
+    steps.run(dictionary);
     window.close();
     std::printf("%d pictures in %s\n", steps.pictures(), qPrintable(folder));
     return 0;
+}
+
+/// Leaves the window with a first table to the user.
+int stay(const QString& dictionary) {
+    MainWindow window;
+    nameWindow(window);
+    window.showMaximized();
+    window.activateWindow();
+    Tour(window, QString()).firstTable(dictionary);
+    return QApplication::exec();
 }
 
 } // namespace
@@ -84,13 +99,20 @@ int main(int argc, char** argv) {
     const QCommandLineOption dictionary(QStringLiteral("dictionary"),
                                         QStringLiteral("what to open instead of a new sample"),
                                         QStringLiteral("file"));
-    parser.addOption(dictionary);
+    const QCommandLineOption staying(
+        QStringLiteral("stay"),
+        QStringLiteral("take no pictures; leave the window with a first table"));
+    parser.addOptions({dictionary, staying});
     parser.process(application);
-    if (parser.positionalArguments().size() != 1)
+    const QStringList folders = parser.positionalArguments();
+    if (folders.size() != (parser.isSet(staying) ? 0 : 1))
         parser.showHelp(2);
     try {
-        prepare(parser.positionalArguments().first());
-        return tour(parser.positionalArguments().first(), parser.value(dictionary));
+        const QTemporaryDir sample;
+        const QString file =
+            parser.isSet(dictionary) ? parser.value(dictionary) : makeSample(sample.path());
+        startWorkbench();
+        return parser.isSet(staying) ? stay(file) : takePictures(folders.first(), file);
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "kelvorax-tour: %s\n", fault.what());
         return 1;
