@@ -37,6 +37,10 @@ void TKelDictionary::setDataPath(const std::string& folder) {
     }
 }
 
+std::string TKelDictionary::dataPath() const {
+    return d->state->dictionary->dataFolder.string();
+}
+
 std::string TKelDictionary::name() {
     return d->state->dictionary->name;
 }

@@ -10,6 +10,7 @@
 #include "dictionary/DictionaryLoader.h"
 #include "dictionary/mirror/TKpVariable.h"
 #include "engine/ProgramRun.h"
+#include "engine/UIInvoker.h"
 #include "kel.h"
 #include "projects/TfrmProject.h"
 #include "results/FrequencyTable.h"
@@ -24,6 +25,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace {
 
@@ -180,6 +182,7 @@ void MainWindow::loadLastOpened() {
 
 void MainWindow::dropViews() {
     frequencyView_->clear();
+    resultDock_->hide();
     browser_->setRoot(nullptr);
 }
 
@@ -190,7 +193,7 @@ void MainWindow::showLoaded(const QStringList& missing) {
     const QFileInfo file(project.dictionaryPath());
     dictionaryLabel_->setText(file.fileName());
     dictionaryLabel_->setToolTip(QDir::toNativeSeparators(file.absoluteFilePath()));
-    KelSystem::instance().save();
+    KelSystem::instance().setLastOpened(project.dictionaryPath());
     showStatus(tr("Dictionary Loaded"), false);
     updateActions();
     emit signalDictIsDirty(project.dictionary()->isDirty());
@@ -249,27 +252,40 @@ void MainWindow::askSaveDictionary() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!engineEnded_)
-        loader_->finish();
+    if (!engineEnded_ && !endLoading()) {
+        event->ignore();
+        QTimer::singleShot(0, this, &QWidget::close);
+        return;
+    }
     showStatus(QString(), false);
     if (!engineEnded_)
         askSaveDictionary();
     QMainWindow::closeEvent(event);
     if (!engineEnded_) {
         engineEnded_ = true;
-        TfrmProject& project = TfrmProject::instance();
-        if (project.isOpen())
-            KelSystem::instance().setLastOpened(project.dictionaryPath());
         dropViews();
-        project.close();
+        TfrmProject::instance().close();
         kel::destroy();
     }
     QCoreApplication::quit();
 }
 
+bool MainWindow::endLoading() {
+    if (!isLoading())
+        return true;
+    UIInvoker::instance().refuseQuestions();
+    if (UIInvoker::instance().isAsking())
+        return false; // its dialog stands below this call and must end first
+    setEnabled(false);
+    loader_->finish();
+    return true;
+}
+
 void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange && actions_ != nullptr)
+    if (event->type() == QEvent::LanguageChange && actions_ != nullptr) {
+        statusBar()->clearMessage();
         retranslate();
+    }
     QMainWindow::changeEvent(event);
 }
 

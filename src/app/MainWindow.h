@@ -55,6 +55,7 @@ private:
     void showLoadFailure(const QString& message);
     void showAbout();
     void askSaveDictionary();
+    bool endLoading(); ///< false where an open question must go first
     void retranslate();
 
     DictionaryBrowser* browser_ = nullptr;

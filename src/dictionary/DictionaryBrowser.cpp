@@ -5,12 +5,12 @@
 #include "dictionary/ValueLabelModel.h"
 #include "dictionary/VariableFilter.h"
 #include "dictionary/VariableTableModel.h"
+#include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 
 #include <QAction>
 #include <QEvent>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -18,6 +18,8 @@
 #include <QTableView>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -39,11 +41,17 @@ QTableView* makeTable(QAbstractItemModel* model, const QString& objectName) {
     return table;
 }
 
-/// Widths from the text that a column usually holds, in any font.
-void setColumnWidths(QTableView* table, const QList<int>& characters) {
-    const int unit = table->fontMetrics().averageCharWidth();
-    for (int column = 0; column < characters.size(); ++column)
-        table->setColumnWidth(column, characters[column] * unit);
+/// Rows that decide the width of a column, so that an entity of any size shows at once.
+constexpr int rowsMeasured = 200;
+constexpr int widestName = 36; ///< characters
+
+/// In pre-order; the root itself where no entity has variables.
+const TKpEntity* firstWithVariables(TKpEntity* root) {
+    const QList<TKpEntity*> entities = DictionaryUtil().entities(root);
+    const auto found = std::find_if(entities.begin(), entities.end(), [](const TKpEntity* entity) {
+        return !entity->variables.isEmpty();
+    });
+    return found != entities.end() ? *found : root;
 }
 
 } // namespace
@@ -112,7 +120,11 @@ QWidget* DictionaryBrowser::makeVariablesPane() {
     table_->setSortingEnabled(true);
     table_->sortByColumn(-1, Qt::AscendingOrder);
     table_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    setColumnWidths(table_, {20, 30, 12, 15, 9, 14});
+    table_->horizontalHeader()->setStretchLastSection(false);
+    table_->horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
+    table_->horizontalHeader()->setSectionResizeMode(VariableTableModel::LabelColumn,
+                                                     QHeaderView::Stretch);
+    table_->horizontalHeader()->setMinimumSectionSize(5 * table_->fontMetrics().averageCharWidth());
     connect(filterLine_, &QLineEdit::textChanged, this, [this](const QString& text) {
         filter_->setText(text);
         updateCount();
@@ -131,13 +143,28 @@ QWidget* DictionaryBrowser::makeVariablesPane() {
 }
 
 QWidget* DictionaryBrowser::makeValueLabelsPane() {
-    labelsBox_ = new QGroupBox;
-    labelsBox_->setObjectName(QStringLiteral("valueLabelsBox"));
-    auto* layout = new QVBoxLayout(labelsBox_);
+    labelsPane_ = new QWidget;
+    labelsPane_->setObjectName(QStringLiteral("valueLabelsPane"));
+    labelsHeading_ = new QLabel;
+    labelsHeading_->setTextFormat(Qt::PlainText);
+    auto* layout = new QVBoxLayout(labelsPane_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(labelsHeading_);
     labels_ = makeTable(valueLabels_, QStringLiteral("valueLabelTable"));
-    setColumnWidths(labels_, {14});
-    layout->addWidget(labels_);
-    return labelsBox_;
+    labels_->setColumnWidth(ValueLabelModel::ValueColumn,
+                            14 * labels_->fontMetrics().averageCharWidth());
+    layout->addWidget(labels_, 1);
+    return labelsPane_;
+}
+
+void DictionaryBrowser::fitColumns() {
+    const int widest = widestName * table_->fontMetrics().averageCharWidth();
+    for (int column = 0; column < VariableTableModel::ColumnCount; ++column) {
+        if (column == VariableTableModel::LabelColumn)
+            continue;
+        table_->resizeColumnToContents(column);
+        table_->setColumnWidth(column, std::min(table_->columnWidth(column), widest));
+    }
 }
 
 void DictionaryBrowser::setRoot(TKpEntity* root) {
@@ -146,7 +173,7 @@ void DictionaryBrowser::setRoot(TKpEntity* root) {
     entities_->setRoot(root);
     filterLine_->clear();
     tree_->expandAll();
-    tree_->setCurrentIndex(entities_->indexOf(root));
+    tree_->setCurrentIndex(entities_->indexOf(firstWithVariables(root)));
     if (root == nullptr)
         showEntity({});
 }
@@ -161,7 +188,7 @@ void DictionaryBrowser::addVariableAction(QAction* action) {
 }
 
 void DictionaryBrowser::showValueLabels(bool visible) {
-    labelsBox_->setVisible(visible);
+    labelsPane_->setVisible(visible);
 }
 
 void DictionaryBrowser::focusFilter() {
@@ -175,15 +202,31 @@ void DictionaryBrowser::showEntity(const QModelIndex& index) {
     table_->setCurrentIndex(filter_->index(0, 0));
     if (!table_->currentIndex().isValid())
         showVariable({});
-    retranslate();
+    fitColumns();
+    nameEntity();
+    updateCount();
 }
 
 void DictionaryBrowser::showVariable(const QModelIndex&) {
     TKpVariable* variable = currentVariable();
     valueLabels_->setVariable(variable);
-    labelsBox_->setTitle(variable == nullptr ? tr("Value labels")
-                                             : tr("Value labels of %1").arg(variable->fullName));
+    nameLabels();
     emit currentVariableChanged(variable);
+}
+
+void DictionaryBrowser::nameEntity() {
+    const TKpEntity* entity = entities_->entityAt(tree_->currentIndex());
+    if (entity == nullptr)
+        heading_->setText(tr("No dictionary is open. Choose File > Open Dictionary."));
+    else
+        heading_->setText(entity->label.isEmpty() ? entity->name
+                                                  : entity->name + " – " + entity->label);
+}
+
+void DictionaryBrowser::nameLabels() {
+    const TKpVariable* variable = currentVariable();
+    labelsHeading_->setText(variable == nullptr ? tr("Value labels")
+                                                : tr("Value labels of %1").arg(variable->fullName));
 }
 
 void DictionaryBrowser::updateCount() {
@@ -197,12 +240,7 @@ void DictionaryBrowser::changeEvent(QEvent* event) {
 }
 
 void DictionaryBrowser::retranslate() {
-    const TKpEntity* entity = entities_->entityAt(tree_->currentIndex());
-    if (entity == nullptr)
-        heading_->setText(tr("No dictionary is open. Choose File > Open Dictionary."));
-    else
-        heading_->setText(entity->label.isEmpty() ? entity->name
-                                                  : entity->name + " – " + entity->label);
+    nameEntity();
     filterLabel_->setText(tr("&Filter:"));
     filterLine_->setPlaceholderText(tr("Name, label or group"));
     filterLine_->setToolTip(tr("Show the variables whose name, label or group holds this text"));
@@ -214,8 +252,7 @@ void DictionaryBrowser::retranslate() {
     emit entities_->headerDataChanged(Qt::Horizontal, 0, EntityTreeModel::ColumnCount - 1);
     emit filter_->headerDataChanged(Qt::Horizontal, 0, VariableTableModel::ColumnCount - 1);
     emit valueLabels_->headerDataChanged(Qt::Horizontal, 0, ValueLabelModel::ColumnCount - 1);
-    const TKpVariable* variable = currentVariable();
-    labelsBox_->setTitle(variable == nullptr ? tr("Value labels")
-                                             : tr("Value labels of %1").arg(variable->fullName));
+    fitColumns();
+    nameLabels();
     updateCount();
 }

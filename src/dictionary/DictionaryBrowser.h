@@ -6,7 +6,6 @@
 
 class EntityTreeModel;
 class QAction;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QTableView;
@@ -44,6 +43,9 @@ private:
     void makeTree();
     void showEntity(const QModelIndex& index);
     void showVariable(const QModelIndex& index);
+    void fitColumns();
+    void nameEntity();
+    void nameLabels();
     void updateCount();
     void retranslate();
 
@@ -58,5 +60,6 @@ private:
     QLabel* filterLabel_;
     QLabel* heading_;
     QLabel* count_;
-    QGroupBox* labelsBox_;
+    QLabel* labelsHeading_;
+    QWidget* labelsPane_;
 };

@@ -28,6 +28,12 @@ std::optional<DictionaryKind> kindOf(const QString& extension) {
 
 QStringList missingFiles(TKpEntity* root) {
     QStringList missing;
+    for (const TKpEntity* entity : DictionaryUtil().entities(root)) {
+        if (!entity->isFileMissing())
+            continue;
+        qDebug() << "File not found:" << entity->name;
+        missing += entity->name;
+    }
     for (const TKpVariable* variable : DictionaryUtil().allVariables(root)) {
         if (variable->fileExists)
             continue;
@@ -37,13 +43,13 @@ QStringList missingFiles(TKpEntity* root) {
     return missing;
 }
 
-/// A database that was moved whole is read where it lies now.
-void pointToOwnFolder(TKelDictionary& dictionary) {
+/// The data lie beside the dictionary, unless the user has just shown the engine another folder.
+void settleDataFolder(TKelDictionary& dictionary) {
     const QFileInfo file(QString::fromStdString(dictionary.fileName()));
-    if (file.exists())
-        dictionary.setDataPath(file.absolutePath().toStdString());
-    else
+    if (!file.exists())
         dictionary.setDirty(true);
+    else if (dictionary.dataPath().empty())
+        dictionary.setDataPath(file.absolutePath().toStdString());
 }
 
 } // namespace
@@ -66,23 +72,26 @@ bool DictionaryLoader::start(const QString& path, const QString& extension) {
 }
 
 void DictionaryLoader::finish() {
-    if (LoadThread* thread = std::exchange(thread_, nullptr)) {
-        thread->disconnect(this);
-        // The thread may be waiting for an answer of the GUI thread.
-        while (!thread->wait(20))
-            QCoreApplication::processEvents();
-        TfrmProject::instance().abandonOpening();
-    }
+    if (thread_ == nullptr)
+        return;
+    thread_->disconnect(this);
+    // The thread may be waiting for an answer of the GUI thread; nothing else is let in.
+    while (!thread_->wait(20))
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    thread_ = nullptr;
+    TfrmProject::instance().abandonOpening();
+}
+
+void DictionaryLoader::join() {
+    std::exchange(thread_, nullptr)->wait();
 }
 
 void DictionaryLoader::onLoaded() {
-    if (thread_ == nullptr)
-        return;
-    thread_ = nullptr;
+    join();
     emit aboutToReplace();
     TfrmProject& project = TfrmProject::instance();
     project.adoptStagedDictionary();
-    pointToOwnFolder(*project.dictionary());
+    settleDataFolder(*project.dictionary());
     project.setRoot(buildMirror(*project.dictionary()));
     const QStringList missing = missingFiles(project.root());
     project.setAllPathsFound(missing.isEmpty());
@@ -90,9 +99,7 @@ void DictionaryLoader::onLoaded() {
 }
 
 void DictionaryLoader::onError(const QString& message) {
-    if (thread_ == nullptr)
-        return;
-    thread_ = nullptr;
+    join();
     TfrmProject::instance().abandonOpening();
     emit failed(message);
 }

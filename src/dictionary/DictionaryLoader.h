@@ -18,7 +18,8 @@ public:
     /// False, with nothing begun, where the extension is none of a dictionary's or a load runs.
     bool start(const QString& path, const QString& extension);
     bool isRunning() const { return thread_ != nullptr; }
-    /// Waits for a running load and forgets it; answers the engine's questions meanwhile.
+    /// Waits for a running load and forgets it. The engine's questions are delivered meanwhile:
+    /// whoever answers them must do so without waiting for the user.
     void finish();
 
 signals:
@@ -29,6 +30,7 @@ signals:
     void failed(const QString& message); ///< what was open is still open
 
 private:
+    void join(); ///< the thread has told its result and is about to end
     void onLoaded();
     void onError(const QString& message);
 

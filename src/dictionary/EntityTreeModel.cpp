@@ -4,13 +4,14 @@
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 
-#include <QIcon>
 #include <QLocale>
 
 namespace {
 
 QString toolTip(const TKpEntity& entity) {
     QStringList lines{entity.label.isEmpty() ? entity.name : entity.label};
+    if (entity.isFileMissing())
+        lines += EntityTreeModel::tr("File not found: %1").arg(entity.fullPath);
     if (!entity.documentation.isEmpty())
         lines += entity.documentation;
     if (!entity.weightVar.isEmpty())
@@ -18,6 +19,11 @@ QString toolTip(const TKpEntity& entity) {
     lines +=
         EntityTreeModel::tr("%n variable(s)", nullptr, static_cast<int>(entity.variables.size()));
     return lines.join('\n');
+}
+
+/// Nothing where the records cannot be counted.
+QString records(const TKpEntity& entity) {
+    return entity.isFileMissing() ? QString() : QLocale().toString(entity.instanceCount);
 }
 
 } // namespace
@@ -79,9 +85,9 @@ QVariant EntityTreeModel::data(const QModelIndex& index, int role) const {
     const bool isName = index.column() == NameColumn;
     switch (role) {
     case Qt::DisplayRole:
-        return isName ? entity->name : QLocale().toString(entity->instanceCount);
+        return isName ? entity->name : records(*entity);
     case Qt::DecorationRole:
-        return isName ? QIcon(QStringLiteral(":/icons/res/icons/entity.svg")) : QVariant();
+        return isName ? (entity->isFileMissing() ? missingIcon_ : icon_) : QVariant();
     case Qt::TextAlignmentRole:
         return isName ? QVariant() : QVariant(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::ToolTipRole:

@@ -2,6 +2,8 @@
 // The entities of the open dictionary as a tree: name and number of records.
 #pragma once
 
+#include "dictionary/RowIcon.h"
+
 #include <QAbstractItemModel>
 
 class TKpEntity;
@@ -33,6 +35,8 @@ private:
     };
     void addPlaces(TKpEntity* entity);
 
+    const QIcon icon_ = rowIcon(QStringLiteral(":/icons/res/icons/entity.svg"));
+    const QIcon missingIcon_ = rowIcon(QStringLiteral(":/icons/res/icons/missing.svg"));
     TKpEntity* root_ = nullptr;
     QHash<const TKpEntity*, Place> places_;
 };

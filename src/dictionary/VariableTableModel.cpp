@@ -5,7 +5,6 @@
 #include "dictionary/mirror/TKpVariable.h"
 
 #include <QDir>
-#include <QIcon>
 
 namespace {
 
@@ -47,14 +46,6 @@ QString toolTip(const TKpVariable& variable, int column) {
     return lines.join('\n');
 }
 
-QVariant icon(const TKpVariable& variable, int column) {
-    if (column == VariableTableModel::NameColumn)
-        return QIcon(QStringLiteral(":/icons/res/icons/variable.svg"));
-    if (column == VariableTableModel::FileColumn && !variable.fileExists)
-        return QIcon(QStringLiteral(":/icons/res/icons/missing.svg"));
-    return {};
-}
-
 } // namespace
 
 void VariableTableModel::setEntity(const TKpEntity* entity) {
@@ -83,7 +74,7 @@ QVariant VariableTableModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return cell(*variable, index.column());
     case Qt::DecorationRole:
-        return icon(*variable, index.column());
+        return decoration(*variable, index.column());
     case Qt::ToolTipRole:
         return toolTip(*variable, index.column());
     case Qt::TextAlignmentRole:
@@ -92,6 +83,12 @@ QVariant VariableTableModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+QVariant VariableTableModel::decoration(const TKpVariable& variable, int column) const {
+    if (column == NameColumn)
+        return variableIcon_;
+    return column == FileColumn && !variable.fileExists ? missingIcon_ : QVariant();
 }
 
 QVariant VariableTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

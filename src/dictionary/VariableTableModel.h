@@ -2,6 +2,8 @@
 // The variables of one entity as a table.
 #pragma once
 
+#include "dictionary/RowIcon.h"
+
 #include <QAbstractTableModel>
 #include <QList>
 
@@ -35,5 +37,9 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    QVariant decoration(const TKpVariable& variable, int column) const;
+
+    const QIcon variableIcon_ = rowIcon(QStringLiteral(":/icons/res/icons/variable.svg"));
+    const QIcon missingIcon_ = rowIcon(QStringLiteral(":/icons/res/icons/missing.svg"));
     QList<TKpVariable*> variables_;
 };

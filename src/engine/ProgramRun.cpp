@@ -17,7 +17,7 @@ ProgramRun runProgram(const std::shared_ptr<TKelDictionary>& dictionary, const Q
         run.outputs = run.session->outputs();
         run.succeeded = true;
     } catch (const std::exception& fault) {
-        run.failure = QString::fromLocal8Bit(fault.what());
+        run.failure = QString::fromStdString(fault.what());
     }
     // The listener ends here, the session lives on with its outputs.
     if (run.session)

@@ -13,13 +13,22 @@
 
 namespace {
 
-/// The arrow for as long as a question is open, since a load shows the wait cursor.
-class ArrowCursor {
+/// While a question is open: the arrow, since a load shows the wait cursor.
+class Question {
 public:
-    ArrowCursor() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-    ~ArrowCursor() { QApplication::restoreOverrideCursor(); }
-    ArrowCursor(const ArrowCursor&) = delete;
-    ArrowCursor& operator=(const ArrowCursor&) = delete;
+    explicit Question(bool& asking) : asking_(asking) {
+        asking_ = true;
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~Question() {
+        QApplication::restoreOverrideCursor();
+        asking_ = false;
+    }
+    Question(const Question&) = delete;
+    Question& operator=(const Question&) = delete;
+
+private:
+    bool& asking_;
 };
 
 QIcon eyeIcon(bool visible) {
@@ -47,6 +56,7 @@ QLineEdit* addPasswordRow(QFormLayout* form) {
     password->setObjectName(QStringLiteral("password"));
     password->setEchoMode(QLineEdit::Password);
     password->setPlaceholderText(UIInvoker::tr("Enter password") + QStringLiteral("..."));
+    password->setMinimumWidth(32 * password->fontMetrics().averageCharWidth());
     auto* row = new QHBoxLayout;
     row->addWidget(password);
     row->addWidget(makeEyeButton(password));
@@ -79,14 +89,24 @@ UIInvoker& UIInvoker::instance() {
 }
 
 QString UIInvoker::promptPassword(const QString& dbName) {
-    const ArrowCursor arrow;
+    if (refusing_)
+        return {};
+    const Question question(asking_);
     QDialog dialog(QApplication::activeWindow());
     const QLineEdit* password = fillPasswordDialog(dialog, dbName);
     return dialog.exec() == QDialog::Accepted ? password->text() : QString();
 }
 
 QString UIInvoker::pickDataDir(const QString& dbName) {
-    const ArrowCursor arrow;
+    if (refusing_)
+        return {};
+    const Question question(asking_);
     return QFileDialog::getExistingDirectory(nullptr, tr("Select data folder to") + ' ' + dbName,
                                              QString(), QFileDialog::ShowDirsOnly);
+}
+
+void UIInvoker::refuseQuestions() {
+    refusing_ = true;
+    if (QWidget* dialog = asking_ ? QApplication::activeModalWidget() : nullptr)
+        dialog->close();
 }

@@ -17,6 +17,14 @@ public:
     /// The folder, empty where the user refuses.
     Q_INVOKABLE QString pickDataDir(const QString& dbName);
 
+    /// The program is about to end: questions are refused from now on, an open one too, whose
+    /// dialog closes once control returns to it.
+    void refuseQuestions();
+    bool isAsking() const { return asking_; }
+
 private:
     UIInvoker() = default;
+
+    bool refusing_ = false;
+    bool asking_ = false;
 };

@@ -69,6 +69,5 @@ QVariant FrequencyModel::headerData(int section, Qt::Orientation orientation, in
         return alignment(section);
     if (role != Qt::DisplayRole)
         return {};
-    const QString count = table_.weight().isEmpty() ? tr("Count") : tr("Weighted count");
-    return QStringList{tr("Code"), tr("Label"), count, tr("Percent")}.value(section);
+    return table_.headings().value(section);
 }

@@ -8,6 +8,9 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
+
+#include <algorithm>
 
 namespace {
 
@@ -75,6 +78,8 @@ std::optional<FrequencyTable> FrequencyTable::fromOutput(TKelOutput& output) {
     for (std::int64_t row = 0; row < data->recCount(); ++row)
         table.rows_.append(readRow(*data, row));
     addPercents(table.rows_);
+    table.fractions_ = std::any_of(table.rows_.begin(), table.rows_.end(),
+                                   [](const FrequencyRow& row) { return row.count.contains('.'); });
     return table;
 }
 
@@ -89,7 +94,7 @@ QString FrequencyTable::note() const {
         parts += tr("Filter: %1").arg(filter_);
     if (suppressed_ > 0)
         parts += tr("%n cell(s) hidden to protect persons", nullptr, static_cast<int>(suppressed_));
-    return parts.join(QStringLiteral("   |   "));
+    return parts.join('\n');
 }
 
 QString FrequencyTable::labelOf(const FrequencyRow& row) const {
@@ -106,22 +111,23 @@ QString FrequencyTable::labelOf(const FrequencyRow& row) const {
     return row.label;
 }
 
+QStringList FrequencyTable::headings() const {
+    return {tr("Code"), tr("Label"), weight_.isEmpty() ? tr("Count") : tr("Weighted count"),
+            tr("Percent")};
+}
+
 QString FrequencyTable::shownCount(const FrequencyRow& row) const {
-    // One column, one form: whole numbers as they are unless a weight makes fractions.
-    bool fractions = false;
-    for (const FrequencyRow& other : rows_)
-        fractions = fractions || other.count.contains('.');
-    return fractions && !row.count.isEmpty() ? QString::number(row.count.toDouble(), 'f', decimals_)
-                                             : row.count;
+    return row.count.isEmpty()
+               ? QString()
+               : QLocale().toString(row.count.toDouble(), 'f', fractions_ ? decimals_ : 0);
 }
 
 QString FrequencyTable::shownPercent(const FrequencyRow& row) {
-    return row.percent ? QString::number(*row.percent, 'f', 1) : QString();
+    return row.percent ? QLocale().toString(*row.percent, 'f', 1) : QString();
 }
 
 QString FrequencyTable::toText() const {
-    QStringList lines{title(), note(),
-                      QStringList{tr("Code"), tr("Label"), tr("Count"), tr("Percent")}.join('\t')};
+    QStringList lines{title(), note(), headings().join('\t')};
     for (const FrequencyRow& row : rows_)
         lines += QStringList{row.code, labelOf(row), row.count,
                              row.percent ? QString::number(*row.percent, 'g', 17) : QString()}

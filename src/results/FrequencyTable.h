@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -34,10 +35,12 @@ public:
     QString title() const;                         ///< the variable and its label
     QString unit() const { return unit_; }         ///< the counted entity
     QString weight() const { return weight_; }     ///< empty for a plain count
-    /// What was counted, how it was weighted, what was left out.
+    /// What was counted, how it was weighted, what was left out: a line for each.
     QString note() const;
+    QStringList headings() const; ///< of code, label, count and percent
     QString labelOf(const FrequencyRow& row) const;
-    /// The count as shown; weighted counts are rounded, the value itself is not.
+    /// The count as shown, in the form of the interface language: whole numbers, or the table's
+    /// decimals in all rows where a weight makes fractions. The value itself is not rounded.
     QString shownCount(const FrequencyRow& row) const;
     static QString shownPercent(const FrequencyRow& row);
     /// Heading and rows, separated by tabs, in full precision.
@@ -48,4 +51,5 @@ private:
     QString variable_, variableLabel_, unit_, weight_, filter_;
     std::int64_t suppressed_ = 0;
     int decimals_ = 2;
+    bool fractions_ = false;
 };

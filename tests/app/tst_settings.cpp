@@ -72,6 +72,17 @@ private slots:
         QVERIFY(!KelSystem::instance().installTranslator("Process_xx"));
         QCOMPARE(KelSystem::instance().language(), "Process_en");
     }
+
+    void languageReachesTheToolkitAndNumbers() {
+        KelSystem& system = KelSystem::instance();
+        system.selectLanguage([] { return QString("Process_es"); });
+        QCOMPARE(system.readValue("language", "kelSystem", "").toString(), "Process_es");
+        QCOMPARE(QLocale().toString(12345.5, 'f', 1), "12.345,5");
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancelar");
+        QVERIFY(system.installTranslator("Process_en"));
+        QCOMPARE(QLocale().toString(12345.5, 'f', 1), "12,345.5");
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancel");
+    }
 };
 
 QTEST_MAIN(TestSettings)

@@ -79,9 +79,11 @@ private slots:
     void questionsGoToTheEngine() {
         TKpEntity* district = util_.findEntity(root_.get(), "DISTRICT");
         TKpEntity* person = util_.findEntity(root_.get(), "PERSON");
-        QVERIFY(person->engineEntity->isMyAncestor(district->engineEntity, false));
-        QVERIFY(!district->engineEntity->isMyAncestor(person->engineEntity, false));
-        QVERIFY(district->engineEntity->isSameBranch(person->engineEntity));
+        QVERIFY(person->isMyAncestor(district, false));
+        QVERIFY(person->isMyAncestor(district->engineEntity, false));
+        QVERIFY(!district->isMyAncestor(person, false));
+        QVERIFY(!person->isMyAncestor(person, false));
+        QVERIFY(district->isSameBranch(person));
         const auto areas = root_->childAreaCodes("", "DISTRICT");
         QCOMPARE(areas.size(), size_t(2));
         QCOMPARE(areas[1].code, "02");
@@ -98,6 +100,9 @@ private slots:
         TKpEntity alone(nullptr);
         QVERIFY(alone.cmpCodeVar() == nullptr);
         QVERIFY(alone.childAreaCodes("01", "PERSON").empty());
+        QVERIFY(!alone.isMyAncestor(district, true));
+        QVERIFY(!person->isSameBranch(&alone));
+        QVERIFY(!person->isMyAncestor(nullptr, true));
     }
 
     void variablesAreCopied() {

@@ -64,8 +64,13 @@ public:
         return variable(entity, name, ValueType::String, size);
     }
 
+    void protect(const std::string& password) {
+        dictionary_.key = storage::Secret::derive(password, storage::Secret::newRecipe());
+    }
+
     void save() {
-        catalog::saveDictionary(dictionary_, folder_ / "small.dicx");
+        if (!dictionary_.key)
+            catalog::saveDictionary(dictionary_, folder_ / "small.dicx");
         catalog::saveDictionary(dictionary_, folder_ / "small.kxdb");
     }
 
@@ -78,6 +83,7 @@ private:
                                                   ValueType type) const {
         storage::ColumnPlan plan;
         plan.type = type;
+        plan.key = dictionary_.key;
         return storage::ColumnWriter::create(folder_ / fileName(entity, name), plan);
     }
 
@@ -118,8 +124,10 @@ void addPersons(Writer& writer, Entity* household) {
 
 } // namespace
 
-void writeSmallDatabase(const QString& folder) {
+void writeSmallDatabase(const QString& folder, const QString& password) {
     Writer writer{std::filesystem::path(folder.toStdString())};
+    if (!password.isEmpty())
+        writer.protect(password.toStdString());
     Entity* country = writer.entity(nullptr, "COUNTRY", {});
     Entity* district = writer.entity(country, "DISTRICT", {2});
     district->label = "District";

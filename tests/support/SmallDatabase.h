@@ -14,5 +14,6 @@
 
 #include <QString>
 
-/// Writes small.kxdb, small.dicx and the data files into the folder.
-void writeSmallDatabase(const QString& folder);
+/// Writes small.kxdb, small.dicx and the data files into the folder. With a password, small.kxdb is
+/// protected and small.dicx is left out.
+void writeSmallDatabase(const QString& folder, const QString& password = {});

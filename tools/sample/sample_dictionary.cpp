@@ -38,16 +38,45 @@ Variable* addVariable(Entity& entity, const std::string& name, const std::string
     return entity.addVariable(std::move(variable));
 }
 
+/// Gives the group to the variables that have none yet.
+void closeGroup(Entity& entity, const std::string& group) {
+    for (const auto& variable : entity.variables)
+        if (variable->group.empty())
+            variable->group = group;
+}
+
+int digits(std::int64_t number) {
+    return static_cast<int>(integerText(number).size());
+}
+
 /// A whole number from lowest to highest, its special codes aside.
 Variable* addNumber(Entity& entity, const std::string& name, const std::string& label, int lowest,
                     int highest, Labels labels = {}) {
     Variable* variable = addVariable(entity, name, label, ValueType::Integer, std::move(labels));
     variable->ranges.push_back({4, static_cast<double>(lowest), static_cast<double>(highest)});
+    variable->size = digits(highest);
     return variable;
+}
+
+Variable* addReal(Entity& entity, const std::string& name, const std::string& label, int size,
+                  int decimals) {
+    Variable* variable = addVariable(entity, name, label, ValueType::Real);
+    variable->size = size;
+    variable->decimals = decimals;
+    return variable;
+}
+
+/// The running number of a record under the one above.
+void addCode(Entity& entity, const std::string& label, int size) {
+    entity.codeVar = addVariable(entity, "NUMBER", label, ValueType::Integer);
+    entity.codeVar->size = size;
+    closeGroup(entity, "Identification");
 }
 
 /// Special codes, labelled.
 void setCodes(Variable& variable, std::optional<int> notapp, std::optional<int> missing) {
+    variable.size =
+        std::max({variable.size, digits(notapp.value_or(0)), digits(missing.value_or(0))});
     if (notapp) {
         variable.notapp = *notapp;
         variable.valueLabels.emplace_back(integerText(*notapp), "Not applicable");
@@ -67,10 +96,11 @@ void addArea(Entity& entity) {
     addText(entity, "NAME", entity.label + " name", 40);
     entity.codeVar = entity.variables[0].get();
     entity.labelVar = entity.variables[1].get();
+    closeGroup(entity, "Identification");
 }
 
 void addHouseholdVariables(Entity& household) {
-    household.codeVar = addVariable(household, "NUMBER", "Household number", ValueType::Integer);
+    addCode(household, "Household number", 6);
     addNumber(household, "TYPE", "Type of household", 1, 6,
               {{"1", "One person"},
                {"2", "Couple"},
@@ -92,10 +122,12 @@ void addHouseholdVariables(Entity& household) {
                          {"5", "River, spring or rain"}}),
              {}, codes::shortMissing);
     addVariable(household, "ELECTRICITY", "Has electricity", ValueType::Boolean,
-                {{"0", "No"}, {"1", "Yes"}});
+                {{"0", "No"}, {"1", "Yes"}})
+        ->size = 1;
     setCodes(*addNumber(household, "ROOMS", "Number of rooms", 1, 12), {}, codes::longMissing);
-    household.weightVar = addVariable(household, "WEIGHT", "Expansion factor", ValueType::Real);
-    household.weightVar->decimals = 3;
+    closeGroup(household, "Housing");
+    household.weightVar = addReal(household, "WEIGHT", "Expansion factor", 8, 3);
+    closeGroup(household, "Sample");
 }
 
 void addActivityVariables(Entity& person) {
@@ -118,13 +150,13 @@ void addActivityVariables(Entity& person) {
                          {"8", "Machine operators and drivers"},
                          {"9", "Elementary occupations"}}),
              codes::longNotApplicable, codes::longMissing);
-    Variable* income = addVariable(person, "INCOME", "Monthly income from work", ValueType::Real);
-    income->decimals = 0;
-    income->notapp = codes::incomeNotApplicable;
+    addReal(person, "INCOME", "Monthly income from work", 7, 0)->notapp =
+        codes::incomeNotApplicable;
+    closeGroup(person, "Work");
 }
 
 void addPersonVariables(Entity& person, const Country& country) {
-    person.codeVar = addVariable(person, "NUMBER", "Person number", ValueType::Integer);
+    addCode(person, "Person number", 3);
     addNumber(person, "SEX", "Sex", 1, 2, {{"1", "Male"}, {"2", "Female"}});
     setCodes(*addNumber(person, "AGE", "Age in completed years", 0, 98), {}, codes::ageMissing);
     addNumber(person, "RELATION", "Relationship to the head", 1, 7,
@@ -142,17 +174,20 @@ void addPersonVariables(Entity& person, const Country& country) {
                          {"4", "Separated or divorced"},
                          {"5", "Widowed"}}),
              codes::shortNotApplicable, codes::shortMissing);
+    closeGroup(person, "Demography");
     setCodes(*addNumber(person, "EDUCATION", "Years of schooling (5 and over)", 0, 17),
              codes::longNotApplicable, codes::longMissing);
     setCodes(*addNumber(person, "LITERATE", "Reads and writes (5 and over)", 1, 2,
                         {{"1", "Yes"}, {"2", "No"}}),
              codes::shortNotApplicable, codes::shortMissing);
+    closeGroup(person, "Education");
     addActivityVariables(person);
     Labels provinces = {{"00", "Abroad"}};
     for (const Province& province : country.provinces)
         provinces.emplace_back(province.code, province.name);
     addVariable(person, "BIRTHPLACE", "Province of birth", ValueType::String, std::move(provinces))
         ->size = 2;
+    closeGroup(person, "Migration");
 }
 
 void addEmigrantVariables(Entity& emigrant) {
@@ -165,6 +200,7 @@ void addEmigrantVariables(Entity& emigrant) {
                          {"3", "Overseas, north"},
                          {"4", "Overseas, other"}}),
              {}, codes::shortMissing);
+    closeGroup(emigrant, "Migration");
 }
 
 } // namespace
@@ -184,7 +220,8 @@ std::unique_ptr<catalog::Dictionary> makeSampleDictionary(const Country& country
     addArea(*province);
     Entity* district = addEntity(*province, "DISTRICT", "District", true);
     addArea(*district);
-    addVariable(*district, "AREA_KM2", "Area in square kilometres", ValueType::Real)->decimals = 1;
+    addReal(*district, "AREA_KM2", "Area in square kilometres", 9, 1);
+    closeGroup(*district, "Territory");
     Entity* household = addEntity(*district, "HOUSEHOLD", "Household", false);
     addHouseholdVariables(*household);
     addPersonVariables(*addEntity(*household, "PERSON", "Person", false), country);

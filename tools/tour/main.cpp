@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tour.h"
 #include "app/MainWindow.h"
+#include "app/Startup.h"
 #include "app/dialogs/Messages.h"
-#include "engine/TKelConfigImpl.h"
-#include "engine/UIInvoker.h"
-#include "kel.h"
+#include "app/settings/KelSystem.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QIcon>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
+#include <span>
 #include <stdexcept>
+#include <string_view>
 
 namespace {
 
@@ -37,22 +38,6 @@ QString makeSample(const QString& folder) {
     return QDir(folder).filePath(found.first());
 }
 
-void startWorkbench() {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setApplicationName(QStringLiteral("KelXProcess"));
-    QApplication::setApplicationVersion(QStringLiteral("67f53c7a"));
-    QApplication::setWindowIcon(
-        QIcon(QStringLiteral(":/icons/res/icons/190px_KelProcessIcon.png")));
-    UIInvoker::instance();
-    kel::init(std::make_shared<TKelConfigImpl>());
-    kel::setupLocale("en");
-}
-
-void nameWindow(MainWindow& window) {
-    window.setWindowTitle(QApplication::applicationName() + ' ' +
-                          QApplication::applicationVersion());
-}
-
 /// Nobody is there to answer: messages go to the standard error, and the step then fails.
 bool refuse(MessageKind /*kind*/, const QString& text) {
     std::fprintf(stderr, "%s\n", qPrintable(text));
@@ -63,6 +48,8 @@ int takePictures(const QString& folder, const QString& dictionary) {
     if (!QDir().mkpath(folder))
         throw std::runtime_error("cannot make the folder " + folder.toStdString());
     answerMessages(refuse);
+    KelSystem::instance().installTranslator(QStringLiteral("Process_en"));
+    startEngine();
     MainWindow window;
     nameWindow(window);
     window.resize(1280, 760);
@@ -77,6 +64,9 @@ int takePictures(const QString& folder, const QString& dictionary) {
 
 /// Leaves the window with a first table to the user.
 int stay(const QString& dictionary) {
+    startEngine();
+    KelSystem& system = KelSystem::instance();
+    system.installTranslator(system.language());
     MainWindow window;
     nameWindow(window);
     window.showMaximized();
@@ -89,8 +79,16 @@ int stay(const QString& dictionary) {
 
 int main(int argc, char** argv) {
     const QTemporaryDir home;
-    separateFromUser(home);
+    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    const bool staying = std::any_of(arguments.begin(), arguments.end(), [](const char* argument) {
+        return std::string_view(argument) == "--stay";
+    });
+    if (!staying)
+        separateFromUser(home);
+    scaleWithScreen();
     QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    nameApplication();
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Drives the workbench through its main job and keeps pictures of it."));
@@ -99,20 +97,19 @@ int main(int argc, char** argv) {
     const QCommandLineOption dictionary(QStringLiteral("dictionary"),
                                         QStringLiteral("what to open instead of a new sample"),
                                         QStringLiteral("file"));
-    const QCommandLineOption staying(
+    const QCommandLineOption stayOption(
         QStringLiteral("stay"),
         QStringLiteral("take no pictures; leave the window with a first table"));
-    parser.addOptions({dictionary, staying});
+    parser.addOptions({dictionary, stayOption});
     parser.process(application);
     const QStringList folders = parser.positionalArguments();
-    if (folders.size() != (parser.isSet(staying) ? 0 : 1))
+    if (folders.size() != (staying ? 0 : 1))
         parser.showHelp(2);
     try {
         const QTemporaryDir sample;
         const QString file =
             parser.isSet(dictionary) ? parser.value(dictionary) : makeSample(sample.path());
-        startWorkbench();
-        return parser.isSet(staying) ? stay(file) : takePictures(folders.first(), file);
+        return staying ? stay(file) : takePictures(folders.first(), file);
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "kelvorax-tour: %s\n", fault.what());
         return 1;

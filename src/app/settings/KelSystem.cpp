@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -97,16 +99,23 @@ void KelSystem::setFirstUse(bool firstUse) {
     save();
 }
 
-void KelSystem::selectLanguage() {
+void KelSystem::selectLanguage(const std::function<QString()>& ask) {
+    language_ = ask();
     save();
     installTranslator(language_);
 }
 
 bool KelSystem::installTranslator(const QString& language) {
     QCoreApplication::removeTranslator(&translator_);
+    QCoreApplication::removeTranslator(&toolkitTranslator_);
     if (!translator_.load(QStringLiteral(":/i18n/") + language, QStringLiteral(".")))
         return false;
     language_ = language;
+    const QLocale locale(language.section('_', 1));
+    QLocale::setDefault(locale);
+    if (toolkitTranslator_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                                QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTranslator_);
     return QCoreApplication::installTranslator(&translator_);
 }
 

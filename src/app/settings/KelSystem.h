@@ -8,6 +8,8 @@
 #include <QTranslator>
 #include <QVariant>
 
+#include <functional>
+
 /// GUI thread only. A missing or damaged file gives the defaults.
 class KelSystem {
 public:
@@ -20,9 +22,10 @@ public:
 
     QString language() const { return language_; } ///< Process_en, _es, _pt or _fr
     void setLanguage(const QString& language) { language_ = language; }
-    /// First use: settles the language, saves, and installs its translator.
-    void selectLanguage();
-    /// False, with the interface as it was, where there is no such translation.
+    /// First use: takes the language that ask gives, saves, and installs its translator.
+    void selectLanguage(const std::function<QString()>& ask);
+    /// Numbers follow the language too. False, with the interface in the language of its source,
+    /// where there is no such translation.
     bool installTranslator(const QString& language);
 
     bool loadLast() const { return loadLast_; }
@@ -52,4 +55,5 @@ private:
     QString defaultFolder_;
     QHash<QString, QString> folders_; ///< by key in the file
     QTranslator translator_;
+    QTranslator toolkitTranslator_; ///< the toolkit's own dialogs and buttons
 };

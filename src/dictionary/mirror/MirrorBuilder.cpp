@@ -23,8 +23,11 @@ QString variableName(const TKelVariable* variable) {
     return variable != nullptr ? text(variable->name()) : QString();
 }
 
-QString dictionaryFolder(TKelDictionary& dictionary) {
-    return QDir::toNativeSeparators(QFileInfo(text(dictionary.fileName())).absolutePath());
+/// The folder that the engine resolves file names against.
+QString dataFolder(TKelDictionary& dictionary) {
+    const QString told = text(dictionary.dataPath());
+    return QDir::toNativeSeparators(
+        told.isEmpty() ? QFileInfo(text(dictionary.fileName())).absolutePath() : told);
 }
 
 /// A code as the interface holds it: without fraction, 0 where there is none.
@@ -124,8 +127,7 @@ void copyEntity(TKelEntity& source, TKpEntity& mirror) {
     mirror.refLabel = variableName(source.labelVar());
     if (const TKelVariable* weight = source.weightVar())
         mirror.weightVar = mirror.name + '.' + text(weight->name());
-    mirror.instanceCount = static_cast<int>(
-        std::min<std::int64_t>(source.instanceCount(0), std::numeric_limits<int>::max()));
+    mirror.instanceCount = source.instanceCount(0);
 }
 
 } // namespace
@@ -135,7 +137,7 @@ void buildEntity(TKelDictionary& dictionary, TKelEntity& engineEntity, TKpEntity
     mirror.engineEntity = &engineEntity;
     mirror.level = level;
     copyEntity(engineEntity, mirror);
-    const QString folder = dictionaryFolder(dictionary);
+    const QString folder = dataFolder(dictionary);
     mirror.fullPath = QDir::toNativeSeparators(resolvePath(mirror.fileName, folder));
     mirror.fileExists = QFileInfo(mirror.fullPath).isFile();
     buildVariables(folder, mirror);

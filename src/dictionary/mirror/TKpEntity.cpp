@@ -3,6 +3,16 @@
 
 #include "dictionary/mirror/TKpVariable.h"
 
+namespace {
+
+/// What the engine knows the entity as; null where it knows none.
+TKelEntity* engineSide(TKelEntity* entity) {
+    const auto* mirror = dynamic_cast<const TKpEntity*>(entity);
+    return mirror != nullptr ? mirror->engineEntity : entity;
+}
+
+} // namespace
+
 TKpEntity::TKpEntity(TKelDictionary* dictionary) : TKelEntity(dictionary) {}
 
 TKpEntity::~TKpEntity() {
@@ -21,6 +31,17 @@ TKelVariable* TKpEntity::cmpCodeVar() {
 
 TKelVariable* TKpEntity::sdcVar() {
     return engineEntity != nullptr ? engineEntity->sdcVar() : nullptr;
+}
+
+bool TKpEntity::isMyAncestor(TKelEntity* other, bool orSelf) {
+    TKelEntity* otherSide = engineSide(other);
+    return engineEntity != nullptr && otherSide != nullptr &&
+           engineEntity->isMyAncestor(otherSide, orSelf);
+}
+
+bool TKpEntity::isSameBranch(TKelEntity* other) {
+    TKelEntity* otherSide = engineSide(other);
+    return engineEntity != nullptr && otherSide != nullptr && engineEntity->isSameBranch(otherSide);
 }
 
 std::vector<EntityAreaCount> TKpEntity::areaEntityCounts(const std::string& compoundCode) {

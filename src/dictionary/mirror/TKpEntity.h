@@ -20,6 +20,9 @@ public:
     void setSelectable(const bool& value) override;
     TKelVariable* cmpCodeVar() override;
     TKelVariable* sdcVar() override;
+    /// Asked of the engine's entities, on behalf of mirrors too.
+    bool isMyAncestor(TKelEntity* other, bool orSelf) override;
+    bool isSameBranch(TKelEntity* other) override;
     std::vector<EntityAreaCount> areaEntityCounts(const std::string& compoundCode) override;
     bool isReadOnly() override;
     std::vector<AreaCodeRecord> childAreaCodes(const std::string& parentCompoundCode,
@@ -38,7 +41,7 @@ public:
     QList<TKpEntity*> children;
     QList<TKpVariable*> variables;
     int level = 0; ///< 1 for the root
-    int instanceCount = 0;
+    qint64 instanceCount = 0;
     bool sensitive = false; ///< a variable of it hides small cells
     bool extraFlagA = false;
     bool extraFlagB = false;
@@ -49,4 +52,7 @@ public:
     QString fullPath; ///< with native separators
     bool fileExists = false;
     TKelEntity* engineEntity = nullptr; ///< not owned
+
+    /// The root and virtual entities need no file of their own.
+    bool isFileMissing() const { return !fileName.isEmpty() && !fileExists; }
 };

@@ -33,6 +33,7 @@ public:
     TKelEntity* findEntity(const std::string& name);
 
     // Additions of this engine.
+    std::string dataPath() const; ///< where the data lie: the dictionary's folder unless told
     /// Takes over the names, labels and structure of another tree that began as a copy of this one.
     void setRoot(const std::shared_ptr<TKelEntity>& root);
 
