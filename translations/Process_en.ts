@@ -65,28 +65,9 @@
         <source>Records</source>
         <translation>Records</translation>
     </message>
-</context>
-<context>
-    <name>FrequencyModel</name>
     <message>
-        <source>Count</source>
-        <translation>Count</translation>
-    </message>
-    <message>
-        <source>Weighted count</source>
-        <translation>Weighted count</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Code</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Label</translation>
-    </message>
-    <message>
-        <source>Percent</source>
-        <translation>Percent</translation>
+        <source>File not found: %1</source>
+        <translation>File not found: %1</translation>
     </message>
 </context>
 <context>
@@ -141,6 +122,10 @@
     <message>
         <source>Percent</source>
         <translation>Percent</translation>
+    </message>
+    <message>
+        <source>Weighted count</source>
+        <translation>Weighted count</translation>
     </message>
 </context>
 <context>
@@ -327,6 +312,17 @@ Engine version: %2</translation>
     <message>
         <source>Warning</source>
         <translation>Warning</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorLanguageDlg</name>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Select Language</source>
+        <translation>Select Language</translation>
     </message>
 </context>
 <context>

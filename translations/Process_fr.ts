@@ -65,28 +65,9 @@
         <source>Records</source>
         <translation>Enregistrements</translation>
     </message>
-</context>
-<context>
-    <name>FrequencyModel</name>
     <message>
-        <source>Count</source>
-        <translation>Effectif</translation>
-    </message>
-    <message>
-        <source>Weighted count</source>
-        <translation>Effectif pondéré</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Code</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Libellé</translation>
-    </message>
-    <message>
-        <source>Percent</source>
-        <translation>Pourcentage</translation>
+        <source>File not found: %1</source>
+        <translation>Fichier introuvable : %1</translation>
     </message>
 </context>
 <context>
@@ -141,6 +122,10 @@
     <message>
         <source>Percent</source>
         <translation>Pourcentage</translation>
+    </message>
+    <message>
+        <source>Weighted count</source>
+        <translation>Effectif pondéré</translation>
     </message>
 </context>
 <context>
@@ -327,6 +312,17 @@ Version du moteur : %2</translation>
     <message>
         <source>Warning</source>
         <translation>Avertissement</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorLanguageDlg</name>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Select Language</source>
+        <translation>Choisissez la langue</translation>
     </message>
 </context>
 <context>

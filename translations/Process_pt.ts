@@ -65,28 +65,9 @@
         <source>Records</source>
         <translation>Registros</translation>
     </message>
-</context>
-<context>
-    <name>FrequencyModel</name>
     <message>
-        <source>Count</source>
-        <translation>Casos</translation>
-    </message>
-    <message>
-        <source>Weighted count</source>
-        <translation>Casos ponderados</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Código</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Rótulo</translation>
-    </message>
-    <message>
-        <source>Percent</source>
-        <translation>Porcentagem</translation>
+        <source>File not found: %1</source>
+        <translation>Arquivo não encontrado: %1</translation>
     </message>
 </context>
 <context>
@@ -141,6 +122,10 @@
     <message>
         <source>Percent</source>
         <translation>Porcentagem</translation>
+    </message>
+    <message>
+        <source>Weighted count</source>
+        <translation>Casos ponderados</translation>
     </message>
 </context>
 <context>
@@ -327,6 +312,17 @@ Versão do motor: %2</translation>
     <message>
         <source>Warning</source>
         <translation>Aviso</translation>
+    </message>
+</context>
+<context>
+    <name>SelectorLanguageDlg</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Select Language</source>
+        <translation>Selecione o idioma</translation>
     </message>
 </context>
 <context>

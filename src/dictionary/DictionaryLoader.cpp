@@ -62,6 +62,7 @@ bool DictionaryLoader::start(const QString& path, const QString& extension) {
     const auto kind = kindOf(extension);
     if (isRunning() || !kind)
         return false;
+    ending_ = false;
     TfrmProject::instance().beginOpening(path, *kind);
     thread_ = new LoadThread(this);
     connect(thread_, &LoadThread::signalDictionaryLoaded, this, &DictionaryLoader::onLoaded);
@@ -74,7 +75,7 @@ bool DictionaryLoader::start(const QString& path, const QString& extension) {
 void DictionaryLoader::finish() {
     if (thread_ == nullptr)
         return;
-    thread_->disconnect(this);
+    ending_ = true;
     // The thread may be waiting for an answer of the GUI thread; nothing else is let in.
     while (!thread_->wait(20))
         QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
@@ -82,12 +83,16 @@ void DictionaryLoader::finish() {
     TfrmProject::instance().abandonOpening();
 }
 
-void DictionaryLoader::join() {
+bool DictionaryLoader::join() {
+    if (thread_ == nullptr || ending_)
+        return false; // a result that was on its way when the load was forgotten
     std::exchange(thread_, nullptr)->wait();
+    return true;
 }
 
 void DictionaryLoader::onLoaded() {
-    join();
+    if (!join())
+        return;
     emit aboutToReplace();
     TfrmProject& project = TfrmProject::instance();
     project.adoptStagedDictionary();
@@ -99,7 +104,8 @@ void DictionaryLoader::onLoaded() {
 }
 
 void DictionaryLoader::onError(const QString& message) {
-    join();
+    if (!join())
+        return;
     TfrmProject::instance().abandonOpening();
     emit failed(message);
 }

@@ -30,9 +30,11 @@ signals:
     void failed(const QString& message); ///< what was open is still open
 
 private:
-    void join(); ///< the thread has told its result and is about to end
+    /// The thread has told its result and is about to end. False where nobody waits for it.
+    bool join();
     void onLoaded();
     void onError(const QString& message);
 
     LoadThread* thread_ = nullptr;
+    bool ending_ = false;
 };

@@ -3,8 +3,13 @@
 #include "app/MainWindow.h"
 #include "app/dialogs/Messages.h"
 #include "engine/TKelConfigImpl.h"
+#include "engine/UIInvoker.h"
 #include "kel.h"
+#include "projects/TfrmProject.h"
+#include "support/ModalAnswer.h"
+#include "support/SmallDatabase.h"
 
+#include <QTemporaryDir>
 #include <QTest>
 
 class TestClose : public QObject {
@@ -26,6 +31,38 @@ private slots:
         }
         QCOMPARE(destroyCalls(), 1);
         QCOMPARE(messages, 0);
+    }
+
+    void closingWhileThePasswordIsAskedEndsBoth() {
+        kel::init(std::make_shared<TKelConfigImpl>());
+        UIInvoker::instance();
+        const QTemporaryDir folder;
+        writeSmallDatabase(folder.path(), "s3cret");
+        const int before = destroyCalls();
+        MainWindow window;
+        window.show();
+        window.openFile(folder.filePath("small.kxdb"), "kxdb");
+        answerNextDialog([&window](QDialog&) { window.close(); });
+        QTRY_COMPARE(destroyCalls(), before + 1);
+        QVERIFY(!window.isVisible());
+        QVERIFY(!UIInvoker::instance().isAsking());
+        QVERIFY(!TfrmProject::instance().isOpen());
+    }
+
+    // After the case above: questions stay refused for the rest of the process.
+    void closingDuringALoadEndsIt() {
+        kel::init(std::make_shared<TKelConfigImpl>());
+        const QTemporaryDir folder;
+        writeSmallDatabase(folder.path(), "s3cret");
+        const int before = destroyCalls();
+        MainWindow window;
+        window.show();
+        window.openFile(folder.filePath("small.kxdb"), "kxdb");
+        QVERIFY(window.isLoading());
+        QVERIFY(window.close()); // before the thread's question can be asked
+        QVERIFY(!window.isLoading());
+        QVERIFY(!TfrmProject::instance().isOpen());
+        QCOMPARE(destroyCalls(), before + 1);
     }
 };
 

@@ -71,25 +71,15 @@ private slots:
         const int status = kelvoraxMain(1, arguments);
         qInstallMessageHandler(nullptr);
         QCOMPARE(status, 0);
-        QCOMPARE(logged, QStringList({"Starting...",
-                                      "Engine Starting",
-                                      "Loading the initial setup",
-                                      "asks: Language",
-                                      "offers: English",
-                                      "offers: Español",
-                                      "offers: Português",
-                                      "offers: Français",
-                                      "Preparing the main screen",
-                                      "Defining the work Area",
-                                      "Getting the current Languague",
-                                      "Initializing the MainController",
-                                      "Setup the toolbar",
-                                      "Setup InfoProperties",
-                                      "Setup the StatusBar",
-                                      "MainWindow processed successfully",
-                                      "Loading the main screen settings",
-                                      "Checking for new updates",
-                                      "Kelvora X is now running"}));
+        QCOMPARE(logged,
+                 QStringList(
+                     {"Starting...", "Engine Starting", "Loading the initial setup",
+                      "asks: Language", "offers: English", "offers: Español", "offers: Português",
+                      "offers: Français", "Preparing the main screen", "Defining the work Area",
+                      "Getting the current Languague", "Initializing the MainController",
+                      "Setup the toolbar", "Setup InfoProperties", "Setup the StatusBar",
+                      "MainWindow processed successfully", "Loading the main screen settings",
+                      "Checking for new updates", "Kelvora X is now running"}));
         QCOMPARE(firstMenu, "&Fichier");
         QFile file(settingsPath());
         QVERIFY(file.open(QIODevice::ReadOnly));

@@ -10,9 +10,11 @@
 #include "engine/UIInvoker.h"
 #include "kel.h"
 #include "projects/TfrmProject.h"
+#include "support/ModalAnswer.h"
 #include "support/SmallDatabase.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDockWidget>
 #include <QFile>
@@ -20,6 +22,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
@@ -40,13 +43,21 @@ class TestMainWindow : public QObject {
         return window_->findChild<Widget*>(QLatin1String(name));
     }
 
+    /// No window manager does it here once a dialog has gone.
+    void activate() const {
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
     void openByKeyboard(const QString& path) const {
+        activate();
         KelvoraFileDialog::answerNext(path);
         QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
         QTRY_VERIFY_WITH_TIMEOUT(!window_->isLoading(), 20000);
     }
 
     void select(const QStringList& entities, const QString& variable) const {
+        activate();
         const auto* tree = find<QTreeView>("entityTree");
         QModelIndex place;
         for (const QString& name : entities) {
@@ -65,6 +76,19 @@ class TestMainWindow : public QObject {
     }
 
     void selectSex() const { select({"COUNTRY", "DISTRICT", "HOUSEHOLD", "PERSON"}, "SEX"); }
+
+    void openSmall() const {
+        if (TfrmProject::instance().dictionaryPath() != folder_.filePath("small.kxdb"))
+            openByKeyboard(folder_.filePath("small.kxdb"));
+        QVERIFY(TfrmProject::instance().allPathsFound());
+    }
+
+    void runSex() const {
+        openSmall();
+        selectSex();
+        QTest::keyClick(window_.get(), Qt::Key_F9);
+        QCOMPARE(frequencyRows().size(), 4);
+    }
 
     QStringList frequencyRows() const {
         const QAbstractItemModel* model = find<QTableView>("frequencyTable")->model();
@@ -124,8 +148,7 @@ private slots:
     }
 
     void frequencyShowsWeightedFigures() {
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
+        runSex();
         QCOMPARE(messages_, QStringList());
         QVERIFY(find<QDockWidget>("resultDock")->isVisible());
         QStringList rows = frequencyRows();
@@ -137,8 +160,27 @@ private slots:
         QVERIFY(find<QLabel>("frequencyTitle")->text().contains("PERSON.SEX"));
     }
 
+    void keyboardAloneMakesATable() {
+        openSmall();
+        auto* tree = find<QTreeView>("entityTree");
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_End); // PERSON, the last entity
+        QTest::keyClick(window_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), "rooms");
+        QCOMPARE(find<QLabel>("variableCount")->text(), "0 of 3");
+        QTest::keyClick(tree, Qt::Key_Up);
+        QCOMPARE(find<QLabel>("variableCount")->text(), "1 of 2");
+        QTest::keyClick(window_.get(), Qt::Key_F9);
+        QStringList rows = frequencyRows();
+        rows.sort();
+        QCOMPARE(rows, QStringList({"2||2.50|55.6", "3||2.00|44.4", "|Total|4.50|100.0"}));
+        find<QLineEdit>("variableFilter")->clear();
+    }
+
     void totalIsBoldAndNumbersStandRight() {
+        runSex();
         const QAbstractItemModel* model = find<QTableView>("frequencyTable")->model();
+        QCOMPARE(model->rowCount(), 4);
         for (int row = 0; row < model->rowCount(); ++row) {
             const QModelIndex index = model->index(row, 2);
             QCOMPARE(index.data(Qt::FontRole).value<QFont>().bold(),
@@ -148,14 +190,16 @@ private slots:
     }
 
     void copiedTableKeepsFullPrecision() {
+        runSex();
         find<QAction>("actionCopyTable")->trigger();
         const QString text = QGuiApplication::clipboard()->text();
-        QVERIFY(text.contains("Code\tLabel\tCount\tPercent\n"));
+        QVERIFY(text.contains("Code\tLabel\tWeighted count\tPercent\n"));
         QVERIFY(text.contains("1\tMale\t2.5\t26.315789473684"));
         QVERIFY(text.contains("Unit of count: PERSON"));
     }
 
     void frequencyWithoutWeightCounts() {
+        openSmall();
         select({"COUNTRY", "DISTRICT"}, "ZONE");
         QTest::keyClick(window_.get(), Qt::Key_F9);
         QStringList rows = frequencyRows();
@@ -165,6 +209,7 @@ private slots:
     }
 
     void programFaultIsToldAndKeepsTheTable() {
+        runSex();
         const QStringList before = frequencyRows();
         window_->runFrequency("PERSON.NOSUCH");
         QCOMPARE(messages_.size(), 1);
@@ -174,6 +219,7 @@ private slots:
     }
 
     void badFileKeepsTheOpenDictionary() {
+        openSmall();
         QFile bad(folder_.filePath("bad.kxdb"));
         QVERIFY(bad.open(QIODevice::WriteOnly));
         bad.write("this is no dictionary");
@@ -203,6 +249,90 @@ private slots:
         messages_.clear();
         openByKeyboard(folder_.filePath("small.kxdb"));
         QVERIFY(TfrmProject::instance().allPathsFound());
+    }
+
+    void missingEntityFileIsTold() {
+        const QTemporaryDir other;
+        writeSmallDatabase(other.path());
+        QVERIFY(QFile::remove(other.filePath("PERSON.kpt")));
+        openByKeyboard(other.filePath("small.kxdb"));
+        QTRY_COMPARE(messages_.size(), 1);
+        QVERIFY2(messages_[0].endsWith("\n\nPERSON"), qPrintable(messages_[0]));
+        messages_.clear();
+        selectSex();
+        QTest::keyClick(window_.get(), Qt::Key_F9);
+        QCOMPARE(messages_.size(), 1);
+        QVERIFY2(messages_[0].contains("PERSON.kpt"), qPrintable(messages_[0]));
+        QVERIFY(!find<QDockWidget>("resultDock")->isVisible());
+    }
+
+    void dataFolderOfTheUserIsKept() {
+        const QTemporaryDir alone;
+        const QString path = alone.filePath("small.kxdb");
+        QVERIFY(QFile::copy(folder_.filePath("small.kxdb"), path));
+        answerNextDialog([this](QDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), "Select data folder to SMALL");
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(folder_.path());
+            dialog.accept();
+        });
+        openByKeyboard(path);
+        QCOMPARE(messages_, QStringList());
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), path);
+        QVERIFY(TfrmProject::instance().allPathsFound());
+        selectSex();
+        QTest::keyClick(window_.get(), Qt::Key_F9);
+        QCOMPARE(messages_, QStringList());
+        QCOMPARE(frequencyRows().size(), 4);
+    }
+
+    void refusedDataFolderEndsTheLoad() {
+        openSmall();
+        const QTemporaryDir alone;
+        QVERIFY(QFile::copy(folder_.filePath("small.kxdb"), alone.filePath("small.kxdb")));
+        answerNextDialog([](QDialog& dialog) { dialog.reject(); });
+        openByKeyboard(alone.filePath("small.kxdb"));
+        QTRY_COMPARE(messages_, QStringList("Missing data location."));
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), folder_.filePath("small.kxdb"));
+    }
+
+    void passwordOpensAProtectedDatabase() {
+        const QTemporaryDir other;
+        writeSmallDatabase(other.path(), "s3cret");
+        const QString path = other.filePath("small.kxdb");
+        const auto answer = [this, &path](const QString& password) {
+            messages_.clear();
+            answerNextDialog([password](QDialog& dialog) {
+                QTest::keyClicks(dialog.findChild<QLineEdit*>("password"), password);
+                QTest::keyClick(&dialog, Qt::Key_Return);
+            });
+            openByKeyboard(path);
+        };
+        answer("wrong");
+        QTRY_COMPARE(messages_, QStringList("Wrong password."));
+        answer("");
+        QTRY_COMPARE(messages_, QStringList("Missing password."));
+        answer("s3cret");
+        QCOMPARE(messages_, QStringList());
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), path);
+        selectSex();
+        QTest::keyClick(window_.get(), Qt::Key_F9);
+        QCOMPARE(frequencyRows().size(), 4);
+    }
+
+    void changesAreSavedBeforeTheNextOneOpens() {
+        const QTemporaryDir other;
+        writeSmallDatabase(other.path());
+        const QString path = other.filePath("small.kxdb");
+        openByKeyboard(path);
+        TKelDictionary& dictionary = *TfrmProject::instance().dictionary();
+        dictionary.findEntity("PERSON")->setLabel("Inhabitant");
+        dictionary.setDirty(true);
+        answer_ = true;
+        openByKeyboard(folder_.filePath("small.kxdb"));
+        answer_ = false;
+        QCOMPARE(messages_, QStringList("Do you want to save the changes in the dictionary?"));
+        const auto saved = kel::readDictionary(path.toStdString(), nullptr, true);
+        QCOMPARE(saved->findEntity("PERSON")->label(), "Inhabitant");
     }
 
     void languageChangesTheOpenWindow_data() {
@@ -240,9 +370,7 @@ private slots:
 
     // The last one: the engine ends with it.
     void closingAsksOnceAndEndsTheEngineOnce() {
-        QVERIFY(TfrmProject::instance().isOpen());
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
+        runSex();
         TfrmProject::instance().dictionary()->setDirty(true);
         answer_ = false;
         QVERIFY(window_->close());

@@ -78,6 +78,22 @@ private slots:
         QCOMPARE(model.rowCount(), 0);
     }
 
+    void entityWithoutItsFileIsMarked() {
+        person_->fileName = "PERSON.kpt";
+        person_->fullPath = "/data/PERSON.kpt";
+        EntityTreeModel model;
+        model.setRoot(root_.get());
+        const QModelIndex person = model.indexOf(person_);
+        QCOMPARE(person.siblingAtColumn(EntityTreeModel::RecordsColumn).data().toString(), "");
+        QVERIFY(person.data(Qt::ToolTipRole).toString().contains("/data/PERSON.kpt"));
+        const auto image = [](const QModelIndex& index) {
+            return index.data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+        };
+        QVERIFY(image(person) != image(person.parent()));
+        person_->fileExists = true;
+        QCOMPARE(person.siblingAtColumn(EntityTreeModel::RecordsColumn).data().toString(), "7");
+    }
+
     void variableTableTellsEachColumn() {
         VariableTableModel model;
         const QAbstractItemModelTester tester(&model);
@@ -135,10 +151,13 @@ private slots:
         auto* filter = browser.findChild<QLineEdit*>("variableFilter");
         QVERIFY(browser.currentVariable() == nullptr);
         browser.setRoot(root_.get());
-        QCOMPARE(table->model()->rowCount(), 0); // the root has no variables
-        const QModelIndex household = tree->model()->index(0, 0, tree->model()->index(0, 0));
-        tree->setCurrentIndex(tree->model()->index(0, 0, household));
+        QCOMPARE(tree->currentIndex().data().toString(), "PERSON"); // the first with variables
         QCOMPARE(table->model()->rowCount(), 3);
+        const QModelIndex country = tree->model()->index(0, 0);
+        tree->setCurrentIndex(country);
+        QCOMPARE(table->model()->rowCount(), 0);
+        QVERIFY(browser.currentVariable() == nullptr);
+        tree->setCurrentIndex(tree->model()->index(0, 0, tree->model()->index(0, 0, country)));
         QCOMPARE(browser.currentVariable()->fullName, "PERSON.SEX");
         QCOMPARE(labels->model()->rowCount(), 2);
         QTest::keyClicks(filter, "wage");

@@ -47,7 +47,7 @@ using TKelVariant = std::variant<std::int64_t, double, std::string>;
 using TKelValueLabels = std::map<std::string, std::string>;
 
 /// Reserved for the engine; callers pass a null pointer.
-struct _validation_context;
+struct _validation_context; // NOLINT(bugprone-reserved-identifier): the boundary's name
 
 /// Progress of a list of programs, handed to the callback of TKelExecute.
 struct TKelExecuteCallbackInfo {

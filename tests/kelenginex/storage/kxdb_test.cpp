@@ -8,7 +8,6 @@ namespace kelx::testing {
 
 using KxdbTest = StorageTest;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 namespace {
 
@@ -82,7 +81,8 @@ TEST_F(KxdbTest, ClaimsOfHugeContentAreNotBelieved) {
         EXPECT_THROW(readKxdb(path("b.kxdb"), {}), FileError) << claim;
     }
     // A frame that unpacks to much more than the header announces.
-    const std::string zeros(50000000, '\0');
+    std::string zeros;
+    zeros.resize(50000000);
     std::string frame(ZSTD_compressBound(zeros.size()), '\0');
     frame.resize(ZSTD_compress(frame.data(), frame.size(), zeros.data(), zeros.size(), 1));
     auto bytes = good.substr(0, 128) + frame;

@@ -148,7 +148,8 @@ TEST_F(MutationTest, Dictionaries) {
 
 TEST_F(MutationTest, RawColumnsAndDescriptions) {
     Mutator mutator(9);
-    const std::string good = "12  -3 4.5\xff\x7f\x3c abc\x01\x00 9  0001234C\xff\xff\xff";
+    using namespace std::string_literals;
+    const std::string good = "12  -3 4.5\xff\x7f\x3c abc\x01\0 9  0001234C\xff\xff\xff"s;
     for (int i = 0; i < 8000; ++i) {
         writeBytes(path("mutated"), mutator.mutate(good));
         consumeRaw(path("mutated"), mutator.number());

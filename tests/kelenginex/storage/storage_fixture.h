@@ -57,7 +57,7 @@ inline std::shared_ptr<const Secret> cheapKey(const std::string& password) {
 }
 
 inline void writeIntegers(const std::filesystem::path& file, const Integers& values,
-                          ColumnPlan plan = {}) {
+                          const ColumnPlan& plan = {}) {
     const auto writer = ColumnWriter::create(file, plan);
     for (const auto& value : values)
         value ? writer->addInteger(*value) : writer->addBlank();
