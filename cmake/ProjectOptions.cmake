@@ -49,12 +49,16 @@ function(kelvorax_library name)
     kelvorax_checked(${name})
 endfunction()
 
+# Builds all that the tests labelled "engine" need.
+add_custom_target(engine-tests)
+
 # A GoogleTest program: kelvorax_gtest(name SOURCES a.cpp LINK lib).
 function(kelvorax_gtest name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} GTest::gmock GTest::gtest_main)
     kelvorax_checked(${name})
+    add_dependencies(engine-tests ${name})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS engine TIMEOUT 300)
 endfunction()

@@ -32,11 +32,13 @@ def main():
 
     def check(entry):
         source = pathlib.Path(entry["file"])
+        # The path analyser takes minutes over the macros of test frameworks.
+        checks = "-clang-analyzer-*" if source.is_relative_to(top / "tests") else ""
         key = hashlib.sha256(common + source.read_bytes() + entry["command"].encode()).hexdigest()
         stamp = cache / key
         if stamp.exists():
             return source, True, ""
-        done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build),
+        done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), "--checks=" + checks,
                                "--extra-arg=-Wno-unknown-warning-option", str(source)],
                               capture_output=True, text=True)
         if done.returncode == 0:
