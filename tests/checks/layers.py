@@ -33,7 +33,7 @@ ALLOWED["tools/kelx"] = EVERY_LAYER + ["tools/import", "tools/sample"]
 ALLOWED["tools/tour"] = BOUNDARY + WORKBENCH + ["src/app"]
 
 ROOTS = ["src", "src/engine/boundary", "kelenginex", "tools"]
-INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
+INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.MULTILINE)
 
 
 def folder_of(path):
