@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/DictionaryBrowser.h"
 
+#include "app/widgets/ReadOnlyTable.h"
 #include "dictionary/EntityTreeModel.h"
 #include "dictionary/ValueLabelModel.h"
 #include "dictionary/VariableFilter.h"
@@ -15,7 +16,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableView>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -24,19 +24,8 @@
 namespace {
 
 QTableView* makeTable(QAbstractItemModel* model, const QString& objectName) {
-    auto* table = new QTableView;
-    table->setObjectName(objectName);
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    auto* table = new ReadOnlyTable(model, objectName);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setAlternatingRowColors(true);
-    table->setShowGrid(false);
-    table->setTabKeyNavigation(false);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
-    table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setStretchLastSection(true);
     return table;
 }

@@ -62,6 +62,7 @@ QLineEdit* addPasswordRow(QFormLayout* form) {
     row->addWidget(makeEyeButton(password));
     auto* label = new QLabel(UIInvoker::tr("Password"));
     label->setBuddy(password);
+    label->setMinimumHeight(row->sizeHint().height()); // level with the taller button
     form->addRow(label, row);
     return password;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/FrequencyView.h"
 
+#include "app/widgets/ReadOnlyTable.h"
 #include "results/FrequencyModel.h"
 
 #include <QAction>
@@ -9,7 +10,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
-#include <QTableView>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,18 +24,8 @@ QLabel* makeLabel(const QString& objectName) {
 }
 
 QTableView* makeTable(QAbstractItemModel* model) {
-    auto* table = new QTableView;
-    table->setObjectName(QStringLiteral("frequencyTable"));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setAlternatingRowColors(true);
-    table->setShowGrid(false);
-    table->setTabKeyNavigation(false);
+    auto* table = new ReadOnlyTable(model, QStringLiteral("frequencyTable"));
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
-    table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(FrequencyModel::LabelColumn,
                                                     QHeaderView::Stretch);
     return table;

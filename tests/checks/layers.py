@@ -20,11 +20,13 @@ ALLOWED["src/dictionary/mirror"] = BOUNDARY
 ALLOWED["src/projects"] = BOUNDARY + ["src/dictionary/mirror"]
 ALLOWED["src/app/settings"] = []
 ALLOWED["src/app/dialogs"] = ["src/app/settings"]
+ALLOWED["src/app/widgets"] = []
 ALLOWED["src/preferences"] = ["src/app/settings"]
-ALLOWED["src/dictionary"] = BOUNDARY + ["src/dictionary/mirror", "src/projects"]
-ALLOWED["src/results"] = BOUNDARY
+ALLOWED["src/dictionary"] = BOUNDARY + ["src/dictionary/mirror", "src/projects",
+                                        "src/app/widgets"]
+ALLOWED["src/results"] = BOUNDARY + ["src/app/widgets"]
 WORKBENCH = ["src/engine", "src/dictionary/mirror", "src/projects", "src/app/settings",
-             "src/app/dialogs", "src/preferences", "src/dictionary", "src/results"]
+             "src/app/dialogs", "src/app/widgets", "src/preferences", "src/dictionary", "src/results"]
 ALLOWED["src/app"] = BOUNDARY + WORKBENCH
 
 ALLOWED["tools/import"] = EVERY_LAYER

@@ -9,18 +9,56 @@
 
 namespace {
 
-QList<TKelEntity*> engineEntities(TKelEntity* root) {
-    QList<TKelEntity*> result;
-    if (root == nullptr)
-        return result;
-    result.append(root);
-    for (TKelEntity* child : root->children())
-        result += engineEntities(child);
-    return result;
+const std::vector<TKelEntity*>& childrenOf(TKelEntity& entity) {
+    return entity.children();
 }
 
-QString engineName(const TKelEntity* entity) {
-    return QString::fromStdString(entity->name());
+const QList<TKpEntity*>& childrenOf(const TKpEntity& entity) {
+    return entity.children;
+}
+
+QString nameOf(const TKelEntity& entity) {
+    return QString::fromStdString(entity.name());
+}
+
+QString nameOf(const TKpEntity& entity) {
+    return entity.name;
+}
+
+/// The tree in pre-order.
+template <class Entity>
+void walk(Entity* root, QList<Entity*>& entities) {
+    if (root == nullptr)
+        return;
+    entities.append(root);
+    for (Entity* child : childrenOf(*root))
+        walk(child, entities);
+}
+
+template <class Entity>
+QList<Entity*> treeOf(Entity* root) {
+    QList<Entity*> entities;
+    walk(root, entities);
+    return entities;
+}
+
+template <class Entity>
+Entity* find(Entity* root, const QString& name) {
+    Entity* last = nullptr;
+    for (Entity* entity : treeOf(root)) {
+        last = entity;
+        if (nameOf(*entity) == name)
+            break;
+    }
+    return last;
+}
+
+template <class Entity>
+QStringList namesOf(Entity* root) {
+    QStringList names;
+    for (const Entity* entity : treeOf(root))
+        names.append(nameOf(*entity));
+    return names;
 }
 
 /// Appends the chain from root down to entity; false where entity is not at or below root.
@@ -36,33 +74,15 @@ bool findPath(TKpEntity* root, const TKpEntity* entity, QList<TKpEntity*>& path)
 } // namespace
 
 TKpEntity* DictionaryUtil::findEntity(TKpEntity* root, const QString& name) const {
-    TKpEntity* last = nullptr;
-    for (TKpEntity* entity : entities(root)) {
-        last = entity;
-        if (entity->name == name)
-            break;
-    }
-    return last;
+    return find(root, name);
 }
 
 TKelEntity* DictionaryUtil::findEngineEntity(TKelEntity* root, const QString& name) const {
-    TKelEntity* last = nullptr;
-    for (TKelEntity* entity : engineEntities(root)) {
-        last = entity;
-        if (engineName(entity) == name)
-            break;
-    }
-    return last;
+    return find(root, name);
 }
 
 QList<TKpEntity*> DictionaryUtil::entities(TKpEntity* root) const {
-    QList<TKpEntity*> result;
-    if (root == nullptr)
-        return result;
-    result.append(root);
-    for (TKpEntity* child : root->children)
-        result += entities(child);
-    return result;
+    return treeOf(root);
 }
 
 QList<TKpEntity*> DictionaryUtil::selectableEntities(TKpEntity* root) const {
@@ -81,17 +101,11 @@ QList<TKpEntity*> DictionaryUtil::pathToRoot(TKpEntity* root, TKpEntity* entity)
 }
 
 QStringList DictionaryUtil::engineNames(TKelEntity* root) const {
-    QStringList result;
-    for (const TKelEntity* entity : engineEntities(root))
-        result.append(engineName(entity));
-    return result;
+    return namesOf(root);
 }
 
 QStringList DictionaryUtil::names(TKpEntity* root) const {
-    QStringList result;
-    for (const TKpEntity* entity : entities(root))
-        result.append(entity->name);
-    return result;
+    return namesOf(root);
 }
 
 int DictionaryUtil::codeSize(const TKpEntity& entity) const {
@@ -109,7 +123,7 @@ QStringList DictionaryUtil::variableNames(const TKelEntity& entity) const {
     QStringList result;
     for (const TKelVariable* variable : entity.variables()) {
         const QString name = QString::fromStdString(variable->name());
-        result << name << engineName(&entity) + '.' + name;
+        result << name << nameOf(entity) + '.' + name;
     }
     return result;
 }
