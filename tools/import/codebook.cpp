@@ -229,7 +229,7 @@ private:
                 return integerText(*value);
         } else if (field.type == ValueType::Real) {
             if (const auto value = parseReal(code))
-                return realText(*value);
+                return numberText(*value);
         } else if (const auto value = parseBoolean(code)) {
             return *value ? "1" : "0";
         }
