@@ -185,20 +185,16 @@ void runProgram(benchmark::State& state, const Question& question) {
     tellBytes(state, Reading(question));
 }
 
-void add(const std::string& name, void (*function)(benchmark::State&, const Question&),
-         const Question& question, int threads) {
-    benchmark::RegisterBenchmark(name.c_str(), function, question)
-        ->ArgName("threads")
-        ->Arg(threads)
-        ->Unit(benchmark::kMillisecond)
-        ->UseRealTime();
+void measure(benchmark::internal::Benchmark* made, int threads) {
+    made->ArgName("threads")->Arg(threads)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
 void registerAll() {
     for (const int threads : {1, 2}) {
         for (const Question& question : questions()) {
-            add(std::string("read_") + question.name, readBytes, question, threads);
-            add(question.name, runProgram, question, threads);
+            const std::string reading = std::string("read_") + question.name;
+            measure(benchmark::RegisterBenchmark(reading.c_str(), readBytes, question), threads);
+            measure(benchmark::RegisterBenchmark(question.name, runProgram, question), threads);
         }
     }
 }

@@ -103,7 +103,8 @@ TEST(CsvRoundTrip, WhatAnyDictionarySaysComesBackByteForByte) {
     auto db = catalog::readDictionary(folder.path() / "db.kxdb", {});
     catalog::Entity& person = *db->findEntity("PERSON");
     person.findVariable("AGE")->valueLabels = {{"98", ""}, {"099", "Unknown"}};
-    person.findVariable("SEX")->valueLabels = {{"9", ""}, {"02", "Female"}, {"1", ""}};
+    person.findVariable("SEX")->valueLabels = {
+        {"9", ""}, {"02", "Female"}, {"2", "Woman"}, {"1", ""}};
     person.findVariable("DOSE")->valueLabels = {{"1e-05", "Little"}};
     catalog::saveDictionary(*db, folder.path() / "db.kxdb");
     const auto first = exported(folder.path() / "db.kxdb", folder.path() / "csv");

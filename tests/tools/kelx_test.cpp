@@ -47,10 +47,15 @@ int statusAfter(int signal, const std::vector<std::string>& arguments, const std
                 const std::function<bool()>& begun) {
     const pid_t child = start(arguments, err);
     int status = 0;
-    while (!begun() && ::waitpid(child, &status, WNOHANG) == 0)
+    bool ended = false;
+    while (!begun() && !ended) {
+        ended = ::waitpid(child, &status, WNOHANG) == child;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    ::kill(child, signal);
-    ::waitpid(child, &status, 0);
+    }
+    if (!ended) {
+        ::kill(child, signal);
+        ::waitpid(child, &status, 0);
+    }
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 

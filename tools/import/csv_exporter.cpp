@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 
 namespace kelx::tools {
 
@@ -209,7 +210,11 @@ private:
         row(codebook, {level, variable.name, type, "", variable.label, ""});
         bool missing = variable.missing.has_value();
         bool notapp = variable.notapp.has_value();
+        std::set<std::string> told;
         for (const auto& [code, label] : variable.valueLabels) {
+            const std::string text = codeText(variable, code);
+            if (!told.insert(text).second)
+                continue; // "1" and "01" are one number, and the first label is the one shown
             const auto number = parseReal(code);
             const bool isMissing = missing && number == variable.missing;
             const bool isNotapp = !isMissing && notapp && number == variable.notapp;
@@ -217,7 +222,6 @@ private:
                 continue; // told below, as those without an entry are
             missing = missing && !isMissing;
             notapp = notapp && !isNotapp;
-            const std::string text = codeText(variable, code);
             row(codebook, {level, variable.name, type, text, label.empty() ? text : label,
                            isMissing  ? "missing"
                            : isNotapp ? "notapp"

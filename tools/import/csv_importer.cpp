@@ -200,7 +200,7 @@ private:
     std::string dataFile(const std::string& stem, const std::string& extension) {
         std::string name = stem + extension;
         for (int n = 2; !files_.insert(name).second; ++n)
-            name = stem + "_" + std::to_string(n) + extension;
+            name = std::string(stem).append("_").append(std::to_string(n)).append(extension);
         return name;
     }
 

@@ -36,7 +36,7 @@ std::pair<std::string, std::string> halves(const std::string& option, const std:
 std::string newPassword(const ImportOptions& options) {
     if (!options.passwordFile.empty())
         return passwordFromFile(options.passwordFile);
-    const std::string password = passwordFromTerminal("New password: ");
+    std::string password = passwordFromTerminal("New password: ");
     if (password.empty())
         throw std::runtime_error("The password is empty.");
     if (passwordFromTerminal("Again: ") != password)
