@@ -7,6 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -16,6 +17,7 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -24,102 +26,176 @@ using namespace kelx;
 
 std::unique_ptr<catalog::Dictionary> dictionary;
 
-const storage::Column& columnOf(const std::string& entity, const std::string& name) {
-    const catalog::Entity* found = dictionary->findEntity(entity);
-    const catalog::Variable* variable = found != nullptr ? found->findVariable(name) : nullptr;
-    if (variable == nullptr)
-        throw std::runtime_error("the sample has no " + entity + "." + name);
-    static std::vector<std::shared_ptr<const storage::Column>> open;
-    open.push_back(variable->column());
-    return *open.back();
+/// A table to make, and all that has to be read for it.
+struct Question {
+    const char* name;
+    const char* program;
+    bool weighted;
+    std::vector<std::pair<const char*, const char*>> variables;
+    std::vector<const char*> levels; ///< whose pointer files lead to the unit of count
+};
+
+const std::vector<Question>& questions() {
+    static const std::vector<Question> all = {
+        {"freq_sex", "FREQ PERSON.SEX", false, {{"PERSON", "SEX"}}, {}},
+        {"freq_age", "FREQ PERSON.AGE", false, {{"PERSON", "AGE"}}, {}},
+        {"crosstab_marital_sex",
+         "CROSSTABS PERSON.MARITAL BY PERSON.SEX",
+         false,
+         {{"PERSON", "MARITAL"}, {"PERSON", "SEX"}},
+         {}},
+        {"freq_sex_filter_age",
+         "FREQ PERSON.SEX FILTER PERSON.AGE >= 15",
+         false,
+         {{"PERSON", "SEX"}, {"PERSON", "AGE"}},
+         {}},
+        {"crosstab_levels",
+         "CROSSTABS HOUSEHOLD.TYPE BY PERSON.SEX",
+         false,
+         {{"HOUSEHOLD", "TYPE"}, {"PERSON", "SEX"}},
+         {"PERSON"}},
+        {"crosstab_levels_weighted",
+         "CROSSTABS HOUSEHOLD.TYPE BY PERSON.SEX",
+         true,
+         {{"HOUSEHOLD", "TYPE"}, {"PERSON", "SEX"}, {"HOUSEHOLD", "WEIGHT"}},
+         {"PERSON"}},
+        {"province_sex_age",
+         "FREQ PROVINCE.CODE BY PERSON.SEX BY PERSON.AGE",
+         false,
+         {{"PROVINCE", "CODE"}, {"PERSON", "SEX"}, {"PERSON", "AGE"}},
+         {"DISTRICT", "HOUSEHOLD", "PERSON"}},
+    };
+    return all;
 }
 
-std::uint64_t bytesOf(const storage::Column& column) {
-    return column.info().records * storage::physicalSize(column.info().physical);
+const catalog::Entity& entityOf(const std::string& name) {
+    const catalog::Entity* found = dictionary->findEntity(name);
+    if (found == nullptr)
+        throw std::runtime_error("the sample has no " + name);
+    return *found;
 }
 
-/// Adds up a stretch of a column's bytes, eight at a time.
-std::uint64_t sumBytes(const storage::Column& column, std::uint64_t begin, std::uint64_t end) {
-    storage::ColumnScratch scratch;
-    std::uint64_t sum = 0;
-    const std::size_t width = storage::physicalSize(column.info().physical);
-    while (begin < end) {
-        const std::uint64_t count = std::min<std::uint64_t>(end - begin, storage::recordsPerBlock);
-        const auto* data =
-            static_cast<const char*>(column.read(begin, static_cast<std::size_t>(count), scratch));
-        for (std::size_t i = 0; i + 8 <= count * width; i += 8) {
-            std::uint64_t eight = 0;
-            std::memcpy(&eight, data + i, 8);
-            sum += eight;
-        }
-        begin += count;
+/// Adds up bytes, eight at a time: no more than reading them.
+std::uint64_t sum(const void* data, std::size_t bytes) {
+    std::uint64_t result = 0;
+    for (std::size_t i = 0; i + 8 <= bytes; i += 8) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, static_cast<const char*>(data) + i, 8);
+        result += eight;
     }
-    return sum;
+    return result;
 }
 
-void readBytes(benchmark::State& state, const std::string& name) {
-    const storage::Column& column = columnOf("PERSON", name);
-    const auto threads = static_cast<std::uint64_t>(state.range(0));
-    const std::uint64_t records = column.info().records;
+/// What a question reads, as it lies in the files, in pieces of a block.
+class Reading {
+public:
+    explicit Reading(const Question& question) {
+        for (const auto& [entity, name] : question.variables) {
+            const catalog::Variable* variable = entityOf(entity).findVariable(name);
+            if (variable == nullptr)
+                throw std::runtime_error(std::string("the sample has no ") + entity + "." + name);
+            add(variable->column());
+        }
+        for (const char* level : question.levels)
+            add(entityOf(level).pointers());
+    }
+
+    std::uint64_t bytes() const { return bytes_; }
+    std::uint64_t read(std::size_t thread, std::size_t threads) const {
+        storage::ColumnScratch scratch;
+        std::uint64_t result = 0;
+        const std::size_t end = pieces_.size() * (thread + 1) / threads;
+        for (std::size_t i = pieces_.size() * thread / threads; i < end; ++i) {
+            const Piece& piece = pieces_[i];
+            const void* data = piece.column != nullptr
+                                   ? piece.column->read(piece.begin, piece.count, scratch)
+                                   : piece.data;
+            result += sum(data, piece.count * piece.width);
+        }
+        return result;
+    }
+
+private:
+    struct Piece {
+        const storage::Column* column; ///< null where data stands
+        const void* data;
+        std::uint64_t begin;
+        std::size_t count, width;
+    };
+
+    void add(const std::shared_ptr<const storage::Column>& column) {
+        columns_.push_back(column);
+        cut(column.get(), nullptr, column->info().records,
+            storage::physicalSize(column->info().physical));
+    }
+    void add(const std::shared_ptr<const storage::PointerFile>& pointers) {
+        pointers_.push_back(pointers);
+        const std::size_t width = pointers->isWide() ? 8 : 4;
+        const void* data = pointers->isWide() ? static_cast<const void*>(pointers->wide())
+                                              : static_cast<const void*>(pointers->narrow());
+        cut(nullptr, static_cast<const char*>(data), pointers->parents() + 1, width);
+    }
+    void cut(const storage::Column* column, const char* data, std::uint64_t all,
+             std::size_t width) {
+        for (std::uint64_t begin = 0; begin < all; begin += storage::recordsPerBlock) {
+            const auto count = static_cast<std::size_t>(
+                std::min<std::uint64_t>(storage::recordsPerBlock, all - begin));
+            pieces_.push_back(
+                {column, data != nullptr ? data + begin * width : nullptr, begin, count, width});
+        }
+        bytes_ += all * width;
+    }
+
+    std::vector<std::shared_ptr<const storage::Column>> columns_;
+    std::vector<std::shared_ptr<const storage::PointerFile>> pointers_;
+    std::vector<Piece> pieces_;
+    std::uint64_t bytes_ = 0;
+};
+
+void tellBytes(benchmark::State& state, const Reading& reading) {
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(reading.bytes()));
+}
+
+void readBytes(benchmark::State& state, const Question& question) {
+    const Reading reading(question);
+    const auto threads = static_cast<std::size_t>(state.range(0));
     for ([[maybe_unused]] auto _ : state) {
         std::vector<std::uint64_t> sums(threads);
         std::vector<std::thread> workers;
-        for (std::uint64_t t = 0; t < threads; ++t)
-            workers.emplace_back([&, t] {
-                sums[t] = sumBytes(column, records / threads * t,
-                                   t + 1 == threads ? records : records / threads * (t + 1));
-            });
+        for (std::size_t t = 0; t < threads; ++t)
+            workers.emplace_back([&, t] { sums[t] = reading.read(t, threads); });
         for (std::thread& worker : workers)
             worker.join();
         benchmark::DoNotOptimize(std::accumulate(sums.begin(), sums.end(), std::uint64_t{0}));
     }
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytesOf(column)));
+    tellBytes(state, reading);
 }
 
-void runProgram(benchmark::State& state, const std::string& text, bool weighted,
-                std::uint64_t bytes) {
+void runProgram(benchmark::State& state, const Question& question) {
     language::Messages messages;
     language::CompileOptions compileOptions;
-    compileOptions.autoWeight = weighted;
-    const auto program = language::compile(text, *dictionary, compileOptions, messages);
+    compileOptions.autoWeight = question.weighted;
+    const auto program = language::compile(question.program, *dictionary, compileOptions, messages);
     if (messages.hasErrors())
-        throw std::runtime_error(text + ": " + messages.all().front().text);
+        throw std::runtime_error(question.program + (": " + messages.all().front().text));
     execution::RunOptions options;
     options.threads = static_cast<unsigned>(state.range(0));
-    if (state.range(1) > 0)
-        options.blockRecords = static_cast<std::size_t>(state.range(1));
     for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(execution::run(program, options, messages));
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes));
+    tellBytes(state, Reading(question));
+}
+
+void measure(benchmark::internal::Benchmark* made, int threads) {
+    made->ArgName("threads")->Arg(threads)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
 void registerAll() {
-    const std::uint64_t sex = bytesOf(columnOf("PERSON", "SEX"));
-    const std::uint64_t age = bytesOf(columnOf("PERSON", "AGE"));
-    const std::uint64_t marital = bytesOf(columnOf("PERSON", "MARITAL"));
-    const std::uint64_t type = bytesOf(columnOf("HOUSEHOLD", "TYPE"));
-    struct Question {
-        const char* name;
-        const char* program;
-        bool weighted;
-        std::uint64_t bytes;
-    };
-    const Question questions[] = {
-        {"freq_sex", "FREQ PERSON.SEX", false, sex},
-        {"freq_age", "FREQ PERSON.AGE", false, age},
-        {"crosstab_marital_sex", "CROSSTABS PERSON.MARITAL BY PERSON.SEX", false, marital + sex},
-        {"freq_sex_filter_age", "FREQ PERSON.SEX FILTER PERSON.AGE >= 15", false, sex + age},
-        {"crosstab_levels", "CROSSTABS HOUSEHOLD.TYPE BY PERSON.SEX", false, type + sex},
-        {"crosstab_levels_weighted", "CROSSTABS HOUSEHOLD.TYPE BY PERSON.SEX", true, type + sex},
-        {"province_sex_age", "FREQ PROVINCE.CODE BY PERSON.SEX BY PERSON.AGE", false, sex + age},
-    };
     for (const int threads : {1, 2}) {
-        benchmark::RegisterBenchmark("read_sex", readBytes, "SEX")->Args({threads})->UseRealTime();
-        for (const Question& question : questions)
-            benchmark::RegisterBenchmark(question.name, runProgram, question.program,
-                                         question.weighted, question.bytes)
-                ->Args({threads, 0})
-                ->UseRealTime();
+        for (const Question& question : questions()) {
+            const std::string reading = std::string("read_") + question.name;
+            measure(benchmark::RegisterBenchmark(reading.c_str(), readBytes, question), threads);
+            measure(benchmark::RegisterBenchmark(question.name, runProgram, question), threads);
+        }
     }
 }
 

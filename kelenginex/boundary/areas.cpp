@@ -3,6 +3,9 @@
 
 #include "plan/area_codes.h"
 #include "plan/hierarchy.h"
+#include "plan/selection.h"
+#include "storage/error.h"
+#include "storage/utf8.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,57 +16,7 @@ namespace kelx::boundary {
 namespace {
 
 using catalog::Entity;
-using plan::RecordRange;
 using plan::RecordRanges;
-
-/// A record that the search has come to, and what of the code is left to match below it.
-struct Step {
-    std::uint64_t record = 0;
-    std::string_view rest;
-};
-
-std::vector<const Entity*> pathTo(const Entity& entity) {
-    std::vector<const Entity*> path;
-    for (const Entity* at = &entity; at->parent != nullptr; at = at->parent) {
-        path.insert(path.begin(), at);
-    }
-    return path;
-}
-
-/// The records of the next entity under those found, that go on with the code.
-std::vector<Step> descend(const Entity& entity, const std::vector<Step>& above) {
-    const auto pointers = entity.pointers();
-    std::optional<plan::ValueText> code;
-    if (entity.codeVar != nullptr) {
-        code.emplace(*entity.codeVar);
-    }
-    std::vector<Step> found;
-    for (const Step& step : above) {
-        const std::uint64_t end = pointers->first(step.record + 1);
-        for (std::uint64_t record = pointers->first(step.record); record < end; ++record) {
-            const std::string own = code ? code->at(record) : std::string();
-            if (step.rest.starts_with(own)) {
-                found.push_back({record, step.rest.substr(own.size())});
-            }
-        }
-    }
-    return found;
-}
-
-/// The records of an entity with a compound code.
-RecordRanges recordsOf(const Entity& entity, const std::string& compoundCode) {
-    std::vector<Step> steps = {{0, compoundCode}};
-    for (const Entity* level : pathTo(entity)) {
-        steps = descend(*level, steps);
-    }
-    RecordRanges ranges;
-    for (const Step& step : steps) {
-        if (step.rest.empty()) {
-            ranges.push_back({step.record, step.record + 1});
-        }
-    }
-    return plan::joined(ranges);
-}
 
 std::int32_t saturated(std::uint64_t count) {
     constexpr auto most = std::numeric_limits<std::int32_t>::max();
@@ -83,7 +36,7 @@ void countChildren(const Entity& entity, const RecordRanges& records,
 
 std::vector<EntityAreaCount> countBelow(const Entity& entity, const std::string& compoundCode) {
     std::vector<EntityAreaCount> counts;
-    const RecordRanges records = recordsOf(entity, compoundCode);
+    const RecordRanges records = plan::recordsOfAreas(entity, {compoundCode});
     if (!records.empty()) {
         countChildren(entity, records, counts);
     }
@@ -96,19 +49,44 @@ std::vector<AreaCodeRecord> codesBelow(const Entity& entity, const std::string& 
         return {};
     }
     const RecordRanges below =
-        plan::DescentPath(entity, child).descend(recordsOf(entity, compoundCode));
+        plan::DescentPath(entity, child).descend(plan::recordsOfAreas(entity, {compoundCode}));
     plan::ValueText code(*child.codeVar);
     std::optional<plan::ValueText> label;
     if (child.labelVar != nullptr) {
         label.emplace(*child.labelVar);
     }
     std::vector<AreaCodeRecord> result;
-    for (const RecordRange& range : below) {
+    for (const plan::RecordRange& range : below) {
         for (std::uint64_t record = range.begin; record < range.end; ++record) {
-            result.push_back({code.at(record), label ? label->at(record) : std::string()});
+            result.push_back(
+                {plan::trimmedCode(code.at(record)), label ? label->at(record) : std::string()});
         }
     }
     return result;
+}
+
+int codeWidth(const catalog::Variable& code) {
+    try {
+        const auto column = code.column();
+        const storage::ColumnInfo& info = column->info();
+        if (info.type == storage::ValueType::Integer) {
+            const auto text = [&](std::uint64_t number) {
+                return std::to_string(
+                    static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + number));
+            };
+            return static_cast<int>(std::max(text(info.minCode).size(), text(info.maxCode).size()));
+        }
+        if (code.size > 0) {
+            return code.size;
+        }
+        std::size_t most = 0;
+        for (std::uint64_t i = 0; i < column->textCount(); ++i) {
+            most = std::max(most, storage::characterCount(plan::trimmedCode(column->text(i))));
+        }
+        return static_cast<int>(most);
+    } catch (const storage::FileError&) {
+        return code.size; // without its data, what the dictionary says is all there is
+    }
 }
 
 } // namespace kelx::boundary

@@ -15,9 +15,12 @@ namespace kelx::boundary {
 /// storage::FileError where codes or pointers cannot be read.
 std::vector<EntityAreaCount> countBelow(const catalog::Entity& entity,
                                         const std::string& compoundCode);
-/// Own code and label of each record of child under the area, in record order.
+/// Own code, as compound codes hold it, and label of each record of child under the area, in record
+/// order.
 std::vector<AreaCodeRecord> codesBelow(const catalog::Entity& entity,
                                        const std::string& compoundCode,
                                        const catalog::Entity& child);
+/// Characters of the longest code of a code variable of a dictionary.
+int codeWidth(const catalog::Variable& code);
 
 } // namespace kelx::boundary

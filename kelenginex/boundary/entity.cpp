@@ -23,21 +23,10 @@ catalog::Variable* modelOf(const TKelVariable* variable) {
     return data.state != nullptr ? data.variable : nullptr;
 }
 
-bool hasCode(const TKelEntity* entity) {
-    for (; entity != nullptr; entity = entity->parent()) {
-        if (entity->codeVar() != nullptr) {
-            return true;
-        }
-    }
-    return false;
-}
-
-int compoundSize(const TKelEntity* entity) {
-    int size = 0;
-    for (; entity != nullptr; entity = entity->parent()) {
-        size += entity->codeVar() != nullptr ? entity->codeVar()->size() : 0;
-    }
-    return size;
+/// Characters that a code variable adds to compound codes.
+int widthOf(const TKelVariable& code) {
+    const catalog::Variable* model = modelOf(&code);
+    return model != nullptr ? kelx::boundary::codeWidth(*model) : code.size();
 }
 
 void copyDescription(const catalog::Entity& from, catalog::Entity& to) {
@@ -214,7 +203,8 @@ TKelEntity* TKelEntity::realEntity() {
 }
 
 TKelVariable* TKelEntity::cmpCodeVar() {
-    if (!hasCode(this)) {
+    TKelVariable* above = d->parent != nullptr ? d->parent->cmpCodeVar() : nullptr;
+    if (d->code == nullptr && above == nullptr) {
         return nullptr;
     }
     if (d->compoundCode == nullptr) {
@@ -223,7 +213,8 @@ TKelVariable* TKelEntity::cmpCodeVar() {
         d->compoundCode->setType(eVarType::STRING);
     }
     d->compoundCode->setLabel(label());
-    d->compoundCode->setSize(compoundSize(this));
+    d->compoundCode->setSize((above != nullptr ? above->size() : 0) +
+                             (d->code != nullptr ? widthOf(*d->code) : 0));
     return d->compoundCode.get();
 }
 

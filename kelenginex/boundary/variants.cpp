@@ -2,25 +2,14 @@
 #include "boundary/variants.h"
 
 #include "catalog/names.h"
+#include "storage/number_text.h"
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 
 namespace kelx::boundary {
 
 namespace {
-
-std::string fixedText(double value) {
-    if (!std::isfinite(value)) {
-        return {};
-    }
-    // The largest double has 309 digits, the smallest as many places and 17 digits behind.
-    char buffer[1200];
-    const auto result =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed);
-    return {buffer, result.ptr};
-}
 
 std::int64_t truncated(double value) {
     constexpr double limit = 9223372036854775808.0;
@@ -43,7 +32,7 @@ std::string toText(const TKelVariant& value) {
     if (const auto* integer = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*integer);
     }
-    return fixedText(std::get<double>(value));
+    return storage::numberText(std::get<double>(value));
 }
 
 double toDouble(const TKelVariant& value) {

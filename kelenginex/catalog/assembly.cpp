@@ -3,6 +3,7 @@
 
 #include "catalog/names.h"
 #include "storage/error.h"
+#include "storage/utf8.h"
 
 #include <unordered_set>
 
@@ -10,28 +11,7 @@ namespace kelx::catalog {
 
 namespace {
 
-/// Length of the UTF-8 sequence that the text begins with; 0 where it is none.
-std::size_t sequenceLength(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned lead = byte(0);
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xc2 ? 0
-                               : lead < 0xe0 ? 2
-                               : lead < 0xf0 ? 3
-                               : lead < 0xf5 ? 4
-                                             : 0;
-    if (length == 0 || length > text.size()) {
-        return 0;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xc0) != 0x80) {
-            return 0;
-        }
-    }
-    const bool overlong = (lead == 0xe0 && byte(1) < 0xa0) || (lead == 0xf0 && byte(1) < 0x90);
-    const bool beyond = (lead == 0xed && byte(1) > 0x9f) || (lead == 0xf4 && byte(1) > 0x8f);
-    return overlong || beyond ? 0 : length;
-}
+using storage::isUtf8;
 
 bool allUtf8(std::initializer_list<const std::string*> texts) {
     for (const std::string* text : texts) {
@@ -53,17 +33,6 @@ bool hasCleanTexts(const Variable& v) {
 }
 
 } // namespace
-
-bool isUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const std::size_t length = sequenceLength(text);
-        if (length == 0) {
-            return false;
-        }
-        text.remove_prefix(length);
-    }
-    return true;
-}
 
 Assembly::Assembly(const std::filesystem::path& file)
     : file_(file), dictionary_(std::make_unique<Dictionary>()) {

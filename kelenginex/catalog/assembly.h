@@ -56,6 +56,4 @@ private:
     std::size_t variables_ = 0;
 };
 
-bool isUtf8(std::string_view text);
-
 } // namespace kelx::catalog

@@ -224,6 +224,10 @@ bool Entity::isAncestorOf(const Entity& other) const {
     return entity != nullptr;
 }
 
+bool Entity::hasCode() const {
+    return codeVar != nullptr || (parent != nullptr && parent->hasCode());
+}
+
 int Entity::level() const {
     int level = 1;
     for (const Entity* entity = parent; entity != nullptr; entity = entity->parent) {

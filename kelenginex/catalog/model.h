@@ -93,7 +93,8 @@ struct Entity {
     Variable* addVariable(std::unique_ptr<Variable> variable); ///< sets its entity
     Variable* findVariable(const std::string& nameOrAlias) const; ///< in any case
     bool isAncestorOf(const Entity& other) const;                 ///< true for itself too
-    int level() const;                                            ///< 1 for the root
+    bool hasCode() const; ///< true where it or an entity above has a code variable
+    int level() const;    ///< 1 for the root
     std::filesystem::path filePath() const;
     /// Offsets of this entity's records under the parent's; null for the root. Opened at the first
     /// call and kept. Throws storage::FileError.

@@ -59,12 +59,6 @@ std::optional<long long> parseInteger(std::string_view text) {
     return parseWhole<long long>(text);
 }
 
-std::string numberText(double value) {
-    char buffer[32];
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return {buffer, result.ptr};
-}
-
 bool isUsableName(std::string_view name) {
     constexpr std::string_view separators = "\"'.,;:()[]{}<>=+*/&|!?%\\";
     return !name.empty() && std::all_of(name.begin(), name.end(), [&](char c) {

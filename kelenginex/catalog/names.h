@@ -2,6 +2,8 @@
 // How names and numbers in dictionaries are compared and read.
 #pragma once
 
+#include "storage/number_text.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,8 +16,7 @@ std::string lowerCase(std::string_view text);
 /// The whole text as a number, blanks around it allowed.
 std::optional<double> parseNumber(std::string_view text);
 std::optional<long long> parseInteger(std::string_view text);
-/// Shortest form that reads back the same.
-std::string numberText(double value);
+using storage::numberText;
 /// True for a name that a command can use after a ".": no blanks, control characters or any of
 /// the characters that separate words there.
 bool isUsableName(std::string_view name);

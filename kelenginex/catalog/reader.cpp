@@ -94,6 +94,9 @@ void write(const Dictionary& dictionary, const fs::path& file) {
 } // namespace
 
 std::unique_ptr<Dictionary> readDictionary(const fs::path& file, const Questions& questions) {
+    if (file.empty()) {
+        throw std::runtime_error("The file of the dictionary has no name.");
+    }
     const fs::path path = absoluteFile(file);
     auto dictionary = isDicx(path) ? parseDicx(readText(path), path) : readBinary(path, questions);
     askForDataFolder(*dictionary, questions);

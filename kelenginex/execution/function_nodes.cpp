@@ -2,6 +2,7 @@
 // The functions of the language: a table of scalar rules, and one node for each shape of rule.
 #include "execution/node.h"
 #include "plan/area_codes.h"
+#include "storage/utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -16,13 +17,10 @@ namespace {
 using Text = std::string_view;
 using Integer = std::int64_t;
 
-// Texts are counted in characters: bytes that continue one do not count.
-bool beginsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xc0U) != 0x80U;
-}
+using storage::beginsCharacter;
 
 Integer length(Text text) {
-    return std::count_if(text.begin(), text.end(), beginsCharacter);
+    return static_cast<Integer>(storage::characterCount(text));
 }
 
 /// Byte where a character (from 0) begins; the end beyond the last.

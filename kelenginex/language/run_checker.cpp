@@ -11,14 +11,6 @@ namespace kelx::language {
 
 namespace {
 
-bool hasCode(const Entity& entity) {
-    for (const Entity* level = &entity; level != nullptr; level = level->parent) {
-        if (level->codeVar != nullptr)
-            return true;
-    }
-    return false;
-}
-
 /// Programs that were written elsewhere name files with backslashes.
 std::filesystem::path resolve(std::string file, const std::filesystem::path& folder) {
     std::replace(file.begin(), file.end(), '\\', '/');
@@ -95,7 +87,7 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
                                                  ", which the dictionary does not have"});
             continue;
         }
-        if (!group.codes.empty() && !hasCode(*entity)) {
+        if (!group.codes.empty() && !entity->hasCode()) {
             context_.report(Error::NoCode, position, {entity->name});
             continue;
         }
@@ -118,7 +110,7 @@ void RunChecker::addArea(AreaSelection& selection, const Entity* entity, const s
                          Position position) {
     if (entity == nullptr)
         return;
-    if (hasCode(*entity))
+    if (entity->hasCode())
         selection.areas.push_back({entity, code});
     else
         context_.report(Error::NoCode, position, {entity->name});

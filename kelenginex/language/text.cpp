@@ -12,44 +12,6 @@ bool isBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// Bytes of the character that begins with this byte; 0 where none can.
-std::size_t utf8Length(unsigned char first) {
-    if (first < 0x80)
-        return 1;
-    if (first >= 0xc2 && first <= 0xdf)
-        return 2;
-    if (first >= 0xe0 && first <= 0xef)
-        return 3;
-    return first >= 0xf0 && first <= 0xf4 ? 4 : 0;
-}
-
-/// Overlong forms, surrogates and characters beyond the last one show in the second byte.
-bool secondByteFits(unsigned char first, unsigned char second) {
-    switch (first) {
-    case 0xe0:
-        return second >= 0xa0;
-    case 0xed:
-        return second <= 0x9f;
-    case 0xf0:
-        return second >= 0x90;
-    case 0xf4:
-        return second <= 0x8f;
-    default:
-        return true;
-    }
-}
-
-bool isUtf8At(std::string_view text, std::size_t at, std::size_t length) {
-    if (length == 0 || at + length > text.size())
-        return false;
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[at + i]); };
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xc0) != 0x80)
-            return false;
-    }
-    return length == 1 || secondByteFits(byte(0), byte(1));
-}
-
 /// Number of single changes (insert, drop, replace, swap neighbours) between two texts.
 std::size_t distance(std::string_view a, std::string_view b) {
     std::vector<std::size_t> before(b.size() + 1), last(b.size() + 1), row(b.size() + 1);
@@ -128,16 +90,6 @@ std::string simplified(std::string_view source) {
         result += piece;
     }
     return result;
-}
-
-std::optional<std::size_t> firstInvalidUtf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = utf8Length(static_cast<unsigned char>(text[at]));
-        if (!isUtf8At(text, at, length))
-            return at;
-        at += length;
-    }
-    return std::nullopt;
 }
 
 std::string nearest(std::string_view word, const std::vector<std::string>& candidates) {

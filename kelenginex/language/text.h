@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalog/names.h"
+#include "storage/utf8.h"
 
 #include <cstddef>
 #include <optional>
@@ -18,8 +19,7 @@ std::string inQuotes(std::string_view text);  ///< in double quotes, shortened w
 std::string trimmed(std::string_view text);
 /// Blanks outside of quotes become one space each; none at the ends. Comments go away.
 std::string simplified(std::string_view source);
-/// Offset of the first byte that is not UTF-8; null where all is well.
-std::optional<std::size_t> firstInvalidUtf8(std::string_view text);
+using storage::firstInvalidUtf8;
 
 /// The candidate that differs least from the word, in any case; empty where none is near.
 std::string nearest(std::string_view word, const std::vector<std::string>& candidates);

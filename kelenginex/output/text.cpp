@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tables for reading on a terminal.
 #include "output/table.h"
+#include "storage/utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -13,9 +14,7 @@ namespace {
 using Grid = std::vector<std::vector<std::string>>;
 
 std::size_t width(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U;
-    }));
+    return storage::characterCount(text);
 }
 
 /// One line, without what could move a terminal's cursor.

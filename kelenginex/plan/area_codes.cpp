@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/area_codes.h"
 
-#include <charconv>
-#include <cmath>
 #include <cstring>
 
 namespace kelx::plan {
@@ -14,23 +12,13 @@ std::uint64_t codeAt(const void* data, storage::Physical physical) {
     return code;
 }
 
-std::string trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 } // namespace
 
-std::string numberText(double value) {
-    if (!std::isfinite(value))
+std::string trimmedCode(std::string_view code) {
+    const auto first = code.find_first_not_of(' ');
+    if (first == std::string_view::npos)
         return {};
-    char buffer[400];
-    if (value == 0)
-        value = 0; // no minus before a zero
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed);
-    return {buffer, end.ptr};
+    return std::string(code.substr(first, code.find_last_not_of(' ') - first + 1));
 }
 
 ValueText::ValueText(const catalog::Variable& variable) : column_(variable.column()) {}
@@ -65,7 +53,7 @@ std::string CompoundCodes::at(std::uint64_t record) {
     std::string result;
     for (std::size_t i = 0; i < levels_.size(); ++i) {
         if (levels_[i].code)
-            result.insert(0, trimmed(levels_[i].code->at(record)));
+            result.insert(0, trimmedCode(levels_[i].code->at(record)));
         if (i + 1 < levels_.size())
             record = levels_[i].pointers->parentOf(record);
     }

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "plan/hierarchy.h"
+#include "storage/number_text.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kelx::plan {
@@ -23,8 +25,10 @@ private:
     storage::ColumnScratch scratch_;
 };
 
-/// Doubles in shortest round-trip form, in fixed notation with "."; NaN is empty.
-std::string numberText(double value);
+using storage::numberText;
+
+/// An own code as it stands in compound codes: without the blanks around it.
+std::string trimmedCode(std::string_view code);
 
 /// Compound codes of an entity's records: own codes of the entities below the root, from the top
 /// down, joined without separator. An entity without a code variable adds nothing.

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <set>
 
 namespace kelx::plan {
 namespace {
@@ -48,20 +47,13 @@ private:
         for (std::uint64_t record = begin; record < end; ++record) {
             std::string code = prefix;
             if (level.code)
-                code += ownCode(level, record);
+                code += trimmedCode(level.code->at(record));
             if (depth + 1 == path_.size())
                 take(record, code);
             else if (beginsWanted(code))
                 visit(depth + 1, path_[depth + 1].pointers->first(record),
                       path_[depth + 1].pointers->first(record + 1), code);
         }
-    }
-
-    static std::string ownCode(Level& level, std::uint64_t record) {
-        std::string code = level.code->at(record);
-        code.erase(0, code.find_first_not_of(' '));
-        code.erase(code.find_last_not_of(' ') + 1);
-        return code;
     }
 
     void take(std::uint64_t record, const std::string& code) {
@@ -78,6 +70,10 @@ private:
 };
 
 } // namespace
+
+RecordRanges recordsOfAreas(const Entity& entity, const std::set<std::string>& codes) {
+    return AreaFinder(entity, codes).find();
+}
 
 SelectedAreas findAreas(const language::AreaSelection& selection) {
     std::map<const Entity*, std::set<std::string>> wanted;

@@ -6,6 +6,7 @@
 #include "plan/hierarchy.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,9 @@ struct SelectedAreas {
     std::map<const Entity*, RecordRanges> records;
     std::vector<language::AreaSelection::Area> unknown;
 };
+
+/// The records of an entity with one of the compound codes.
+RecordRanges recordsOfAreas(const Entity& entity, const std::set<std::string>& codes);
 
 /// Finds the records with the listed compound codes, going only into areas whose code begins one.
 SelectedAreas findAreas(const language::AreaSelection& selection);

@@ -2,11 +2,11 @@
 #include "storage/atomic_file.h"
 #include "storage/bytes.h"
 #include "storage/coding.h"
+#include "storage/number_text.h"
 #include "storage/raw_format.h"
 #include "storage/utf8.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -63,12 +63,6 @@ private:
     unsigned pendingCount_ = 0;
 };
 
-std::string shownReal(double value) {
-    char text[400];
-    const auto end = std::to_chars(text, text + sizeof(text), value, std::chars_format::fixed).ptr;
-    return {text, end};
-}
-
 void RawEncoder::addBlank() {
     switch (layout_.type) {
     case RawType::Byte:
@@ -112,19 +106,19 @@ void RawEncoder::addReal(double value) {
         return put(value);
     if (layout_.type == RawType::Sng) {
         if (std::isfinite(value) && std::abs(value) > std::numeric_limits<float>::max())
-            refuse(shownReal(value));
+            refuse(numberText(value));
         return put(static_cast<float>(value));
     }
     const bool text = layout_.type == RawType::Chr || layout_.type == RawType::Uni;
     if (!std::isfinite(value))
-        refuse(shownReal(value));
+        refuse("an infinite number");
     if (text && !isScaled())
-        return addNumberText(shownReal(value));
+        return addNumberText(numberText(value));
     const double scaled =
         isScaled() ? std::round(value * static_cast<double>(powerOfTen(layout_.decimals))) : value;
     if (scaled != std::trunc(scaled) || scaled < -0x1p63 || scaled >= 0x1p63)
-        refuse(shownReal(value));
-    addWhole(static_cast<std::int64_t>(scaled), shownReal(value));
+        refuse(numberText(value));
+    addWhole(static_cast<std::int64_t>(scaled), numberText(value));
 }
 
 void RawEncoder::addWhole(std::int64_t value, const std::string& shown) {

@@ -3,6 +3,8 @@
 
 #include "storage/bytes.h"
 
+#include <algorithm>
+
 namespace kelx::storage {
 
 namespace {
@@ -37,7 +39,7 @@ bool isSequence(std::string_view text, std::size_t length) {
     if (length == 0 || length > text.size())
         return false;
     for (std::size_t i = 1; i < length; ++i)
-        if ((static_cast<unsigned char>(text[i]) & 0xc0) != 0x80)
+        if (beginsCharacter(text[i]))
             return false;
     const char32_t value = decode(text, length);
     constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
@@ -50,17 +52,26 @@ bool startsWithAscii8(std::string_view text) {
 
 } // namespace
 
-bool isUtf8(std::string_view text) {
-    while (!text.empty()) {
+std::optional<std::size_t> firstInvalidUtf8(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string_view rest = text.substr(at);
         std::size_t length = 8;
-        if (!startsWithAscii8(text)) {
-            length = sequenceLength(static_cast<unsigned char>(text[0]));
-            if (!isSequence(text, length))
-                return false;
+        if (!startsWithAscii8(rest)) {
+            length = sequenceLength(static_cast<unsigned char>(rest[0]));
+            if (!isSequence(rest, length))
+                return at;
         }
-        text.remove_prefix(length);
+        at += length;
     }
-    return true;
+    return std::nullopt;
+}
+
+bool isUtf8(std::string_view text) {
+    return !firstInvalidUtf8(text);
+}
+
+std::size_t characterCount(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), beginsCharacter));
 }
 
 void appendUtf8(std::string& text, char32_t codePoint) {

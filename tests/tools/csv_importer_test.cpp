@@ -6,7 +6,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace tools = kelx::tools;
 namespace catalog = kelx::catalog;
@@ -290,6 +295,60 @@ TEST_F(ImportTest, KeepsWhatIsThere) {
     EXPECT_EQ(TemporaryFolder::contents(folder.path() / "out"), before);
     request.overwrite = true;
     EXPECT_THAT(values(*import(), "TOWN", "NAME"), ElementsAre("Other", "Place"));
+}
+
+TEST_F(ImportTest, TellsTheBytesReadAndEndsWhenAsked) {
+    const std::uint64_t bytes =
+        2 * (std::strlen(towns) + std::strlen(homes) + std::strlen(persons));
+    std::vector<std::uint64_t> told;
+    request.progress = [&](std::uint64_t done, std::uint64_t all) {
+        EXPECT_EQ(all, bytes);
+        told.push_back(done);
+    };
+    import();
+    ASSERT_GE(told.size(), 6u); // three files, twice
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_EQ(told.back(), bytes);
+    // Wherever the work is ended, before or while data are written, nothing of it stays.
+    request.database = folder.path() / "none" / "db.kxdb";
+    for (std::size_t last = 1; last <= told.size(); ++last) {
+        std::size_t calls = 0;
+        request.progress = [&](std::uint64_t, std::uint64_t) {
+            if (++calls == last)
+                throw std::runtime_error("enough");
+        };
+        EXPECT_THROW(tools::importCsv(request), std::runtime_error) << last;
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "none")) << last;
+    }
+}
+
+TEST_F(ImportTest, RemovesWhatKilledProcessesLeft) {
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(0);
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child); // from now on nobody has its number
+    const std::string gone = "out/.kelx-" + std::to_string(child) + "-7";
+    const std::string alive = "out/.kelx-" + std::to_string(::getppid()) + "-7";
+    folder.write(gone + "/PERSON_AGE.kbf", "half a column");
+    folder.write(alive + "/PERSON_AGE.kbf", "half a column");
+    folder.write("out/.kelx-1x-7/file", "of somebody else");
+    import();
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / gone));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / alive));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "out/.kelx-1x-7/file"));
+}
+
+TEST_F(ImportTest, LeavesAStagingThatIsAtWork) {
+    const std::string child = "out/.kelx-" + std::to_string(::getpid()) + "-7";
+    folder.write(child + "/PERSON_AGE.kbf", "half a column");
+    const int lock = ::open((folder.path() / child).c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+    import();
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / child));
+    ::close(lock);
+    request.overwrite = true;
+    import();
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / child));
 }
 
 TEST_F(ImportTest, ProtectsWhereAKeyIsGiven) {

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Drives the command line as a process, as a script would.
-#include "sample/sample.h"
-#include "temporary_folder.h"
+#include "kelx_fixture.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-#include <regex>
+#include <chrono>
+#include <fcntl.h>
+#include <functional>
+#include <signal.h>
 #include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
 
 using nlohmann::json;
 using testing::HasSubstr;
@@ -15,43 +19,45 @@ using testing::StartsWith;
 
 namespace {
 
-struct Outcome {
-    int status = -1;
-    std::string out, err;
-};
-
-/// JSON without the seconds, which differ from run to run.
-std::string timeless(const std::string& text) {
-    return std::regex_replace(text, std::regex("\"seconds\":[^,}]*"), "");
+bool hasStaging(const std::filesystem::path& folder) {
+    std::error_code none;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, none))
+        if (entry.path().filename().string().starts_with(".kelx-"))
+            return true;
+    return false;
 }
 
-class KelxTest : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        folder = new TemporaryFolder;
-        kelx::tools::SampleRequest request;
-        request.folder = folder->path() / "sample";
-        request.persons = 3000;
-        kelx::tools::writeSample(request);
+pid_t start(const std::vector<std::string>& arguments, const std::string& err) {
+    std::vector<char*> words = {const_cast<char*>(KELX_PROGRAM)};
+    for (const std::string& argument : arguments)
+        words.push_back(const_cast<char*>(argument.c_str()));
+    words.push_back(nullptr);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(::open(err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);
+        ::execv(KELX_PROGRAM, words.data());
+        ::_exit(127);
     }
-    static void TearDownTestSuite() { delete folder; }
+    return child;
+}
 
-    /// Arguments as a shell reads them; @ stands for the test's folder.
-    static Outcome kelx(std::string arguments) {
-        for (std::size_t at; (at = arguments.find('@')) != std::string::npos;)
-            arguments.replace(at, 1, folder->path().string());
-        const std::string out = (folder->path() / "out").string();
-        const std::string err = (folder->path() / "err").string();
-        const std::string command =
-            std::string(KELX_PROGRAM) + " " + arguments + " </dev/null >" + out + " 2>" + err;
-        const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder->read("out"),
-                folder->read("err")};
+/// The exit status of a command that got a signal once the condition held; -1 where the signal
+/// itself ended it.
+int statusAfter(int signal, const std::vector<std::string>& arguments, const std::string& err,
+                const std::function<bool()>& begun) {
+    const pid_t child = start(arguments, err);
+    int status = 0;
+    bool ended = false;
+    while (!begun() && !ended) {
+        ended = ::waitpid(child, &status, WNOHANG) == child;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    static std::string path(const std::string& name) { return (folder->path() / name).string(); }
-
-    static inline TemporaryFolder* folder = nullptr;
-};
+    if (!ended) {
+        ::kill(child, signal);
+        ::waitpid(child, &status, 0);
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
 
 } // namespace
 
@@ -69,8 +75,11 @@ TEST_F(KelxTest, MisuseIsToldApartFromFaults) {
     for (const char* arguments :
          {"", "nonsense", "run", "run @/sample/sample.kxdb", "sample @/x --persons 5",
           "sample @/x --persons many", "run @/sample/sample.kxdb -e 'COUNT PERSON' --format html",
-          "convert @/sample/sample.kxdb @/x.txt",
-          "import @/x.kxdb --codebook @/b.csv --level town"}) {
+          "convert @/sample/sample.kxdb @/x.txt", "import @/x.kxdb --codebook @/b.csv --level town",
+          "run @/sample/sample.kxdb ''", "run @/sample/sample.kxdb -e 'COUNT PERSON' --out ''",
+          "import @/x.txt --codebook @/b.csv --level A=@/a.csv",
+          "import @/x.dicx --codebook @/b.csv --level A=@/a.csv",
+          "import @/x --codebook @/b.csv --level A=@/a.csv"}) {
         const Outcome misuse = kelx(arguments);
         EXPECT_EQ(misuse.status, 2) << arguments;
         EXPECT_EQ(misuse.out, "") << arguments;
@@ -100,13 +109,14 @@ TEST_F(KelxTest, RunsProgramsInEveryFormat) {
     const json outputs = json::parse(counted.out);
     ASSERT_EQ(outputs.size(), 1u);
     EXPECT_EQ(outputs[0]["unit"], "PERSON");
-    EXPECT_TRUE(outputs[0]["seconds"].is_number());
-    EXPECT_THAT(counted.out, HasSubstr("3000"));
+    EXPECT_EQ(outputs[0]["kind"], "COUNT");
+    EXPECT_EQ(outputs[0]["rows"], json::parse(R"([["PERSON", 3000]])"));
     EXPECT_EQ(json::parse(kelx("run @/sample/sample.kxdb --format json -e ''").out), json::array());
 
-    EXPECT_THAT(kelx("run @/sample/sample.dicx -e 'COUNT PERSON' --format csv").out,
-                HasSubstr("PERSON,3000"));
-    EXPECT_THAT(kelx("run @/sample/sample.dicx -e 'COUNT PERSON' --time").out, HasSubstr("Time: "));
+    EXPECT_EQ(kelx("run @/sample/sample.dicx -e 'COUNT PERSON' --format csv").out,
+              "Entity,Count\r\nPERSON,3000\r\n");
+    EXPECT_THAT(kelx("run @/sample/sample.dicx -e 'COUNT PERSON' --time").out,
+                testing::ContainsRegex("\nTime: [0-9]+\\.[0-9][0-9][0-9] s\n"));
 
     const Outcome files =
         kelx("run @/sample/sample.kxdb @/sample/population.spc --format json --out @/tables");
@@ -117,16 +127,53 @@ TEST_F(KelxTest, RunsProgramsInEveryFormat) {
     EXPECT_EQ(json::parse(written.at("AGES.json"))["name"], "AGES");
 }
 
-TEST_F(KelxTest, TheSamplesProgramsRunWithoutAWord) {
-    for (const char* program : {"population", "housing", "capital", "provinces"}) {
-        const std::string call =
-            std::string("run @/sample/sample.kxdb @/sample/") + program + ".spc --format json";
-        const Outcome one = kelx(call + " --threads 1");
-        EXPECT_EQ(one.status, 0) << program;
-        EXPECT_EQ(one.err, "") << program;
-        EXPECT_GT(one.out.size(), 500u) << program;
-        EXPECT_EQ(timeless(kelx(call + " --threads 3").out), timeless(one.out)) << program;
+TEST_F(KelxTest, SeveralTablesAsCsvAreToldApart) {
+    const Outcome two = kelx("run @/sample/sample.kxdb --format csv --time -e 'TABLE A AS COUNT "
+                             "PERSON TABLE B AS COUNT PROVINCE'");
+    ASSERT_EQ(two.status, 0) << two.err;
+    EXPECT_EQ(two.out, "A\r\nEntity,Count\r\nPERSON,3000\r\n\r\n"
+                       "B\r\nEntity,Count\r\nPROVINCE,2\r\n");
+    EXPECT_THAT(two.err, testing::MatchesRegex("A: [0-9]+\\.[0-9]+ s\nB: [0-9]+\\.[0-9]+ s\n"));
+}
+
+TEST_F(KelxTest, OutputThatIsLostIsAFault) {
+    for (const char* arguments :
+         {"info @/sample/sample.kxdb", "info @/sample/sample.kxdb --json",
+          "run @/sample/sample.kxdb -e 'COUNT PERSON'",
+          "run @/sample/sample.kxdb -e 'COUNT PERSON' --format json",
+          "run @/sample/sample.kxdb -e 'COUNT PERSON' --format csv", "--help"}) {
+        const Outcome lost = kelx(std::string(arguments) + " >/dev/full");
+        EXPECT_EQ(lost.status, 1) << arguments;
+        EXPECT_THAT(lost.err, HasSubstr("standard output cannot be written")) << arguments;
     }
+}
+
+TEST_F(KelxTest, SignalsEndTheWorkAndLeaveNothing) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        const auto target = folder->path() / ("stopped-" + std::to_string(signal));
+        EXPECT_EQ(statusAfter(signal, {"sample", target.string(), "--persons", "90000000"},
+                              path("err"), [&] { return hasStaging(target); }),
+                  128 + signal);
+        EXPECT_FALSE(std::filesystem::exists(target));
+        EXPECT_EQ(folder->read("err"), "kelx: interrupted; nothing was written\n");
+    }
+    const auto killed = folder->path() / "killed";
+    statusAfter(SIGKILL, {"sample", killed.string(), "--persons", "90000000"}, path("err"),
+                [&] { return hasStaging(killed); });
+    EXPECT_TRUE(hasStaging(killed));
+    EXPECT_EQ(kelx("sample @/killed --persons 1000").status, 0);
+    EXPECT_FALSE(hasStaging(killed));
+}
+
+TEST_F(KelxTest, FaultsOfFileNamesAreClear) {
+    folder->write("plain", "a file\n");
+    const Outcome out = kelx("run @/sample/sample.kxdb -e 'COUNT PERSON' --out @/plain/tables");
+    EXPECT_EQ(out.status, 1);
+    EXPECT_EQ(out.err, "kelx: error: " + path("plain/tables") +
+                           ": the folder cannot be made: Not a directory\n");
+    const Outcome nameless = kelx("info ''");
+    EXPECT_EQ(nameless.status, 1);
+    EXPECT_EQ(nameless.err, "kelx: error: The file of the dictionary has no name.\n");
 }
 
 TEST_F(KelxTest, ProgramFaultsHaveTheirPlace) {
@@ -171,6 +218,30 @@ TEST_F(KelxTest, ConvertsTheDictionary) {
     const std::string before = folder->read("sample/copy.dicx");
     EXPECT_EQ(kelx("convert @/sample/sample.kxdb @/sample/copy.dicx").status, 1);
     EXPECT_EQ(folder->read("sample/copy.dicx"), before);
+}
+
+TEST_F(KelxTest, ReportsAsJson) {
+    folder->write("b.csv", "level,field,type,code,label,is_missing\nA,K,key integer,,,\n"
+                           "A,S,code,1,One,\n");
+    folder->write("a.csv", "K,S\n1,1\n2,\n3,2\n");
+    const Outcome import =
+        kelx("import @/told/told.KXDB --codebook @/b.csv --level A=@/a.csv --json");
+    ASSERT_EQ(import.status, 0) << import.err;
+    EXPECT_EQ(import.err, "");
+    json expected = json::parse(R"({"levels": [{"name": "A", "records": 3, "sorted": false,
+        "variables": [
+            {"name": "K", "type": "integer", "blanks": 0, "coded": false, "withoutLabel": 0},
+            {"name": "S", "type": "integer", "blanks": 1, "coded": true, "withoutLabel": 1}]}]})");
+    expected["database"] = path("told/told.KXDB");
+    EXPECT_EQ(json::parse(import.out), expected);
+
+    const json sample = json::parse(kelx("sample @/sample --overwrite --persons 3000 --json").out);
+    const json info = json::parse(kelx("info @/sample/sample.kxdb --json").out);
+    EXPECT_EQ(sample["database"], path("sample/sample.kxdb"));
+    EXPECT_EQ(sample["persons"], 3000);
+    const char* const counts[] = {"provinces", "districts", "households", "persons", "emigrants"};
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_EQ(sample[counts[i]], info["entities"][i + 1]["records"]) << counts[i];
 }
 
 TEST_F(KelxTest, ProtectedDatabasesWantTheirPassword) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalog/reader.h"
+#include "column_numbers.h"
 #include "sample/sample.h"
 #include "storage/error.h"
 #include "temporary_folder.h"
@@ -8,7 +9,6 @@
 #include <nlohmann/json.hpp>
 
 #include <cmath>
-#include <cstring>
 #include <set>
 
 namespace tools = kelx::tools;
@@ -26,40 +26,6 @@ tools::SampleReport writeTo(const std::filesystem::path& folder, std::uint64_t s
     request.seed = seed;
     request.persons = count;
     return tools::writeSample(request);
-}
-
-/// The files but the project, which tells its folder.
-std::map<std::string, std::string> comparable(const std::filesystem::path& folder) {
-    auto files = TemporaryFolder::contents(folder);
-    EXPECT_EQ(files.erase("sample.prj.json"), 1u);
-    return files;
-}
-
-/// Numbers of a column; blanks are NaN. Texts give their numbers in the heap.
-std::vector<double> numbers(const catalog::Entity& entity, const char* variable) {
-    const auto column = entity.findVariable(variable)->column();
-    const storage::ColumnInfo& info = column->info();
-    const std::size_t size = storage::physicalSize(info.physical);
-    std::vector<double> result;
-    storage::ColumnScratch scratch;
-    for (std::uint64_t begin = 0; begin < info.records; begin += storage::recordsPerBlock) {
-        const auto count = std::min<std::uint64_t>(storage::recordsPerBlock, info.records - begin);
-        const auto* bytes =
-            static_cast<const char*>(column->read(begin, static_cast<std::size_t>(count), scratch));
-        for (std::uint64_t i = 0; i < count; ++i) {
-            double real = 0;
-            std::uint64_t code = 0;
-            std::memcpy(&code, bytes + i * size, size);
-            if (info.physical == storage::Physical::Real64)
-                std::memcpy(&real, bytes + i * size, size);
-            else if (code == storage::blankCode(info.physical))
-                real = std::nan("");
-            else
-                real = static_cast<double>(info.base) + static_cast<double>(code);
-            result.push_back(real);
-        }
-    }
-    return result;
 }
 
 double share(const std::vector<double>& values, double low, double high) {
@@ -91,9 +57,9 @@ protected:
 TEST_F(SampleTest, TheSeedDecidesEveryByte) {
     writeTo(folder->path() / "again", 5);
     writeTo(folder->path() / "other", 6);
-    const auto first = comparable(folder->path() / "a");
-    EXPECT_EQ(first, comparable(folder->path() / "again"));
-    const auto other = comparable(folder->path() / "other");
+    const auto first = TemporaryFolder::contents(folder->path() / "a");
+    EXPECT_EQ(first, TemporaryFolder::contents(folder->path() / "again"));
+    const auto other = TemporaryFolder::contents(folder->path() / "other");
     for (const char* file : {"PERSON_AGE.kbf", "PERSON_INCOME.kbf", "HOUSEHOLD_TYPE.kbf",
                              "PERSON.kpt", "DISTRICT_NAME.kbf", "EMIGRANT_YEAR.kbf"})
         EXPECT_NE(first.at(file), other.at(file)) << file;
@@ -192,15 +158,40 @@ TEST_F(SampleTest, ItsCompanionsFitTogether) {
     EXPECT_EQ(project["typeFile"], "project");
     for (const char* key : {"namePrj", "created", "workDir", "resultDir"})
         EXPECT_NE(project[key], "") << key;
-    EXPECT_TRUE(std::filesystem::exists(std::string(project["dictionaries"][0]["location"])));
-    EXPECT_TRUE(
-        std::filesystem::exists(std::string(project["program"][2]["lastPrograms"][0]["location"])));
+    for (const json& location :
+         {project["dictionaries"][0]["location"], project["workDir"], project["resultDir"],
+          project["program"][1]["elementDir"][0]["location"],
+          project["program"][2]["lastPrograms"][0]["location"],
+          project["selection"][1]["elementDir"][0]["location"],
+          project["selection"][2]["lastSelections"][0]["location"]}) {
+        const std::filesystem::path path = location.get<std::string>();
+        EXPECT_TRUE(path.is_relative()) << path; // or a sample that was moved shows the old place
+        EXPECT_TRUE(std::filesystem::exists(folder->path() / "a" / path)) << path;
+    }
     const auto selection = json::parse(folder->read("a/capital_sel.json"));
     EXPECT_EQ(selection["typeFile"], "selection");
     EXPECT_EQ(selection["selections"][0]["entity"], "DISTRICT");
     EXPECT_EQ(selection["selections"][0]["codes"], json::array({"0101"}));
     const auto dicx = catalog::readDictionary(folder->path() / "a" / "sample.dicx", {});
     EXPECT_EQ(dicx->findEntity("PERSON")->records(), persons);
+    EXPECT_EQ(dicx->created, "2025-01-01T00:00:00");
+    EXPECT_EQ(dicx->updated, "2025-01-01T00:00:00");
+}
+
+TEST_F(SampleTest, TellsThePersonsWrittenAndEndsWhenAsked) {
+    tools::SampleRequest request;
+    request.folder = folder->path() / "stopped";
+    request.persons = 70000;
+    std::vector<std::uint64_t> told;
+    request.progress = [&](std::uint64_t done, std::uint64_t all) {
+        EXPECT_EQ(all, 70000u);
+        told.push_back(done);
+        if (done == all)
+            throw std::runtime_error("enough");
+    };
+    EXPECT_THROW(tools::writeSample(request), std::runtime_error);
+    EXPECT_EQ(told, (std::vector<std::uint64_t>{65536, 70000}));
+    EXPECT_FALSE(std::filesystem::exists(request.folder));
 }
 
 TEST_F(SampleTest, AnyNumberWithinBoundsIsMetExactly) {

@@ -217,7 +217,7 @@ private:
 
     /// The code as a value of the field is written.
     std::string codeText(const FieldPlan& field) const {
-        const std::string code = text(Code);
+        std::string code = text(Code);
         if (field.type == ValueType::String) {
             if (field.exactWidth() && characterCount(code) != static_cast<std::size_t>(field.width))
                 fail(Code, inQuotes(code) + " does not have " + std::to_string(field.width) +
@@ -229,7 +229,7 @@ private:
                 return integerText(*value);
         } else if (field.type == ValueType::Real) {
             if (const auto value = parseReal(code))
-                return realText(*value);
+                return numberText(*value);
         } else if (const auto value = parseBoolean(code)) {
             return *value ? "1" : "0";
         }

@@ -35,7 +35,7 @@ void ColumnTexts::format(std::size_t index) {
     if (info.physical == storage::Physical::Real64) {
         double value = 0;
         std::memcpy(&value, bytes, sizeof value);
-        text_ = std::isnan(value) ? std::string() : realText(value);
+        text_ = std::isnan(value) ? std::string() : numberText(value);
         return;
     }
     std::uint64_t code = 0;

@@ -7,7 +7,9 @@
 #include "import/values.h"
 #include "storage/error.h"
 
+#include <algorithm>
 #include <optional>
+#include <set>
 
 namespace kelx::tools {
 
@@ -31,6 +33,29 @@ std::string commonWidth(const Variable& variable) {
     return width.value_or(0) == 0 ? std::string() : "(" + std::to_string(*width) + ")";
 }
 
+bool isSpecial(const Variable& variable, const std::string& code) {
+    const auto number = parseReal(code);
+    return number && (number == variable.missing || number == variable.notapp);
+}
+
+/// Codes of their own make a code list; labels of the missing and the not-applicable code do not.
+bool isCoded(const Variable& variable) {
+    return std::any_of(variable.valueLabels.begin(), variable.valueLabels.end(),
+                       [&](const auto& entry) { return !isSpecial(variable, entry.first); });
+}
+
+/// A labelled code as values of the variable are written.
+std::string codeText(const Variable& variable, const std::string& code) {
+    const ValueType type = variable.column()->info().type;
+    if (type == ValueType::Integer)
+        if (const auto number = parseInteger(code))
+            return integerText(*number);
+    if (type == ValueType::Real)
+        if (const auto number = parseReal(code))
+            return numberText(*number);
+    return code;
+}
+
 std::string typeText(const Variable& variable) {
     const Entity& entity = *variable.entity;
     const ValueType type = variable.column()->info().type;
@@ -41,7 +66,7 @@ std::string typeText(const Variable& variable) {
         return type == ValueType::Integer ? "weight integer" : "weight";
     if (&variable == entity.labelVar && isText)
         return "label";
-    const bool coded = !variable.valueLabels.empty();
+    const bool coded = isCoded(variable);
     if (isText && coded)
         return "code text" + commonWidth(variable);
     if (isText)
@@ -96,9 +121,13 @@ private:
 
 class Exporter {
 public:
-    Exporter(const catalog::Dictionary& dictionary, const fs::path& folder, bool overwrite)
+    Exporter(const catalog::Dictionary& dictionary, const fs::path& folder, bool overwrite,
+             const Progress& progress)
         : dictionary_(dictionary),
-          staging_(folder / "codebook.csv", fileNames(dictionary), overwrite) {}
+          staging_(folder / "codebook.csv", fileNames(dictionary), overwrite), progress_(progress) {
+        for (const Entity* entity : dictionary.entities())
+            allRecords_ += hasFile(*entity) ? entity->records() : 0;
+    }
 
     ExportReport run() {
         CsvWriter codebook(staging_.folder() / "codebook.csv");
@@ -111,6 +140,7 @@ public:
                 writeRecords(*entity);
         }
         codebook.commit();
+        tellProgress();
         staging_.publish();
         return std::move(report_);
     }
@@ -180,22 +210,28 @@ private:
         row(codebook, {level, variable.name, type, "", variable.label, ""});
         bool missing = variable.missing.has_value();
         bool notapp = variable.notapp.has_value();
+        std::set<std::string> told;
         for (const auto& [code, label] : variable.valueLabels) {
+            const std::string text = codeText(variable, code);
+            if (!told.insert(text).second)
+                continue; // "1" and "01" are one number, and the first label is the one shown
             const auto number = parseReal(code);
             const bool isMissing = missing && number == variable.missing;
             const bool isNotapp = !isMissing && notapp && number == variable.notapp;
+            if (label.empty() && (isMissing || isNotapp))
+                continue; // told below, as those without an entry are
             missing = missing && !isMissing;
             notapp = notapp && !isNotapp;
-            const bool unnamed = label.empty() && !isMissing && !isNotapp;
-            row(codebook, {level, variable.name, type, code, unnamed ? code : label,
+            row(codebook, {level, variable.name, type, text, label.empty() ? text : label,
                            isMissing  ? "missing"
                            : isNotapp ? "notapp"
                                       : ""});
         }
         if (missing)
-            row(codebook, {level, variable.name, type, realText(*variable.missing), "", "missing"});
+            row(codebook,
+                {level, variable.name, type, numberText(*variable.missing), "", "missing"});
         if (notapp)
-            row(codebook, {level, variable.name, type, realText(*variable.notapp), "", "notapp"});
+            row(codebook, {level, variable.name, type, numberText(*variable.notapp), "", "notapp"});
     }
 
     void writeRecords(const Entity& entity) {
@@ -228,21 +264,30 @@ private:
             for (const auto& column : columns)
                 csv.field(column->at(record));
             csv.endRecord();
+            if (++recordsWritten_ % storage::recordsPerBlock == 0)
+                tellProgress();
         }
         csv.commit();
         report_.emplace_back(entity.name + ".csv", records);
     }
 
+    void tellProgress() const {
+        if (progress_)
+            progress_(recordsWritten_, allRecords_);
+    }
+
     const catalog::Dictionary& dictionary_;
     Staging staging_;
+    const Progress& progress_;
+    std::uint64_t recordsWritten_ = 0, allRecords_ = 0;
     ExportReport report_;
 };
 
 } // namespace
 
 ExportReport exportCsv(const catalog::Dictionary& dictionary, const fs::path& folder,
-                       bool overwrite) {
-    return Exporter(dictionary, folder, overwrite).run();
+                       bool overwrite, const Progress& progress) {
+    return Exporter(dictionary, folder, overwrite, progress).run();
 }
 
 } // namespace kelx::tools

@@ -38,6 +38,7 @@ public:
         listLevels();
         placeLevels();
         checkCodebook();
+        measureFiles();
         for (Level& level : levels_)
             scan(level);
         buildDictionary();
@@ -104,6 +105,21 @@ private:
         }
     }
 
+    /// Every file is read twice: to check it, and to write its data.
+    void measureFiles() {
+        for (const Level& level : levels_) {
+            std::error_code fault;
+            const std::uintmax_t bytes = fs::file_size(level.file, fault);
+            bytesToRead_ += fault ? 0 : 2 * bytes;
+        }
+    }
+
+    void noteBytes(std::uint64_t bytes) {
+        bytesRead_ += bytes;
+        if (request_.progress)
+            request_.progress(bytesRead_, bytesToRead_);
+    }
+
     bool isRoot(const Level& level) const { return rootIsLevel_ && &level == levels_.data(); }
 
     void scan(Level& level) {
@@ -112,7 +128,7 @@ private:
         for (std::size_t above = level.parent; above != none; above = levels_[above].parent)
             if (!isRoot(levels_[above]))
                 position.chain.insert(position.chain.begin(), levels_[above].scan.get());
-        level.scan = std::make_unique<LevelScan>(level.file, *level.plan, book_, position);
+        level.scan = std::make_unique<LevelScan>(level.file, *level.plan, book_, position, onRead_);
     }
 
     void buildDictionary() {
@@ -184,7 +200,7 @@ private:
     std::string dataFile(const std::string& stem, const std::string& extension) {
         std::string name = stem + extension;
         for (int n = 2; !files_.insert(name).second; ++n)
-            name = stem + "_" + std::to_string(n) + extension;
+            name = std::string(stem).append("_").append(std::to_string(n)).append(extension);
         return name;
     }
 
@@ -196,7 +212,7 @@ private:
         dictionary_.file = staging.folder() / own;
         dictionary_.dataFolder = staging.folder();
         for (const Level& level : levels_)
-            writeLevel(*level.scan, book_, *level.entity, staging.folder(), request_.key);
+            writeLevel(*level.scan, book_, *level.entity, staging.folder(), request_.key, onRead_);
         catalog::saveDictionary(dictionary_, dictionary_.file);
         staging.publish();
     }
@@ -222,6 +238,8 @@ private:
     std::string rootName_;
     bool rootIsLevel_ = false;
     std::set<std::string> files_;
+    std::uint64_t bytesRead_ = 0, bytesToRead_ = 0;
+    const BytesRead onRead_ = [this](std::uint64_t bytes) { noteBytes(bytes); };
     catalog::Dictionary dictionary_;
 };
 

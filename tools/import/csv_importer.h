@@ -3,6 +3,7 @@
 #pragma once
 
 #include "import/located_error.h"
+#include "import/progress.h"
 #include "storage/column.h"
 #include "storage/secret.h"
 
@@ -27,6 +28,7 @@ struct ImportRequest {
     std::string root;
     std::shared_ptr<const storage::Secret> key; ///< protects the database
     bool overwrite = false;
+    Progress progress; ///< bytes read, of twice the bytes of all files; may be empty
 };
 
 struct ImportReport {

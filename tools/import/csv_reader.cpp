@@ -2,6 +2,7 @@
 #include "import/csv_reader.h"
 
 #include "storage/error.h"
+#include "storage/utf8.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -13,41 +14,12 @@ namespace {
 
 constexpr std::size_t chunk = 1u << 18;
 
-/// Length of the UTF-8 sequence that begins the text; 0 where it is none.
-std::size_t sequenceLength(std::string_view text) {
-    const auto byte = [&](std::size_t i) {
-        return i < text.size() ? static_cast<unsigned char>(text[i]) : 0u;
-    };
-    const auto continues = [&](std::size_t i) { return (byte(i) & 0xc0u) == 0x80u; };
-    const unsigned lead = byte(0);
-    if (lead < 0x80)
-        return 1;
-    if (lead >= 0xc2 && lead < 0xe0)
-        return continues(1) ? 2 : 0;
-    if (lead >= 0xe0 && lead < 0xf0) {
-        const bool overlong = lead == 0xe0 && byte(1) < 0xa0;
-        const bool surrogate = lead == 0xed && byte(1) >= 0xa0;
-        return continues(1) && continues(2) && !overlong && !surrogate ? 3 : 0;
-    }
-    if (lead >= 0xf0 && lead < 0xf5) {
-        const bool outside = (lead == 0xf0 && byte(1) < 0x90) || (lead == 0xf4 && byte(1) >= 0x90);
-        return continues(1) && continues(2) && continues(3) && !outside ? 4 : 0;
-    }
-    return 0;
-}
-
-bool plainAscii(std::string_view text) {
-    unsigned char all = 0;
-    for (const char c : text)
-        all |= static_cast<unsigned char>(c);
-    return all < 0x80;
-}
-
 } // namespace
 
-CsvReader::CsvReader(const std::filesystem::path& file)
-    : stream_(file, std::ios::binary), name_(file.string()) {
-    if (!stream_ || std::filesystem::is_directory(file))
+CsvReader::CsvReader(const std::filesystem::path& file, BytesRead onRead)
+    : stream_(file, std::ios::binary), name_(file.string()), onRead_(std::move(onRead)) {
+    std::error_code ignored;
+    if (!stream_ || std::filesystem::is_directory(file, ignored))
         throw storage::FileError(file, "cannot be opened");
     fill();
     if (buffer_.starts_with("\xef\xbb\xbf"))
@@ -65,6 +37,8 @@ bool CsvReader::fill() {
     if (stream_.bad())
         throw storage::FileError(name_, "cannot be read");
     endReached_ = buffer_.size() < old + wanted;
+    if (onRead_)
+        onRead_(buffer_.size() - old);
     return buffer_.size() > old;
 }
 
@@ -173,7 +147,7 @@ Place CsvReader::placeOf(std::size_t offset) const {
         if (buffer_[i] == '\n') {
             ++place.line;
             place.column = 1;
-        } else if ((static_cast<unsigned char>(buffer_[i]) & 0xc0u) != 0x80u) {
+        } else if (storage::beginsCharacter(buffer_[i])) {
             ++place.column;
         }
     }
@@ -184,14 +158,8 @@ void CsvReader::checkUtf8(std::size_t length) const {
     const std::string_view record = std::string_view(buffer_).substr(recordBegin_, length);
     if (record.find('\0') != std::string_view::npos)
         failAt(recordBegin_ + record.find('\0'), "a zero byte; is this really a text file?");
-    if (plainAscii(record))
-        return;
-    for (std::size_t i = 0; i < record.size();) {
-        const std::size_t step = sequenceLength(record.substr(i));
-        if (step == 0)
-            failAt(recordBegin_ + i, "bytes that are no UTF-8");
-        i += step;
-    }
+    if (const auto fault = storage::firstInvalidUtf8(record))
+        failAt(recordBegin_ + *fault, "bytes that are no UTF-8");
 }
 
 void CsvReader::fail(std::size_t index, const std::string& text) const {

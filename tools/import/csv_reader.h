@@ -3,6 +3,7 @@
 #pragma once
 
 #include "import/located_error.h"
+#include "import/progress.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,7 +23,7 @@ public:
     static constexpr std::size_t longestRecord = 16u << 20;
 
     /// Throws storage::FileError where the file cannot be opened.
-    explicit CsvReader(const std::filesystem::path& file);
+    explicit CsvReader(const std::filesystem::path& file, BytesRead onRead = {});
 
     /// The next record; false at the end. Throws LocatedError on bytes that are no UTF-8, stray
     /// quotes and an open quote at the end.
@@ -52,6 +53,7 @@ private:
 
     std::ifstream stream_;
     std::string name_;
+    BytesRead onRead_;
     std::string buffer_;
     std::size_t recordBegin_ = 0;  ///< of the current record, in buffer_
     std::size_t recordEnd_ = 0;    ///< behind its line end

@@ -9,8 +9,9 @@ namespace kelx::tools {
 
 using storage::ValueType;
 
-LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book)
-    : csv_(file) {
+LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
+                     const BytesRead& onRead)
+    : csv_(file, onRead) {
     if (!csv_.next())
         csv_.fail(0, "the file has no header");
     bindColumns(plan);
@@ -87,9 +88,9 @@ CsvValue LevelFile::value(std::size_t column) const {
 }
 
 LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-                     Position position)
+                     Position position, const BytesRead& onRead)
     : plan_(plan), bookName_(book.file), file_(file), position_(std::move(position)) {
-    LevelFile level(file, plan, book);
+    LevelFile level(file, plan, book, onRead);
     checkParentKeys(level);
     for (const FieldPlan* field : level.columns()) {
         ColumnSummary summary;
@@ -176,7 +177,7 @@ bool LevelScan::hasLabel(const ColumnSummary& summary, const CsvValue& value,
     case ValueType::Integer:
         return std::binary_search(labels.integers.begin(), labels.integers.end(), value.integer);
     case ValueType::Real:
-        return labels.texts.contains(realText(value.real));
+        return labels.texts.contains(numberText(value.real));
     default:
         return labels.texts.contains(std::string(value.text));
     }

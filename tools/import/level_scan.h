@@ -30,7 +30,8 @@ struct CsvValue {
 class LevelFile {
 public:
     /// Reads the header. Throws LocatedError where columns and fields do not match.
-    LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book);
+    LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
+              const BytesRead& onRead);
 
     bool next(); ///< the next record, with as many fields as the header
     CsvValue value(std::size_t column) const; ///< throws LocatedError where it does not fit
@@ -70,7 +71,7 @@ public:
     };
 
     LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-              Position position);
+              Position position, const BytesRead& onRead);
 
     const LevelPlan& plan() const { return plan_; }
     const std::filesystem::path& file() const { return file_; }

@@ -130,11 +130,11 @@ void writePointers(const LevelScan& scan, const fs::path& file) {
 } // namespace
 
 void writeLevel(const LevelScan& scan, const Codebook& book, const catalog::Entity& entity,
-                const fs::path& folder, const Key& key) {
+                const fs::path& folder, const Key& key, const BytesRead& onRead) {
     if (!entity.fileName.empty())
         writePointers(scan, folder / entity.fileName);
     std::vector<Target> targets = targetsOf(scan, entity, folder, key);
-    LevelFile level(scan.file(), scan.plan(), book);
+    LevelFile level(scan.file(), scan.plan(), book, onRead);
     std::uint64_t records = 0;
     for (; level.next() && records < scan.records(); ++records)
         for (const Target& target : targets)
@@ -146,6 +146,7 @@ void writeLevel(const LevelScan& scan, const Codebook& book, const catalog::Enti
         target.writer.reset();
         if (target.written != target.file)
             sortColumn(target.written, target.file, *target.summary, scan, key);
+        onRead(0); // the work may be ended between columns
     }
 }
 

@@ -14,6 +14,6 @@ namespace kelx::tools {
 /// order of the file's columns, parent keys left out. Throws LocatedError and storage::FileError.
 void writeLevel(const LevelScan& scan, const Codebook& book, const catalog::Entity& entity,
                 const std::filesystem::path& folder,
-                const std::shared_ptr<const storage::Secret>& key);
+                const std::shared_ptr<const storage::Secret>& key, const BytesRead& onRead);
 
 } // namespace kelx::tools

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import/located_error.h"
 
+#include "storage/utf8.h"
+
 namespace kelx::tools {
 
 LocatedError::LocatedError(const std::string& file, Place place, const std::string& text)
@@ -13,8 +15,7 @@ std::string inQuotes(const std::string& text) {
     std::string shown = "\"";
     std::size_t used = 0;
     for (const char c : text) {
-        const bool continues = (static_cast<unsigned char>(c) & 0xc0u) == 0x80u;
-        if (used >= longest && !continues) {
+        if (used >= longest && storage::beginsCharacter(c)) {
             shown += "...";
             break;
         }

@@ -8,12 +8,12 @@
 
 namespace kelx::tools {
 
-/// A folder beside the target's files, gone with this object. All functions throw
-/// storage::FileError.
+/// A folder beside the target's files, gone with this object. Folders that processes left behind
+/// which are gone themselves are removed first. All functions throw storage::FileError.
 class Staging {
 public:
     /// Refuses where one of the files exists in the target's folder, unless overwriting is meant.
-    /// Makes the target's folder where it is not there.
+    /// Makes the target's folder where it is not there; without publish() it goes again.
     Staging(const std::filesystem::path& target, std::vector<std::string> fileNames,
             bool overwrite);
     ~Staging();
@@ -21,11 +21,16 @@ public:
     Staging& operator=(const Staging&) = delete;
 
     const std::filesystem::path& folder() const { return folder_; }
-    void publish(); ///< moves the files to their place, in the order of their names given
+    /// Moves the files to their place, in the order of their names given, and syncs that folder.
+    void publish();
 
 private:
+    void makeFolder();
+
     std::filesystem::path target_, folder_;
     std::vector<std::string> fileNames_;
+    bool madeTarget_ = false;
+    int lock_ = -1; ///< the folder, locked as long as its process lives
 };
 
 } // namespace kelx::tools

@@ -19,13 +19,6 @@ std::optional<Number> parseWhole(std::string_view text) {
     return value;
 }
 
-template <typename Number>
-std::string shortest(Number value) {
-    char buffer[40];
-    const auto [end, fault] = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return fault == std::errc() ? std::string(buffer, end) : std::string();
-}
-
 } // namespace
 
 std::optional<std::int64_t> parseInteger(std::string_view text) {
@@ -47,17 +40,7 @@ std::optional<bool> parseBoolean(std::string_view text) {
 }
 
 std::string integerText(std::int64_t value) {
-    return shortest(value);
-}
-
-std::string realText(double value) {
-    return shortest(value);
-}
-
-std::size_t characterCount(std::string_view utf8) {
-    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xc0u) != 0x80u;
-    }));
+    return std::to_string(value);
 }
 
 std::string upperCase(std::string_view text) {

@@ -2,13 +2,25 @@
 // The subcommands. Each adds itself to the command line and to what is run afterwards.
 #pragma once
 
+#include "storage/column.h"
+
+#include <filesystem>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace CLI {
 class App;
 }
 
 namespace kelx::tool {
+
+/// Throws CLI::ValidationError unless the file's name ends in one of the extensions, in any case.
+void requireExtension(const std::string& option, const std::filesystem::path& file,
+                      const std::vector<std::string>& extensions);
+bool hasExtension(const std::filesystem::path& file, const std::string& extension);
+/// integer, real, string, boolean, none
+std::string valueTypeName(storage::ValueType type);
 
 /// A subcommand's work; returns the exit status.
 using Action = std::function<int()>;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
 #include "import/csv_exporter.h"
+#include "interrupt.h"
 #include "password.h"
+#include "progress_bar.h"
 
 #include <CLI/CLI.hpp>
 
@@ -23,15 +25,20 @@ struct ConvertRequest {
 };
 
 void toCsv(const catalog::Dictionary& dictionary, const ConvertRequest& request) {
-    for (const auto& [file, records] :
-         tools::exportCsv(dictionary, request.target, request.overwrite))
+    tools::ExportReport report;
+    {
+        const InterruptWatch watch;
+        ProgressBar bar;
+        report = tools::exportCsv(dictionary, request.target, request.overwrite, bar.until(watch));
+    }
+    for (const auto& [file, records] : report)
         std::cout << (request.target / file).string() << ": " << records << " records\n";
 }
 
 void toDictionary(catalog::Dictionary& dictionary, const ConvertRequest& request) {
     if (!request.overwrite && fs::exists(request.target))
         throw std::runtime_error(request.target.string() + ": exists already");
-    if (dictionary.key && request.target.extension() == ".dicx")
+    if (dictionary.key && hasExtension(request.target, ".dicx"))
         throw std::runtime_error(request.target.string() +
                                  ": a protected database cannot have a .dicx dictionary");
     catalog::saveDictionary(dictionary, fs::absolute(request.target));
@@ -56,10 +63,8 @@ void addConvert(CLI::App& app, Action& action) {
     command->add_flag("--overwrite", request->overwrite, "Replace files that exist");
     addPasswordFile(*command, request->passwordFile);
     command->callback([&action, request] {
-        const fs::path extension = request->target.extension();
-        if (!request->csv && extension != ".kxdb" && extension != ".dicx")
-            throw CLI::ValidationError("target",
-                                       "give --csv, or a file that ends in .kxdb or .dicx");
+        if (!request->csv)
+            requireExtension("target (without --csv)", request->target, {".kxdb", ".dicx"});
         action = [request] { return convert(*request); };
     });
 }

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
 #include "import/csv_importer.h"
+#include "interrupt.h"
+#include "json_print.h"
 #include "password.h"
+#include "progress_bar.h"
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include <iostream>
 #include <memory>
@@ -17,6 +21,7 @@ struct ImportOptions {
     tools::ImportRequest request;
     std::vector<std::string> levels, under;
     bool password = false;
+    bool json = false;
     std::string passwordFile;
 };
 
@@ -31,7 +36,7 @@ std::pair<std::string, std::string> halves(const std::string& option, const std:
 std::string newPassword(const ImportOptions& options) {
     if (!options.passwordFile.empty())
         return passwordFromFile(options.passwordFile);
-    const std::string password = passwordFromTerminal("New password: ");
+    std::string password = passwordFromTerminal("New password: ");
     if (password.empty())
         throw std::runtime_error("The password is empty.");
     if (passwordFromTerminal("Again: ") != password)
@@ -54,12 +59,40 @@ void print(const tools::ImportReport& report) {
     }
 }
 
+void printAsJson(const tools::ImportReport& report, const std::string& database) {
+    nlohmann::ordered_json told{{"database", database},
+                                {"levels", nlohmann::ordered_json::array()}};
+    for (const auto& level : report.levels) {
+        nlohmann::ordered_json variables = nlohmann::ordered_json::array();
+        for (const auto& variable : level.variables) {
+            variables.push_back({{"name", variable.name},
+                                 {"type", valueTypeName(variable.type)},
+                                 {"blanks", variable.blanks},
+                                 {"coded", variable.coded},
+                                 {"withoutLabel", variable.outsideLabels}});
+        }
+        told["levels"].push_back({{"name", level.name},
+                                  {"records", level.records},
+                                  {"sorted", level.sorted},
+                                  {"variables", std::move(variables)}});
+    }
+    printJson(told);
+}
+
+tools::ImportReport importWatched(tools::ImportRequest& request) {
+    const InterruptWatch watch;
+    ProgressBar bar;
+    request.progress = bar.until(watch);
+    return tools::importCsv(request);
+}
+
 int import(ImportOptions& options) {
+    tools::ImportRequest& request = options.request;
     if (options.password || !options.passwordFile.empty())
-        options.request.key =
-            storage::Secret::derive(newPassword(options), storage::Secret::newRecipe());
+        request.key = storage::Secret::derive(newPassword(options), storage::Secret::newRecipe());
     try {
-        print(tools::importCsv(options.request));
+        const tools::ImportReport report = importWatched(request);
+        options.json ? printAsJson(report, request.database.string()) : print(report);
     } catch (const tools::LocatedError& fault) {
         std::cerr << fault.what() << '\n';
         return failure;
@@ -74,8 +107,7 @@ void addImport(CLI::App& app, Action& action) {
         app.add_subcommand("import", "Make a database from CSV files and a codebook");
     auto options = std::make_shared<ImportOptions>();
     tools::ImportRequest& request = options->request;
-    command->add_option("database", request.database, "The dictionary to write (.kxdb or .dicx)")
-        ->required();
+    command->add_option("database", request.database, "The database to write (.kxdb)")->required();
     command
         ->add_option("--level", options->levels,
                      "A level and its file, from the top down; each lies under the one before")
@@ -98,7 +130,9 @@ void addImport(CLI::App& app, Action& action) {
         ->type_name("FILE")
         ->excludes(password);
     command->add_flag("--overwrite", request.overwrite, "Replace files that exist");
+    command->add_flag("--json", options->json, "Report as JSON");
     command->callback([&action, options] {
+        requireExtension("database", options->request.database, {".kxdb"});
         for (const std::string& level : options->levels)
             options->request.levels.emplace_back(halves("--level", level));
         for (const std::string& pair : options->under)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
+#include "json_print.h"
 #include "password.h"
 
 #include <CLI/CLI.hpp>
@@ -20,11 +21,6 @@ struct InfoRequest {
     bool json = false;
 };
 
-const char* typeName(storage::ValueType type) {
-    constexpr const char* names[] = {"none", "integer", "real", "string", "boolean"};
-    return names[static_cast<std::size_t>(type)];
-}
-
 /// What the column's own header says; the dictionary's word where the file is not there.
 storage::ColumnInfo columnInfo(const catalog::Variable& variable) {
     if (variable.fileFound())
@@ -42,7 +38,7 @@ ordered_json describe(const catalog::Variable& variable) {
     const storage::ColumnInfo info = columnInfo(variable);
     ordered_json told{{"name", variable.name},
                       {"label", variable.label},
-                      {"type", typeName(info.type)},
+                      {"type", valueTypeName(info.type)},
                       {"file", variable.fileName},
                       {"found", variable.fileFound()},
                       {"blanks", info.blanks},
@@ -70,7 +66,7 @@ ordered_json describe(const catalog::Entity& entity) {
     return told;
 }
 
-void printJson(const catalog::Dictionary& dictionary) {
+void printAsJson(const catalog::Dictionary& dictionary) {
     ordered_json told{{"name", dictionary.name},
                       {"label", dictionary.label},
                       {"file", dictionary.file.string()},
@@ -78,14 +74,14 @@ void printJson(const catalog::Dictionary& dictionary) {
                       {"entities", ordered_json::array()}};
     for (const catalog::Entity* entity : dictionary.entities())
         told["entities"].push_back(describe(*entity));
-    std::cout << told.dump(2) << '\n';
+    printJson(told);
 }
 
 void printVariable(const catalog::Variable& variable, const std::string& indent) {
     const catalog::Entity& entity = *variable.entity;
     std::string line = indent + variable.name;
     line.resize(std::max<std::size_t>(line.size() + 1, indent.size() + 16), ' ');
-    line += typeName(columnInfo(variable).type);
+    line += valueTypeName(columnInfo(variable).type);
     line.resize(std::max<std::size_t>(line.size() + 1, indent.size() + 26), ' ');
     line += variable.label;
     if (&variable == entity.codeVar)
@@ -111,7 +107,7 @@ void printText(const catalog::Dictionary& dictionary) {
 
 int tell(const InfoRequest& request) {
     const auto dictionary = openDatabase(request.database, request.passwordFile);
-    request.json ? printJson(*dictionary) : printText(*dictionary);
+    request.json ? printAsJson(*dictionary) : printText(*dictionary);
     return success;
 }
 

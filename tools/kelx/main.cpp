@@ -1,13 +1,44 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
+#include "interrupt.h"
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
+namespace {
+
+using namespace kelx::tool;
+
+int run(const Action& action) {
+    try {
+        return action();
+    } catch (const Interrupted& stop) {
+        std::cerr << "kelx: " << stop.what() << '\n';
+        return 128 + stop.signal();
+    } catch (const std::filesystem::filesystem_error& fault) {
+        std::cerr << "kelx: error: " << fault.path1().string() << ": " << fault.code().message()
+                  << '\n';
+    } catch (const std::exception& fault) {
+        std::cerr << "kelx: error: " << fault.what() << '\n';
+    }
+    return failure;
+}
+
+/// A full disk behind standard output may show only now.
+int withOutput(int status) {
+    std::cout.flush();
+    if (std::cout)
+        return status;
+    std::cerr << "kelx: error: standard output cannot be written to its end\n";
+    return status == success ? failure : status;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    using namespace kelx::tool;
     CLI::App app("Census microdata: make databases, look at them, run programs on them.", "kelx");
     app.set_version_flag("--version", "kelx " KELX_VERSION);
     app.require_subcommand(1);
@@ -19,12 +50,7 @@ int main(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& fault) {
-        return app.exit(fault) == 0 ? success : misuse;
+        return withOutput(app.exit(fault) == 0 ? success : misuse);
     }
-    try {
-        return action();
-    } catch (const std::exception& fault) {
-        std::cerr << "kelx: error: " << fault.what() << '\n';
-        return failure;
-    }
+    return withOutput(run(action));
 }

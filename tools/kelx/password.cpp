@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "password.h"
 
+#include "interrupt.h"
+
 #include <CLI/CLI.hpp>
 
 #include <fcntl.h>
 #include <fstream>
+#include <poll.h>
 #include <stdexcept>
 #include <termios.h>
 #include <unistd.h>
@@ -42,8 +45,9 @@ public:
     std::string readLine() const {
         std::string line;
         char c = 0;
-        while (::read(descriptor_, &c, 1) == 1 && c != '\n')
-            line += c;
+        pollfd input{descriptor_, POLLIN, 0};
+        while (::poll(&input, 1, -1) == 1 && ::read(descriptor_, &c, 1) == 1 && c != '\n')
+            line += c; // a signal ends the waiting
         return line;
     }
 
@@ -74,10 +78,12 @@ std::string passwordFromFile(const std::filesystem::path& file) {
 }
 
 std::string passwordFromTerminal(const std::string& prompt) {
+    const InterruptWatch watch; // or the terminal would stay silent
     const SilentTerminal terminal;
     terminal.write(prompt);
     std::string password = terminal.readLine();
     terminal.write("\n");
+    watch.check();
     return password;
 }
 

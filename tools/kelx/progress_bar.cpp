@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "progress_bar.h"
 
+#include "interrupt.h"
+
+#include <algorithm>
 #include <iostream>
 #include <string>
 #include <unistd.h>
@@ -25,10 +28,17 @@ void ProgressBar::show(std::uint64_t done, std::uint64_t all) {
     if (!shown_ || all == 0 || now - last_ < std::chrono::milliseconds(100))
         return;
     last_ = now;
-    const auto share = static_cast<double>(done) / static_cast<double>(all);
+    const double share = std::min(1.0, static_cast<double>(done) / static_cast<double>(all));
     const auto filled = static_cast<std::size_t>(share * static_cast<double>(width));
     std::cerr << "\r[" << std::string(filled, '#') << std::string(width - filled, ' ') << "] "
               << static_cast<int>(share * 100) << " %" << std::flush;
+}
+
+tools::Progress ProgressBar::until(const InterruptWatch& watch) {
+    return [this, &watch](std::uint64_t done, std::uint64_t all) {
+        watch.check();
+        show(done, all);
+    };
 }
 
 } // namespace kelx::tool

@@ -2,10 +2,14 @@
 // A bar on standard error, shown only where that is a terminal.
 #pragma once
 
+#include "import/progress.h"
+
 #include <chrono>
 #include <cstdint>
 
 namespace kelx::tool {
+
+class InterruptWatch;
 
 class ProgressBar {
 public:
@@ -16,6 +20,8 @@ public:
 
     bool isShown() const { return shown_; }
     void show(std::uint64_t done, std::uint64_t all);
+    /// Shows what is done until the watch is asked to stop; both outlive it.
+    tools::Progress until(const InterruptWatch& watch);
 
 private:
     bool shown_;

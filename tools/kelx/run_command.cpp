@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
 #include "execution/run.h"
+#include "interrupt.h"
 #include "language/compile.h"
 #include "output/table.h"
 #include "password.h"
 #include "progress_bar.h"
-#include "storage/atomic_file.h"
 #include "storage/error.h"
+#include "table_printer.h"
 
 #include <CLI/CLI.hpp>
 
-#include <array>
-#include <charconv>
 #include <fstream>
 #include <iostream>
 #include <memory>
-#include <set>
 #include <stdexcept>
 
 namespace kelx::tool {
@@ -25,16 +23,16 @@ namespace {
 namespace fs = std::filesystem;
 
 struct RunRequest {
-    fs::path database, program, folder;
+    fs::path database, program;
     std::string text, passwordFile;
-    std::string format = "text";
-    bool time = false;
+    TablePrinting printing;
     unsigned threads = 0;
 };
 
 std::string readFile(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
-    if (!stream || fs::is_directory(file))
+    std::error_code ignored;
+    if (!stream || fs::is_directory(file, ignored))
         throw storage::FileError(file, "cannot be opened");
     std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
     if (text.starts_with("\xef\xbb\xbf"))
@@ -50,71 +48,20 @@ void print(const language::Messages& messages, const std::string& name) {
     }
 }
 
-std::string secondsText(double seconds) {
-    std::array<char, 64> buffer{};
-    const auto [end, fault] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), seconds,
-                                            std::chars_format::fixed, 3);
-    return fault == std::errc() ? std::string(buffer.data(), end) : std::string();
-}
-
-std::string shown(const output::Table& table, const RunRequest& request) {
-    if (request.format == "json")
-        return output::asJson(table) + "\n";
-    if (request.format == "csv")
-        return output::asCsv(table);
-    std::string text = output::asText(table);
-    if (!text.ends_with('\n'))
-        text += '\n';
-    if (request.time)
-        text += "Time: " + secondsText(table.seconds) + " s\n";
-    return text;
-}
-
-void printAll(const std::vector<output::Table>& tables, const RunRequest& request) {
-    if (request.format == "json") {
-        std::cout << '[';
-        const char* separator = "\n";
-        for (const output::Table& table : tables) {
-            std::cout << separator << output::asJson(table);
-            separator = ",\n";
-        }
-        std::cout << "\n]\n";
-        return;
-    }
-    const char* separator = "";
-    for (const output::Table& table : tables) {
-        std::cout << separator << shown(table, request);
-        separator = "\n";
-    }
-}
-
-/// The table's name as a file name, numbered where another table has it.
-std::string fileNameOf(const output::Table& table, std::set<std::string>& taken) {
-    std::string stem;
-    for (const char c : table.name)
-        stem += std::string_view("/\\:*?\"<>|").find(c) == std::string_view::npos &&
-                        static_cast<unsigned char>(c) >= 0x20
-                    ? c
-                    : '_';
-    if (stem.empty() || stem.starts_with('.'))
-        stem.insert(0, "_");
-    std::string name = stem;
-    for (int n = 2; !taken.insert(name).second; ++n)
-        name = stem + "_" + std::to_string(n);
-    return name;
-}
-
-void writeAll(const std::vector<output::Table>& tables, const RunRequest& request) {
-    fs::create_directories(request.folder);
-    std::set<std::string> taken;
-    const std::string extension = request.format == "text" ? ".txt" : "." + request.format;
-    for (const output::Table& table : tables) {
-        const fs::path file = request.folder / (fileNameOf(table, taken) + extension);
-        storage::AtomicFile out(file);
-        out.write(shown(table, request));
-        out.commit();
-        std::cout << file.string() << '\n';
-    }
+execution::RunResult execute(const language::BoundProgram& program, const RunRequest& request,
+                             language::Messages& messages) {
+    const InterruptWatch watch;
+    ProgressBar bar;
+    execution::RunOptions options;
+    options.threads = request.threads;
+    options.progress = [&](int, int elapsed, int percent) {
+        if (elapsed > 500)
+            bar.show(static_cast<std::uint64_t>(percent), 100);
+        return watch.asked();
+    };
+    execution::RunResult result = execution::run(program, options, messages);
+    watch.check();
+    return result;
 }
 
 int run(const RunRequest& request) {
@@ -129,26 +76,14 @@ int run(const RunRequest& request) {
         print(messages, name);
         return failure;
     }
-    execution::RunOptions options;
-    options.threads = request.threads;
-    execution::RunResult result;
-    {
-        ProgressBar bar;
-        if (bar.isShown())
-            options.progress = [&bar](int, int elapsed, int percent) {
-                if (elapsed > 500)
-                    bar.show(static_cast<std::uint64_t>(percent), 100);
-                return false;
-            };
-        result = execution::run(program, options, messages);
-    }
+    const execution::RunResult result = execute(program, request, messages);
     print(messages, name);
     std::vector<output::Table> tables;
     for (const execution::TableResult& made : result.tables) {
         tables.push_back(output::makeTable(made, *dictionary));
         tables.back().seconds = made.seconds;
     }
-    request.folder.empty() ? printAll(tables, request) : writeAll(tables, request);
+    print(tables, request.printing);
     return messages.hasErrors() ? failure : success;
 }
 
@@ -159,13 +94,23 @@ void addRun(CLI::App& app, Action& action) {
     auto request = std::make_shared<RunRequest>();
     command->add_option("database", request->database, "The .kxdb or .dicx file")->required();
     CLI::Option* program = command->add_option("program", request->program, "The program file");
+    const CLI::Validator hasName(
+        [](const std::string& name) { return std::string(name.empty() ? "has no name" : ""); }, "");
+    program->check(hasName);
     CLI::Option* text = command->add_option("-e", request->text, "The program's text itself");
     text->type_name("TEXT")->excludes(program);
-    command->add_option("--format", request->format, "text, json or csv (default text)")
+    TablePrinting& printing = request->printing;
+    command
+        ->add_option("--format", printing.format,
+                     "text, json (an array with an object for each table) or csv; default text. "
+                     "Several tables as csv on standard output: each after a line with its name, "
+                     "an empty line between them")
         ->check(CLI::IsMember({"text", "json", "csv"}));
-    command->add_option("--out", request->folder, "Write a file for each table into this folder")
-        ->type_name("FOLDER");
-    command->add_flag("--time", request->time, "Tell the seconds that each command took");
+    command->add_option("--out", printing.folder, "Write a file for each table into this folder")
+        ->type_name("FOLDER")
+        ->check(hasName);
+    command->add_flag("--time", printing.time,
+                      "Tell the seconds that each command took; for csv on standard error");
     command
         ->add_option("--threads", request->threads,
                      "Number of threads (default: one for each core)")

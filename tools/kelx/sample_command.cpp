@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
+#include "interrupt.h"
+#include "json_print.h"
 #include "progress_bar.h"
 #include "sample/sample.h"
 
 #include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 #include <iostream>
 #include <memory>
@@ -12,20 +15,36 @@ namespace kelx::tool {
 
 namespace {
 
-int runSample(tools::SampleRequest request) {
+struct SampleOptions {
+    tools::SampleRequest request;
+    bool json = false;
+};
+
+void print(const tools::SampleReport& report, const std::string& database) {
+    std::cout << database << ": " << report.provinces << " provinces, " << report.districts
+              << " districts, " << report.households << " households, " << report.persons
+              << " persons, " << report.emigrants << " emigrants\n";
+}
+
+void printAsJson(const tools::SampleReport& report, const std::string& database) {
+    printJson({{"database", database},
+               {"provinces", report.provinces},
+               {"districts", report.districts},
+               {"households", report.households},
+               {"persons", report.persons},
+               {"emigrants", report.emigrants}});
+}
+
+int runSample(SampleOptions& options) {
     tools::SampleReport report;
     {
+        const InterruptWatch watch;
         ProgressBar bar;
-        if (bar.isShown())
-            request.progress = [&bar](std::uint64_t done, std::uint64_t all) {
-                bar.show(done, all);
-            };
-        report = tools::writeSample(request);
+        options.request.progress = bar.until(watch);
+        report = tools::writeSample(options.request);
     }
-    std::cout << (request.folder / "sample.kxdb").string() << ": " << report.provinces
-              << " provinces, " << report.districts << " districts, " << report.households
-              << " households, " << report.persons << " persons, " << report.emigrants
-              << " emigrants\n";
+    const std::string database = (options.request.folder / "sample.kxdb").string();
+    options.json ? printAsJson(report, database) : print(report, database);
     return success;
 }
 
@@ -34,7 +53,8 @@ int runSample(tools::SampleRequest request) {
 void addSample(CLI::App& app, Action& action) {
     CLI::App* command =
         app.add_subcommand("sample", "Write the database of a made-up country, with programs");
-    auto request = std::make_shared<tools::SampleRequest>();
+    auto options = std::make_shared<SampleOptions>();
+    tools::SampleRequest* request = &options->request;
     command->add_option("folder", request->folder, "Folder to write into")->required();
     command
         ->add_option("--persons", request->persons,
@@ -43,7 +63,8 @@ void addSample(CLI::App& app, Action& action) {
     command->add_option("--seed", request->seed,
                         "The same seed gives the same country (default 1)");
     command->add_flag("--overwrite", request->overwrite, "Replace files that exist");
-    command->callback([&action, request] { action = [request] { return runSample(*request); }; });
+    command->add_flag("--json", options->json, "Answer as JSON");
+    command->callback([&action, options] { action = [options] { return runSample(*options); }; });
 }
 
 } // namespace kelx::tool

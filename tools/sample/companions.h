@@ -11,9 +11,8 @@
 
 namespace kelx::tools {
 
-/// File names and contents. The project tells the folder where they will be.
-std::vector<std::pair<std::string, std::string>>
-sampleCompanions(const Country& country, const std::filesystem::path& folder);
+/// File names and contents. The project names the files beside it, wherever that is.
+std::vector<std::pair<std::string, std::string>> sampleCompanions(const Country& country);
 
 /// Writes a text file atomically. Throws storage::FileError.
 void writeText(const std::filesystem::path& file, const std::string& text);

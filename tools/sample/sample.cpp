@@ -85,6 +85,8 @@ public:
         }
         for (const District& district : country_.districts)
             writeDistrict(district);
+        if (request_.progress)
+            request_.progress(report_.persons, request_.persons);
         for (EntityWriter* writer :
              {&provinces_, &districts_, &households_, &persons_, &emigrants_})
             writer->commit();
@@ -162,7 +164,7 @@ SampleReport writeSample(const SampleRequest& request) {
     const fs::path folder = fs::absolute(request.folder).lexically_normal();
 
     std::vector<std::string> names = dataFileNames(*dictionary);
-    const auto companions = sampleCompanions(country, folder);
+    const auto companions = sampleCompanions(country);
     for (const auto& [name, text] : companions)
         names.push_back(name);
     names.emplace_back("sample.dicx");

@@ -2,9 +2,10 @@
 // Writes the database of a made-up country: for trying things out, for demonstrations, for tests.
 #pragma once
 
+#include "import/progress.h"
+
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 
 namespace kelx::tools {
 
@@ -16,7 +17,7 @@ struct SampleRequest {
     std::uint64_t persons = 100'000;
     std::uint64_t seed = 1;
     bool overwrite = false;
-    std::function<void(std::uint64_t done, std::uint64_t all)> progress; ///< persons; may be empty
+    Progress progress; ///< in persons; may be empty
 };
 
 struct SampleReport {
@@ -24,9 +25,8 @@ struct SampleReport {
 };
 
 /// Writes sample.kxdb, sample.dicx, their data, programs, a selection and a project into the
-/// folder. The same numbers give the same bytes (the project tells the folder besides). Memory does
-/// not grow with the number of persons. Throws storage::FileError, and std::runtime_error for a
-/// number of persons out of bounds.
+/// folder. The same numbers give the same bytes. Memory does not grow with the number of persons.
+/// Throws storage::FileError, and std::runtime_error for a number of persons out of bounds.
 SampleReport writeSample(const SampleRequest& request);
 
 } // namespace kelx::tools

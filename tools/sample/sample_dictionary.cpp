@@ -210,7 +210,7 @@ std::unique_ptr<catalog::Dictionary> makeSampleDictionary(const Country& country
     dictionary->name = "SAMPLE";
     dictionary->label = "Sample country";
     dictionary->author = "kelx sample";
-    dictionary->created = dictionary->updated = "20250101";
+    dictionary->created = dictionary->updated = "2025-01-01T00:00:00";
     dictionary->root = std::make_unique<Entity>();
     Entity& root = *dictionary->root;
     root.dictionary = dictionary.get();

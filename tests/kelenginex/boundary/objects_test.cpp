@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "boundary_fixture.h"
 
+#include "catalog/reader.h"
+#include "storage/column_writer.h"
+
 #include <algorithm>
 
 using namespace kelx;
@@ -45,6 +48,25 @@ TEST_F(Objects, DictionaryShowsItsTree) {
     EXPECT_EQ(person->cmpCodeVar()->size(), 2);
     EXPECT_EQ(root->cmpCodeVar(), nullptr);
     EXPECT_EQ(person->sdcVar(), nullptr);
+}
+
+TEST_F(Objects, CompoundCodesAreAsWideAsTheirLongestParts) {
+    const auto model = catalog::readDictionary(folder / "sample.kxdb", {});
+    catalog::Entity& person = *model->findEntity("PERSON");
+    person.codeVar = person.findVariable("AGE"); // 10 to 40
+    person.codeVar->size = 0;
+    model->findEntity("PROVINCE")->codeVar->size = 0; // "01" and "02"
+    catalog::saveDictionary(*model, folder / "numbered.kxdb");
+    EXPECT_EQ(open("numbered.kxdb")->findEntity("PERSON")->cmpCodeVar()->size(), 4);
+    storage::ColumnPlan plan;
+    plan.type = storage::ValueType::Integer;
+    const auto ages = storage::ColumnWriter::create(folder / "age.kbf", plan);
+    for (const int age : {7, 12345, 8, 9, 10})
+        ages->addInteger(age);
+    ages->commit();
+    const auto dictionary = open("numbered.kxdb");
+    EXPECT_EQ(dictionary->findEntity("PERSON")->cmpCodeVar()->size(), 7);
+    EXPECT_EQ(dictionary->findEntity("PROVINCE")->cmpCodeVar()->size(), 2);
 }
 
 TEST_F(Objects, VariablesTellWhatTheDictionarySays) {

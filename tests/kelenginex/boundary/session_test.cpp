@@ -2,6 +2,7 @@
 #include "boundary_fixture.h"
 
 #include "boundary/engine.h"
+#include "storage/column_writer.h"
 
 using namespace kelx;
 using testing::ElementsAre;
@@ -40,6 +41,30 @@ TEST_F(SessionTest, WeightsAsTheConfigurationSays) {
     config->weight = false;
     EXPECT_THAT(run("FREQ PERSON.SEX"), testing::Contains("0|__tot__|tot|4"));
     EXPECT_THAT(run("RUNDEF r AUTOWEIGHT\nFREQ PERSON.SEX"), testing::Contains("0|__tot__|tot|6"));
+}
+
+// The selection of a program and the questions about areas mean the same codes.
+TEST_F(SessionTest, BlanksAroundCodesDoNotCount) {
+    storage::ColumnPlan plan;
+    plan.type = storage::ValueType::String;
+    const auto codes = storage::ColumnWriter::create(folder / "prov.kbf", plan);
+    codes->addText(" 1");
+    codes->addText("12 ");
+    codes->commit();
+    for (const auto& [code, persons] : {std::pair("1", 3), std::pair("12", 2)}) {
+        const std::string program = std::string("RUNDEF r NOWEIGHT SELECTION INLINE PROVINCE \"") +
+                                    code + "\"\nCOUNT PERSON";
+        EXPECT_THAT(run(program), ElementsAre("PERSON|" + std::to_string(persons))) << code;
+        EXPECT_FALSE(listener.hasWarnings());
+        TKelEntity* province = session->dictionary()->findEntity("PROVINCE");
+        const auto counts = province->areaEntityCounts(code);
+        ASSERT_EQ(counts.size(), 1u) << code;
+        EXPECT_EQ(counts[0].count, persons) << code;
+    }
+    const auto areas = session->dictionary()->root()->childAreaCodes("", "PROVINCE");
+    ASSERT_EQ(areas.size(), 2u);
+    EXPECT_EQ(areas[0].code, "1");
+    EXPECT_EQ(areas[1].code, "12");
 }
 
 TEST_F(SessionTest, DatasetsEndAtTheirBounds) {

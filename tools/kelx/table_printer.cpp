@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "table_printer.h"
+
+#include "storage/atomic_file.h"
+#include "storage/error.h"
+
+#include <array>
+#include <charconv>
+#include <iostream>
+#include <set>
+#include <string_view>
+
+namespace kelx::tool {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string secondsText(double seconds) {
+    std::array<char, 64> buffer{};
+    const auto [end, fault] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), seconds,
+                                            std::chars_format::fixed, 3);
+    return fault == std::errc() ? std::string(buffer.data(), end) : std::string();
+}
+
+std::string shown(const output::Table& table, const TablePrinting& printing) {
+    if (printing.format == "json")
+        return output::asJson(table) + "\n";
+    if (printing.format == "csv")
+        return output::asCsv(table);
+    std::string text = output::asText(table);
+    if (!text.ends_with('\n'))
+        text += '\n';
+    if (printing.time)
+        text += "Time: " + secondsText(table.seconds) + " s\n";
+    return text;
+}
+
+void printJson(const std::vector<output::Table>& tables) {
+    std::cout << '[';
+    const char* separator = "\n";
+    for (const output::Table& table : tables) {
+        std::cout << separator << output::asJson(table);
+        separator = ",\n";
+    }
+    std::cout << "\n]\n";
+}
+
+void printAll(const std::vector<output::Table>& tables, const TablePrinting& printing) {
+    if (printing.format == "json") {
+        printJson(tables);
+        return;
+    }
+    const bool csv = printing.format == "csv";
+    const std::string lineEnd = csv ? "\r\n" : "\n";
+    std::string separator;
+    for (const output::Table& table : tables) {
+        std::cout << separator;
+        if (csv && tables.size() > 1) // its rows alone do not tell which table they are
+            std::cout << table.name << lineEnd;
+        std::cout << shown(table, printing);
+        separator = lineEnd;
+    }
+}
+
+/// The table's name as a file name, numbered where another table has it.
+std::string fileNameOf(const output::Table& table, std::set<std::string>& taken) {
+    std::string stem;
+    for (const char c : table.name)
+        stem += std::string_view("/\\:*?\"<>|").find(c) == std::string_view::npos &&
+                        static_cast<unsigned char>(c) >= 0x20
+                    ? c
+                    : '_';
+    if (stem.empty() || stem.starts_with('.'))
+        stem.insert(0, "_");
+    std::string name = stem;
+    for (int n = 2; !taken.insert(name).second; ++n)
+        name = stem + "_" + std::to_string(n);
+    return name;
+}
+
+void writeAll(const std::vector<output::Table>& tables, const TablePrinting& printing) {
+    std::error_code fault;
+    fs::create_directories(printing.folder, fault);
+    if (fault)
+        throw storage::FileError(printing.folder, "the folder cannot be made: " + fault.message());
+    std::set<std::string> taken;
+    const std::string extension = printing.format == "text" ? ".txt" : "." + printing.format;
+    for (const output::Table& table : tables) {
+        const fs::path file = printing.folder / (fileNameOf(table, taken) + extension);
+        storage::AtomicFile out(file);
+        out.write(shown(table, printing));
+        out.commit();
+        std::cout << file.string() << '\n';
+    }
+}
+
+/// Rows of CSV have no place for them.
+void tellTimes(const std::vector<output::Table>& tables) {
+    for (const output::Table& table : tables)
+        std::cerr << table.name << ": " << secondsText(table.seconds) << " s\n";
+}
+
+} // namespace
+
+void print(const std::vector<output::Table>& tables, const TablePrinting& printing) {
+    printing.folder.empty() ? printAll(tables, printing) : writeAll(tables, printing);
+    if (printing.time && printing.format == "csv")
+        tellTimes(tables);
+}
+
+} // namespace kelx::tool
