@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
-#include "execution/run.h"
 #include "language/compile.h"
-#include "output/table.h"
+#include "output/run.h"
 #include "password.h"
 #include "progress_bar.h"
 #include "storage/atomic_file.h"
@@ -15,6 +14,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <set>
 #include <stdexcept>
 
@@ -57,35 +57,26 @@ std::string secondsText(double seconds) {
     return fault == std::errc() ? std::string(buffer.data(), end) : std::string();
 }
 
-std::string shown(const output::Table& table, const RunRequest& request) {
+void show(const output::Table& table, const RunRequest& request, const output::TextSink& sink) {
     if (request.format == "json")
-        return output::asJson(table) + "\n";
+        return output::writeJson(table, sink);
     if (request.format == "csv")
-        return output::asCsv(table);
-    std::string text = output::asText(table);
-    if (!text.ends_with('\n'))
-        text += '\n';
+        return output::writeCsv(table, sink);
+    output::writeText(table, sink);
     if (request.time)
-        text += "Time: " + secondsText(table.seconds) + " s\n";
-    return text;
+        sink("Time: " + secondsText(table.seconds) + " s\n");
 }
 
 void printAll(const std::vector<output::Table>& tables, const RunRequest& request) {
-    if (request.format == "json") {
-        std::cout << '[';
-        const char* separator = "\n";
-        for (const output::Table& table : tables) {
-            std::cout << separator << output::asJson(table);
-            separator = ",\n";
-        }
-        std::cout << "\n]\n";
-        return;
-    }
-    const char* separator = "";
+    const bool json = request.format == "json";
+    const char* separator = json ? "[\n" : "";
     for (const output::Table& table : tables) {
-        std::cout << separator << shown(table, request);
-        separator = "\n";
+        std::cout << separator;
+        show(table, request, [](std::string_view part) { std::cout << part; });
+        separator = json ? ",\n" : "\n";
     }
+    if (json)
+        std::cout << (tables.empty() ? "[\n]\n" : "\n]\n");
 }
 
 /// The table's name as a file name, numbered where another table has it.
@@ -111,7 +102,9 @@ void writeAll(const std::vector<output::Table>& tables, const RunRequest& reques
     for (const output::Table& table : tables) {
         const fs::path file = request.folder / (fileNameOf(table, taken) + extension);
         storage::AtomicFile out(file);
-        out.write(shown(table, request));
+        show(table, request, [&](std::string_view part) { out.write(part); });
+        if (request.format == "json")
+            out.write("\n");
         out.commit();
         std::cout << file.string() << '\n';
     }
@@ -131,7 +124,7 @@ int run(const RunRequest& request) {
     }
     execution::RunOptions options;
     options.threads = request.threads;
-    execution::RunResult result;
+    output::TablesOfRun made;
     {
         ProgressBar bar;
         if (bar.isShown())
@@ -140,16 +133,20 @@ int run(const RunRequest& request) {
                     bar.show(static_cast<std::uint64_t>(percent), 100);
                 return false;
             };
-        result = execution::run(program, options, messages);
+        made = output::runTables(program, *dictionary, options, messages);
     }
     print(messages, name);
-    std::vector<output::Table> tables;
-    for (const execution::TableResult& made : result.tables) {
-        tables.push_back(output::makeTable(made, *dictionary));
-        tables.back().seconds = made.seconds;
-    }
-    request.folder.empty() ? printAll(tables, request) : writeAll(tables, request);
+    request.folder.empty() ? printAll(made.tables, request) : writeAll(made.tables, request);
     return messages.hasErrors() ? failure : success;
+}
+
+int runWithinMemory(const RunRequest& request) {
+    try {
+        return run(request);
+    } catch (const std::bad_alloc&) {
+        throw std::runtime_error("there is not enough memory for this; take fewer tables or "
+                                 "variables at once");
+    }
 }
 
 } // namespace
@@ -174,7 +171,7 @@ void addRun(CLI::App& app, Action& action) {
     command->callback([&action, request, program, text] {
         if (program->empty() && text->empty())
             throw CLI::RequiredError("A program file or -e TEXT");
-        action = [request] { return run(*request); };
+        action = [request] { return runWithinMemory(*request); };
     });
 }
 
