@@ -18,6 +18,7 @@ constexpr std::uint64_t mostCompared = 32;
 
 std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& pool) {
     std::vector<CodeSource*> result;
+    result.reserve(table.dimensions.size());
     for (const auto& dimension : table.dimensions)
         result.push_back(&pool.of(*dimension));
     return result;
@@ -25,6 +26,7 @@ std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& 
 
 TableShape shapeOf(const std::vector<CodeSource*>& sources, bool weighted) {
     std::vector<CodeDomain> domains;
+    domains.reserve(sources.size());
     for (const CodeSource* source : sources)
         domains.push_back(source->domain());
     return {std::move(domains), weighted};
