@@ -3,6 +3,7 @@
 
 #include "boundary/engine.h"
 #include "boundary/execute_data.h"
+#include "boundary/memory.h"
 #include "boundary/session_data.h"
 #include "boundary/state.h"
 #include "boundary/variants.h"
@@ -63,10 +64,12 @@ std::string version() {
 
 std::shared_ptr<TKelDictionary> readDictionary(const std::string& path,
                                                _validation_context* /*context*/, bool /*flag*/) {
-    auto model = kelx::catalog::readDictionary(path, questions());
-    auto dictionary = std::make_shared<TKelDictionary>();
-    KelBoundaryAccess::adopt(*dictionary, std::move(model));
-    return dictionary;
+    return kelx::boundary::withinMemory([&] {
+        auto model = kelx::catalog::readDictionary(path, questions());
+        auto dictionary = std::make_shared<TKelDictionary>();
+        KelBoundaryAccess::adopt(*dictionary, std::move(model));
+        return dictionary;
+    });
 }
 
 void saveDictionary(const std::shared_ptr<TKelDictionary>& dictionary, const std::string& path) {

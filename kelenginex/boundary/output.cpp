@@ -1,22 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "boundary/output_data.h"
 
-#include <array>
+#include "boundary/memory.h"
+#include "output/names.h"
+
 #include <filesystem>
-
-namespace {
-
-constexpr std::array typeNames = {"TABLE", "AREALIST", "TABLIST", "TABOP"};
-constexpr std::array methodNames = {"NONE",    "FREQUENCY", "AVERAGE", "MAXIMUM", "MEDIAN",
-                                    "MINIMUM", "SUM",       "STATS",   "GINI",    "QUANTILE"};
-
-template <typename Names>
-std::string nameAt(const Names& names, int index) {
-    const bool known = index >= 0 && static_cast<std::size_t>(index) < names.size();
-    return known ? names[static_cast<std::size_t>(index)] : std::string();
-}
-
-} // namespace
 
 TKelOutput::TKelOutput() : d(std::make_unique<Data>()) {}
 
@@ -39,11 +27,11 @@ eTableMethod TKelOutput::method() const {
 }
 
 std::string TKelOutput::typeName() const {
-    return nameAt(typeNames, d->table.type);
+    return kelx::output::typeName(d->table.type);
 }
 
 std::string TKelOutput::methodName() const {
-    return nameAt(methodNames, d->table.method);
+    return kelx::output::methodName(d->table.method);
 }
 
 TKelOutputConfig& TKelOutput::options() {
@@ -63,7 +51,7 @@ TKelEntity* TKelOutput::entity() {
 }
 
 std::string TKelOutput::asJson() const {
-    return kelx::output::asJson(d->table);
+    return kelx::boundary::withinMemory([&] { return kelx::output::asJson(d->table); });
 }
 
 std::int64_t TKelOutput::suppressed() const {

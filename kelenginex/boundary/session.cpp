@@ -2,10 +2,10 @@
 #include "boundary/session_data.h"
 
 #include "boundary/engine.h"
+#include "boundary/memory.h"
 #include "boundary/output_data.h"
-#include "execution/run.h"
 #include "language/compile.h"
-#include "output/table.h"
+#include "output/run.h"
 
 #include <stdexcept>
 
@@ -51,7 +51,6 @@ std::shared_ptr<TKelRunDefinition> definitionOf(const kelx::language::BoundProgr
 
 void TKelSession::Data::forget() {
     outputs.clear();
-    result = {};
     program = {};
     definition = std::make_shared<TKelRunDefinition>(nullptr, std::nullopt);
 }
@@ -103,15 +102,31 @@ void TKelSession::Data::run(Messages& messages) {
             return timer(nullptr, expected, elapsed, percent, nullptr);
         };
     }
-    result = kelx::execution::run(program, options, messages);
+    auto& state = KelBoundaryAccess::state(*dictionary);
+    auto made = kelx::output::runTables(program, *state.dictionary, options, messages);
+    if (made.cancelled) {
+        return;
+    }
+    state.refresh();
+    for (std::size_t i = 0; i < made.tables.size(); ++i) {
+        outputs.push_back(
+            kelx::boundary::makeOutput(std::move(made.tables[i]), program.tables[i], state));
+    }
+    definition = definitionOf(program);
 }
 
-void TKelSession::Data::makeOutputs() {
-    auto& state = KelBoundaryAccess::state(*dictionary);
-    state.refresh();
-    for (const auto& table : result.tables) {
-        outputs.push_back(kelx::boundary::makeOutput(
-            kelx::output::makeTable(table, *state.dictionary), *table.command, state));
+void TKelSession::Data::execute(const std::string& text) {
+    Messages messages;
+    compile(text, messages);
+    try {
+        run(messages);
+    } catch (...) {
+        report(messages);
+        throw;
+    }
+    report(messages);
+    if (messages.hasErrors()) {
+        throwFound(messages.errorCount(), "error");
     }
 }
 
@@ -125,23 +140,11 @@ void TKelSession::executeText(const std::string& program, void* /*context*/) {
     if (d->dictionary == nullptr) {
         throw std::runtime_error("The session has no open dictionary.");
     }
-    Messages messages;
-    d->compile(program, messages);
     try {
-        d->run(messages);
+        kelx::boundary::withinMemory([&] { d->execute(program); });
     } catch (...) {
-        d->report(messages);
         d->forget();
         throw;
-    }
-    d->report(messages);
-    if (messages.hasErrors()) {
-        d->forget();
-        throwFound(messages.errorCount(), "error");
-    }
-    if (!d->result.cancelled) {
-        d->makeOutputs();
-        d->definition = definitionOf(d->program);
     }
 }
 
@@ -157,10 +160,12 @@ void TKelSession::compile(const std::string& program) {
     if (d->dictionary == nullptr) {
         throw std::runtime_error("The session has no open dictionary.");
     }
-    Messages messages;
-    d->compile(program, messages);
-    d->report(messages);
-    d->definition = definitionOf(d->program);
+    kelx::boundary::withinMemory([&] {
+        Messages messages;
+        d->compile(program, messages);
+        d->report(messages);
+        d->definition = definitionOf(d->program);
+    });
 }
 
 std::vector<TKelOutput*> TKelSession::outputs() {

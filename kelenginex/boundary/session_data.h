@@ -7,8 +7,6 @@
 #include "TKelSession.h"
 #include "TKelSpcErrorsListener.h"
 
-#include "execution/result.h"
-#include "execution/run.h"
 #include "language/bound.h"
 #include "language/messages.h"
 
@@ -21,7 +19,6 @@ struct TKelSession::Data {
     TKelSpcErrorsListener* listener = nullptr;
     TKelTimerCallback timer;
     kelx::language::BoundProgram program;
-    kelx::execution::RunResult result; ///< points into the program
     std::vector<std::unique_ptr<TKelOutput>> outputs;
     std::shared_ptr<TKelRunDefinition> definition;
 
@@ -32,5 +29,6 @@ struct TKelSession::Data {
     /// Throws where the program must not run, its messages reported.
     void compile(const std::string& text, kelx::language::Messages& messages);
     void run(kelx::language::Messages& messages);
-    void makeOutputs();
+    /// Compiles and runs a program and keeps its outputs, none where it was cancelled.
+    void execute(const std::string& text);
 };

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <numeric>
 #include <optional>
 #include <unordered_map>
 
@@ -128,9 +129,10 @@ public:
     std::uint32_t indexOf(std::uint64_t code) const { return indices_.at(code); }
 
     /// Valid categories in ascending order, then MV, then NA; equal ones are one.
-    std::vector<Category> number() {
+    std::vector<Category> number(Progress& progress) {
         std::map<Key, std::pair<Category, std::vector<std::uint64_t>>> sorted;
         for (const auto& [code, index] : indices_) {
+            progress.check();
             Category category = names_->name(code);
             Key key{category.kind, category.value};
             auto& place = sorted[std::move(key)];
@@ -152,51 +154,88 @@ private:
     std::unordered_map<std::uint64_t, std::uint32_t> indices_;
 };
 
-/// Sorts cells and adds up those that have come to be the same.
-void sortAndJoin(std::vector<Cell>& cells) {
-    std::stable_sort(cells.begin(), cells.end(),
-                     [](const Cell& a, const Cell& b) { return a.categories < b.categories; });
-    std::vector<Cell> joined;
-    for (Cell& cell : cells) {
-        if (!joined.empty() && joined.back().categories == cell.categories) {
-            joined.back().records += cell.records;
-            joined.back().sum += cell.sum;
-        } else {
-            joined.push_back(std::move(cell));
-        }
+/// Cells with the numbers of their categories, in any order and perhaps more than once.
+struct LooseCells {
+    std::size_t dimensions = 0;
+    std::vector<std::uint32_t> categories;
+    std::vector<std::uint64_t> records;
+    std::vector<Sum> sums;
+
+    const std::uint32_t* of(std::size_t cell) const {
+        return categories.data() + cell * dimensions;
     }
-    cells = std::move(joined);
+    Cells::Cell at(std::size_t cell) const {
+        return {{of(cell), dimensions}, records[cell], sums.empty() ? Sum{} : sums[cell]};
+    }
+};
+
+LooseCells number(const TableCells& cells, const std::vector<DimensionCategories>& dimensions,
+                  Progress& progress) {
+    LooseCells result;
+    result.dimensions = dimensions.size();
+    cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t records, const Sum& sum) {
+        progress.check();
+        for (std::size_t d = 0; d < dimensions.size(); ++d)
+            result.categories.push_back(dimensions[d].indexOf(codes[d]));
+        result.records.push_back(records);
+        if (cells.shape().weighted)
+            result.sums.push_back(sum);
+    });
+    return result;
+}
+
+/// Sorts cells and adds up those that have come to be the same.
+Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress) {
+    const std::size_t dimensions = loose.dimensions;
+    std::vector<std::uint32_t> order(loose.records.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        progress.check();
+        const std::uint32_t* x = loose.of(a);
+        const std::uint32_t* y = loose.of(b);
+        for (std::size_t d = 0; d < dimensions; ++d) {
+            if (x[d] != y[d])
+                return x[d] < y[d];
+        }
+        return a < b;
+    });
+    Cells result(dimensions, weighted);
+    result.reserve(order.size());
+    for (const std::uint32_t cell : order) {
+        progress.check();
+        const std::uint32_t* categories = loose.of(cell);
+        if (!result.empty() &&
+            std::equal(categories, categories + dimensions, result.categories(result.size() - 1)))
+            result.join(loose.at(cell));
+        else
+            result.add(loose.at(cell));
+    }
+    return result;
 }
 
 } // namespace
 
-TableResult finishTable(const plan::PlannedTable& table, const TableShape& shape,
-                        const TableCells& cells) {
+TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells,
+                        Progress& progress) {
+    const bool weighted = cells.shape().weighted;
     TableResult result;
     result.command = table.command;
-    result.exact = !shape.weighted;
+    result.exact = !weighted;
     std::vector<DimensionCategories> dimensions;
     for (const auto& expression : table.dimensions)
         dimensions.emplace_back(*expression);
-    cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t, double) {
+    cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t, const Sum&) {
+        progress.check();
         for (std::size_t d = 0; d < dimensions.size(); ++d)
             dimensions[d].note(codes[d]);
     });
     for (std::size_t d = 0; d < dimensions.size(); ++d) {
         result.dimensions.push_back(describe(*table.dimensions[d]));
-        result.dimensions.back().categories = dimensions[d].number();
+        result.dimensions.back().categories = dimensions[d].number(progress);
     }
-    cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t records, double sum) {
-        Cell cell;
-        for (std::size_t d = 0; d < dimensions.size(); ++d)
-            cell.categories.push_back(dimensions[d].indexOf(codes[d]));
-        cell.records = records;
-        cell.sum = shape.weighted ? sum : static_cast<double>(records);
-        result.cells.push_back(std::move(cell));
-    });
-    sortAndJoin(result.cells);
+    result.cells = sortedAndJoined(number(cells, dimensions, progress), weighted, progress);
     if (dimensions.empty() && result.cells.empty())
-        result.cells.emplace_back();
+        result.cells.add({});
     return result;
 }
 

@@ -5,21 +5,29 @@
 
 namespace kelx::execution {
 
-void DenseCells::resize(std::size_t cells, bool weighted) {
+void DenseCells::resize(std::size_t cells, bool weighted, std::size_t sumsOfCell) {
+    lanes = sumsOfCell;
     counts.assign(cells, 0);
-    sums.assign(weighted ? cells : 0, 0);
+    sums.assign(weighted ? cells * lanes : 0, {});
+}
+
+Sum DenseCells::sum(std::size_t cell) const {
+    Sum result;
+    for (std::size_t lane = 0; lane < lanes && !sums.empty(); ++lane)
+        result.add(sums[cell * lanes + lane]);
+    return result;
 }
 
 void DenseCells::merge(const DenseCells& other) {
     for (std::size_t i = 0; i < counts.size(); ++i)
         counts[i] += other.counts[i];
     for (std::size_t i = 0; i < sums.size(); ++i)
-        sums[i] += other.sums[i];
+        sums[i].add(other.sums[i]);
 }
 
 void DenseCells::clear() {
     std::fill(counts.begin(), counts.end(), 0);
-    std::fill(sums.begin(), sums.end(), 0);
+    std::fill(sums.begin(), sums.end(), Sum{});
 }
 
 std::uint64_t HashCells::hash(const std::uint64_t* codes) const {
@@ -44,7 +52,7 @@ std::size_t HashCells::find(const std::uint64_t* codes) {
     }
     codes_.insert(codes_.end(), codes, codes + dimensions_);
     counts_.push_back(0);
-    sums_.push_back(0);
+    sums_.emplace_back();
     slots_[slot] = counts_.size();
     return counts_.size() - 1;
 }
@@ -60,15 +68,20 @@ void HashCells::grow() {
     }
 }
 
-void HashCells::add(const std::uint64_t* codes, std::uint64_t count, double sum) {
+void HashCells::add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum) {
     const std::size_t cell = find(codes);
     counts_[cell] += count;
-    sums_[cell] += sum;
+    sums_[cell].add(sum);
 }
 
-void HashCells::merge(const HashCells& other) {
-    for (std::size_t cell = 0; cell < other.size(); ++cell)
+bool HashCells::merge(const HashCells& other, const GoOn& goOn) {
+    constexpr std::size_t patience = 4096;
+    for (std::size_t cell = 0; cell < other.size(); ++cell) {
+        if (cell % patience == patience - 1 && !goOn())
+            return false;
         add(other.codes(cell).data(), other.count(cell), other.sum(cell));
+    }
+    return true;
 }
 
 void HashCells::clear() {

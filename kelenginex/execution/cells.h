@@ -2,19 +2,27 @@
 // The figures of a table while it is being made.
 #pragma once
 
+#include "execution/sum.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <vector>
 
 namespace kelx::execution {
 
+/// Asked now and then by long work; false ends it, with its result unfinished.
+using GoOn = std::function<bool()>;
+
 /// Cells of a small domain, side by side.
 struct DenseCells {
     std::vector<std::uint64_t> counts;
-    std::vector<double> sums; ///< empty where nothing is weighted
+    std::vector<Sum> sums; ///< empty where nothing is weighted
+    std::size_t lanes = 1; ///< sums of a cell, side by side
 
-    void resize(std::size_t cells, bool weighted);
+    void resize(std::size_t cells, bool weighted, std::size_t sumsOfCell);
+    Sum sum(std::size_t cell) const;
     void merge(const DenseCells& other);
     void clear();
 };
@@ -25,8 +33,9 @@ public:
     explicit HashCells(std::size_t dimensions = 1) : dimensions_(dimensions) {}
 
     /// Adds to the cell of so many codes as there are dimensions.
-    void add(const std::uint64_t* codes, std::uint64_t count, double sum);
-    void merge(const HashCells& other); ///< in the order in which the other's cells came up
+    void add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum);
+    /// In the order in which the other's cells came up; false where it was ended.
+    bool merge(const HashCells& other, const GoOn& goOn);
     void clear();
 
     std::size_t size() const { return counts_.size(); }
@@ -34,7 +43,7 @@ public:
         return {codes_.data() + cell * dimensions_, dimensions_};
     }
     std::uint64_t count(std::size_t cell) const { return counts_[cell]; }
-    double sum(std::size_t cell) const { return sums_[cell]; }
+    const Sum& sum(std::size_t cell) const { return sums_[cell]; }
 
 private:
     std::size_t find(const std::uint64_t* codes);
@@ -43,7 +52,7 @@ private:
 
     std::size_t dimensions_;
     std::vector<std::uint64_t> codes_, counts_;
-    std::vector<double> sums_;
+    std::vector<Sum> sums_;
     std::vector<std::size_t> slots_; ///< cell + 1, 0 where free
 };
 

@@ -126,10 +126,38 @@ std::size_t compact(const T* in, const Byte* mask, std::size_t count, T* out) {
     return kept;
 }
 
-void addWeights(const std::uint32_t* index, const double* weights, std::size_t count,
-                double* sums) {
+void addTo(Sum& to, double value) {
+    const double total = to.sum + value;
+    const double taken = total - to.sum;
+    to.lost += (to.sum - (total - taken)) + (value - taken);
+    to.sum = total;
+}
+
+void addWeights(const std::uint32_t* index, const double* weights, std::size_t count, Sum* sums) {
     for (std::size_t i = 0; i < count; ++i)
-        sums[index[i]] += weights[i];
+        addTo(sums[index[i]], weights[i]);
+}
+
+void addWeights8(const Byte* index, const double* weights, std::size_t count, std::uint64_t first,
+                 Sum* sums) {
+    static_assert(sumLanes == 4);
+    Sum* lanes[sumLanes];
+    for (unsigned lane = 0; lane < sumLanes; ++lane)
+        lanes[lane] = sums + (first + lane) % sumLanes;
+    std::size_t i = 0;
+    for (; i + sumLanes <= count; i += sumLanes) {
+        addTo(lanes[0][index[i] * sumLanes], weights[i]);
+        addTo(lanes[1][index[i + 1] * sumLanes], weights[i + 1]);
+        addTo(lanes[2][index[i + 2] * sumLanes], weights[i + 2]);
+        addTo(lanes[3][index[i + 3] * sumLanes], weights[i + 3]);
+    }
+    for (unsigned lane = 0; i < count; ++i, ++lane)
+        addTo(lanes[lane][index[i] * sumLanes], weights[i]);
+}
+
+void maskReal(const Byte* mask, std::size_t count, double* values) {
+    for (std::size_t i = 0; i < count; ++i)
+        values[i] = mask[i] != 0 ? values[i] : 0;
 }
 
 void andMasks(Byte* mask, const Byte* other, std::size_t count) {
@@ -192,8 +220,9 @@ constexpr Kernels allKernels() {
             histogram32,
             compact<Byte>,
             compact<std::uint32_t>,
-            compact<double>,
             addWeights,
+            addWeights8,
+            maskReal,
             andMasks,
             expand<double>};
 }

@@ -2,6 +2,8 @@
 // The innermost loops, in one form for every processor and one for those with AVX2.
 #pragma once
 
+#include "execution/sum.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -9,6 +11,9 @@ namespace kelx::execution {
 
 /// Bytes that may be written past the end of a buffer that expand() fills.
 constexpr std::size_t expandSlack = 64;
+
+/// Sums that a cell of a small table has.
+constexpr std::size_t sumLanes = 4;
 
 /// Loops over codes of one width.
 template <class Code>
@@ -43,11 +48,15 @@ struct Kernels {
                             std::uint8_t* out);
     std::size_t (*compact32)(const std::uint32_t* in, const std::uint8_t* mask, std::size_t count,
                              std::uint32_t* out);
-    std::size_t (*compactReal)(const double* in, const std::uint8_t* mask, std::size_t count,
-                               double* out);
-    /// sums[index[i]] += weights[i], one after the other.
+    /// Adds weights[i] to sums[index[i]], one after the other.
     void (*addWeights)(const std::uint32_t* index, const double* weights, std::size_t count,
-                       double* sums);
+                       Sum* sums);
+    /// The same for few cells, which have sumLanes sums each: record i adds to sum
+    /// (first + i) % sumLanes, so that equal neighbours do not wait for each other.
+    void (*addWeights8)(const std::uint8_t* index, const double* weights, std::size_t count,
+                        std::uint64_t first, Sum* sums);
+    /// Zeroes what is not set in the mask, NaN too.
+    void (*maskReal)(const std::uint8_t* mask, std::size_t count, double* values);
     void (*andMasks)(std::uint8_t* mask, const std::uint8_t* other, std::size_t count);
     void (*expandReal)(const double* values, const std::uint32_t* ends, std::size_t runs,
                        double* out);

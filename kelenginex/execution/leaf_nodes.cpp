@@ -68,6 +68,8 @@ protected:
 private:
     void readReals(const double* values, std::size_t count) {
         result_.reals.assign(values, values + count);
+        if (result_.allValid)
+            return;
         for (std::size_t i = 0; i < count; ++i)
             result_.states[i] = std::isnan(values[i]) ? state::blank : states_.ofNumber(values[i]);
     }

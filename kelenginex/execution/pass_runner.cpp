@@ -2,12 +2,11 @@
 #include "execution/pass_runner.h"
 
 #include "execution/categories.h"
-#include "execution/tabulator.h"
+#include "execution/worker.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <exception>
-#include <functional>
 #include <mutex>
 #include <thread>
 
@@ -37,90 +36,25 @@ std::vector<Chunk> chunksOf(const plan::RecordRanges& ranges) {
     return chunks;
 }
 
-/// What one thread needs to work on a pass.
-class Worker {
-public:
-    Worker(const plan::Pass& pass, std::size_t stepRecords, Progress& progress)
-        : unit_(*pass.unit), stepRecords_(stepRecords), frames_(unit_), progress_(progress) {
-        for (const auto& condition : pass.filters)
-            filters_.push_back(makeFilter(condition, unit_, nodes_));
-        for (const plan::PlannedTable& table : pass.tables)
-            tables_.push_back(std::make_unique<Tabulator>(table, unit_, nodes_, sources_));
+/// The most that finishing a table may take, in the time of scanning a record: as many rows as
+/// codes make, or as each record makes with all totals, but not more than the scan itself.
+double finishingOf(const TableShape& shape, double records) {
+    double rows = 1;
+    double totals = 1;
+    for (const CodeDomain& domain : shape.domains) {
+        const bool open = domain.physical == storage::Physical::Real64;
+        rows *= open ? records : static_cast<double>(domain.size) + 2;
+        totals *= 2;
     }
-
-    std::vector<std::unique_ptr<Tabulator>>& tables() { return tables_; }
-
-    /// False where goOn, asked after each table's share of a step, said so.
-    bool work(const Chunk& chunk, const std::function<bool()>& goOn) {
-        for (plan::RecordRange range : chunk) {
-            while (range.begin < range.end) {
-                const std::uint64_t block = range.begin / storage::recordsPerBlock;
-                const std::uint64_t end =
-                    std::min(range.end, (block + 1) * storage::recordsPerBlock);
-                if (!workBlock(static_cast<std::size_t>(block), {range.begin, end}, goOn))
-                    return false;
-                range.begin = end;
-            }
-        }
-        return true;
-    }
-
-private:
-    /// Works on a part of one storage block, so that its zones speak for all of it.
-    bool workBlock(std::size_t block, plan::RecordRange range, const std::function<bool()>& goOn) {
-        const bool may = std::all_of(filters_.begin(), filters_.end(),
-                                     [&](const auto& filter) { return filter->mayPass(block); });
-        wanted_.clear();
-        for (const auto& table : tables_) {
-            if (may && table->mayPass(block))
-                wanted_.push_back(table.get());
-        }
-        if (wanted_.empty()) {
-            progress_.add(range.end - range.begin);
-            return goOn();
-        }
-        while (range.begin < range.end) {
-            const std::uint64_t count =
-                std::min<std::uint64_t>(stepRecords_, range.end - range.begin);
-            frames_.move(range.begin, static_cast<std::size_t>(count));
-            const std::uint8_t* mask = findMask();
-            for (Tabulator* table : wanted_) {
-                table->add(frames_, mask);
-                if (!goOn()) // a step over many tables may take long
-                    return false;
-            }
-            range.begin += count;
-            progress_.add(count);
-        }
-        return true;
-    }
-
-    const std::uint8_t* findMask() {
-        if (filters_.empty())
-            return nullptr;
-        mask_.assign(frames_.baseFrame().count, truth);
-        for (const auto& filter : filters_)
-            filter->apply(frames_, mask_.data());
-        return mask_.data();
-    }
-
-    const Entity& unit_;
-    std::size_t stepRecords_;
-    Frames frames_;
-    Progress& progress_;
-    NodePool nodes_;
-    SourcePool sources_;
-    std::vector<std::unique_ptr<RecordFilter>> filters_;
-    std::vector<std::unique_ptr<Tabulator>> tables_;
-    std::vector<Tabulator*> wanted_;
-    std::vector<std::uint8_t> mask_;
-};
+    return std::min({rows, records * totals, records + 1});
+}
 
 /// Shares the chunks of a pass out and puts the parts together in their order.
 class PassRun {
 public:
-    PassRun(const plan::Pass& pass, const RunOptions& options, Progress& progress)
-        : pass_(pass), progress_(progress), chunks_(chunksOf(pass.ranges)) {
+    PassRun(const plan::Pass& pass, const RunOptions& options, const Share& share,
+            Progress& progress)
+        : pass_(pass), progress_(progress), share_(share), chunks_(chunksOf(pass.ranges)) {
         const std::size_t step =
             std::clamp<std::size_t>(options.blockRecords, 1, storage::recordsPerBlock);
         unsigned threads = options.threads;
@@ -130,36 +64,76 @@ public:
         for (std::size_t i = 0; i < workers; ++i)
             workers_.push_back(std::make_unique<Worker>(pass, step, progress));
         for (const auto& table : workers_[0]->tables())
-            totals_.emplace_back(table->shape());
+            totals_.push_back(std::make_unique<TableCells>(table->shape()));
     }
 
-    std::vector<TableResult> run() {
+    void run(const TableSink& sink) {
+        const auto records = static_cast<double>(plan::recordCount(pass_.ranges));
+        double all = records + 1;
+        for (const auto& cells : totals_)
+            all += finishingOf(cells->shape(), records);
+        const double start = progress_.seconds();
+        double done = records + 1;
+        progress_.begin(shareAt(done / all), plan::recordCount(pass_.ranges));
+        scan();
+        workers_.clear();
+        const double scanned =
+            (progress_.seconds() - start) / static_cast<double>(pass_.tables.size());
+        for (std::size_t i = 0; i < totals_.size(); ++i) {
+            done += finishingOf(totals_[i]->shape(), records);
+            progress_.begin(shareAt(done / all), sinkUnits);
+            finish(i, scanned, sink);
+        }
+    }
+
+private:
+    double shareAt(double part) const { return share_.begin + (share_.end - share_.begin) * part; }
+
+    void scan() {
         if (workers_.size() == 1)
             workOn(*workers_[0], [this] { return !progress_.poll(); });
         else
             runThreads();
         if (error_)
             std::rethrow_exception(error_);
-        return progress_.cancelled() ? std::vector<TableResult>{} : finish();
+        progress_.checkNow();
     }
 
-private:
+    void finish(std::size_t table, double scanned, const TableSink& sink) {
+        const plan::PlannedTable& planned = pass_.tables[table];
+        const double start = progress_.seconds();
+        TableResult result = finishTable(planned, *totals_[table], progress_);
+        totals_[table].reset();
+        result.seconds = scanned + progress_.seconds() - start;
+        sink(planned.index, std::move(result), progress_);
+        progress_.checkNow();
+    }
+
     void runThreads() {
         std::vector<std::thread> threads;
+        threads.reserve(workers_.size());
         running_ = workers_.size();
-        for (const auto& worker : workers_)
-            threads.emplace_back([this, &worker] { threadMain(*worker); });
-        {
-            std::unique_lock lock(mutex_);
-            while (running_ > 0) {
-                changed_.wait_for(lock, Progress::interval / 2);
-                lock.unlock();
-                pollForThreads();
-                lock.lock();
+        for (const auto& worker : workers_) {
+            try {
+                threads.emplace_back([this, &worker] { threadMain(*worker); });
+            } catch (...) { // those that run must end before anything is told
+                stop(std::current_exception());
+                ended();
             }
         }
+        waitForThreads();
         for (std::thread& thread : threads)
             thread.join();
+    }
+
+    void waitForThreads() {
+        std::unique_lock lock(mutex_);
+        while (running_ > 0) {
+            changed_.wait_for(lock, Progress::interval / 2);
+            lock.unlock();
+            pollForThreads();
+            lock.lock();
+        }
     }
 
     /// The callback is the caller's code and may throw; the threads must end all the same.
@@ -178,6 +152,10 @@ private:
         } catch (...) {
             stop(std::current_exception());
         }
+        ended();
+    }
+
+    void ended() {
         const std::scoped_lock lock(mutex_);
         --running_;
         changed_.notify_all();
@@ -191,57 +169,57 @@ private:
         changed_.notify_all();
     }
 
-    void workOn(Worker& worker, const std::function<bool()>& goOn) {
+    void workOn(Worker& worker, const GoOn& goOn) {
         for (;;) {
             const std::size_t chunk = next_.fetch_add(1);
             if (chunk >= chunks_.size())
                 break;
-            if (!worker.work(chunks_[chunk], goOn) || !mergeWeighted(worker, chunk))
+            if (!worker.work(chunks_[chunk], goOn) || !mergeInTurn(worker, chunk, goOn))
                 return;
         }
-        const std::scoped_lock lock(mutex_);
-        merge(worker, false);
+        const std::scoped_lock lock(merging_);
+        merge(worker, false, goOn);
     }
 
-    /// Waits for the chunks before; false where the run is stopped meanwhile.
-    bool mergeWeighted(Worker& worker, std::size_t chunk) {
-        std::unique_lock lock(mutex_);
-        changed_.wait(lock, [&] { return merged_ == chunk || stop_; });
-        if (stop_)
+    /// Waits for the chunks before; false where the run is stopped meanwhile. The caller's thread
+    /// needs the lock for its callback, so it is not held during the work.
+    bool mergeInTurn(Worker& worker, std::size_t chunk, const GoOn& goOn) {
+        {
+            std::unique_lock lock(mutex_);
+            changed_.wait(lock, [&] { return merged_ == chunk || stop_; });
+        }
+        if (stop_ || !merge(worker, true, goOn))
             return false;
-        merge(worker, true);
+        const std::scoped_lock lock(mutex_);
         ++merged_;
         changed_.notify_all();
         return true;
     }
 
     /// Counts are exact in any order; only sums of weights are merged chunk by chunk.
-    void merge(Worker& worker, bool weighted) {
+    bool merge(Worker& worker, bool weighted, const GoOn& goOn) {
         for (std::size_t i = 0; i < totals_.size(); ++i) {
             Tabulator& table = *worker.tables()[i];
             if (table.shape().weighted != weighted)
                 continue;
-            totals_[i].merge(table.cells());
-            table.cells().clear();
+            if (!totals_[i]->take(table.cells(), goOn))
+                return false;
+            if (totals_[i]->hashed.size() > mostRows)
+                throwTooManyRows(*pass_.tables[i].command);
         }
-    }
-
-    std::vector<TableResult> finish() {
-        std::vector<TableResult> results;
-        for (std::size_t i = 0; i < totals_.size(); ++i)
-            results.push_back(
-                finishTable(pass_.tables[i], workers_[0]->tables()[i]->shape(), totals_[i]));
-        return results;
+        return true;
     }
 
     const plan::Pass& pass_;
     Progress& progress_;
+    Share share_;
     std::vector<Chunk> chunks_;
     std::vector<std::unique_ptr<Worker>> workers_;
-    std::vector<TableCells> totals_;
+    std::vector<std::unique_ptr<TableCells>> totals_;
     std::atomic<std::size_t> next_{0};
     std::atomic<bool> stop_{false};
-    std::mutex mutex_;
+    std::mutex merging_; ///< of what is counted
+    std::mutex mutex_;   ///< of what follows
     std::condition_variable changed_;
     std::size_t merged_ = 0;
     std::size_t running_ = 0;
@@ -250,9 +228,9 @@ private:
 
 } // namespace
 
-std::vector<TableResult> runPass(const plan::Pass& pass, const RunOptions& options,
-                                 Progress& progress) {
-    return PassRun(pass, options, progress).run();
+void runPass(const plan::Pass& pass, const RunOptions& options, const TableSink& sink,
+             const Share& share, Progress& progress) {
+    PassRun(pass, options, share, progress).run(sink);
 }
 
 } // namespace kelx::execution

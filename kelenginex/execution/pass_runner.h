@@ -7,13 +7,17 @@
 #include "execution/run.h"
 #include "plan/plan.h"
 
-#include <vector>
-
 namespace kelx::execution {
 
-/// The pass's tables, in its order; nothing where the run was cancelled. Figures do not depend on
-/// the number of threads or on the size of blocks.
-std::vector<TableResult> runPass(const plan::Pass& pass, const RunOptions& options,
-                                 Progress& progress);
+/// A part of the whole run, from 0 to 1.
+struct Share {
+    double begin = 0;
+    double end = 1;
+};
+
+/// Gives the pass's tables to the sink, in its order. Figures do not depend on the number of
+/// threads or on the size of blocks. Throws Cancelled.
+void runPass(const plan::Pass& pass, const RunOptions& options, const TableSink& sink,
+             const Share& share, Progress& progress);
 
 } // namespace kelx::execution

@@ -9,35 +9,44 @@
 namespace kelx::execution {
 namespace {
 
-std::uint64_t recordsOf(const plan::Plan& plan) {
-    std::uint64_t records = 0;
-    for (const plan::Pass& pass : plan.passes)
-        records += plan::recordCount(pass.ranges);
-    return records;
+/// A pass takes its time by its records, and some in any case.
+double workOf(const plan::Pass& pass) {
+    return static_cast<double>(plan::recordCount(pass.ranges)) + 1;
 }
 
 } // namespace
 
+bool run(const language::BoundProgram& program, const RunOptions& options,
+         language::Messages& messages, const TableSink& sink) {
+    Progress progress(options.progress);
+    try {
+        progress.checkNow();
+        const plan::Plan plan = plan::makePlan(program, messages);
+        double all = 0;
+        for (const plan::Pass& pass : plan.passes)
+            all += workOf(pass);
+        double done = 0;
+        for (const plan::Pass& pass : plan.passes) {
+            const double begin = done / all;
+            done += workOf(pass);
+            runPass(pass, options, sink, {begin, done / all}, progress);
+        }
+        progress.finish();
+    } catch (const Cancelled&) {
+        return false;
+    }
+    return true;
+}
+
 RunResult run(const language::BoundProgram& program, const RunOptions& options,
               language::Messages& messages) {
-    const plan::Plan plan = plan::makePlan(program, messages);
-    Progress progress(options.progress, recordsOf(plan));
     RunResult result;
     result.tables.resize(program.tables.size());
-    progress.poll();
-    for (const plan::Pass& pass : plan.passes) {
-        const double start = progress.seconds();
-        std::vector<TableResult> tables;
-        if (!progress.cancelled())
-            tables = runPass(pass, options, progress);
-        if (progress.cancelled())
-            return {{}, true};
-        for (std::size_t i = 0; i < tables.size(); ++i) {
-            tables[i].seconds = progress.seconds() - start;
-            result.tables[pass.tables[i].index] = std::move(tables[i]);
-        }
-    }
-    if (progress.cancelled())
+    const bool whole =
+        run(program, options, messages, [&](std::size_t index, TableResult table, Progress&) {
+            result.tables[index] = std::move(table);
+        });
+    if (!whole)
         return {{}, true};
     return result;
 }

@@ -12,23 +12,37 @@
 
 namespace kelx::execution {
 
+class Progress;
+
 /// Elapsed and expected milliseconds and percent done; a true answer stops the run.
 using ProgressCallback = std::function<bool(int expected, int elapsed, int percent)>;
 
 struct RunOptions {
     unsigned threads = 0; ///< 0: one for each core
     std::size_t blockRecords =
-        65536;                 ///< records a step works on at once; figures never depend on it
-    ProgressCallback progress; ///< called on the calling thread, at least every 100 ms
+        65536; ///< records a step works on at once; figures never depend on it
+    /// Called on the calling thread, at least every 100 ms; the last call of a whole run says 100.
+    ProgressCallback progress;
 };
+
+/// Takes a finished table, by its number in the program, on the calling thread. The stage of the
+/// progress is the table's own, in parts of `sinkUnits`; it should be told and asked meanwhile.
+using TableSink = std::function<void(std::size_t index, TableResult table, Progress& progress)>;
+constexpr std::uint64_t sinkUnits = 1'000'000;
+
+/// The program must be free of errors and outlive the tables. Warnings go to messages. Each table
+/// is given away before the next one is finished. False where the run was cancelled: then tables
+/// that were given away do not count. Throws storage::FileError where data cannot be read, and
+/// std::runtime_error where a table grows too large.
+bool run(const language::BoundProgram& program, const RunOptions& options,
+         language::Messages& messages, const TableSink& sink);
 
 struct RunResult {
     std::vector<TableResult> tables;
     bool cancelled = false; ///< then there are no tables
 };
 
-/// The program must be free of errors and outlive the result. Warnings go to messages. Throws
-/// storage::FileError where data cannot be read.
+/// The same with all tables kept.
 RunResult run(const language::BoundProgram& program, const RunOptions& options,
               language::Messages& messages);
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/table_cells.h"
 
+#include "execution/kernels.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace kelx::execution {
 namespace {
@@ -29,21 +32,23 @@ TableShape::TableShape(std::vector<CodeDomain> of, bool isWeighted)
 TableCells::TableCells(const TableShape& shape)
     : hashed(std::max<std::size_t>(shape.domains.size(), 1)), shape_(shape) {
     if (shape.dense()) // kernels for one-byte cell numbers add to all 256
-        dense.resize(std::max<std::size_t>(shape.cells, 256), shape.weighted);
+        dense.resize(std::max<std::size_t>(shape.cells, 256), shape.weighted,
+                     shape.small() ? sumLanes : 1);
 }
 
-void TableCells::merge(const TableCells& other) {
-    if (shape_.dense())
+bool TableCells::take(TableCells& other, const GoOn& goOn) {
+    if (shape_.dense()) {
         dense.merge(other.dense);
-    else
-        hashed.merge(other.hashed);
-}
-
-void TableCells::clear() {
-    if (shape_.dense())
-        dense.clear();
-    else
-        hashed.clear();
+        other.dense.clear();
+        return true;
+    }
+    if (hashed.size() == 0) {
+        std::swap(hashed, other.hashed);
+        return true;
+    }
+    const bool whole = hashed.merge(other.hashed, goOn);
+    other.hashed.clear();
+    return whole;
 }
 
 void TableCells::decode(std::size_t cell, std::vector<std::uint64_t>& codes) const {

@@ -20,6 +20,8 @@ struct TableShape {
 
     TableShape(std::vector<CodeDomain> of, bool isWeighted);
     bool dense() const { return cells > 0; }
+    /// Cells have numbers of one byte.
+    bool small() const { return dense() && cells <= 256; }
 };
 
 /// Figures by cell; partial ones are merged into the whole.
@@ -30,8 +32,9 @@ public:
     DenseCells dense;
     HashCells hashed;
 
-    void merge(const TableCells& other);
-    void clear();
+    const TableShape& shape() const { return shape_; }
+    /// Takes the other's figures over, which leaves it without; false where it was ended.
+    bool take(TableCells& other, const GoOn& goOn);
     /// use(codes, records, sum) for each cell that occurred; a blank's code is all ones.
     template <class Use>
     void forEach(Use use) const {
@@ -45,8 +48,7 @@ public:
             if (dense.counts[cell] == 0)
                 continue;
             decode(cell, codes);
-            use(std::span<const std::uint64_t>(codes), dense.counts[cell],
-                shape_.weighted ? dense.sums[cell] : 0.0);
+            use(std::span<const std::uint64_t>(codes), dense.counts[cell], dense.sum(cell));
         }
     }
 

@@ -2,6 +2,7 @@
 #include "execution/tabulator.h"
 
 #include "execution/kernels.h"
+#include "execution/result.h"
 #include "execution/typed_data.h"
 #include "plan/same_expression.h"
 
@@ -17,6 +18,7 @@ constexpr std::uint64_t mostCompared = 32;
 
 std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& pool) {
     std::vector<CodeSource*> result;
+    result.reserve(table.dimensions.size());
     for (const auto& dimension : table.dimensions)
         result.push_back(&pool.of(*dimension));
     return result;
@@ -24,19 +26,21 @@ std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& 
 
 TableShape shapeOf(const std::vector<CodeSource*>& sources, bool weighted) {
     std::vector<CodeDomain> domains;
+    domains.reserve(sources.size());
     for (const CodeSource* source : sources)
         domains.push_back(source->domain());
     return {std::move(domains), weighted};
 }
 
-Node* numberNode(const language::ExpressionPtr& expression, const Entity& unit, NodePool& pool) {
-    if (!expression)
-        return nullptr;
-    Node& node = pool.at(*expression, unit);
-    if (!isNumber(node.type()))
-        throw std::runtime_error("A weight or tally is a number, but " + expression->text +
-                                 " is not.");
-    return &node;
+/// The lower of the entities of weight and tally.
+const Entity* weightedBy(const language::TableCommand& command) {
+    const Entity* result = nullptr;
+    for (const language::ExpressionPtr& factor : {command.weight, command.tally}) {
+        const Entity* entity = factor ? factor->entity : nullptr;
+        if (entity != nullptr && (result == nullptr || result->isAncestorOf(*entity)))
+            result = entity;
+    }
+    return result;
 }
 
 } // namespace
@@ -52,12 +56,31 @@ CodeSource& SourcePool::of(const language::Expression& expression) {
 
 Tabulator::Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePool& nodes,
                      SourcePool& sources)
-    : sources_(sourcesOf(table, sources)), weight_(numberNode(table.command->weight, unit, nodes)),
-      tally_(numberNode(table.command->tally, unit, nodes)),
+    : command_(*table.command), unit_(&unit), weighted_(weightedBy(command_)),
+      sources_(sourcesOf(table, sources)), weight_(factor(command_.weight, nodes)),
+      tally_(factor(command_.tally, nodes)),
       shape_(shapeOf(sources_, weight_ != nullptr || tally_ != nullptr)), cells_(shape_),
       numbers_(sources_.size()) {
-    if (table.command->filter)
-        filter_ = makeFilter(table.command->filter, unit, nodes);
+    if (command_.filter)
+        filter_ = makeFilter(command_.filter, unit, nodes);
+}
+
+Node* Tabulator::factor(const language::ExpressionPtr& expression, NodePool& nodes) const {
+    if (!expression)
+        return nullptr;
+    Node& node = nodes.at(*expression, weighted_ != nullptr ? *weighted_ : *unit_);
+    if (!isNumber(node.type()))
+        throw std::runtime_error("A weight or tally is a number, but " + expression->text +
+                                 " is not.");
+    return &node;
+}
+
+/// Where the records end that share a weight.
+const std::vector<std::uint32_t>& Tabulator::runEnds(Frames& frames) {
+    if (weighted_ != nullptr)
+        return frames.runEnds(*weighted_, *unit_);
+    onlyEnd_ = {static_cast<std::uint32_t>(frames.baseFrame().count)};
+    return onlyEnd_;
 }
 
 void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
@@ -68,14 +91,14 @@ void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
     const bool oneByte =
         sources_.size() == 1 && sources_[0]->domain().physical == storage::Physical::Code8;
     if (!shape_.dense())
-        addHashed(frames, mask);
-    else if (shape_.weighted)
-        addDense(frames, mask);
-    else if (sources_.empty())
+        return addHashed(frames, mask);
+    if (shape_.weighted)
+        addSums(frames, mask);
+    if (sources_.empty())
         cells_.dense.counts[0] += mask != nullptr ? kernels().countMask(mask, count) : count;
     else if (oneByte)
         addBytes(frames, mask);
-    else if (shape_.cells <= 256)
+    else if (shape_.small())
         addSmall(frames, mask);
     else
         addDense(frames, mask);
@@ -97,20 +120,31 @@ const std::uint8_t* Tabulator::ownMask(Frames& frames, const std::uint8_t* mask)
         filter_->apply(frames, mask_.data());
     for (Node* node : {weight_, tally_}) {
         if (mayBeInvalid(node))
-            dropInvalid(node->value(frames), count);
+            dropInvalid(node->value(frames), frames);
     }
     return mask_.data();
 }
 
-void Tabulator::dropInvalid(const Vector& values, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i) {
-        if (values.stateAt(i) != state::valid)
-            mask_[i] = 0;
+void Tabulator::dropInvalid(const Vector& values, Frames& frames) {
+    if (weighted_ == unit_) {
+        for (std::size_t i = 0; i < mask_.size(); ++i) {
+            if (values.stateAt(i) != state::valid)
+                mask_[i] = 0;
+        }
+        return;
+    }
+    const auto& ends = runEnds(frames);
+    std::size_t begin = 0;
+    for (std::size_t run = 0; run < ends.size(); ++run) {
+        if (values.stateAt(run) != state::valid)
+            std::fill(mask_.begin() + static_cast<std::ptrdiff_t>(begin),
+                      mask_.begin() + static_cast<std::ptrdiff_t>(ends[run]), std::uint8_t{0});
+        begin = ends[run];
     }
 }
 
 void Tabulator::findWeights(Frames& frames) {
-    weights_.assign(frames.baseFrame().count, 1);
+    weights_.assign(weighted_ != nullptr ? frames.frame(*weighted_).count : 1, 1);
     for (Node* factor : {weight_, tally_}) {
         if (factor != nullptr)
             multiplyBy(*factor, frames);
@@ -120,16 +154,16 @@ void Tabulator::findWeights(Frames& frames) {
 void Tabulator::multiplyBy(Node& factor, Frames& frames) {
     const Vector& values = factor.value(frames);
     const std::size_t step = values.constant ? 0 : 1;
-    const auto multiply = [&](const auto* numbers, double unit) {
+    const auto multiply = [&](const auto* numbers, auto toReal) {
         for (std::size_t i = 0; i < weights_.size(); ++i)
-            weights_[i] *= static_cast<double>(numbers[i * step]) * unit;
+            weights_[i] *= toReal(numbers[i * step]);
     };
     if (values.type == ValueType::Real)
-        multiply(values.reals.data(), 1);
+        multiply(values.reals.data(), [](double value) { return value; });
     else if (values.type == ValueType::Integer)
-        multiply(values.integers.data(), 1);
+        multiply(values.integers.data(), [](auto value) { return static_cast<double>(value); });
     else
-        multiply(values.truths.data(), 1.0 / truth);
+        multiply(values.truths.data(), [](unsigned value) { return value != 0 ? 1.0 : 0.0; });
 }
 
 void Tabulator::addBytes(Frames& frames, const std::uint8_t* mask) {
@@ -196,27 +230,53 @@ void Tabulator::addSmall(Frames& frames, const std::uint8_t* mask) {
 void Tabulator::addDense(Frames& frames, const std::uint8_t* mask) {
     std::size_t count = frames.baseFrame().count;
     makeIndex(frames, index32_);
-    if (mask != nullptr) {
-        if (shape_.weighted)
-            kernels().compactReal(weights_.data(), mask, count, weights_.data());
+    if (mask != nullptr)
         count = kernels().compact32(index32_.data(), mask, count, index32_.data());
-    }
     kernels().histogram32(index32_.data(), count, cells_.dense.counts.data());
-    if (shape_.weighted)
-        kernels().addWeights(index32_.data(), weights_.data(), count, cells_.dense.sums.data());
+}
+
+/// The weight of each record. Mostly weights belong to records above, as those of persons do to
+/// their household.
+double* Tabulator::recordWeights(Frames& frames) {
+    if (weighted_ == unit_)
+        return weights_.data();
+    const auto& ends = runEnds(frames);
+    spread_.resize(frames.baseFrame().count + expandSlack / sizeof(double));
+    kernels().expandReal(weights_.data(), ends.data(), ends.size(), spread_.data());
+    return spread_.data();
+}
+
+/// Records that the mask leaves out add nothing, in their place.
+void Tabulator::addSums(Frames& frames, const std::uint8_t* mask) {
+    const Frame& frame = frames.baseFrame();
+    double* weights = recordWeights(frames);
+    if (mask != nullptr)
+        kernels().maskReal(mask, frame.count, weights);
+    Sum* sums = cells_.dense.sums.data();
+    if (shape_.small()) {
+        makeIndex(frames, index8_);
+        kernels().addWeights8(index8_.data(), weights, frame.count, frame.begin, sums);
+    } else {
+        makeIndex(frames, index32_);
+        kernels().addWeights(index32_.data(), weights, frame.count, sums);
+    }
 }
 
 void Tabulator::addHashed(Frames& frames, const std::uint8_t* mask) {
     for (std::size_t d = 0; d < sources_.size(); ++d)
         sources_[d]->numbers(frames, numbers_[d]);
+    const std::size_t count = frames.baseFrame().count;
+    const double* weights = shape_.weighted ? recordWeights(frames) : nullptr;
     std::vector<std::uint64_t> codes(sources_.size());
-    for (std::size_t i = 0; i < frames.baseFrame().count; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         if (mask != nullptr && mask[i] == 0)
             continue;
         for (std::size_t d = 0; d < codes.size(); ++d)
             codes[d] = numbers_[d][i];
-        cells_.hashed.add(codes.data(), 1, shape_.weighted ? weights_[i] : 0);
+        cells_.hashed.add(codes.data(), 1, {weights != nullptr ? weights[i] : 0, 0});
     }
+    if (cells_.hashed.size() > mostRows)
+        throwTooManyRows(command_);
 }
 
 } // namespace kelx::execution

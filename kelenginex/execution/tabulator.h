@@ -39,16 +39,23 @@ public:
 
 private:
     const std::uint8_t* ownMask(Frames& frames, const std::uint8_t* mask);
+    Node* factor(const language::ExpressionPtr& expression, NodePool& nodes) const;
+    const std::vector<std::uint32_t>& runEnds(Frames& frames);
     void findWeights(Frames& frames);
     void multiplyBy(Node& factor, Frames& frames);
-    void dropInvalid(const Vector& values, std::size_t count);
+    void dropInvalid(const Vector& values, Frames& frames);
     void addBytes(Frames& frames, const std::uint8_t* mask);
     void addSmall(Frames& frames, const std::uint8_t* mask);
     void addDense(Frames& frames, const std::uint8_t* mask);
+    double* recordWeights(Frames& frames);
+    void addSums(Frames& frames, const std::uint8_t* mask);
     void addHashed(Frames& frames, const std::uint8_t* mask);
     template <class Index>
     void makeIndex(Frames& frames, std::vector<Index>& index);
 
+    const language::TableCommand& command_;
+    const Entity* unit_;
+    const Entity* weighted_; ///< whose records have the weights; null where one holds for all
     std::vector<CodeSource*> sources_;
     std::unique_ptr<RecordFilter> filter_;
     Node* weight_ = nullptr;
@@ -56,8 +63,8 @@ private:
     TableShape shape_;
     TableCells cells_;
     std::vector<std::uint8_t> mask_, index8_;
-    std::vector<std::uint32_t> index32_;
-    std::vector<double> weights_;
+    std::vector<std::uint32_t> index32_, onlyEnd_;
+    std::vector<double> weights_, spread_;
     std::vector<std::vector<std::uint64_t>> numbers_;
 };
 

@@ -70,9 +70,9 @@ using InlineSelection = std::vector<SelectionArea>;
 /// RUNDEF. Only what the program says is set.
 struct RunDefinition {
     std::string name;
-    std::optional<std::string> title, selectionLabel, filterLabel;
+    std::optional<std::string> title, selectionLabel, filterLabel, dictionary;
     std::variant<std::monostate, SelectionFile, InlineSelection, NodePtr> selection;
-    Position selectionPosition;
+    Position selectionPosition, dictionaryPosition;
     NodePtr filter, weight;
     std::optional<WeightMode> weightMode;
     std::optional<int> decimals;

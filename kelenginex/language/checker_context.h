@@ -18,10 +18,12 @@ namespace kelx::language {
 
 class CheckerContext {
 public:
-    CheckerContext(std::string_view program, const Names& names, const CompileOptions& options,
-                   Messages& messages)
-        : program_(program), names_(names), options_(options), messages_(messages) {}
+    CheckerContext(std::string_view program, const catalog::Dictionary& dictionary,
+                   const Names& names, const CompileOptions& options, Messages& messages)
+        : program_(program), dictionary_(dictionary), names_(names), options_(options),
+          messages_(messages) {}
 
+    const catalog::Dictionary& dictionary() const { return dictionary_; }
     const Names& names() const { return names_; }
     const CompileOptions& options() const { return options_; }
     Messages& messages() { return messages_; }
@@ -45,6 +47,7 @@ public:
 
 private:
     std::string_view program_;
+    const catalog::Dictionary& dictionary_;
     const Names& names_;
     const CompileOptions& options_;
     Messages& messages_;

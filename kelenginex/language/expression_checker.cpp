@@ -32,19 +32,34 @@ ValueType typeOf(const Constant& constant) {
     return types[constant.index()];
 }
 
-bool comparable(ValueType left, ValueType right) {
-    return left == right || (isNumeric(left) && isNumeric(right));
+/// A truth value that is stored has a code, 0 or 1, which is as good as a number.
+bool hasNumber(const Expression& expression) {
+    return isNumeric(expression.type) || (expression.type == ValueType::Boolean &&
+                                          expression.operation == Operation::VariableValue);
 }
 
-/// What to do about a number against a text.
-std::string quoteHint(const Expression& left, ValueType right) {
-    if (left.operation == Operation::CompoundCode && isNumeric(right))
-        return " Put the code in quotes.";
-    if (left.type == ValueType::String && isNumeric(right))
-        return " Put the number in quotes.";
-    if (isNumeric(left.type) && right == ValueType::String)
+bool comparable(const Expression& left, const Expression& right) {
+    if (isNumeric(left.type) || isNumeric(right.type))
+        return hasNumber(left) && hasNumber(right);
+    return left.type == right.type;
+}
+
+bool isOrder(Operation operation) {
+    return operation != Operation::Equal && operation != Operation::NotEqual;
+}
+
+/// What to do about a number against a text: a constant can be written as the other kind.
+std::string quoteHint(const Expression& left, const Expression& right) {
+    const Expression& text = left.type == ValueType::String ? left : right;
+    const Expression& number = &text == &left ? right : left;
+    if (text.type != ValueType::String || !isNumeric(number.type))
+        return "";
+    if (text.operation == Operation::Constant)
         return " Leave out the quotes.";
-    return "";
+    if (number.operation != Operation::Constant)
+        return "";
+    return text.operation == Operation::CompoundCode ? " Put the code in quotes."
+                                                     : " Put the number in quotes.";
 }
 
 const char* describe(Parameter parameter) {
@@ -84,6 +99,10 @@ bool isAbove(const Constant& low, const Constant& high) {
                                   : static_cast<long double>(std::get<double>(c));
     };
     return !std::holds_alternative<std::string>(high) && number(low) > number(high);
+}
+
+std::string countOf(std::size_t arguments) {
+    return std::to_string(arguments) + (arguments == 1 ? " argument" : " arguments");
 }
 
 std::unique_ptr<Expression> make(Operation operation, ValueType type, Position position) {
@@ -128,7 +147,7 @@ ExpressionPtr ExpressionChecker::condition(const ast::Node& node, const std::str
 
 ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string& clause) {
     Built built = check(node);
-    if (built != nullptr && !isNumeric(built->type)) {
+    if (built != nullptr && !hasNumber(*built)) {
         context_.report(Error::NotANumber, node.position, {clause, describe(built->type)});
         return nullptr;
     }
@@ -335,14 +354,15 @@ ExpressionChecker::Built ExpressionChecker::checkComparison(const ast::Node& nod
     }
     if (left == nullptr || right == nullptr)
         return nullptr;
-    const bool equality =
-        node.operation == Operation::Equal || node.operation == Operation::NotEqual;
-    if (!comparable(left->type, right->type) || (left->type == ValueType::Boolean && !equality)) {
-        std::string hint = quoteHint(*left, right->type);
-        if (hint.empty() && right->operation == Operation::CompoundCode)
-            hint = quoteHint(*right, left->type);
+    if (!comparable(*left, *right)) {
         context_.report(Error::CompareTypes, rightNode.position,
-                        {describe(left->type), describe(right->type), hint});
+                        {describe(left->type), describe(right->type), quoteHint(*left, *right)});
+        return nullptr;
+    }
+    if (isOrder(node.operation) && left->type == ValueType::Boolean && left->type == right->type) {
+        context_.report(Error::CompareTypes, rightNode.position,
+                        {describe(left->type), "another by " + node.operatorText,
+                         " Use = or <>, or compare a variable with 0 or 1."});
         return nullptr;
     }
     Built built = make(node.operation, ValueType::Boolean, node.position);
@@ -374,11 +394,14 @@ ExpressionChecker::Built ExpressionChecker::checkIn(const ast::Node& node) {
 
 bool ExpressionChecker::checkInterval(const ast::Interval& interval, const Expression& operand) {
     for (const auto& end : {interval.bounds.low, interval.bounds.high}) {
-        if (!end || comparable(operand.type, typeOf(*end)))
+        if (!end)
+            continue;
+        const Built constant = make(Operation::Constant, typeOf(*end), interval.position);
+        if (comparable(operand, *constant))
             continue;
         context_.report(
             Error::CompareTypes, interval.position,
-            {describe(operand.type), describe(typeOf(*end)), quoteHint(operand, typeOf(*end))});
+            {describe(operand.type), describe(constant->type), quoteHint(operand, *constant)});
         return false;
     }
     const auto& [low, high] = interval.bounds;
@@ -419,7 +442,7 @@ ExpressionChecker::Built ExpressionChecker::checkCall(const ast::Node& node) {
     }
     if (node.arguments.size() != function->parameters.size()) {
         context_.report(Error::ArgumentCount, node.position,
-                        {function->name, function->form, std::to_string(node.arguments.size())});
+                        {function->name, function->form, countOf(node.arguments.size())});
         return nullptr;
     }
     if (function->parameters[0] == Parameter::Entity)

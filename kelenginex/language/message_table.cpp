@@ -66,7 +66,7 @@ const std::vector<MessageEntry> table = {
           "An entity's name alone stands for its code only in a comparison with a text."),
     error(Error::UnknownFunction, "KEL_E_UNKNOWN_FUNCTION", "There is no function %1.%2",
           "The name before a parenthesis is no function of the language."),
-    error(Error::ArgumentCount, "KEL_E_ARGUMENT_COUNT", "%1 is written %2; found %3 arguments.",
+    error(Error::ArgumentCount, "KEL_E_ARGUMENT_COUNT", "%1 is written %2; found %3.",
           "The function has another number of arguments."),
     error(Error::ArgumentType, "KEL_E_ARGUMENT_TYPE", "Argument %1 of %2 must be %3.",
           "The argument is of another type than the function takes."),
@@ -103,6 +103,11 @@ const std::vector<MessageEntry> table = {
           "A cross table has at least two variables; use FREQ for one."),
     error(Error::SelectionFile, "KEL_E_SELECTION_FILE", "The selection file %1 %2.",
           "The file that SELECTION names is missing or holds something else than areas."),
+    error(
+        Error::WeightBelow, "KEL_E_WEIGHT_BELOW",
+        "The weight is about %1, but COUNT counts %2, which has many of them: take a weight of %2 "
+        "or of what lies above it.",
+        "A count of records is weighted by what each record has, not by what lies below it."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -119,6 +124,9 @@ const std::vector<MessageEntry> table = {
     warning(Warning::UnknownArea, "KEL_W_UNKNOWN_AREA",
             "No %1 has the code \"%2\" that the selection lists.",
             "A code of a selection that no area has; it selects nothing."),
+    warning(Warning::OtherDictionary, "KEL_W_OTHER_DICTIONARY",
+            "The program was written for the dictionary %1 and runs on the open one, %2.",
+            "DICTIONARY names another file than the one that is open."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

@@ -48,6 +48,7 @@ enum class Error : int {
     TooManyTables,
     CrosstabsWithoutBy,
     SelectionFile,
+    WeightBelow,
 };
 
 /// Codes of warnings; the same rule.
@@ -58,6 +59,7 @@ enum class Warning : int {
     EmptyInterval,
     TableNameAgain,
     UnknownArea,
+    OtherDictionary,
 };
 
 /// A line of the table.

@@ -157,7 +157,6 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
     cursor_.take();
     if (!firstTime(clause))
         return false;
-    std::optional<std::string> dictionary;
     switch (clause.keyword) {
     case Keyword::Title:
         return parseText(run.title, "the title in quotes");
@@ -172,7 +171,8 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
     case Keyword::Decimals:
         return parseDecimals(run.decimals);
     case Keyword::Dictionary:
-        return parseText(dictionary, "the name of the dictionary file in quotes");
+        run.dictionaryPosition = cursor_.peek().position;
+        return parseText(run.dictionary, "the name of the dictionary file in quotes");
     default:
         return parseRunWeight(run, clause);
     }

@@ -33,6 +33,7 @@ CheckedSettings RunChecker::defaults() const {
 }
 
 CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
+    checkDictionary(run);
     RunSettings settings = start();
     settings.name = run.name;
     settings.title = run.title;
@@ -53,6 +54,20 @@ CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
             run.weight != nullptr ? expressions_.number(*run.weight, "WEIGHT") : nullptr;
     }
     return {std::make_shared<const RunSettings>(std::move(settings)), run.selectionPosition};
+}
+
+/// A program may be kept beside its dictionary's copy elsewhere: the same name will do.
+void RunChecker::checkDictionary(const ast::RunDefinition& run) {
+    const std::filesystem::path& open = context_.dictionary().file;
+    if (!run.dictionary || open.empty())
+        return;
+    const std::filesystem::path told = resolve(*run.dictionary, context_.options().baseFolder);
+    std::error_code missing;
+    const bool same = lowerCase(told.filename().string()) == lowerCase(open.filename().string()) ||
+                      std::filesystem::equivalent(told, open, missing);
+    if (!same)
+        context_.report(Warning::OtherDictionary, run.dictionaryPosition,
+                        {inQuotes(*run.dictionary), inQuotes(open.filename().string())});
 }
 
 AreaSelection RunChecker::selection(const ast::RunDefinition& run) {

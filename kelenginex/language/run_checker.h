@@ -29,6 +29,7 @@ public:
 
 private:
     RunSettings start() const;
+    void checkDictionary(const ast::RunDefinition& run);
     AreaSelection selection(const ast::RunDefinition& run);
     AreaSelection fromFile(const std::string& file, Position position);
     AreaSelection fromInline(const ast::InlineSelection& areas);

@@ -17,6 +17,13 @@ const Variable* automaticWeight(const Entity* entity) {
     return entity == nullptr ? nullptr : entity->weightVar;
 }
 
+/// A count has one figure for each record, and so must its weight.
+bool weighsBelow(const TableCommand& command) {
+    const Entity* weighted = command.weight->entity;
+    return weighted != nullptr && weighted != command.countEntity &&
+           command.countEntity->isAncestorOf(*weighted);
+}
+
 /// Sizes of lists multiplied, up to the limit.
 std::size_t productOf(const std::vector<std::vector<ExpressionPtr>>& lists) {
     std::size_t product = 1;
@@ -161,6 +168,11 @@ bool TableChecker::placeWeight(TableCommand& command) {
         command.weight = run.weight;
     if (command.weight != nullptr) {
         const bool own = command.weight != run.weight;
+        if (command.kind == TableKind::Count && weighsBelow(command)) {
+            context_.report(Error::WeightBelow, own ? command.weight->position : command.position,
+                            {command.weight->entity->name, command.countEntity->name});
+            return false;
+        }
         if (lower(command.unit, command.weight->entity))
             return true;
         context_.report(Error::Branches, own ? command.weight->position : command.position,

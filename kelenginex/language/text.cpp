@@ -97,7 +97,7 @@ std::string nearest(std::string_view word, const std::vector<std::string>& candi
     if (word.size() > longest)
         return {};
     const std::string wanted = lowerCase(word);
-    std::size_t best = word.size() / 3 + 2;
+    std::size_t best = std::max<std::size_t>(1, word.size() / 3) + 1;
     std::string found;
     for (const std::string& candidate : candidates) {
         const std::size_t difference = wanted.size() > candidate.size()

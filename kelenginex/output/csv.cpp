@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "output/table.h"
+#include "output/buffered.h"
 
 namespace kelx::output {
 namespace {
@@ -18,22 +18,18 @@ std::string quoted(const std::string& text) {
 
 } // namespace
 
-std::string asCsv(const Table& table) {
-    std::string result;
-    const auto endCell = [&](std::size_t column) {
-        result += column + 1 < table.fields.size() ? "," : "\r\n";
+void writeCsv(const Table& table, const TextSink& sink) {
+    Buffered out(sink);
+    const auto endOf = [&](std::size_t column) {
+        return column + 1 < table.fields.size() ? "," : "\r\n";
     };
-    for (std::size_t column = 0; column < table.fields.size(); ++column) {
-        result += quoted(table.fields[column].name);
-        endCell(column);
-    }
+    for (std::size_t column = 0; column < table.fields.size(); ++column)
+        out << quoted(table.fields[column].name) << endOf(column);
     for (std::int64_t row = 0; row < table.rows(); ++row) {
-        for (std::size_t column = 0; column < table.fields.size(); ++column) {
-            result += quoted(toText(table.at(row, column)));
-            endCell(column);
-        }
+        for (std::size_t column = 0; column < table.fields.size(); ++column)
+            out << quoted(toText(table.at(row, column))) << endOf(column);
     }
-    return result;
+    out.finish();
 }
 
 } // namespace kelx::output

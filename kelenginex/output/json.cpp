@@ -1,81 +1,137 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "output/table.h"
+#include "output/buffered.h"
+#include "output/names.h"
 
 #include <nlohmann/json.hpp>
 
 namespace kelx::output {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json orNull(const std::optional<std::string>& text) {
-    return text ? Json(*text) : Json(nullptr);
+/// One value. A text that is no UTF-8, from a careless import, must not cost the whole answer.
+template <class T>
+std::string json(const T& value) {
+    return nlohmann::json(value).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-Json toJson(const Value& value) {
+std::string json(const Value& value) {
     if (const auto* integer = std::get_if<std::int64_t>(&value))
-        return *integer;
+        return std::to_string(*integer);
     if (const auto* real = std::get_if<double>(&value))
-        return *real;
+        return json(*real);
     if (const auto* text = std::get_if<std::string>(&value))
-        return *text;
-    return nullptr;
+        return json(*text);
+    return "null";
 }
 
-const char* methodName(int method) {
-    return method == 1 ? "FREQUENCY" : "NONE";
+template <class T>
+std::string orNull(const std::optional<T>& value) {
+    return value ? json(*value) : "null";
 }
 
-Json variablesOf(const Table& table) {
-    Json result = Json::array();
+/// The members of an object, in their order.
+class JsonObject {
+public:
+    explicit JsonObject(Buffered& out) : out_(out) { out_ << "{"; }
+
+    Buffered& member(const char* name) {
+        out_ << separator_ << "\"" << name << "\":";
+        separator_ = ",";
+        return out_;
+    }
+    void end() { out_ << "}"; }
+
+private:
+    Buffered& out_;
+    const char* separator_ = "";
+};
+
+void writeVariables(const Table& table, Buffered& out) {
+    out << "[";
     for (std::size_t i = 0; i < table.variables.size(); ++i) {
         const catalog::Variable* variable = table.variables[i];
         const Field& field = table.fields[i * 3];
-        Json entry;
-        entry["name"] = variable != nullptr ? variable->fullName() : field.name;
-        entry["label"] = field.label;
-        result.push_back(std::move(entry));
+        out << (i > 0 ? "," : "");
+        JsonObject object(out);
+        object.member("name") << json(variable != nullptr ? variable->fullName() : field.name);
+        object.member("label") << json(field.label);
+        object.end();
     }
-    return result;
+    out << "]";
 }
 
-Json rowsOf(const Table& table) {
-    Json result = Json::array();
-    for (std::int64_t row = 0; row < table.rows(); ++row) {
-        Json cells = Json::array();
-        for (std::size_t column = 0; column < table.fields.size(); ++column)
-            cells.push_back(toJson(table.at(row, column)));
-        result.push_back(std::move(cells));
+void writeFields(const Table& table, Buffered& out) {
+    out << "[";
+    for (std::size_t i = 0; i < table.fields.size(); ++i) {
+        out << (i > 0 ? "," : "");
+        JsonObject object(out);
+        object.member("name") << json(table.fields[i].name);
+        object.member("label") << json(table.fields[i].label);
+        object.member("group") << json(table.fields[i].group);
+        object.end();
     }
-    return result;
+    out << "]";
+}
+
+/// A column whose values, where they repeat, are put into words once.
+class JsonColumn {
+public:
+    explicit JsonColumn(const Column& column) : column_(column) {
+        if (!column.numbers)
+            return;
+        for (const Value& value : column.values)
+            texts_.push_back(json(value));
+    }
+    void write(std::size_t row, Buffered& out) const {
+        if (column_.numbers)
+            out << texts_[(*column_.numbers)[row]];
+        else
+            out << json(column_.values[row]);
+    }
+
+private:
+    const Column& column_;
+    std::vector<std::string> texts_;
+};
+
+void writeRows(const Table& table, Buffered& out) {
+    const std::vector<JsonColumn> columns(table.columns.begin(), table.columns.end());
+    const auto rows = static_cast<std::size_t>(table.rows());
+    out << "[";
+    for (std::size_t row = 0; row < rows; ++row) {
+        out << (row > 0 ? ",[" : "[");
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            out << (column > 0 ? "," : "");
+            columns[column].write(row, out);
+        }
+        out << "]";
+    }
+    out << "]";
 }
 
 } // namespace
 
-std::string asJson(const Table& table) {
-    Json json;
-    json["name"] = table.name;
-    json["title"] = orNull(table.title);
-    json["kind"] = table.kind;
-    json["method"] = methodName(table.method);
-    json["unit"] = table.unit;
-    json["database"] = table.database;
-    json["area"] = table.area;
-    json["filter"] = orNull(table.filter);
-    json["weight"] = orNull(table.weight);
-    json["tally"] = orNull(table.tally);
-    json["universalFilter"] = orNull(table.universalFilter);
-    json["suppressed"] = table.suppressed;
-    json["decimals"] = table.decimals ? Json(*table.decimals) : Json(nullptr);
-    json["variables"] = variablesOf(table);
-    json["fields"] = Json::array();
-    for (const Field& field : table.fields)
-        json["fields"].push_back(
-            Json{{"name", field.name}, {"label", field.label}, {"group", field.group}});
-    json["rows"] = rowsOf(table);
-    json["seconds"] = table.seconds;
-    // A text that is no UTF-8, from a careless import, must not cost the whole answer.
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+void writeJson(const Table& table, const TextSink& sink) {
+    Buffered out(sink);
+    JsonObject object(out);
+    object.member("name") << json(table.name);
+    object.member("title") << orNull(table.title);
+    object.member("kind") << json(table.kind);
+    object.member("method") << json(methodName(table.method));
+    object.member("unit") << json(table.unit);
+    object.member("database") << json(table.database);
+    object.member("area") << json(table.area);
+    object.member("filter") << orNull(table.filter);
+    object.member("weight") << orNull(table.weight);
+    object.member("tally") << orNull(table.tally);
+    object.member("universalFilter") << orNull(table.universalFilter);
+    object.member("suppressed") << json(table.suppressed);
+    object.member("decimals") << orNull(table.decimals);
+    writeVariables(table, object.member("variables"));
+    writeFields(table, object.member("fields"));
+    writeRows(table, object.member("rows"));
+    object.member("seconds") << json(table.seconds);
+    object.end();
+    out.finish();
 }
 
 } // namespace kelx::output

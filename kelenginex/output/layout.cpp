@@ -1,143 +1,42 @@
 // SPDX-License-Identifier: Apache-2.0
-// From cells and categories to rows with totals.
-#include "output/table.h"
+// What a table says of itself, and its columns.
+#include "output/rows.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace kelx::output {
 namespace {
 
 using execution::Category;
 using execution::CategoryKind;
-using execution::Cell;
 using execution::Dimension;
 using execution::TableResult;
 
-/// A row: the place of its category, or total, in each dimension as one number, and its figures.
-struct Row {
-    std::uint64_t place = 0;
-    std::uint64_t records = 0;
-    double sum = 0;
-};
+/// The values of a dimension's three columns, by place: valid categories, the total, MV, NA.
+struct Triple {
+    std::vector<Value> codes, labels, kinds;
 
-/// The order of rows in one dimension: valid categories, the total, MV, NA.
-class Places {
-public:
-    explicit Places(const Dimension& dimension) : dimension_(dimension) {
-        const auto isValid = [](const Category& c) { return c.kind == CategoryKind::Valid; };
-        valid_ = static_cast<std::uint64_t>(
-            std::count_if(dimension.categories.begin(), dimension.categories.end(), isValid));
-    }
-
-    std::uint64_t size() const { return dimension_.categories.size() + 1; }
-    std::uint64_t total() const { return valid_; }
-    bool isValid(std::uint32_t category) const { return category < valid_; }
-    std::uint64_t of(std::uint32_t category) const {
-        return category + (isValid(category) ? 0 : 1);
-    }
-
-    void write(std::uint64_t place, std::vector<Value>& cells) const {
-        if (place == total())
-            return triple("0", "__tot__", "tot", cells);
-        const auto& category =
-            dimension_.categories[static_cast<std::size_t>(place - (place > total() ? 1 : 0))];
-        if (category.kind == CategoryKind::Missing)
-            return triple("0", "__mv__", "mv", cells);
-        if (category.kind == CategoryKind::NotApplicable)
-            return triple("0", "__na__", "na", cells);
-        triple(category.code, category.label, "", cells);
+    explicit Triple(const Dimension& dimension) {
+        const auto mark = dimension.categories.end();
+        const auto firstMarker =
+            std::find_if(dimension.categories.begin(), mark,
+                         [](const Category& c) { return c.kind != CategoryKind::Valid; });
+        for (auto category = dimension.categories.begin(); category != firstMarker; ++category)
+            add(category->code, category->label, "");
+        add("0", "__tot__", "tot");
+        for (auto marker = firstMarker; marker != mark; ++marker) {
+            const bool missing = marker->kind == CategoryKind::Missing;
+            add("0", missing ? "__mv__" : "__na__", missing ? "mv" : "na");
+        }
     }
 
 private:
-    static void triple(const std::string& code, const std::string& label, const char* kind,
-                       std::vector<Value>& cells) {
-        cells.emplace_back(code);
-        cells.emplace_back(label);
-        cells.emplace_back(std::string(kind));
+    void add(const std::string& code, const std::string& label, const char* kind) {
+        codes.emplace_back(code);
+        labels.emplace_back(label);
+        kinds.emplace_back(std::string(kind));
     }
-
-    const Dimension& dimension_;
-    std::uint64_t valid_ = 0;
 };
-
-/// Makes the rows of a result.
-class RowMaker {
-public:
-    explicit RowMaker(const TableResult& result) {
-        for (const Dimension& dimension : result.dimensions)
-            places_.emplace_back(dimension);
-        strides_.resize(places_.size());
-        std::uint64_t stride = 1;
-        for (std::size_t d = places_.size(); d-- > 0;) {
-            strides_[d] = stride;
-            if (__builtin_mul_overflow(stride, places_[d].size(), &stride))
-                throw std::runtime_error("The table has too many combinations of categories.");
-        }
-        for (const Cell& cell : result.cells)
-            addCell(cell);
-        rows_.push_back({grandTotal(), 0, 0}); // stands in every table, and adds nothing
-        join();
-    }
-
-    const std::vector<Row>& rows() const { return rows_; }
-
-    void write(const Row& row, std::vector<Value>& cells) const {
-        for (std::size_t d = 0; d < places_.size(); ++d)
-            places_[d].write(row.place / strides_[d] % places_[d].size(), cells);
-    }
-
-private:
-    std::uint64_t grandTotal() const {
-        std::uint64_t place = 0;
-        for (std::size_t d = 0; d < places_.size(); ++d)
-            place += places_[d].total() * strides_[d];
-        return place;
-    }
-
-    /// The cell's own row and those of all totals that it is part of.
-    void addCell(const Cell& cell) {
-        const std::size_t first = rows_.size();
-        rows_.push_back({0, cell.records, cell.sum});
-        for (std::size_t d = 0; d < places_.size(); ++d) {
-            const std::uint32_t category = cell.categories[d];
-            const std::size_t last = rows_.size();
-            if (places_[d].isValid(category)) {
-                for (std::size_t i = first; i < last; ++i) {
-                    rows_.push_back(rows_[i]);
-                    rows_.back().place += places_[d].total() * strides_[d];
-                }
-            }
-            for (std::size_t i = first; i < last; ++i)
-                rows_[i].place += places_[d].of(category) * strides_[d];
-        }
-    }
-
-    void join() {
-        std::stable_sort(rows_.begin(), rows_.end(),
-                         [](const Row& a, const Row& b) { return a.place < b.place; });
-        std::vector<Row> joined;
-        for (const Row& row : rows_) {
-            if (joined.empty() || joined.back().place != row.place) {
-                joined.push_back(row);
-                continue;
-            }
-            joined.back().records += row.records;
-            joined.back().sum += row.sum;
-        }
-        rows_ = std::move(joined);
-    }
-
-    std::vector<Places> places_;
-    std::vector<std::uint64_t> strides_;
-    std::vector<Row> rows_;
-};
-
-Value figure(const Row& row, bool exact) {
-    if (exact)
-        return static_cast<std::int64_t>(row.records);
-    return row.sum;
-}
 
 std::string headingOf(const catalog::Entity& entity) {
     return entity.label.empty() ? entity.name : entity.label;
@@ -166,47 +65,55 @@ void describe(const language::TableCommand& command, const catalog::Dictionary& 
             settings.filterLabel ? *settings.filterLabel : settings.filter->text;
 }
 
-void layCount(const TableResult& result, Table& table) {
+void layCount(const TableResult& result, RowMaker& rows, Table& table) {
     table.kind = "COUNT";
     table.entity = result.command->countEntity;
     table.fields = {{"Entity", "Entity", ""}, {"Count", "Count", ""}};
-    table.cells.emplace_back(table.entity != nullptr ? table.entity->name : table.unit);
-    const Cell cell = result.cells.empty() ? Cell{} : result.cells.front();
-    table.cells.push_back(figure({0, cell.records, cell.sum}, result.exact));
+    Column name;
+    name.values.emplace_back(table.entity != nullptr ? table.entity->name : table.unit);
+    table.columns.push_back(std::move(name));
+    table.columns.push_back({std::move(rows.figures()), nullptr});
 }
 
-void layFrequency(const TableResult& result, const catalog::Entity& unit, Table& table) {
+void addColumns(const Dimension& dimension, Column::Numbers& places, Table& table) {
+    Triple triple(dimension);
+    const auto shared = std::make_shared<const Column::Numbers>(std::move(places));
+    table.columns.push_back({std::move(triple.codes), shared});
+    table.columns.push_back({std::move(triple.labels), shared});
+    table.columns.push_back({std::move(triple.kinds), shared});
+}
+
+void layFrequency(const TableResult& result, RowMaker& rows, Table& table) {
     table.kind = "FREQUENCY";
     table.method = 1;
     table.dimension = static_cast<int>(result.dimensions.size());
-    for (const Dimension& dimension : result.dimensions) {
+    for (std::size_t i = 0; i < result.dimensions.size(); ++i) {
+        const Dimension& dimension = result.dimensions[i];
+        const std::string& name = dimension.name;
         table.variables.push_back(dimension.variable);
-        table.fields.push_back({dimension.name, dimension.label, dimension.name});
-        table.fields.push_back(
-            {dimension.name + " label", dimension.label + " (label)", dimension.name});
-        table.fields.push_back(
-            {dimension.name + " kind", dimension.label + " (kind)", dimension.name});
+        table.fields.push_back({name, dimension.label, name});
+        table.fields.push_back({name + " label", dimension.label + " (label)", name});
+        table.fields.push_back({name + " kind", dimension.label + " (kind)", name});
+        addColumns(dimension, rows.places()[i], table);
     }
+    const catalog::Entity& unit = *result.command->unit;
     table.fields.push_back({unit.name, headingOf(unit), ""});
-    const RowMaker maker(result);
-    table.cells.reserve(maker.rows().size() * table.fields.size());
-    for (const Row& row : maker.rows()) {
-        maker.write(row, table.cells);
-        table.cells.push_back(figure(row, result.exact));
-    }
+    table.columns.push_back({std::move(rows.figures()), nullptr});
 }
 
 } // namespace
 
-Table makeTable(const execution::TableResult& result, const catalog::Dictionary& dictionary) {
-    const language::TableCommand& command = *result.command;
+Table makeTable(const execution::TableResult& result, const catalog::Dictionary& dictionary,
+                execution::Progress& progress) {
+    const double start = progress.seconds();
     Table table;
-    table.seconds = result.seconds;
-    describe(command, dictionary, table);
-    if (command.kind == language::TableKind::Count)
-        layCount(result, table);
+    describe(*result.command, dictionary, table);
+    RowMaker rows(result, progress);
+    if (result.command->kind == language::TableKind::Count)
+        layCount(result, rows, table);
     else
-        layFrequency(result, *command.unit, table);
+        layFrequency(result, rows, table);
+    table.seconds = result.seconds + progress.seconds() - start;
     return table;
 }
 

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tables for reading on a terminal.
-#include "output/table.h"
+#include "output/buffered.h"
 #include "storage/utf8.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <map>
+#include <functional>
 
 namespace kelx::output {
 namespace {
 
-using Grid = std::vector<std::vector<std::string>>;
+using Line = std::vector<std::string>;
 
 std::size_t width(const std::string& text) {
     return storage::characterCount(text);
@@ -27,42 +27,69 @@ std::string safe(const std::string& text) {
     return result;
 }
 
-std::string figure(const Table& table, const Value& value) {
-    const auto* real = std::get_if<double>(&value);
-    if (real == nullptr || !table.decimals || !std::isfinite(*real))
-        return toText(value);
+std::string fixed(double value, int decimals) {
     char buffer[400];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, *real, std::chars_format::fixed,
-                                   *table.decimals);
+    const auto end =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
     return end.ec == std::errc() ? std::string(buffer, end.ptr) : toText(value);
 }
 
-/// Columns from `firstFigure` on are set to the right. Every column is as wide as its widest cell.
-std::string aligned(const Grid& grid, std::size_t firstFigure) {
+/// Sums of weights have many digits that nobody reads: the other forms keep them all.
+std::string shortened(double value) {
+    constexpr int most = 6;
+    std::string text = fixed(value, most);
+    if (text.find('.') != std::string::npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        if (text.back() == '.')
+            text.pop_back();
+    }
+    return text == "-0" ? "0" : text;
+}
+
+std::string figure(const Table& table, const Value& value) {
+    const auto* real = std::get_if<double>(&value);
+    if (real == nullptr || !std::isfinite(*real))
+        return toText(value);
+    return table.decimals ? fixed(*real, *table.decimals) : shortened(*real);
+}
+
+/// Lines that are made when they are asked for: once for the widths, once to be written.
+struct Lines {
+    std::size_t count = 0; ///< the first one is the heading
+    std::function<Line(std::size_t)> at;
+    std::size_t firstFigure = 1; ///< columns from here on are set to the right
+};
+
+std::vector<std::size_t> widthsOf(const Lines& lines) {
     std::vector<std::size_t> widths;
-    for (const auto& row : grid) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], width(row[i]));
+    for (std::size_t i = 0; i < lines.count; ++i) {
+        const Line line = lines.at(i);
+        widths.resize(std::max(widths.size(), line.size()));
+        for (std::size_t column = 0; column < line.size(); ++column)
+            widths[column] = std::max(widths[column], width(line[column]));
     }
-    std::string result;
-    for (std::size_t r = 0; r < grid.size(); ++r) {
-        std::string line;
-        for (std::size_t i = 0; i < grid[r].size(); ++i) {
-            const std::string gap(widths[i] - width(grid[r][i]), ' ');
-            line += i == 0 ? "" : "  ";
-            line += i < firstFigure ? grid[r][i] + gap : gap + grid[r][i];
+    return widths;
+}
+
+/// Every column is as wide as its widest cell.
+void writeAligned(const Lines& lines, Buffered& out) {
+    const std::vector<std::size_t> widths = widthsOf(lines);
+    std::size_t total = widths.empty() ? 0 : 2 * (widths.size() - 1);
+    for (const std::size_t w : widths)
+        total += w;
+    for (std::size_t i = 0; i < lines.count; ++i) {
+        const Line line = lines.at(i);
+        std::string text;
+        for (std::size_t column = 0; column < line.size(); ++column) {
+            const std::string gap(widths[column] - width(line[column]), ' ');
+            text += column == 0 ? "" : "  ";
+            text += column < lines.firstFigure ? line[column] + gap : gap + line[column];
         }
-        line.erase(line.find_last_not_of(' ') + 1);
-        result += line + "\n";
-        if (r == 0) {
-            std::size_t total = widths.empty() ? 0 : 2 * (widths.size() - 1);
-            for (const std::size_t w : widths)
-                total += w;
-            result += std::string(total, '-') + "\n";
-        }
+        text.erase(text.find_last_not_of(' ') + 1);
+        out << text << "\n";
+        if (i == 0)
+            out << std::string(total, '-') << "\n";
     }
-    return result;
 }
 
 /// "1. Male", the code alone where it is its own label, "Total", "MV" or "NA".
@@ -77,97 +104,107 @@ std::string category(const Table& table, std::int64_t row, std::size_t dimension
     return safe(code == label ? code : code + ". " + label);
 }
 
-std::string body(const Table& table) {
-    const auto dimensions = static_cast<std::size_t>(table.dimension);
-    Grid grid(1);
-    const std::size_t texts = dimensions == 0 ? 1 : dimensions;
+Line heading(const Table& table, std::size_t dimensions) {
+    Line line;
     for (std::size_t d = 0; d < dimensions; ++d)
-        grid[0].push_back(safe(table.fields[d * 3].label));
+        line.push_back(safe(table.fields[d * 3].label));
     for (std::size_t f = dimensions * 3; f < table.fields.size(); ++f)
-        grid[0].push_back(safe(table.fields[f].label));
-    for (std::int64_t row = 0; row < table.rows(); ++row) {
-        std::vector<std::string> line;
-        for (std::size_t d = 0; d < dimensions; ++d)
-            line.push_back(category(table, row, d));
-        for (std::size_t f = dimensions * 3; f < table.fields.size(); ++f)
-            line.push_back(safe(figure(table, table.at(row, f))));
-        grid.push_back(std::move(line));
-    }
-    return aligned(grid, texts);
+        line.push_back(safe(table.fields[f].label));
+    return line;
 }
 
-/// Where the categories of a dimension stand: in the order of codes, then the total, MV, NA. Rows
-/// come in that order, but a category may first meet the second dimension in a late row.
+Line rowLine(const Table& table, std::size_t dimensions, std::int64_t row) {
+    Line line;
+    for (std::size_t d = 0; d < dimensions; ++d)
+        line.push_back(category(table, row, d));
+    for (std::size_t f = dimensions * 3; f < table.fields.size(); ++f)
+        line.push_back(safe(figure(table, table.at(row, f))));
+    return line;
+}
+
+void writeList(const Table& table, Buffered& out) {
+    const auto dimensions = static_cast<std::size_t>(table.dimension);
+    const auto at = [&](std::size_t i) {
+        return i == 0 ? heading(table, dimensions)
+                      : rowLine(table, dimensions, static_cast<std::int64_t>(i) - 1);
+    };
+    writeAligned(
+        {static_cast<std::size_t>(table.rows()) + 1, at, std::max<std::size_t>(dimensions, 1)},
+        out);
+}
+
+/// The categories of a dimension that occur, in the order of their places: codes, the total, MV,
+/// NA.
 struct Axis {
-    std::vector<std::string> names;
-    std::map<std::pair<std::string, std::string>, std::size_t> places; ///< by kind and code
-};
+    Line names;
+    std::vector<std::size_t> places; ///< by the number of the value
 
-std::pair<std::string, std::string> keyOf(const Table& table, std::int64_t row,
-                                          std::size_t dimension) {
-    return {toText(table.at(row, dimension * 3 + 2)), toText(table.at(row, dimension * 3))};
-}
-
-void place(const Table& table, std::int64_t row, std::size_t dimension, Axis& axis) {
-    if (axis.places.emplace(keyOf(table, row, dimension), axis.names.size()).second)
-        axis.names.push_back(category(table, row, dimension));
-}
-
-/// The rows under the total of the other dimension name every category in order; those that only
-/// occur beside MV or NA come after them.
-Axis axisOf(const Table& table, std::size_t dimension) {
-    Axis axis;
-    for (const bool underTotal : {true, false}) {
-        for (std::int64_t row = 0; row < table.rows(); ++row) {
-            const bool isUnder = keyOf(table, row, 1 - dimension).first == "tot";
-            if (isUnder == underTotal)
-                place(table, row, dimension, axis);
+    Axis(const Table& table, std::size_t dimension) {
+        const Column& column = table.columns[dimension * 3];
+        constexpr std::int64_t none = -1;
+        std::vector<std::int64_t> rows(column.values.size(), none); ///< where a value stands
+        for (std::size_t row = 0; row < column.rows(); ++row)
+            rows[(*column.numbers)[row]] = static_cast<std::int64_t>(row);
+        for (const std::int64_t row : rows) {
+            places.push_back(names.size());
+            if (row != none)
+                names.push_back(category(table, row, dimension));
         }
     }
-    return axis;
-}
+    std::size_t at(const Table& table, std::size_t dimension, std::int64_t row) const {
+        return places[(*table.columns[dimension * 3].numbers)[static_cast<std::size_t>(row)]];
+    }
+};
 
-std::string crossTable(const Table& table) {
-    const Axis rows = axisOf(table, 0);
-    const Axis columns = axisOf(table, 1);
-    Grid grid(rows.names.size() + 1, std::vector<std::string>(columns.names.size() + 1));
-    grid[0][0] = safe(table.fields[0].label + " by " + table.fields[3].label);
-    for (std::size_t c = 0; c < columns.names.size(); ++c)
-        grid[0][c + 1] = columns.names[c];
-    for (std::size_t r = 0; r < rows.names.size(); ++r) {
+void writeCross(const Table& table, const Axis& rows, const Axis& columns, Buffered& out) {
+    std::vector<Line> grid(rows.names.size() + 1, Line(columns.names.size() + 1, "-"));
+    grid[0] = {safe(table.fields[0].label + " by " + table.fields[3].label)};
+    grid[0].insert(grid[0].end(), columns.names.begin(), columns.names.end());
+    for (std::size_t r = 0; r < rows.names.size(); ++r)
         grid[r + 1][0] = rows.names[r];
-        for (std::size_t c = 0; c < columns.names.size(); ++c)
-            grid[r + 1][c + 1] = "-";
-    }
-    for (std::int64_t row = 0; row < table.rows(); ++row) {
-        const std::size_t r = rows.places.at(keyOf(table, row, 0));
-        const std::size_t c = columns.places.at(keyOf(table, row, 1));
-        grid[r + 1][c + 1] = figure(table, table.at(row, 6));
-    }
-    return aligned(grid, 1);
+    for (std::int64_t row = 0; row < table.rows(); ++row)
+        grid[rows.at(table, 0, row) + 1][columns.at(table, 1, row) + 1] =
+            figure(table, table.at(row, 6));
+    writeAligned({grid.size(), [&](std::size_t i) { return grid[i]; }, 1}, out);
 }
 
-void addLine(std::string& text, const char* what, const std::optional<std::string>& value) {
+/// Two dimensions make a cross table, unless that would be mostly empty and larger than memory.
+void writeBody(const Table& table, Buffered& out) {
+    constexpr std::size_t mostCrossed = 2'000'000;
+    if (table.dimension != 2)
+        return writeList(table, out);
+    const Axis rows(table, 0);
+    const Axis columns(table, 1);
+    if (rows.names.size() * columns.names.size() > mostCrossed)
+        writeList(table, out);
+    else
+        writeCross(table, rows, columns, out);
+}
+
+void writeLine(Buffered& out, const char* what, const std::optional<std::string>& value) {
     if (value)
-        text += std::string(what) + ": " + safe(*value) + "\n";
+        out << what << ": " << safe(*value) << "\n";
 }
 
 } // namespace
 
-std::string asText(const Table& table) {
-    std::string text = table.title ? safe(*table.title) + "\n" : std::string();
-    text += safe(table.name) + " (" + table.kind + ")\n";
-    addLine(text, "Database", table.database);
-    addLine(text, "Area", table.area);
-    addLine(text, "Unit of count", table.unit);
-    addLine(text, "Weight", table.weight);
-    addLine(text, "Tally", table.tally);
-    addLine(text, "Filter", table.filter);
-    addLine(text, "Universal filter", table.universalFilter);
-    text += "\n" + (table.dimension == 2 ? crossTable(table) : body(table));
+void writeText(const Table& table, const TextSink& sink) {
+    Buffered out(sink);
+    if (table.title)
+        out << safe(*table.title) << "\n";
+    out << safe(table.name) << " (" << table.kind << ")\n";
+    writeLine(out, "Database", table.database);
+    writeLine(out, "Area", table.area);
+    writeLine(out, "Unit of count", table.unit);
+    writeLine(out, "Weight", table.weight);
+    writeLine(out, "Tally", table.tally);
+    writeLine(out, "Filter", table.filter);
+    writeLine(out, "Universal filter", table.universalFilter);
+    out << "\n";
+    writeBody(table, out);
     if (table.suppressed > 0)
-        text += std::to_string(table.suppressed) + " cells are not shown, to protect persons.\n";
-    return text;
+        out << std::to_string(table.suppressed) << " cells are not shown, to protect persons.\n";
+    out.finish();
 }
 
 } // namespace kelx::output

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands.h"
-#include "execution/run.h"
 #include "interrupt.h"
 #include "language/compile.h"
-#include "output/table.h"
+#include "output/run.h"
 #include "password.h"
 #include "progress_bar.h"
 #include "storage/error.h"
@@ -14,6 +13,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <stdexcept>
 
 namespace kelx::tool {
@@ -48,8 +48,9 @@ void print(const language::Messages& messages, const std::string& name) {
     }
 }
 
-execution::RunResult execute(const language::BoundProgram& program, const RunRequest& request,
-                             language::Messages& messages) {
+output::TablesOfRun makeTables(const language::BoundProgram& program,
+                               const catalog::Dictionary& dictionary, const RunRequest& request,
+                               language::Messages& messages) {
     const InterruptWatch watch;
     ProgressBar bar;
     execution::RunOptions options;
@@ -59,9 +60,9 @@ execution::RunResult execute(const language::BoundProgram& program, const RunReq
             bar.show(static_cast<std::uint64_t>(percent), 100);
         return watch.asked();
     };
-    execution::RunResult result = execution::run(program, options, messages);
+    output::TablesOfRun made = output::runTables(program, dictionary, options, messages);
     watch.check();
-    return result;
+    return made;
 }
 
 int run(const RunRequest& request) {
@@ -76,15 +77,19 @@ int run(const RunRequest& request) {
         print(messages, name);
         return failure;
     }
-    const execution::RunResult result = execute(program, request, messages);
+    const output::TablesOfRun made = makeTables(program, *dictionary, request, messages);
     print(messages, name);
-    std::vector<output::Table> tables;
-    for (const execution::TableResult& made : result.tables) {
-        tables.push_back(output::makeTable(made, *dictionary));
-        tables.back().seconds = made.seconds;
-    }
-    print(tables, request.printing);
+    print(made.tables, request.printing);
     return messages.hasErrors() ? failure : success;
+}
+
+int runWithinMemory(const RunRequest& request) {
+    try {
+        return run(request);
+    } catch (const std::bad_alloc&) {
+        throw std::runtime_error("there is not enough memory for this; take fewer tables or "
+                                 "variables at once");
+    }
 }
 
 } // namespace
@@ -119,7 +124,7 @@ void addRun(CLI::App& app, Action& action) {
     command->callback([&action, request, program, text] {
         if (program->empty() && text->empty())
             throw CLI::RequiredError("A program file or -e TEXT");
-        action = [request] { return run(*request); };
+        action = [request] { return runWithinMemory(*request); };
     });
 }
 

@@ -23,24 +23,26 @@ std::string secondsText(double seconds) {
     return fault == std::errc() ? std::string(buffer.data(), end) : std::string();
 }
 
-std::string shown(const output::Table& table, const TablePrinting& printing) {
+void show(const output::Table& table, const TablePrinting& printing, const output::TextSink& sink) {
     if (printing.format == "json")
-        return output::asJson(table) + "\n";
+        return output::writeJson(table, sink);
     if (printing.format == "csv")
-        return output::asCsv(table);
-    std::string text = output::asText(table);
-    if (!text.ends_with('\n'))
-        text += '\n';
+        return output::writeCsv(table, sink);
+    output::writeText(table, sink);
     if (printing.time)
-        text += "Time: " + secondsText(table.seconds) + " s\n";
-    return text;
+        sink("Time: " + secondsText(table.seconds) + " s\n");
+}
+
+void toStandardOutput(std::string_view text) {
+    std::cout << text;
 }
 
 void printJson(const std::vector<output::Table>& tables) {
     std::cout << '[';
     const char* separator = "\n";
     for (const output::Table& table : tables) {
-        std::cout << separator << output::asJson(table);
+        std::cout << separator;
+        output::writeJson(table, toStandardOutput);
         separator = ",\n";
     }
     std::cout << "\n]\n";
@@ -58,7 +60,7 @@ void printAll(const std::vector<output::Table>& tables, const TablePrinting& pri
         std::cout << separator;
         if (csv && tables.size() > 1) // its rows alone do not tell which table they are
             std::cout << table.name << lineEnd;
-        std::cout << shown(table, printing);
+        show(table, printing, toStandardOutput);
         separator = lineEnd;
     }
 }
@@ -89,7 +91,9 @@ void writeAll(const std::vector<output::Table>& tables, const TablePrinting& pri
     for (const output::Table& table : tables) {
         const fs::path file = printing.folder / (fileNameOf(table, taken) + extension);
         storage::AtomicFile out(file);
-        out.write(shown(table, printing));
+        show(table, printing, [&](std::string_view part) { out.write(part); });
+        if (printing.format == "json")
+            out.write("\n");
         out.commit();
         std::cout << file.string() << '\n';
     }

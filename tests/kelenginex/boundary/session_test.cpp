@@ -4,6 +4,9 @@
 #include "boundary/engine.h"
 #include "storage/column_writer.h"
 
+#include <algorithm>
+#include <new>
+
 using namespace kelx;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -167,6 +170,33 @@ TEST_F(SessionTest, ACancelledRunHasNoOutputs) {
     session = kel::makeDefaultSession(open());
     session->setTimerCallback([](void*, int&, int&, int&, void*) { return true; });
     EXPECT_EQ(test::thrownBy([&] { session->executeText("FREQ PERSON.SEX", nullptr); }), "");
+    EXPECT_TRUE(session->outputs().empty());
+}
+
+TEST_F(SessionTest, ProgressEndsAtItsWhole) {
+    session = kel::makeDefaultSession(open());
+    std::vector<int> told;
+    session->setTimerCallback([&](void*, int&, int&, int& percent, void*) {
+        told.push_back(percent);
+        return false;
+    });
+    session->executeText("FREQ PERSON.SEX COUNT PERSON", nullptr);
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    ASSERT_FALSE(told.empty());
+    EXPECT_EQ(told.back(), 100);
+    // The last answer counts like any other.
+    session->setTimerCallback(
+        [](void*, int&, int&, int& percent, void*) { return percent == 100; });
+    session->executeText("FREQ PERSON.SEX COUNT PERSON", nullptr);
+    EXPECT_TRUE(session->outputs().empty());
+}
+
+TEST_F(SessionTest, LackOfMemoryIsToldInWords) {
+    session = kel::makeDefaultSession(open());
+    session->setTimerCallback(
+        [](void*, int&, int&, int&, void*) -> bool { throw std::bad_alloc(); });
+    EXPECT_THAT(test::thrownBy([&] { session->executeText("FREQ PERSON.SEX", nullptr); }),
+                HasSubstr("not enough memory"));
     EXPECT_TRUE(session->outputs().empty());
 }
 

@@ -30,6 +30,22 @@ TEST_F(Filters, atAndAboveTheUnit) {
               (Figures{{"2", 2}}));
 }
 
+TEST_F(Filters, takeTruthValuesForTheirCodes) {
+    // Jobs of the persons: 1 0 blank 0 0 1 1 0; sexes: 1 2 2 1 1 2 2 1.
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB = 1"), 3);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB <> 1"), 4);
+    EXPECT_EQ(count("PERSON", "FILTER 0.5 > PERSON.JOB"), 4);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB IN (1)"), 3);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB IN (0:1)"), 7);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB IN (2, -1)"), 0);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB = PERSON.SEX"), 1);
+    EXPECT_EQ(count("PERSON", "FILTER PERSON.JOB < PERSON.SEX"), 6);
+    EXPECT_EQ(of("FREQ PERSON.SEX TALLY PERSON.JOB"), (Figures{{"1", 1}, {"2", 2}}));
+    EXPECT_EQ(recordCounts(last_.result.tables[0]), (Figures{{"1", 4}, {"2", 3}}));
+    EXPECT_EQ(of("FREQ PERSON.SEX WEIGHT PERSON.JOB TALLY HOUSEHOLD.WT"),
+              (Figures{{"1", 1.5}, {"2", 1.5}}));
+}
+
 TEST_F(Filters, belowTheUnitKeepWhatHasOnePassing) {
     EXPECT_EQ(of("RUNDEF r FILTER PERSON.AGE < 50\nFREQ HOUSEHOLD.TYPE"),
               (Figures{{"1", 2}, {"2", 1}}));

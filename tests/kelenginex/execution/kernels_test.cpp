@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -99,6 +100,31 @@ TEST_P(KernelSets, indexPutsBlanksBehindTheDomain) {
     std::vector<std::uint8_t> truths(4);
     set_.code8.testRange(codes.data(), 4, 6, 1, truths.data());
     EXPECT_EQ(truths, (std::vector<std::uint8_t>{0, 255, 255, 0}));
+}
+
+TEST_P(KernelSets, weightsAreAddedWithoutLossWhereverTheStepBegins) {
+    // Added up as they come, the small ones would vanish beside the large one.
+    for (const std::uint64_t first : {0U, 1U, 3U}) {
+        std::vector<std::uint8_t> index(1003, 2);
+        std::vector<double> weights(index.size(), 0.125);
+        std::vector<std::uint8_t> kept(index.size(), 0xff);
+        weights[0] = 0x1p60;
+        weights[1] = std::numeric_limits<double>::quiet_NaN();
+        kept[1] = 0;
+        set_.maskReal(kept.data(), kept.size(), weights.data());
+        std::vector<Sum> lanes(3 * sumLanes), sums(3);
+        set_.addWeights8(index.data(), weights.data(), index.size(), first, lanes.data());
+        const std::vector<std::uint32_t> wide(index.begin(), index.end());
+        set_.addWeights(wide.data(), weights.data(), wide.size(), sums.data());
+        Sum all;
+        for (std::size_t lane = 0; lane < sumLanes; ++lane)
+            all.add(lanes[2 * sumLanes + lane]);
+        for (Sum* sum : {&all, &sums[2]}) {
+            sum->add(-0x1p60);
+            EXPECT_EQ(sum->value(), 1001 * 0.125) << first;
+        }
+        EXPECT_EQ(lanes[0].value() + sums[0].value(), 0);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Sets, KernelSets, testing::Values(&baselineKernels(), &kernels()),

@@ -3,6 +3,7 @@
 
 #include "storage/pointer_file.h"
 
+#include <algorithm>
 #include <atomic>
 #include <stdexcept>
 #include <unistd.h>
@@ -171,9 +172,12 @@ void requireSame(const execution::RunResult& a, const execution::RunResult& b) {
         const auto& y = b.tables[t];
         require(x.cells.size() == y.cells.size(), "number of cells");
         for (std::size_t i = 0; i < x.cells.size(); ++i) {
-            require(x.cells[i].categories == y.cells[i].categories, "order of cells");
-            require(x.cells[i].records == y.cells[i].records, "counts");
-            require(x.cells[i].sum == y.cells[i].sum, "sums");
+            const execution::Cells::Cell p = x.cells[i];
+            const execution::Cells::Cell q = y.cells[i];
+            require(std::equal(p.categories.begin(), p.categories.end(), q.categories.begin()),
+                    "order of cells");
+            require(p.records == q.records, "counts");
+            require(p.sum.value() == q.sum.value(), "sums");
         }
     }
 }
@@ -187,7 +191,8 @@ std::string nameOf(const execution::Category& category) {
 template <class Get>
 Figures collect(const execution::TableResult& table, Get get) {
     Figures result;
-    for (const execution::Cell& cell : table.cells) {
+    for (std::size_t i = 0; i < table.cells.size(); ++i) {
+        const execution::Cells::Cell cell = table.cells[i];
         std::string key;
         for (std::size_t d = 0; d < cell.categories.size(); ++d)
             key +=
@@ -216,12 +221,11 @@ Outcome runAll(catalog::Dictionary& dictionary, const std::string& program, bool
 }
 
 Figures figures(const execution::TableResult& table) {
-    return collect(table, [](const execution::Cell& cell) { return cell.sum; });
+    return collect(table, [](const auto& cell) { return cell.sum.value(); });
 }
 
 Figures recordCounts(const execution::TableResult& table) {
-    return collect(table,
-                   [](const execution::Cell& cell) { return static_cast<double>(cell.records); });
+    return collect(table, [](const auto& cell) { return static_cast<double>(cell.records); });
 }
 
 } // namespace kelx::test

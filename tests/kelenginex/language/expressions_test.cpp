@@ -46,6 +46,9 @@ INSTANTIATE_TEST_SUITE_P(
                               "((PERSON.AGE + 1) IN 1:5 9:9 -3:-1 lowest:-7 90:highest)"},
                       Meaning{"NOT AGE IN (1) OR GRP IN (\"a\":\"c\")",
                               "(NOT((PERSON.AGE IN 1:1)) OR (PERSON.GRP IN 'a':'c'))"},
+                      Meaning{"WORKS = 1 OR WORKS < AGE OR WORKS IN (0:1)",
+                              "((PERSON.WORKS = 1) OR ((PERSON.WORKS < PERSON.AGE) OR "
+                              "(PERSON.WORKS IN 0:1)))"},
                       Meaning{"WORKS = (AGE > 5)", "(PERSON.WORKS = (PERSON.AGE > 5))"},
                       Meaning{"RENT > 1.5e3 AND RENT < .25", "((HOUSEHOLD.RENT > real 1500) AND "
                                                              "(HOUSEHOLD.RENT < real 0.25))"}));

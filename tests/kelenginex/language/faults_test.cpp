@@ -131,7 +131,10 @@ const std::vector<Fault> faults = {
      "Did you mean LENGTH?\n"},
     {"FREQ SEX2 FILTER LEFT(GRP) = \"a\"",
      "KEL_E_ARGUMENT_COUNT 1:18 LEFT is written LEFT(text, size); "
-     "found 1 arguments.\n"},
+     "found 1 argument.\n"},
+    {"FREQ SEX2 FILTER FOO(GRP) = 1 OR LOH(AGE) = 1",
+     "KEL_E_UNKNOWN_FUNCTION 1:18 There is no function \"FOO\".\n"
+     "KEL_E_UNKNOWN_FUNCTION 1:34 There is no function \"LOH\". Did you mean LOG?\n"},
     {"FREQ SEX2 FILTER LEFT(AGE, 1.5) = \"a\" OR MISSING(AGE + 1) OR CMPCODE(AGE + 1) = \"\"",
      "KEL_E_ARGUMENT_TYPE 1:23 Argument 1 of LEFT must be a text.\n"
      "KEL_E_ARGUMENT_TYPE 1:28 Argument 2 of LEFT must be a whole number.\n"
@@ -142,12 +145,24 @@ const std::vector<Fault> faults = {
      "KEL_E_OPERAND_TYPE 1:30 The operands of NOT must be conditions, but this is a text.\n"
      "KEL_E_OPERAND_TYPE 1:37 The operands of \"+\" must be numbers, but this is a text.\n"
      "KEL_E_OPERAND_TYPE 1:48 The operands of \"-\" must be numbers, but this is a condition.\n"},
-    {"FREQ SEX2 FILTER AGE = \"5\" OR GRP = 5 OR PROVINCE = 3 OR WORKS > FALSE OR WORKS = 1",
+    {"FREQ SEX2 FILTER AGE = \"5\" OR GRP = 5 OR PROVINCE = 3 OR WORKS > FALSE OR (AGE > 3) = 1",
      "KEL_E_COMPARE_TYPES 1:24 a number cannot be compared with a text. Leave out the quotes.\n"
      "KEL_E_COMPARE_TYPES 1:37 a text cannot be compared with a number. Put the number in quotes.\n"
      "KEL_E_COMPARE_TYPES 1:53 a text cannot be compared with a number. Put the code in quotes.\n"
-     "KEL_E_COMPARE_TYPES 1:66 a condition cannot be compared with a condition.\n"
-     "KEL_E_COMPARE_TYPES 1:83 a condition cannot be compared with a number.\n"},
+     "KEL_E_COMPARE_TYPES 1:66 a condition cannot be compared with another by >. Use = or <>, or "
+     "compare a variable with 0 or 1.\n"
+     "KEL_E_COMPARE_TYPES 1:87 a condition cannot be compared with a number.\n"},
+    // Quotes can only be set or left out where a constant stands.
+    {"FREQ SEX2 FILTER AGE = GRP OR GRP = AGE OR PROVINCE = AGE OR \"5\" = AGE OR 5 = GRP OR "
+     "GRP IN (1) OR PROVINCE IN (1)",
+     "KEL_E_COMPARE_TYPES 1:24 a number cannot be compared with a text.\n"
+     "KEL_E_COMPARE_TYPES 1:37 a text cannot be compared with a number.\n"
+     "KEL_E_COMPARE_TYPES 1:55 a text cannot be compared with a number.\n"
+     "KEL_E_COMPARE_TYPES 1:68 a text cannot be compared with a number. Leave out the quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:79 a number cannot be compared with a text. Put the number in quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:94 a text cannot be compared with a number. Put the number in quotes.\n"
+     "KEL_E_COMPARE_TYPES 1:113 a text cannot be compared with a number. Put the code in "
+     "quotes.\n"},
     {"FREQ SEX2 FILTER AGE IN (1:5, \"6\")",
      "KEL_E_COMPARE_TYPES 1:31 a number cannot be compared with a text. Leave out the quotes.\n"},
     {"FREQ SEX2 FILTER AGE", "KEL_E_NOT_A_CONDITION 1:18 FILTER takes a condition, but this is a "
@@ -172,7 +187,18 @@ const std::vector<Fault> faults = {
      "KEL_E_BRANCHES 1:23 DEATH and PERSON cannot be used together: "
      "neither of them is part of the other.\n"},
 
+    {"COUNT HOUSEHOLD WEIGHT PERSON.WEIGHT2\nCOUNT HOUSEHOLD WEIGHT HOUSEHOLD.WEIGHT\n"
+     "RUNDEF WEIGHT AGE COUNT PROVINCE",
+     "KEL_E_WEIGHT_BELOW 1:24 The weight is about PERSON, but COUNT counts HOUSEHOLD, which has "
+     "many of them: take a weight of HOUSEHOLD or of what lies above it.\n"
+     "KEL_E_WEIGHT_BELOW 3:19 The weight is about PERSON, but COUNT counts PROVINCE, which has "
+     "many of them: take a weight of PROVINCE or of what lies above it.\n"},
+
     // Warnings.
+    {"RUNDEF r DICTIONARY \"D:\\data\\other.kxdb\" FREQ AGE RUNDEF DICTIONARY \"sub/X.kxdb\" FREQ "
+     "AGE",
+     "KEL_W_OTHER_DICTIONARY 1:21 The program was written for the dictionary "
+     "\"D:\\data\\other.kxdb\" and runs on the open one, \"x.kxdb\".\n"},
     {"RUNDEF FILTER AGE > 60 FREQ ROOMS, RENT, AGE",
      "KEL_W_FILTER_BELOW 1:15 The filter is about PERSON: each HOUSEHOLD that has at least one "
      "such "

@@ -96,6 +96,7 @@ std::string list(const Messages& messages, bool withTexts) {
 
 Census::Census() {
     dictionary.dataFolder = options.baseFolder = newFolder();
+    dictionary.file = dictionary.dataFolder / "x.kxdb";
     dictionary.root = std::make_unique<catalog::Entity>();
     dictionary.root->name = "NATION";
     dictionary.root->dictionary = &dictionary;

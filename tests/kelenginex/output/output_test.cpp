@@ -13,7 +13,8 @@ class Output : public testing::Test {
 protected:
     output::Table of(const std::string& program) {
         last_ = runAll(country_.dictionary, program);
-        return output::makeTable(last_.result.tables.at(0), country_.dictionary);
+        execution::Progress silent({});
+        return output::makeTable(last_.result.tables.at(0), country_.dictionary, silent);
     }
     static std::vector<std::string> rows(const output::Table& table) {
         std::vector<std::string> result;
@@ -92,6 +93,47 @@ TEST_F(Output, jsonHasItsKeysInOrderAndNumbersAsNumbers) {
     EXPECT_EQ(json["variables"][0]["label"], "Sex");
     EXPECT_EQ(json["rows"][0], nlohmann::json::parse(R"(["1", "Male", "", 1.5])"));
     EXPECT_EQ(json["rows"][2], nlohmann::json::parse(R"(["0", "__tot__", "tot", 2.0])"));
+}
+
+TEST_F(Output, jsonIsWrittenAsALibraryWould) {
+    catalog::Variable& sex = *country_.dictionary.findEntity("PERSON")->findVariable("SEX");
+    sex.valueLabels = {{"1", "Men \"\\\x01\xc3\xa9"}, {"2", "Women"}};
+    for (const char* program :
+         {"FREQ PERSON.SEX BY PERSON.INCOME WEIGHT HOUSEHOLD.WT / 3 DECIMALS 2", "COUNT PERSON",
+          "FREQ PERSON.SEX WEIGHT 1e-9", "FREQ PERSON.SEX WEIGHT 1e300 * 1e300 TITLE \"/\""}) {
+        const std::string json = output::asJson(of(program));
+        EXPECT_EQ(nlohmann::ordered_json::parse(json).dump(), json);
+    }
+    sex.label = "no \xff text";
+    EXPECT_NE(output::asJson(of("FREQ PERSON.SEX")).find("no \xef\xbf\xbd text"),
+              std::string::npos);
+}
+
+TEST_F(Output, everyMethodHasItsName) {
+    output::Table table = of("FREQ PERSON.SEX");
+    const auto methodOf = [&](int method) {
+        table.method = method;
+        return nlohmann::json::parse(output::asJson(table))["method"].get<std::string>();
+    };
+    EXPECT_EQ(methodOf(0), "NONE");
+    EXPECT_EQ(methodOf(1), "FREQUENCY");
+    EXPECT_EQ(methodOf(6), "SUM");
+    EXPECT_EQ(methodOf(9), "QUANTILE");
+    EXPECT_EQ(methodOf(10), "");
+}
+
+TEST_F(Output, onlyTheReadableFormRounds) {
+    const auto figureOf = [&](const std::string& weight) {
+        const std::string text = output::asText(of("COUNT COUNTRY WEIGHT " + weight));
+        return text.substr(text.rfind(' ') + 1);
+    };
+    EXPECT_EQ(figureOf("2.0 / 3"), "0.666667\n");
+    EXPECT_EQ(figureOf("1.5"), "1.5\n");
+    EXPECT_EQ(figureOf("1200.0"), "1200\n");
+    EXPECT_EQ(figureOf("-0.0000001"), "0\n");
+    EXPECT_EQ(figureOf("2.0 / 3 DECIMALS 8"), "0.66666667\n");
+    const output::Table table = of("COUNT COUNTRY WEIGHT 2.0 / 3");
+    EXPECT_EQ(output::asCsv(table), "Entity,Count\r\nCOUNTRY,0.6666666666666666\r\n");
 }
 
 TEST_F(Output, csvQuotesWhatNeedsIt) {

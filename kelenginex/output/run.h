@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+// From a checked program to its tables.
+#pragma once
+
+#include "execution/run.h"
+#include "output/table.h"
+
+#include <vector>
+
+namespace kelx::output {
+
+struct TablesOfRun {
+    std::vector<Table> tables; ///< in the program's order
+    bool cancelled = false;    ///< then there are no tables
+};
+
+/// Runs a program and lays out each table as soon as its figures are there; they are released then.
+/// Throws what execution::run() and makeTable() throw.
+TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
+                      const execution::RunOptions& options, language::Messages& messages);
+
+} // namespace kelx::output
