@@ -10,6 +10,7 @@ namespace kelx::tools {
 namespace {
 
 using nlohmann::json;
+namespace fs = std::filesystem;
 
 const char* const populationProgram =
     R"(// Who lives in the country: weighted by the household's expansion factor.
@@ -70,9 +71,10 @@ json lastFiles(const char* key, const std::string& location) {
     return {{key, json::array({{{"location", location}}})}};
 }
 
-/// All its paths are relative to the project file, so that the sample can be moved.
-std::string projectText() {
-    const std::string here = ".";
+/// A project's paths are absolute.
+std::string projectText(const fs::path& folder) {
+    const std::string here = folder.generic_string();
+    const auto file = [&folder](const char* name) { return (folder / name).generic_string(); };
     const json style = json::array({{{"useStyle", false}, {"defaultStylePointer", -1}}});
     json project;
     project["typeFile"] = "project";
@@ -82,13 +84,13 @@ std::string projectText() {
     project["created"] = project["updated"] = "20250101";
     project["workDir"] = project["resultDir"] = here;
     project["dictionaries"] =
-        json::array({{{"label", "Sample country"}, {"location", "sample.kxdb"}}});
+        json::array({{{"label", "Sample country"}, {"location", file("sample.kxdb")}}});
     project["program"] = json::array({json{{"loadLastProgram", true}}, elementDir("Programs", here),
-                                      lastFiles("lastPrograms", "population.spc")});
+                                      lastFiles("lastPrograms", file("population.spc"))});
     project["executer"] = json::array();
     project["selection"] = json::array({json{{"useSelection", false}, {"defaultSelection", ""}},
                                         elementDir("Selections", here),
-                                        lastFiles("lastSelections", "capital_sel.json")});
+                                        lastFiles("lastSelections", file("capital_sel.json"))});
     project["map"] = json::array();
     project["universe"] = json::array({{{"useUniverse", false}, {"defaultUniverse", -1}}});
     project["tableStyle"] = project["graphStyle"] = style;
@@ -97,16 +99,17 @@ std::string projectText() {
 
 } // namespace
 
-std::vector<std::pair<std::string, std::string>> sampleCompanions(const Country& country) {
+std::vector<std::pair<std::string, std::string>> sampleCompanions(const Country& country,
+                                                                  const fs::path& folder) {
     return {{"population.spc", populationProgram},
             {"housing.spc", housingProgram},
             {"capital.spc", capitalProgram},
             {"provinces.spc", provincesProgram},
             {"capital_sel.json", selectionText(country)},
-            {"sample.prj.json", projectText()}};
+            {"sample.prj.json", projectText(folder)}};
 }
 
-void writeText(const std::filesystem::path& file, const std::string& text) {
+void writeText(const fs::path& file, const std::string& text) {
     storage::AtomicFile out(file);
     out.write(text);
     out.commit();

@@ -11,8 +11,9 @@
 
 namespace kelx::tools {
 
-/// File names and contents. The project names the files beside it, wherever that is.
-std::vector<std::pair<std::string, std::string>> sampleCompanions(const Country& country);
+/// File names and contents; the project names the files in the folder, which is absolute.
+std::vector<std::pair<std::string, std::string>>
+sampleCompanions(const Country& country, const std::filesystem::path& folder);
 
 /// Writes a text file atomically. Throws storage::FileError.
 void writeText(const std::filesystem::path& file, const std::string& text);

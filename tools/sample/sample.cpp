@@ -164,7 +164,7 @@ SampleReport writeSample(const SampleRequest& request) {
     const fs::path folder = fs::absolute(request.folder).lexically_normal();
 
     std::vector<std::string> names = dataFileNames(*dictionary);
-    const auto companions = sampleCompanions(country);
+    const auto companions = sampleCompanions(country, folder);
     for (const auto& [name, text] : companions)
         names.push_back(name);
     names.emplace_back("sample.dicx");
