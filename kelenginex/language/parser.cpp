@@ -12,8 +12,17 @@ namespace kelx::language {
 
 namespace {
 
-const char* const afterTable = "a clause of the table, such as BY or TITLE, or a new command";
-const char* const afterRundef = "a clause of RUNDEF, such as SELECTION or FILTER, or a command";
+/// Where clauses are read: which can stand there, and which show that something is misplaced.
+struct ClausePlace {
+    unsigned own, other;
+    const char* otherReason;
+    const char* expected;
+};
+
+constexpr ClausePlace inTable{isTableClause, isRunClause, "it belongs to RUNDEF, before the tables",
+                              "a clause of the table, such as BY or TITLE, or a new command"};
+constexpr ClausePlace inRundef{isRunClause, isTableClause, "it belongs to a table, not to RUNDEF",
+                               "a clause of RUNDEF, such as SELECTION or FILTER, or a command"};
 
 std::vector<std::string> joined(std::vector<std::string> words,
                                 const std::vector<std::string>& more) {
@@ -55,6 +64,7 @@ private:
     bool misplaced(const std::string& reason);
     void notSupported();
     bool firstTime(const Token& clause);
+    std::optional<bool> passOver(const Token& clause, const ClausePlace& place);
 
     TokenCursor cursor_;
     ExpressionParser expressions_;
@@ -115,6 +125,23 @@ bool Parser::firstTime(const Token& clause) {
     return false;
 }
 
+/// What to answer for a clause that is not read here; nothing where it is to be read.
+std::optional<bool> Parser::passOver(const Token& clause, const ClausePlace& place) {
+    const unsigned places = placesOf(clause.keyword);
+    if ((places & place.own) == 0) {
+        if ((places & place.other) != 0)
+            return misplaced(place.otherReason);
+        cursor_.unexpected(place.expected, joined(wordsFor(place.own), wordsFor(startsCommand)));
+        cursor_.take();
+        return false;
+    }
+    if ((places & notSupportedYet) == 0)
+        return std::nullopt;
+    notSupported();
+    cursor_.skipClause();
+    return true;
+}
+
 void Parser::parseDefinition() {
     notSupported();
     if (cursor_.peek().kind == TokenKind::Word && !cursor_.peek().reserved) {
@@ -141,19 +168,8 @@ void Parser::parseRunDefinition() {
 
 bool Parser::parseRunClause(ast::RunDefinition& run) {
     const Token& clause = cursor_.peek();
-    const unsigned places = placesOf(clause.keyword);
-    if ((places & isRunClause) == 0) {
-        if ((places & isTableClause) != 0)
-            return misplaced("it belongs to a table, not to RUNDEF");
-        cursor_.unexpected(afterRundef, joined(wordsFor(isRunClause), wordsFor(startsCommand)));
-        cursor_.take();
-        return false;
-    }
-    if ((places & notSupportedYet) != 0) {
-        notSupported();
-        cursor_.skipClause();
-        return true;
-    }
+    if (const std::optional<bool> passedOver = passOver(clause, inRundef))
+        return *passedOver;
     cursor_.take();
     if (!firstTime(clause))
         return false;
@@ -348,19 +364,8 @@ void Parser::parseTableClauses(ast::Table& table) {
 
 bool Parser::parseTableClause(ast::Table& table) {
     const Token& clause = cursor_.peek();
-    const unsigned places = placesOf(clause.keyword);
-    if ((places & isTableClause) == 0) {
-        if ((places & isRunClause) != 0)
-            return misplaced("it belongs to RUNDEF, before the tables");
-        cursor_.unexpected(afterTable, joined(wordsFor(isTableClause), wordsFor(startsCommand)));
-        cursor_.take();
-        return false;
-    }
-    if ((places & notSupportedYet) != 0) {
-        notSupported();
-        cursor_.skipClause();
-        return true;
-    }
+    if (const std::optional<bool> passedOver = passOver(clause, inTable))
+        return *passedOver;
     const bool dimension = clause.is(Keyword::By) || clause.is(Keyword::Tally);
     if (dimension && table.kind == Keyword::Count)
         return misplaced("COUNT counts the records of an entity; use FREQ for a table");
