@@ -25,7 +25,6 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
-#include <QTimer>
 
 namespace {
 
@@ -254,7 +253,7 @@ void MainWindow::askSaveDictionary() {
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!engineEnded_ && !endLoading()) {
         event->ignore();
-        QTimer::singleShot(0, this, &QWidget::close);
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
     showStatus(QString(), false);

@@ -30,7 +30,7 @@ public:
     std::string district() {
         static constexpr std::array<const char*, 4> before = {"Upper ", "Lower ", "New ", "Port "};
         static constexpr std::array<const char*, 4> after = {" Bay", " Hills", " Valley", " Cross"};
-        const std::string name = place();
+        std::string name = place();
         switch (random_.below(8)) {
         case 0:
             return before[static_cast<std::size_t>(random_.below(4))] + name;

@@ -91,8 +91,8 @@ TEST_F(Output, jsonHasItsKeysInOrderAndNumbersAsNumbers) {
     EXPECT_EQ(json["weight"], "HOUSEHOLD.WT");
     EXPECT_TRUE(json["tally"].is_null());
     EXPECT_EQ(json["variables"][0]["label"], "Sex");
-    EXPECT_EQ(json["rows"][0], nlohmann::json::parse(R"(["1", "Male", "", 1.5])"));
-    EXPECT_EQ(json["rows"][2], nlohmann::json::parse(R"(["0", "__tot__", "tot", 2.0])"));
+    EXPECT_EQ(json["rows"][0], nlohmann::ordered_json::parse(R"(["1", "Male", "", 1.5])"));
+    EXPECT_EQ(json["rows"][2], nlohmann::ordered_json::parse(R"(["0", "__tot__", "tot", 2.0])"));
 }
 
 TEST_F(Output, jsonIsWrittenAsALibraryWould) {

@@ -27,7 +27,7 @@ public:
         for (std::size_t v = 0; v < width; ++v) {
             Integers column;
             for (std::size_t i = 0; i < persons; ++i) {
-                values[v].push_back(random() % kinds);
+                values[v].push_back(static_cast<std::int64_t>(random() % kinds));
                 column.emplace_back(values[v].back());
             }
             integers("PERSON", "V" + std::to_string(v), column).missing = kinds - 1;
