@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPalette>
 #include <QPixmap>
@@ -70,15 +71,21 @@ void Tour::run(const QString& dictionary) {
 }
 
 void Tour::firstTable(const QString& dictionary) {
-    open(dictionary);
+    // Keys reach a window only once a window manager has made it the active one.
+    window_.openFile(dictionary, QFileInfo(dictionary).suffix());
+    waitForDictionary(dictionary);
     selectEntity(QStringLiteral("PERSON"));
     selectVariable(QStringLiteral("SEX"));
-    frequency();
+    window_.runFrequency(QStringLiteral("PERSON.SEX"));
 }
 
 void Tour::open(const QString& dictionary) {
     KelvoraFileDialog::answerNext(dictionary);
     QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
+    waitForDictionary(dictionary);
+}
+
+void Tour::waitForDictionary(const QString& dictionary) {
     require(QTest::qWaitFor([&] { return !window_.isLoading(); }, 60000),
             QStringLiteral("the dictionary takes too long to open"));
     require(TfrmProject::instance().isOpen(), QStringLiteral("%1 did not open").arg(dictionary));

@@ -18,6 +18,7 @@ public:
 
 private:
     void open(const QString& dictionary);
+    void waitForDictionary(const QString& dictionary);
     void selectEntity(const QString& name);
     void selectVariable(const QString& name);
     void filter(const QString& text);

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <algorithm>
 #include <cstdio>
@@ -55,6 +56,8 @@ int takePictures(const QString& folder, const QString& dictionary) {
     window.resize(1280, 760);
     window.show();
     window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window))
+        throw std::runtime_error("the window does not become active; take the offscreen platform");
     Tour steps(window, folder);
     steps.run(dictionary);
     window.close();
