@@ -2,7 +2,7 @@
 #include "catalog/reader.h"
 #include "import/csv_importer.h"
 #include "storage/error.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
@@ -12,6 +12,8 @@
 #include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using kelx::test::TemporaryFolder;
 
 namespace tools = kelx::tools;
 namespace catalog = kelx::catalog;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "import/csv_reader.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
+
+using kelx::test::TemporaryFolder;
 
 using kelx::tools::CsvReader;
 using kelx::tools::LocatedError;

@@ -3,7 +3,11 @@
 #include "import/csv_exporter.h"
 #include "import/csv_importer.h"
 #include "storage/column_writer.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+using kelx::test::TemporaryFolder;
 
 namespace tools = kelx::tools;
 namespace catalog = kelx::catalog;

@@ -3,9 +3,13 @@
 #pragma once
 
 #include "sample/sample.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 #include <sys/wait.h>
+
+using kelx::test::TemporaryFolder;
 
 struct Outcome {
     int status = -1;

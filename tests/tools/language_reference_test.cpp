@@ -4,11 +4,13 @@
 #include "execution/run.h"
 #include "language/compile.h"
 #include "sample/sample.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+
+using kelx::test::TemporaryFolder;
 
 namespace {
 

@@ -3,13 +3,15 @@
 #include "column_numbers.h"
 #include "sample/sample.h"
 #include "storage/error.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <set>
+
+using kelx::test::TemporaryFolder;
 
 namespace tools = kelx::tools;
 namespace catalog = kelx::catalog;

@@ -21,7 +21,6 @@ public:
     void setFirstUse(bool firstUse); ///< saves
 
     QString language() const { return language_; } ///< Process_en, _es, _pt or _fr
-    void setLanguage(const QString& language) { language_ = language; }
     /// First use: takes the language that ask gives, saves, and installs its translator.
     void selectLanguage(const std::function<QString()>& ask);
     /// Numbers follow the language too. False, with the interface in the language of its source,

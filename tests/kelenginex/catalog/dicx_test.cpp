@@ -139,9 +139,9 @@ TEST(Dicx, FaultsNameTheFileAndTheCause) {
         {variable("<fieldSize>99999999999</fieldSize>"), "no valid fieldSize"},
         {variable("<missing>1,5</missing>"), "\"1,5\" is no valid missing"},
         {variable("<range><rangeItemType>11</rangeItemType></range>"), "rangeItemType"},
-        {variable("<filename>a.bin</filename><varDicChoice><datasetType>XXX</datasetType>"
+        {variable("<filename>a.bin</filename><varDicChoice><datasetType>FLT</datasetType>"
                   "</varDicChoice>"),
-         "\"XXX\" is no valid datasetType"},
+         "\"FLT\" is no valid datasetType"},
     };
     for (const auto& [xml, message] : cases) {
         EXPECT_THAT(fault(xml), testing::AllOf(HasSubstr("/d/x.dicx"), HasSubstr(message))) << xml;

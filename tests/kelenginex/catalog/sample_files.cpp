@@ -4,8 +4,6 @@
 #include "catalog/type_names.h"
 #include "storage/column_writer.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
 #include <stdexcept>
 
@@ -124,29 +122,6 @@ void describe(const Variable& v, std::ostream& out) {
 }
 
 } // namespace
-
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern = (fs::temp_directory_path() / "kelx-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
-    }
-    path_ = pattern;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
-
-void writeFile(const fs::path& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-std::string readFile(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
 
 void writeSampleData(const fs::path& folder) {
     fs::create_directories(folder);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalog/model.h"
+#include "support/temporary_folder.h"
 
 #include <filesystem>
 #include <functional>
@@ -10,23 +11,6 @@
 #include <string>
 
 namespace kelx::test {
-
-/// A folder that goes away with its test.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    const std::filesystem::path& path() const { return path_; }
-    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
-
-private:
-    std::filesystem::path path_;
-};
-
-void writeFile(const std::filesystem::path& file, const std::string& text);
-std::string readFile(const std::filesystem::path& file);
 
 /// COUNTRY > PROVINCE (2) > PERSON (5), with every kind of variable and all that a dictionary can
 /// say of one. Data files:

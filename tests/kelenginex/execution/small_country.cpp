@@ -4,31 +4,20 @@
 #include "storage/pointer_file.h"
 
 #include <algorithm>
-#include <atomic>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace kelx::test {
 
 using storage::ValueType;
 
 TestDatabase::TestDatabase(const std::string& rootName) {
-    static std::atomic<int> number{0};
-    folder_ = std::filesystem::temp_directory_path() /
-              ("kelx-execution-" + std::to_string(getpid()) + "-" + std::to_string(++number));
-    std::filesystem::create_directories(folder_);
     dictionary.name = "TEST";
     dictionary.label = "Test country";
     dictionary.file = folder_ / "test.kxdb";
-    dictionary.dataFolder = folder_;
+    dictionary.dataFolder = folder_.path();
     dictionary.root = std::make_unique<catalog::Entity>();
     dictionary.root->dictionary = &dictionary;
     dictionary.root->name = rootName;
-}
-
-TestDatabase::~TestDatabase() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 catalog::Entity& TestDatabase::entity(const std::string& parent, const std::string& name,

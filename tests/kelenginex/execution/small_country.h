@@ -6,6 +6,7 @@
 #include "execution/run.h"
 #include "language/compile.h"
 #include "storage/column_writer.h"
+#include "support/temporary_folder.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -22,7 +23,6 @@ namespace kelx::test {
 class TestDatabase {
 public:
     explicit TestDatabase(const std::string& rootName = "COUNTRY");
-    ~TestDatabase();
     TestDatabase(const TestDatabase&) = delete;
     TestDatabase& operator=(const TestDatabase&) = delete;
 
@@ -44,7 +44,7 @@ public:
 private:
     catalog::Variable& add(const std::string& entity, const std::string& name,
                            storage::ValueType type);
-    std::filesystem::path folder_;
+    TemporaryFolder folder_;
 };
 
 /// Three provinces with 2, 1 and 2 households of 2, 1, 3, 0 and 2 persons:

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "consume.h"
+#include "support/temporary_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -12,19 +12,6 @@ namespace kelx::testing {
 
 class InputFile {
 public:
-    InputFile() {
-        std::string name = (std::filesystem::temp_directory_path() / "kelx-fuzz-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
-            std::abort();
-        folder_ = name;
-    }
-    ~InputFile() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
-
     std::filesystem::path write(const std::string& bytes) const {
         const auto file = folder_ / "input";
         writeBytes(file, bytes);
@@ -32,7 +19,7 @@ public:
     }
 
 private:
-    std::filesystem::path folder_;
+    test::TemporaryFolder folder_;
 };
 
 inline const InputFile& inputFile() {

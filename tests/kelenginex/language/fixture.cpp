@@ -4,22 +4,9 @@
 #include "catalog/names.h"
 #include "language/message_table.h"
 
-#include <atomic>
-#include <fstream>
-#include <unistd.h>
-
 namespace kelx::language {
 
 namespace {
-
-std::filesystem::path newFolder() {
-    static std::atomic<int> number = 0;
-    const std::string name =
-        "kelx-language-" + std::to_string(getpid()) + "-" + std::to_string(++number);
-    std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
-    std::filesystem::create_directories(folder);
-    return folder;
-}
 
 catalog::Entity* addEntity(catalog::Entity& parent, const std::string& name) {
     auto entity = std::make_unique<catalog::Entity>();
@@ -95,7 +82,7 @@ std::string list(const Messages& messages, bool withTexts) {
 } // namespace
 
 Census::Census() {
-    dictionary.dataFolder = options.baseFolder = newFolder();
+    dictionary.dataFolder = options.baseFolder = folder_.path();
     dictionary.file = dictionary.dataFolder / "x.kxdb";
     dictionary.root = std::make_unique<catalog::Entity>();
     dictionary.root->name = "NATION";
@@ -126,11 +113,6 @@ Census::Census() {
     std::filesystem::remove(variable("PERSON", "LOST").filePath());
 }
 
-Census::~Census() {
-    std::error_code ignored;
-    std::filesystem::remove_all(options.baseFolder, ignored);
-}
-
 catalog::Variable& Census::add(const std::string& entityName, const std::string& name,
                                ValueType type) {
     auto variable = std::make_unique<catalog::Variable>();
@@ -139,12 +121,6 @@ catalog::Variable& Census::add(const std::string& entityName, const std::string&
     variable->fileName = entityName + "_" + name + ".kbf";
     write(variable->fileName, "x");
     return *entity(entityName).addVariable(std::move(variable));
-}
-
-std::filesystem::path Census::write(const std::string& file, const std::string& content) const {
-    std::filesystem::path path = options.baseFolder / file;
-    std::ofstream(path, std::ios::binary) << content;
-    return path;
 }
 
 BoundProgram Census::compile(const std::string& program) {

@@ -4,6 +4,7 @@
 
 #include "catalog/model.h"
 #include "language/compile.h"
+#include "support/temporary_folder.h"
 
 #include <filesystem>
 #include <memory>
@@ -17,9 +18,6 @@ namespace kelx::language {
 class Census {
 public:
     Census();
-    ~Census();
-    Census(const Census&) = delete;
-    Census& operator=(const Census&) = delete;
 
     catalog::Dictionary dictionary;
     CompileOptions options;
@@ -31,7 +29,12 @@ public:
         return *entity(entityName).findVariable(name);
     }
     catalog::Variable& add(const std::string& entityName, const std::string& name, ValueType type);
-    std::filesystem::path write(const std::string& file, const std::string& content) const;
+    std::filesystem::path write(const std::string& file, const std::string& content) const {
+        return folder_.write(file, content);
+    }
+
+private:
+    test::TemporaryFolder folder_;
 };
 
 /// "KEL_E_UNKNOWN_VARIABLE 1:6", one line a message, by place.

@@ -6,6 +6,7 @@
 #include "storage/column.h"
 #include "storage/column_writer.h"
 #include "storage/error.h"
+#include "support/temporary_folder.h"
 
 #include <cmath>
 #include <cstring>
@@ -26,26 +27,16 @@ using Texts = std::vector<std::optional<std::string>>;
 
 class StorageTest : public ::testing::Test {
 protected:
-    StorageTest() {
-        std::string name = (std::filesystem::temp_directory_path() / "kelx-test-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        folder_ = name;
-    }
-    ~StorageTest() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
     std::filesystem::path path(const std::string& name) const { return folder_ / name; }
     std::vector<std::string> names() const {
         std::vector<std::string> found;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_))
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
             found.push_back(entry.path().filename().string());
         return found;
     }
 
 private:
-    std::filesystem::path folder_;
+    test::TemporaryFolder folder_;
 };
 
 /// A key that costs next to nothing to derive.

@@ -1,16 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A folder of a test's own and its files as texts.
+// A folder of a test's own, and files as texts.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <stdexcept>
 #include <string>
 
+namespace kelx::test {
+
+inline void writeFile(const std::filesystem::path& file, const std::string& text) {
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+/// Throws std::runtime_error where the file cannot be opened.
+inline std::string readFile(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream)
+        throw std::runtime_error("cannot open " + file.string());
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+/// New and empty; gone, with all that is in it, with this object.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
@@ -19,24 +34,22 @@ public:
             throw std::runtime_error("no temporary folder");
         path_ = name;
     }
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
+    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
     std::filesystem::path write(const std::string& name, const std::string& text) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
-        std::ofstream(path_ / name, std::ios::binary) << text;
+        writeFile(path_ / name, text);
         return path_ / name;
     }
     std::string read(const std::string& name) const { return readFile(path_ / name); }
 
-    static std::string readFile(const std::filesystem::path& file) {
-        std::ifstream stream(file, std::ios::binary);
-        EXPECT_TRUE(stream) << file;
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    }
-    /// All files below a folder and what is in them.
+    /// All files below a folder and what is in them, by relative name.
     static std::map<std::string, std::string> contents(const std::filesystem::path& folder) {
         std::map<std::string, std::string> files;
         if (std::filesystem::exists(folder))
@@ -50,3 +63,5 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+} // namespace kelx::test
