@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/pass_runner.h"
 
-#include "execution/categories.h"
+#include "execution/table_maker.h"
 #include "execution/worker.h"
 
 #include <algorithm>
@@ -36,19 +36,6 @@ std::vector<Chunk> chunksOf(const plan::RecordRanges& ranges) {
     return chunks;
 }
 
-/// The most that finishing a table may take, in the time of scanning a record: as many rows as
-/// codes make, or as each record makes with all totals, but not more than the scan itself.
-double finishingOf(const TableShape& shape, double records) {
-    double rows = 1;
-    double totals = 1;
-    for (const CodeDomain& domain : shape.domains) {
-        const bool open = domain.physical == storage::Physical::Real64;
-        rows *= open ? records : static_cast<double>(domain.size) + 2;
-        totals *= 2;
-    }
-    return std::min({rows, records * totals, records + 1});
-}
-
 /// Shares the chunks of a pass out and puts the parts together in their order.
 class PassRun {
 public:
@@ -61,17 +48,17 @@ public:
         if (threads == 0)
             threads = std::max(1U, std::thread::hardware_concurrency());
         const std::size_t workers = std::clamp<std::size_t>(chunks_.size(), 1, threads);
+        for (const plan::PlannedTable& table : pass.tables)
+            makers_.push_back(makeTableMaker(table, *pass.unit, options));
         for (std::size_t i = 0; i < workers; ++i)
-            workers_.push_back(std::make_unique<Worker>(pass, step, progress));
-        for (const auto& table : workers_[0]->tables())
-            totals_.push_back(std::make_unique<TableCells>(table->shape()));
+            workers_.push_back(std::make_unique<Worker>(pass, makers_, step, progress));
     }
 
     void run(const TableSink& sink) {
         const auto records = static_cast<double>(plan::recordCount(pass_.ranges));
         double all = records + 1;
-        for (const auto& cells : totals_)
-            all += finishingOf(cells->shape(), records);
+        for (const auto& maker : makers_)
+            all += maker->finishing(records);
         const double start = progress_.seconds();
         double done = records + 1;
         progress_.begin(shareAt(done / all), plan::recordCount(pass_.ranges));
@@ -79,8 +66,8 @@ public:
         workers_.clear();
         const double scanned =
             (progress_.seconds() - start) / static_cast<double>(pass_.tables.size());
-        for (std::size_t i = 0; i < totals_.size(); ++i) {
-            done += finishingOf(totals_[i]->shape(), records);
+        for (std::size_t i = 0; i < makers_.size(); ++i) {
+            done += makers_[i]->finishing(records);
             progress_.begin(shareAt(done / all), sinkUnits);
             finish(i, scanned, sink);
         }
@@ -102,8 +89,8 @@ private:
     void finish(std::size_t table, double scanned, const TableSink& sink) {
         const plan::PlannedTable& planned = pass_.tables[table];
         const double start = progress_.seconds();
-        TableResult result = finishTable(planned, *totals_[table], progress_);
-        totals_[table].reset();
+        TableResult result = makers_[table]->finish(progress_);
+        makers_[table].reset();
         result.seconds = scanned + progress_.seconds() - start;
         sink(planned.index, std::move(result), progress_);
         progress_.checkNow();
@@ -196,16 +183,10 @@ private:
         return true;
     }
 
-    /// Counts are exact in any order; only sums of weights are merged chunk by chunk.
-    bool merge(Worker& worker, bool weighted, const GoOn& goOn) {
-        for (std::size_t i = 0; i < totals_.size(); ++i) {
-            Tabulator& table = *worker.tables()[i];
-            if (table.shape().weighted != weighted)
-                continue;
-            if (!totals_[i]->take(table.cells(), goOn))
+    bool merge(Worker& worker, bool inOrder, const GoOn& goOn) {
+        for (std::size_t i = 0; i < makers_.size(); ++i) {
+            if (makers_[i]->inOrder() == inOrder && !makers_[i]->take(*worker.tables()[i], goOn))
                 return false;
-            if (totals_[i]->hashed.size() > mostRows)
-                throwTooManyRows(*pass_.tables[i].command);
         }
         return true;
     }
@@ -214,11 +195,11 @@ private:
     Progress& progress_;
     Share share_;
     std::vector<Chunk> chunks_;
+    std::vector<std::unique_ptr<TableMaker>> makers_;
     std::vector<std::unique_ptr<Worker>> workers_;
-    std::vector<std::unique_ptr<TableCells>> totals_;
     std::atomic<std::size_t> next_{0};
     std::atomic<bool> stop_{false};
-    std::mutex merging_; ///< of what is counted
+    std::mutex merging_; ///< of what is taken in any order
     std::mutex mutex_;   ///< of what follows
     std::condition_variable changed_;
     std::size_t merged_ = 0;

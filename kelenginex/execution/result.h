@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <variant>
@@ -76,12 +77,65 @@ private:
     std::vector<Sum> sums_; ///< where weighted
 };
 
-/// A frequency table of any number of dimensions, or a count (no dimension, one cell).
+/// A figure of a measure; blank where there is none.
+using Figure = std::variant<std::monostate, std::int64_t, double>;
+
+/// The rows of a table, each with the cells that it joins: row r has those from begins[r] to
+/// begins[r + 1] - 1.
+struct RowCells {
+    std::vector<std::uint32_t> cells;
+    std::vector<std::size_t> begins{0};
+
+    std::size_t rows() const { return begins.size() - 1; }
+    std::span<const std::uint32_t> of(std::size_t row) const {
+        return std::span(cells).subspan(begins[row], begins[row + 1] - begins[row]);
+    }
+};
+
+class Progress;
+
+/// The measured values behind a table's cells, valid ones only.
+class Measured {
+public:
+    virtual ~Measured() = default;
+    /// Figures of one row: 1, for a quantile one less than the parts, for STATS 10 (cases, sum,
+    /// mean, median, minimum, maximum, standard deviation, variance, coefficient of variation in
+    /// percent, standard error).
+    virtual std::size_t figures() const = 0;
+    /// The figures of all rows, side by side. Cells are numbered as in the table's Cells. Called
+    /// once. Throws Cancelled.
+    virtual std::vector<Figure> work(const RowCells& rows, Progress& progress) = 0;
+};
+
+/// A value of a list; blank, MV and NA in area lists are std::monostate.
+using ListValue = std::variant<std::monostate, std::int64_t, double, std::string>;
+
+/// Values of a list's column: one a row, or each once with the number of its value for every row.
+struct ListValues {
+    std::vector<ListValue> values;
+    std::vector<std::uint32_t> numbers; ///< empty: values are by row
+};
+
+/// The records of an area list or a view, in their order.
+struct ListResult {
+    std::vector<std::uint64_t> records; ///< of the listed entity
+    ListValues codes;  ///< compound codes; record numbers from 1 where the entity has no code
+    ListValues labels; ///< of the label variable; empty where the entity has none
+    /// One for each column of the command; empty for those that are tables. Views show stored
+    /// codes.
+    std::vector<ListValues> columns;
+};
+
+/// A table of any number of dimensions, a count (no dimension, one cell), or a list.
 struct TableResult {
     const language::TableCommand* command = nullptr;
     std::vector<Dimension> dimensions;
-    Cells cells;        ///< ascending by category indices
-    bool exact = true;  ///< sums are counts
+    /// Ascending by category indices. Of a measure, only records with a valid value are in it, and
+    /// sums are of weights.
+    Cells cells;
+    bool exact = true;                  ///< sums are counts
+    std::shared_ptr<Measured> measured; ///< of a measure
+    std::shared_ptr<ListResult> list;   ///< of an area list or a view; then there are no cells
     double seconds = 0; ///< its share of the pass over the data, and its own finishing
 };
 

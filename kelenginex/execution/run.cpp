@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/run.h"
 
+#include "execution/definitions.h"
 #include "execution/pass_runner.h"
 #include "plan/plan.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelx::execution {
@@ -14,6 +16,13 @@ double workOf(const plan::Pass& pass) {
     return static_cast<double>(plan::recordCount(pass.ranges)) + 1;
 }
 
+/// Variables that the program makes are told as one share, as large as all tables together.
+double shareOfVariables(const language::BoundProgram& program) {
+    const bool any = std::any_of(program.definitions.begin(), program.definitions.end(),
+                                 [](const auto& definition) { return definition.used; });
+    return any ? 0.5 : 0;
+}
+
 } // namespace
 
 bool run(const language::BoundProgram& program, const RunOptions& options,
@@ -21,16 +30,20 @@ bool run(const language::BoundProgram& program, const RunOptions& options,
     Progress progress(options.progress);
     try {
         progress.checkNow();
+        const double making = shareOfVariables(program);
+        makeVariables(program, options, making, progress);
         const plan::Plan plan = plan::makePlan(program, messages);
         double all = 0;
         for (const plan::Pass& pass : plan.passes)
             all += workOf(pass);
         double done = 0;
+        const auto shareAt = [&](double work) { return making + (1 - making) * work / all; };
         for (const plan::Pass& pass : plan.passes) {
-            const double begin = done / all;
+            const double begin = shareAt(done);
             done += workOf(pass);
-            runPass(pass, options, sink, {begin, done / all}, progress);
+            runPass(pass, options, sink, {begin, shareAt(done)}, progress);
         }
+        saveVariables(program, progress);
         progress.finish();
     } catch (const Cancelled&) {
         return false;

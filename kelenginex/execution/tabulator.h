@@ -5,6 +5,7 @@
 #include "execution/node.h"
 #include "execution/record_filter.h"
 #include "execution/table_cells.h"
+#include "execution/table_maker.h"
 #include "plan/plan.h"
 
 #include <cstddef>
@@ -25,17 +26,16 @@ private:
 };
 
 /// One for each table and thread. A record whose weight or tally is blank, MV or NA is not counted.
-class Tabulator {
+class Tabulator final : public TablePart {
 public:
     Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePool& nodes,
               SourcePool& sources);
 
     const TableShape& shape() const { return shape_; }
     TableCells& cells() { return cells_; }
-    /// False where no record of a block of the unit passes the table's own filter.
-    bool mayPass(std::size_t block) const { return !filter_ || filter_->mayPass(block); }
-    /// Counts the frame's records where the mask is set; a null mask takes all.
-    void add(Frames& frames, const std::uint8_t* mask);
+    /// By the table's own filter.
+    bool mayPass(std::size_t block) const override { return !filter_ || filter_->mayPass(block); }
+    void add(Frames& frames, const std::uint8_t* mask) override;
 
 private:
     const std::uint8_t* ownMask(Frames& frames, const std::uint8_t* mask);

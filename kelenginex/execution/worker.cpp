@@ -5,12 +5,13 @@
 
 namespace kelx::execution {
 
-Worker::Worker(const plan::Pass& pass, std::size_t stepRecords, Progress& progress)
+Worker::Worker(const plan::Pass& pass, const std::vector<std::unique_ptr<TableMaker>>& makers,
+               std::size_t stepRecords, Progress& progress)
     : unit_(*pass.unit), stepRecords_(stepRecords), frames_(unit_), progress_(progress) {
     for (const auto& condition : pass.filters)
         filters_.push_back(makeFilter(condition, unit_, nodes_));
-    for (const plan::PlannedTable& table : pass.tables)
-        tables_.push_back(std::make_unique<Tabulator>(table, unit_, nodes_, sources_));
+    for (const auto& maker : makers)
+        tables_.push_back(maker->makePart(nodes_, sources_));
 }
 
 bool Worker::work(const plan::RecordRanges& ranges, const GoOn& goOn) {
@@ -43,7 +44,7 @@ bool Worker::workBlock(std::size_t block, plan::RecordRange range, const GoOn& g
         const std::uint64_t count = std::min<std::uint64_t>(stepRecords_, range.end - range.begin);
         frames_.move(range.begin, static_cast<std::size_t>(count));
         const std::uint8_t* mask = findMask();
-        for (Tabulator* table : wanted_) {
+        for (TablePart* table : wanted_) {
             table->add(frames_, mask);
             if (!goOn()) // a step over many tables may take long
                 return false;

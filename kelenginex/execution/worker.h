@@ -12,9 +12,11 @@ namespace kelx::execution {
 
 class Worker {
 public:
-    Worker(const plan::Pass& pass, std::size_t stepRecords, Progress& progress);
+    Worker(const plan::Pass& pass, const std::vector<std::unique_ptr<TableMaker>>& makers,
+           std::size_t stepRecords, Progress& progress);
 
-    std::vector<std::unique_ptr<Tabulator>>& tables() { return tables_; }
+    /// One part for each maker.
+    std::vector<std::unique_ptr<TablePart>>& tables() { return tables_; }
 
     /// Adds the records of the ranges to the tables. False where goOn, asked after each table's
     /// share of a step, said so.
@@ -31,8 +33,8 @@ private:
     NodePool nodes_;
     SourcePool sources_;
     std::vector<std::unique_ptr<RecordFilter>> filters_;
-    std::vector<std::unique_ptr<Tabulator>> tables_;
-    std::vector<Tabulator*> wanted_;
+    std::vector<std::unique_ptr<TablePart>> tables_;
+    std::vector<TablePart*> wanted_;
     std::vector<std::uint8_t> mask_;
 };
 

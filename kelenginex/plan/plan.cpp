@@ -22,23 +22,20 @@ public:
 
     void add(std::size_t index, const TableCommand& command) {
         PlannedTable table{index, &command, dimensionsOf(command)};
-        const Entity& unit = unitOf(command);
-        passFor(unit, command).tables.push_back(std::move(table));
+        passFor(*command.unit, command).tables.push_back(std::move(table));
     }
     Plan take() { return std::move(plan_); }
 
 private:
-    static const Entity& unitOf(const TableCommand& command) {
-        const Entity* unit = command.unit != nullptr ? command.unit : command.countEntity;
-        if (unit == nullptr)
-            throw std::logic_error(command.name + " counts no entity");
-        return *unit;
+    static bool hasDimensions(language::TableKind kind) {
+        return kind == language::TableKind::Frequency ||
+               (kind >= language::TableKind::Average && kind <= language::TableKind::Gini);
     }
 
     static std::vector<ExpressionPtr> dimensionsOf(const TableCommand& command) {
         std::vector<ExpressionPtr> result = command.dimensions;
         const Entity* area = command.settings->areaBreak;
-        if (area == nullptr || command.kind != language::TableKind::Frequency)
+        if (area == nullptr || command.isHidden || !hasDimensions(command.kind))
             return result;
         const bool isThere = !result.empty() &&
                              result.front()->operation == language::Operation::CompoundCode &&
@@ -106,8 +103,10 @@ private:
 
 Plan makePlan(const language::BoundProgram& program, language::Messages& messages) {
     Planner planner(messages);
-    for (std::size_t i = 0; i < program.tables.size(); ++i)
-        planner.add(i, program.tables[i]);
+    for (std::size_t i = 0; i < program.tables.size(); ++i) {
+        if (program.tables[i].isNeeded && program.tables[i].unit != nullptr)
+            planner.add(i, program.tables[i]);
+    }
     return planner.take();
 }
 

@@ -23,7 +23,7 @@ bool sameExpression(const language::Expression* a, const language::Expression* b
         return false;
     return a->operation == b->operation && a->type == b->type && a->entity == b->entity &&
            a->constant == b->constant && a->variable == b->variable &&
-           a->codeEntity == b->codeEntity && a->function == b->function &&
+           a->codeEntity == b->codeEntity && a->function == b->function && a->table == b->table &&
            sameIntervals(a->intervals, b->intervals) &&
            std::equal(
                a->arguments.begin(), a->arguments.end(), b->arguments.begin(), b->arguments.end(),
