@@ -15,8 +15,10 @@ A table of a case may be followed by a check, which says what is in it:
         unit LEVEL                        whose records count, where it is not the variables'
         where SQL                         records that count
         parts 4                           of quantiles
-        by NAME SQL                       one more dimension: a code, MV or NA
+        by NAME SQL                       one more dimension: a number, null, 'MV' or 'NA'
+        text NAME SQL                     the same of texts
         labels NAME 1=One 2=Two           of a dimension
+        area LEVEL                        a first dimension of compound codes
     check rows                            the rows themselves
         SQL
 
@@ -43,8 +45,8 @@ class Check:
             return
         for line in lines:
             word, _, rest = line.strip().partition(" ")
-            if word == "by":
-                self.by.append(tuple(rest.split(" ", 1)))
+            if word in ("by", "text"):
+                self.by.append((word == "by", *rest.split(" ", 1)))
             elif word == "labels":
                 name, *pairs = rest.split(" ")
                 self.labels[name] = dict(pair.replace("_", " ").split("=") for pair in pairs)
@@ -90,8 +92,10 @@ class Table:
         if check.kind not in ("freq", "count") and self.measure is None:
             self.measure = "valid_" + names.pop(0).replace(".", "_")
         self.dimensions = [self.dimension(database, name) for name in names]
-        for name, sql in check.by:
-            self.dimensions.append(Dimension(name, sql, check.labels.get(name, {}), True))
+        for numeric, name, sql in check.by:
+            self.dimensions.append(Dimension(name, sql, check.labels.get(name, {}), numeric))
+        if "area" in check.settings:
+            self.dimensions.insert(0, self.area(database, check.settings["area"]))
         self.unit = check.settings.get("unit")
         if self.unit is None:
             levels = [database.levels[n.split(".")[0]] for n in check.names]
@@ -102,6 +106,11 @@ class Table:
         field = database.field(name)
         labels = self.check.labels.get(name, field.labels)
         return Dimension(name, "category_" + name.replace(".", "_"), labels, not field.is_text)
+
+    def area(self, database, level):
+        label = database.levels[level].find("label").name
+        labels = dict(database.sql.execute(f"SELECT area_{level}, {level}_{label} FROM wide_{level}"))
+        return Dimension(level, f"area_{level}", labels, False)
 
     def read(self, database):
         settings = self.check.settings
@@ -117,7 +126,7 @@ class Table:
         width = len(self.dimensions)
         cells = {}
         for row in self.records:
-            key = tuple(str(code) for code in row[:width])
+            key = tuple(category(code) for code in row[:width])
             for summed in itertools.product([False, True], repeat=width):
                 if any(s and k in ("MV", "NA") for s, k in zip(summed, key)):
                     continue
@@ -127,8 +136,10 @@ class Table:
         return cells
 
     def rows(self):
-        if self.check.kind == "count":
-            return [[self.unit] + [number_or_blank(v) for v in self.figures([r for r in self.records])]]
+        if not self.dimensions and self.check.kind != "freq":
+            front = {"count": [self.unit], "average": self.check.names[:1]}
+            return [front.get(self.check.kind, []) +
+                    [number_or_blank(v) for v in self.figures(self.records)]]
         cells = self.cells()
         order = lambda key: [d.order(k) for d, k in zip(self.dimensions, key)]
         rows = []
@@ -229,6 +240,10 @@ def stats(pairs, weighted):
 def number_or_blank(value):
     return "" if value is None else databases.number_text(value if isinstance(value, int)
                                                           else float(value))
+
+
+def category(value):
+    return "MV" if value is None else cell_text(value)
 
 
 def cell_text(value):
