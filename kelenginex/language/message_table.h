@@ -49,6 +49,17 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
+    SelfReference,
+    BelowEntity,
+    NotBelow,
+    AggregateBranch,
+    NumberEntity,
+    MixedValues,
+    TypeConversion,
+    ClauseValue,
+    BadAlias,
+    SaveExists,
+    SaveTwice,
 };
 
 /// Codes of warnings; the same rule.
@@ -60,6 +71,8 @@ enum class Warning : int {
     TableNameAgain,
     UnknownArea,
     OtherDictionary,
+    OpenSelection,
+    WeightIgnored,
 };
 
 /// A line of the table.

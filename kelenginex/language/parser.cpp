@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/parser.h"
 
+#include "language/clause_values.h"
+#include "language/definition_parser.h"
 #include "language/expression_parser.h"
 #include "language/text.h"
 #include "language/token_cursor.h"
 
-#include <charconv>
 #include <set>
 
 namespace kelx::language {
@@ -24,6 +25,8 @@ constexpr ClausePlace inTable{isTableClause, isRunClause, "it belongs to RUNDEF,
 constexpr ClausePlace inRundef{isRunClause, isTableClause, "it belongs to a table, not to RUNDEF",
                                "a clause of RUNDEF, such as SELECTION or FILTER, or a command"};
 
+const char* const styleFile = "the name of a style file in quotes";
+
 std::vector<std::string> joined(std::vector<std::string> words,
                                 const std::vector<std::string>& more) {
     words.insert(words.end(), more.begin(), more.end());
@@ -33,7 +36,7 @@ std::vector<std::string> joined(std::vector<std::string> words,
 class Parser {
 public:
     Parser(const std::vector<Token>& tokens, Messages& messages)
-        : cursor_(tokens, messages), expressions_(cursor_) {}
+        : cursor_(tokens, messages), expressions_(cursor_), definitions_(cursor_, expressions_) {}
 
     ast::Program run() {
         while (!cursor_.atEnd())
@@ -45,7 +48,7 @@ private:
     // Commands.
     void parseCommand();
     void parseRunDefinition();
-    void parseDefinition();
+    void parseStyle();
     void parseTable();
     void parseTableKind(ast::Table& table);
     void parseLists(ast::Table& table);
@@ -58,8 +61,7 @@ private:
     bool parseSelection(ast::RunDefinition& run);
     bool parseInlineSelection(ast::RunDefinition& run);
     bool parseExpression(ast::NodePtr& into);
-    bool parseText(std::optional<std::string>& into, const char* what);
-    bool parseDecimals(std::optional<int>& into);
+    bool parseAreaBreak(ast::RunDefinition& run);
     bool parseRunWeight(ast::RunDefinition& run, const Token& clause);
     bool misplaced(const std::string& reason);
     void notSupported();
@@ -68,6 +70,7 @@ private:
 
     TokenCursor cursor_;
     ExpressionParser expressions_;
+    DefinitionParser definitions_;
     ast::Program program_;
     std::set<Keyword> given_;       ///< clauses of the command being read
     std::set<Keyword> unsupported_; ///< told already
@@ -79,7 +82,9 @@ void Parser::parseCommand() {
     if (token.is(Keyword::Rundef))
         return parseRunDefinition();
     if (token.is(Keyword::Define))
-        return parseDefinition();
+        return definitions_.parse(program_);
+    if (token.is(Keyword::Tablestyle))
+        return parseStyle();
     if (token.is(Keyword::Table) ||
         ((places & isTableKind) != 0 && (places & notSupportedYet) == 0))
         return parseTable();
@@ -135,20 +140,21 @@ std::optional<bool> Parser::passOver(const Token& clause, const ClausePlace& pla
         cursor_.take();
         return false;
     }
-    if ((places & notSupportedYet) == 0)
+    if ((places & notSupportedYet) == 0 || place.own == isRunClause)
         return std::nullopt;
     notSupported();
     cursor_.skipClause();
     return true;
 }
 
-void Parser::parseDefinition() {
-    notSupported();
-    if (cursor_.peek().kind == TokenKind::Word && !cursor_.peek().reserved) {
-        if (std::optional<ast::Name> name = expressions_.parseName("a variable", false))
-            program_.emplace_back(ast::Definition{std::move(*name)});
-    }
-    cursor_.skipToCommand();
+/// Alone, as where DEFINE has lost its line, it is a setting of the run.
+void Parser::parseStyle() {
+    cursor_.take();
+    std::optional<std::string> file;
+    if (readText(cursor_, file, styleFile))
+        program_.emplace_back(ast::StyleCommand{std::move(*file)});
+    else
+        cursor_.skipToClause();
 }
 
 void Parser::parseRunDefinition() {
@@ -175,23 +181,41 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
         return false;
     switch (clause.keyword) {
     case Keyword::Title:
-        return parseText(run.title, "the title in quotes");
+        return readText(cursor_, run.title, "the title in quotes");
     case Keyword::Selection:
         return parseSelection(run);
     case Keyword::Selectionlabel:
-        return parseText(run.selectionLabel, "a label");
+        return readText(cursor_, run.selectionLabel, "a label");
     case Keyword::Filter:
         return parseExpression(run.filter);
     case Keyword::Filterlabel:
-        return parseText(run.filterLabel, "a label");
+        return readText(cursor_, run.filterLabel, "a label");
     case Keyword::Decimals:
-        return parseDecimals(run.decimals);
+        return readDecimals(cursor_, run.decimals);
     case Keyword::Dictionary:
         run.dictionaryPosition = cursor_.peek().position;
-        return parseText(run.dictionary, "the name of the dictionary file in quotes");
+        return readText(cursor_, run.dictionary, "the name of the dictionary file in quotes");
+    case Keyword::Areabreak:
+        return parseAreaBreak(run);
+    case Keyword::Tablestyle:
+        return readText(cursor_, run.tableStyle, styleFile);
+    case Keyword::Graphstyle:
+        return readText(cursor_, run.graphStyle, styleFile);
+    case Keyword::Mapstyle:
+        return readText(cursor_, run.mapStyle, styleFile);
     default:
         return parseRunWeight(run, clause);
     }
+}
+
+bool Parser::parseAreaBreak(ast::RunDefinition& run) {
+    const Token& first = cursor_.peek();
+    run.areaBreak = expressions_.parseName("an entity", false);
+    if (!run.areaBreak || run.areaBreak->entity.empty())
+        return run.areaBreak.has_value();
+    cursor_.report(Error::Unexpected, first.position, {"a variable", "an entity", ""});
+    run.areaBreak.reset();
+    return false;
 }
 
 /// WEIGHT, AUTOWEIGHT and NOWEIGHT exclude each other.
@@ -216,8 +240,8 @@ bool Parser::parseSelection(ast::RunDefinition& run) {
     }
     if (cursor_.takeKeyword(Keyword::Inline))
         return parseInlineSelection(run);
-    ast::NodePtr expression;
-    const bool good = parseExpression(expression);
+    ast::NodePtr expression = expressions_.parseSelection();
+    const bool good = expression != nullptr;
     run.selection = std::move(expression);
     return good;
 }
@@ -252,35 +276,6 @@ bool Parser::parseInlineSelection(ast::RunDefinition& run) {
 bool Parser::parseExpression(ast::NodePtr& into) {
     into = expressions_.parse();
     return into != nullptr;
-}
-
-bool Parser::parseText(std::optional<std::string>& into, const char* what) {
-    const TokenKind kind = cursor_.peek().kind;
-    if (kind != TokenKind::Text && kind != TokenKind::Label) {
-        cursor_.unexpected(what);
-        return false;
-    }
-    into = cursor_.take().value();
-    return true;
-}
-
-bool Parser::parseDecimals(std::optional<int>& into) {
-    constexpr int most = 15;
-    const Token& token = cursor_.peek();
-    const bool number = token.kind == TokenKind::Number;
-    if (!number && token.kind != TokenKind::Text) {
-        cursor_.unexpected("the number of decimals");
-        return false;
-    }
-    cursor_.take();
-    int value = -1;
-    const char* const end = token.text.data() + token.text.size();
-    if (number && std::from_chars(token.text.data(), end, value).ptr == end && value >= 0 &&
-        value <= most)
-        into = value;
-    else
-        cursor_.report(Error::BadDecimals, token.position, {describe(token)});
-    return true;
 }
 
 void Parser::parseTable() {
@@ -386,9 +381,9 @@ bool Parser::parseTableClause(ast::Table& table) {
     case Keyword::Filter:
         return parseExpression(table.filter);
     case Keyword::Title:
-        return parseText(table.title, "the title in quotes");
+        return readText(cursor_, table.title, "the title in quotes");
     default:
-        return parseDecimals(table.decimals);
+        return readDecimals(cursor_, table.decimals);
     }
 }
 
