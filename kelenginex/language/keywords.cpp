@@ -18,7 +18,7 @@ constexpr unsigned command = startsCommand | startsAnywhere;
 const std::vector<KeywordEntry> entries = {
     {"rundef", Keyword::Rundef, command},
     {"define", Keyword::Define, command | notSupportedYet},
-    {"execute", Keyword::Execute, command | notSupportedYet},
+    {"execute", Keyword::Execute, command},
     {"table", Keyword::Table, command},
     {"frequency", Keyword::Frequency, table},
     {"freq", Keyword::Frequency, table},

@@ -108,6 +108,19 @@ const std::vector<MessageEntry> table = {
         "The weight is about %1, but COUNT counts %2, which has many of them: take a weight of %2 "
         "or of what lies above it.",
         "A count of records is weighted by what each record has, not by what lies below it."),
+    error(Error::ProgramFile, "KEL_E_PROGRAM_FILE", "The program %1 %2.",
+          "The file that EXECUTE names is missing or no program."),
+    error(Error::ProgramCycle, "KEL_E_PROGRAM_CYCLE",
+          "The program %1 cannot be called here: it is being called already.",
+          "A program cannot call itself, nor one that calls it."),
+    error(Error::CallsTooDeep, "KEL_E_CALLS_TOO_DEEP",
+          "Programs call each other more than %1 deep here.",
+          "A called program may call others in turn, but not without end."),
+    error(Error::TooManyCalls, "KEL_E_TOO_MANY_CALLS",
+          "The program calls more than %1 programs, or %2 bytes of them.",
+          "Protects against programs that call each other again and again."),
+    error(Error::UnknownValue, "KEL_E_UNKNOWN_VALUE", "EXECUTE gives no value for {%1}.%2",
+          "Each name between braces in a called program needs a value in the EXECUTE command."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -127,6 +140,8 @@ const std::vector<MessageEntry> table = {
     warning(Warning::OtherDictionary, "KEL_W_OTHER_DICTIONARY",
             "The program was written for the dictionary %1 and runs on the open one, %2.",
             "DICTIONARY names another file than the one that is open."),
+    warning(Warning::UnusedValue, "KEL_W_UNUSED_VALUE", "The program %1 has no {%2}.%3",
+            "EXECUTE gives a value that the called program does not ask for."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

@@ -49,6 +49,11 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
+    ProgramFile,
+    ProgramCycle,
+    CallsTooDeep,
+    TooManyCalls,
+    UnknownValue,
 };
 
 /// Codes of warnings; the same rule.
@@ -60,6 +65,7 @@ enum class Warning : int {
     TableNameAgain,
     UnknownArea,
     OtherDictionary,
+    UnusedValue,
 };
 
 /// A line of the table.

@@ -2,6 +2,7 @@
 #include "language/parser.h"
 
 #include "language/clause_reader.h"
+#include "language/execute_parser.h"
 #include "language/table_parser.h"
 #include "language/text.h"
 
@@ -26,6 +27,7 @@ public:
 private:
     void parseCommand();
     void parseWeight();
+    void parseExecute();
     void parseDefinition();
     void parseRunDefinition();
     bool parseRunClause(ast::RunDefinition& run);
@@ -49,6 +51,8 @@ void Parser::parseCommand() {
     if (token.is(Keyword::Table) ||
         ((places & isTableKind) != 0 && (places & notSupportedYet) == 0))
         return tables_.parse(program_);
+    if (token.is(Keyword::Execute))
+        return parseExecute();
     if (token.is(Keyword::Weight))
         return parseWeight();
     if ((places & notSupportedYet) != 0) {
@@ -71,6 +75,13 @@ void Parser::parseWeight() {
         program_.emplace_back(std::move(command));
     else
         cursor_.skipToClause();
+}
+
+void Parser::parseExecute() {
+    if (std::optional<ast::Execute> execute = language::parseExecute(cursor_))
+        program_.emplace_back(std::move(*execute));
+    else
+        cursor_.skipToCommand();
 }
 
 void Parser::parseDefinition() {
