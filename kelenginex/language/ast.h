@@ -186,7 +186,19 @@ struct Table {
     Span span;
 };
 
-using Command = std::variant<RunDefinition, WeightCommand, StyleCommand, Definition, Table>;
+/// EXECUTE: a program to run as if its text stood here.
+struct Execute {
+    struct Value {
+        std::string name, value;
+        Position position;
+    };
+    std::string file; ///< as written
+    std::vector<Value> values;
+    Position position, filePosition;
+};
+
+using Command =
+    std::variant<RunDefinition, WeightCommand, StyleCommand, Definition, Table, Execute>;
 using Program = std::vector<Command>;
 
 } // namespace kelx::language::ast

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/definition_parser.h"
 
-#include "language/clause_values.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -81,10 +80,15 @@ bool looksLikeKind(const Token& word, const Token& next) {
            next.kind == TokenKind::Word && next.is(Keyword::None);
 }
 
+bool takesElse(const ast::Definition& definition) {
+    return definition.kind == DefinitionKind::Recode || definition.kind == DefinitionKind::Switch ||
+           !definition.complete;
+}
+
 } // namespace
 
 void DefinitionParser::parse(ast::Program& program) {
-    given_.clear();
+    clauses_.startCommand();
     definition_ = {};
     const Token& word = cursor_.take();
     definition_.position = word.position;
@@ -130,11 +134,6 @@ bool DefinitionParser::expect(Keyword keyword, const char* what) {
     return false;
 }
 
-bool DefinitionParser::readInto(ast::NodePtr& into) {
-    into = expressions_.parse();
-    return into != nullptr;
-}
-
 bool DefinitionParser::readKind() {
     cursor_.takeKeyword(Keyword::As);
     const Token& word = cursor_.peek();
@@ -162,7 +161,7 @@ bool DefinitionParser::readKind() {
         return readIndicator();
     default:
         cursor_.takeKeyword(Keyword::Of);
-        return readInto(definition_.value);
+        return clauses_.readExpression(definition_.value);
     }
 }
 
@@ -174,7 +173,7 @@ bool DefinitionParser::readExpression() {
                            wordsFor(isDefineKind));
         return false;
     }
-    return readInto(definition_.value);
+    return clauses_.readExpression(definition_.value);
 }
 
 bool DefinitionParser::readEntity() {
@@ -217,7 +216,7 @@ bool DefinitionParser::readRecodeItem() {
     }
     ast::Assignment assignment;
     assignment.interval = intervals.front();
-    if (!readInto(assignment.value))
+    if (!clauses_.readExpression(assignment.value))
         return false;
     if (!cursor_.takeSymbol(")")) {
         cursor_.unexpected("\")\"");
@@ -230,9 +229,10 @@ bool DefinitionParser::readRecodeItem() {
 bool DefinitionParser::readSwitch() {
     do {
         ast::Assignment assignment;
-        if (!expect(Keyword::Case, "CASE and a condition") || !readInto(assignment.condition) ||
+        if (!expect(Keyword::Case, "CASE and a condition") ||
+            !clauses_.readExpression(assignment.condition) ||
             !expect(Keyword::Assign, "an operator, or ASSIGN and the value") ||
-            !readInto(assignment.value))
+            !clauses_.readExpression(assignment.value))
             return false;
         definition_.assignments.push_back(std::move(assignment));
     } while (cursor_.peek().is(Keyword::Case));
@@ -247,8 +247,8 @@ bool DefinitionParser::readSample() {
         return false;
     }
     const bool random = definition_.kind == DefinitionKind::SampleRandom;
-    const std::optional<std::int64_t> number = readWhole(
-        cursor_, 1, random ? "the largest number to draw" : "the step, which takes every n-th");
+    const std::optional<std::int64_t> number = clauses_.readWhole(
+        1, random ? "the largest number to draw" : "the step, which takes every n-th");
     if (number)
         definition_.sample = *number;
     return number.has_value();
@@ -271,9 +271,10 @@ bool DefinitionParser::readFraction() {
 }
 
 bool DefinitionParser::readIndicator() {
-    return expect(Keyword::Num, "NUM and an expression") && readInto(definition_.value) &&
+    return expect(Keyword::Num, "NUM and an expression") &&
+           clauses_.readExpression(definition_.value) &&
            expect(Keyword::Denom, "an operator, or DENOM and an expression") &&
-           readInto(definition_.denominator);
+           clauses_.readExpression(definition_.denominator);
 }
 
 void DefinitionParser::readClauses(ast::Program& program) {
@@ -281,11 +282,6 @@ void DefinitionParser::readClauses(ast::Program& program) {
         if (!readClause(program))
             cursor_.skipToClause();
     }
-}
-
-bool DefinitionParser::misplaced(const Token& clause, const char* reason) {
-    cursor_.report(Error::MisplacedClause, clause.position, {upperCase(clause.text), reason});
-    return false;
 }
 
 bool DefinitionParser::readClause(ast::Program& program) {
@@ -299,38 +295,38 @@ bool DefinitionParser::readClause(ast::Program& program) {
         cursor_.take();
         return false;
     }
-    cursor_.take();
     if ((places & isDefineClause) == 0)
-        return misplaced(clause, (places & isTableClause) != 0 ? "it belongs to a table"
-                                                               : "it belongs to RUNDEF");
-    if (given_.insert(clause.keyword).second)
-        return readNewClause(clause, program);
-    cursor_.report(Error::RepeatedClause, clause.position, {upperCase(clause.text)});
-    return false;
+        return clauses_.misplaced((places & isTableClause) != 0 ? "it belongs to a table"
+                                                                : "it belongs to RUNDEF");
+    if (clause.is(Keyword::Else) && !takesElse(definition_))
+        return clauses_.misplaced("it belongs to RECODE and SWITCH; DEFAULT sets the value that "
+                                  "stands where there is no other");
+    cursor_.take();
+    return clauses_.firstTime(clause) && readNewClause(clause, program);
 }
 
 bool DefinitionParser::readNewClause(const Token& clause, ast::Program& program) {
     ast::Definition& d = definition_;
     switch (clause.keyword) {
     case Keyword::Else:
-        return readElse(clause);
+        return clauses_.readExpression(d.otherwise);
     case Keyword::Weight:
         d.weightPosition = clause.position;
-        return readInto(d.weight);
+        return clauses_.readExpression(d.weight);
     case Keyword::Filter:
-        return readInto(d.filter);
+        return clauses_.readExpression(d.filter);
     case Keyword::Type:
         return readType(clause);
     case Keyword::Decimals:
-        return readDecimals(cursor_, d.decimals);
+        return clauses_.readDecimals(d.decimals);
     case Keyword::Range:
         return readRanges(d.ranges);
     case Keyword::Varlabel:
-        return readText(cursor_, d.label, "the label in quotes");
+        return clauses_.readText(d.label, "the label in quotes");
     case Keyword::Valuelabels:
         return readValueLabels();
     case Keyword::Doc:
-        return readText(cursor_, d.documentation, "the documentation in quotes");
+        return clauses_.readText(d.documentation, "the documentation in quotes");
     case Keyword::Default:
         return readLiteral(d.defaultValue, "the value that stands where there is no other");
     case Keyword::Missing:
@@ -351,15 +347,6 @@ bool DefinitionParser::readNewClause(const Token& clause, ast::Program& program)
     default:
         return readStyle(program);
     }
-}
-
-bool DefinitionParser::readElse(const Token& clause) {
-    const bool takes = definition_.kind == DefinitionKind::Recode ||
-                       definition_.kind == DefinitionKind::Switch || !definition_.complete;
-    if (takes)
-        return readInto(definition_.otherwise);
-    return misplaced(clause, "it belongs to RECODE and SWITCH; DEFAULT sets the value that stands "
-                             "where there is no other");
 }
 
 bool DefinitionParser::readType(const Token& clause) {
@@ -404,7 +391,7 @@ bool DefinitionParser::readValueLabels() {
         std::optional<ast::Literal> value;
         std::optional<std::string> label;
         if (!readLiteral(value, "a code and its label, as in 1 \"Yes\"") ||
-            !readText(cursor_, label, ("the label of " + value->text + " in quotes").c_str()))
+            !clauses_.readText(label, ("the label of " + value->text + " in quotes").c_str()))
             return false;
         definition_.valueLabels.push_back({std::move(*value), std::move(*label)});
     } while (atValueLabel());
@@ -455,7 +442,7 @@ bool DefinitionParser::readAlias() {
 bool DefinitionParser::readGroup() {
     const Token& token = cursor_.peek();
     if (token.kind == TokenKind::Text)
-        return readText(cursor_, definition_.group, "");
+        return clauses_.readText(definition_.group, "");
     const bool word =
         token.kind == TokenKind::Word && !token.firstOnLine &&
         (!token.reserved || cursor_.peek(1).firstOnLine || cursor_.peek(1).kind == TokenKind::End);
@@ -477,7 +464,7 @@ bool DefinitionParser::readSave() {
     const char* const expected = "the name of a file in quotes";
     save.position = cursor_.peek().position;
     std::optional<std::string> file;
-    if (!readText(cursor_, file, expected))
+    if (!clauses_.readText(file, expected))
         return false;
     if (file->empty()) {
         cursor_.report(Error::Unexpected, save.position, {"an empty text", expected, ""});
@@ -491,7 +478,7 @@ bool DefinitionParser::readSave() {
 
 bool DefinitionParser::readSensitive() {
     const std::optional<std::int64_t> number =
-        readWhole(cursor_, 0, "the least number of records that may be shown");
+        clauses_.readWhole(0, "the least number of records that may be shown");
     if (!number)
         return false;
     constexpr std::int64_t most = std::numeric_limits<int>::max();
@@ -504,7 +491,7 @@ bool DefinitionParser::readStyle(ast::Program& program) {
     if (cursor_.peek().is(Keyword::Tablestyle))
         cursor_.take();
     std::optional<std::string> file;
-    if (!readText(cursor_, file, "the name of a table style file in quotes"))
+    if (!clauses_.readText(file, "the name of a table style file in quotes"))
         return false;
     program.emplace_back(ast::StyleCommand{std::move(*file)});
     return true;

@@ -3,17 +3,14 @@
 #pragma once
 
 #include "language/ast.h"
-#include "language/expression_parser.h"
-#include "language/token_cursor.h"
-
-#include <set>
+#include "language/clause_reader.h"
 
 namespace kelx::language {
 
 class DefinitionParser {
 public:
-    DefinitionParser(TokenCursor& cursor, ExpressionParser& expressions)
-        : cursor_(cursor), expressions_(expressions) {}
+    explicit DefinitionParser(ClauseReader& clauses)
+        : clauses_(clauses), cursor_(clauses.cursor()), expressions_(clauses.expressions()) {}
 
     /// From the word DEFINE to the next command.
     void parse(ast::Program& program);
@@ -35,7 +32,6 @@ private:
     void readClauses(ast::Program& program);
     bool readClause(ast::Program& program);
     bool readNewClause(const Token& clause, ast::Program& program);
-    bool readElse(const Token& clause);
     bool readType(const Token& clause);
     bool readRanges(std::vector<ast::Interval>& intervals);
     bool readValueLabels();
@@ -46,13 +42,11 @@ private:
     bool readSave();
     bool readSensitive();
     bool readStyle(ast::Program& program);
-    bool readInto(ast::NodePtr& into);
-    bool misplaced(const Token& clause, const char* reason);
 
+    ClauseReader& clauses_;
     TokenCursor& cursor_;
     ExpressionParser& expressions_;
     ast::Definition definition_;
-    std::set<Keyword> given_; ///< clauses of the definition being read
 };
 
 } // namespace kelx::language

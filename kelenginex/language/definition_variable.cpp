@@ -3,7 +3,7 @@
 
 #include "catalog/names.h"
 #include "language/definition_values.h"
-#include "language/file_names.h"
+#include "language/files.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -74,7 +74,7 @@ bool isDataFile(const fs::path& file) {
 
 /// Inside of the data folder a dictionary names files without it.
 std::string nameFor(const fs::path& file, const fs::path& folder) {
-    const fs::path relative = file.lexically_relative(absoluteFile("", folder));
+    const fs::path relative = file.lexically_relative(resolvedFile("", folder));
     const bool inside = !relative.empty() && *relative.begin() != "..";
     return inside ? relative.generic_string() : file.generic_string();
 }
@@ -193,7 +193,7 @@ std::optional<SaveClause> DefinitionVariable::save(const ast::Definition& ast, V
     if (!ast.save)
         return std::nullopt;
     SaveClause clause;
-    clause.file = absoluteFile(ast.save->file, context_.options().baseFolder);
+    clause.file = resolvedFile(ast.save->file, context_.options().baseFolder);
     if (!isDataFile(clause.file))
         clause.file += ".kbf";
     clause.overwrite = ast.save->overwrite;

@@ -19,7 +19,7 @@ constexpr unsigned all = both | isDefineClause;
 const std::vector<KeywordEntry> entries = {
     {"rundef", Keyword::Rundef, command},
     {"define", Keyword::Define, command},
-    {"execute", Keyword::Execute, command | notSupportedYet},
+    {"execute", Keyword::Execute, command},
     {"table", Keyword::Table, command},
     {"frequency", Keyword::Frequency, table},
     {"freq", Keyword::Frequency, table},

@@ -137,6 +137,19 @@ const std::vector<MessageEntry> table = {
           "SAVE replaces the file of another variable only where it is told to."),
     error(Error::SaveTwice, "KEL_E_SAVE_TWICE", "The program saves two variables as %1.",
           "Each variable needs a file of its own."),
+    error(Error::ProgramFile, "KEL_E_PROGRAM_FILE", "The program %1 %2.",
+          "The file that EXECUTE names is missing or no program."),
+    error(Error::ProgramCycle, "KEL_E_PROGRAM_CYCLE",
+          "The program %1 cannot be called here: it is being called already.",
+          "A program cannot call itself, nor one that calls it."),
+    error(Error::CallsTooDeep, "KEL_E_CALLS_TOO_DEEP",
+          "Programs call each other more than %1 deep here.",
+          "A called program may call others in turn, but not without end."),
+    error(Error::TooManyCalls, "KEL_E_TOO_MANY_CALLS",
+          "The program calls more than %1 programs, or %2 bytes of them.",
+          "Protects against programs that call each other again and again."),
+    error(Error::UnknownValue, "KEL_E_UNKNOWN_VALUE", "EXECUTE gives no value for {%1}.%2",
+          "Each name between braces in a called program needs a value in the EXECUTE command."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -162,6 +175,8 @@ const std::vector<MessageEntry> table = {
     warning(Warning::WeightIgnored, "KEL_W_WEIGHT_IGNORED",
             "NUMBER has no use for a weight: it is left out.",
             "The place of a record does not depend on weights."),
+    warning(Warning::UnusedValue, "KEL_W_UNUSED_VALUE", "The program %1 has no {%2}.%3",
+            "EXECUTE gives a value that the called program does not ask for."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

@@ -60,6 +60,11 @@ enum class Error : int {
     BadAlias,
     SaveExists,
     SaveTwice,
+    ProgramFile,
+    ProgramCycle,
+    CallsTooDeep,
+    TooManyCalls,
+    UnknownValue,
 };
 
 /// Codes of warnings; the same rule.
@@ -73,6 +78,7 @@ enum class Warning : int {
     OtherDictionary,
     OpenSelection,
     WeightIgnored,
+    UnusedValue,
 };
 
 /// A line of the table.

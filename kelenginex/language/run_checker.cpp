@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/run_checker.h"
 
-#include "language/file_names.h"
+#include "language/files.h"
 #include "language/selection_file.h"
 #include "language/text.h"
 
@@ -25,7 +25,7 @@ CheckedSettings RunChecker::defaults() const {
 
 CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
                                      const CheckedSettings& current) {
-    tableStyle_ = absoluteFile(style.file, context_.options().baseFolder).string();
+    tableStyle_ = resolvedFile(style.file, context_.options().baseFolder).string();
     RunSettings settings = *current.settings;
     settings.tableStyle = tableStyle_;
     return {std::make_shared<const RunSettings>(std::move(settings)), current.selectionPosition};
@@ -34,7 +34,7 @@ CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
 void RunChecker::setStyles(const ast::RunDefinition& run, RunSettings& settings) const {
     const auto set = [&](std::optional<std::string>& into, const std::optional<std::string>& file) {
         if (file)
-            into = absoluteFile(*file, context_.options().baseFolder).string();
+            into = resolvedFile(*file, context_.options().baseFolder).string();
     };
     set(settings.tableStyle, run.tableStyle);
     set(settings.graphStyle, run.graphStyle);
@@ -82,7 +82,7 @@ void RunChecker::checkDictionary(const ast::RunDefinition& run) {
     const std::filesystem::path& open = context_.dictionary().file;
     if (!run.dictionary || open.empty())
         return;
-    const std::filesystem::path told = absoluteFile(*run.dictionary, context_.options().baseFolder);
+    const std::filesystem::path told = resolvedFile(*run.dictionary, context_.options().baseFolder);
     std::error_code missing;
     const bool same = lowerCase(told.filename().string()) == lowerCase(open.filename().string()) ||
                       std::filesystem::equivalent(told, open, missing);
@@ -109,7 +109,7 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
     AreaSelection result;
     SelectionFileContent content;
     try {
-        content = readSelectionFile(absoluteFile(file, context_.options().baseFolder));
+        content = readSelectionFile(resolvedFile(file, context_.options().baseFolder));
     } catch (const std::runtime_error& fault) {
         context_.report(Error::SelectionFile, position, {inQuotes(file), fault.what()});
         return result;
