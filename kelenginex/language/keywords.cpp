@@ -14,23 +14,24 @@ constexpr unsigned laterTable = table | notSupportedYet;
 constexpr unsigned both = isTableClause | isRunClause;
 constexpr unsigned laterClause = isTableClause | notSupportedYet;
 constexpr unsigned command = startsCommand | startsAnywhere;
+constexpr unsigned all = both | isDefineClause;
 
 const std::vector<KeywordEntry> entries = {
     {"rundef", Keyword::Rundef, command},
-    {"define", Keyword::Define, command | notSupportedYet},
-    {"execute", Keyword::Execute, command | notSupportedYet},
+    {"define", Keyword::Define, command},
+    {"execute", Keyword::Execute, command},
     {"table", Keyword::Table, command},
     {"frequency", Keyword::Frequency, table},
     {"freq", Keyword::Frequency, table},
     {"crosstabs", Keyword::Crosstabs, table},
-    {"count", Keyword::Count, table},
-    {"average", Keyword::Average, laterTable},
-    {"median", Keyword::Median, laterTable},
-    {"sum", Keyword::Sum, laterTable},
-    {"minimum", Keyword::Minimum, laterTable},
-    {"min", Keyword::Minimum, laterTable},
-    {"maximum", Keyword::Maximum, laterTable},
-    {"max", Keyword::Maximum, laterTable},
+    {"count", Keyword::Count, table | isDefineKind},
+    {"average", Keyword::Average, laterTable | isDefineKind},
+    {"median", Keyword::Median, laterTable | isDefineKind},
+    {"sum", Keyword::Sum, laterTable | isDefineKind},
+    {"minimum", Keyword::Minimum, laterTable | isDefineKind},
+    {"min", Keyword::Minimum, laterTable | isDefineKind},
+    {"maximum", Keyword::Maximum, laterTable | isDefineKind},
+    {"max", Keyword::Maximum, laterTable | isDefineKind},
     {"stats", Keyword::Stats, laterTable},
     {"gini", Keyword::Gini, laterTable},
     {"quantile", Keyword::Quantile, laterTable},
@@ -38,28 +39,48 @@ const std::vector<KeywordEntry> entries = {
     {"view", Keyword::View, laterTable},
     {"tabop", Keyword::Tabop, laterTable},
     {"tablist", Keyword::Tablist, laterTable},
-    {"weight", Keyword::Weight, both},
+    {"weight", Keyword::Weight, all},
     {"tally", Keyword::Tally, isTableClause},
-    {"filter", Keyword::Filter, both},
+    {"filter", Keyword::Filter, all},
     {"title", Keyword::Title, both},
-    {"decimals", Keyword::Decimals, both},
+    {"decimals", Keyword::Decimals, all},
     {"by", Keyword::By, isTableClause},
     {"of", Keyword::Of, isTableClause},
     {"sort", Keyword::Sort, laterClause},
     {"outfile", Keyword::Outfile, laterClause},
     {"outgraph", Keyword::Outgraph, laterClause},
-    {"save", Keyword::Save, laterClause},
-    {"sensitive", Keyword::Sensitive, laterClause},
-    {"tablestyle", Keyword::Tablestyle, both | notSupportedYet},
+    {"save", Keyword::Save, laterClause | isDefineClause},
+    {"sensitive", Keyword::Sensitive, laterClause | isDefineClause},
+    {"tablestyle", Keyword::Tablestyle, all | notSupportedYet},
     {"graphstyle", Keyword::Graphstyle, both | notSupportedYet},
     {"mapstyle", Keyword::Mapstyle, both | notSupportedYet},
-    {"areabreak", Keyword::Areabreak, isRunClause | notSupportedYet},
+    {"areabreak", Keyword::Areabreak, isRunClause},
     {"selection", Keyword::Selection, isRunClause},
     {"selectionlabel", Keyword::Selectionlabel, isRunClause},
     {"filterlabel", Keyword::Filterlabel, isRunClause},
     {"autoweight", Keyword::Autoweight, isRunClause},
     {"noweight", Keyword::Noweight, isRunClause},
     {"dictionary", Keyword::Dictionary, isRunClause},
+    {"recode", Keyword::Recode, isDefineKind},
+    {"switch", Keyword::Switch, isDefineKind},
+    {"number", Keyword::Number, isDefineKind},
+    {"sample", Keyword::Sample, isDefineKind},
+    {"ratio", Keyword::Ratio, isDefineKind},
+    {"fraction", Keyword::Fraction, isDefineKind},
+    {"indicator", Keyword::Indicator, isDefineKind},
+    {"else", Keyword::Else, isDefineClause},
+    {"type", Keyword::Type, isDefineClause},
+    {"range", Keyword::Range, isDefineClause},
+    {"varlabel", Keyword::Varlabel, isDefineClause},
+    {"valuelabels", Keyword::Valuelabels, isDefineClause},
+    {"doc", Keyword::Doc, isDefineClause},
+    {"documentation", Keyword::Doc, isDefineClause},
+    {"default", Keyword::Default, isDefineClause},
+    {"missing", Keyword::Missing, isDefineClause},
+    {"notapp", Keyword::Notapp, isDefineClause},
+    {"like", Keyword::Like, isDefineClause},
+    {"alias", Keyword::Alias, isDefineClause},
+    {"group", Keyword::Group, isDefineClause},
     {"and", Keyword::And, 0},
     {"or", Keyword::Or, 0},
     {"not", Keyword::Not, 0},
@@ -70,6 +91,13 @@ const std::vector<KeywordEntry> entries = {
     {"inline", Keyword::Inline, 0},
     {"lowest", Keyword::Lowest, 0},
     {"highest", Keyword::Highest, 0},
+    {"random", Keyword::Random, 0},
+    {"systematic", Keyword::Systematic, 0},
+    {"case", Keyword::Case, 0},
+    {"assign", Keyword::Assign, 0},
+    {"num", Keyword::Num, 0},
+    {"denom", Keyword::Denom, 0},
+    {"overwrite", Keyword::Overwrite, 0},
 };
 
 std::unordered_map<std::string, Keyword> makeIndex() {
@@ -106,6 +134,15 @@ std::vector<std::string> wordsFor(unsigned places) {
     std::vector<std::string> words;
     for (const KeywordEntry& entry : entries) {
         if ((entry.places & places) != 0)
+            words.push_back(upperCase(entry.word));
+    }
+    return words;
+}
+
+std::vector<std::string> wordsOf(Keyword keyword) {
+    std::vector<std::string> words;
+    for (const KeywordEntry& entry : entries) {
+        if (entry.keyword == keyword)
             words.push_back(upperCase(entry.word));
     }
     return words;

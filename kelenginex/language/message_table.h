@@ -49,6 +49,22 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
+    SelfReference,
+    BelowEntity,
+    NotBelow,
+    AggregateBranch,
+    NumberEntity,
+    MixedValues,
+    TypeConversion,
+    ClauseValue,
+    BadAlias,
+    SaveExists,
+    SaveTwice,
+    ProgramFile,
+    ProgramCycle,
+    CallsTooDeep,
+    TooManyCalls,
+    UnknownValue,
 };
 
 /// Codes of warnings; the same rule.
@@ -60,6 +76,9 @@ enum class Warning : int {
     TableNameAgain,
     UnknownArea,
     OtherDictionary,
+    OpenSelection,
+    WeightIgnored,
+    UnusedValue,
 };
 
 /// A line of the table.

@@ -98,11 +98,12 @@ void TableChecker::addAll(List& list, const ast::Name& name, bool& good) {
         good = false;
         return;
     }
-    if (entity->variables.empty()) {
+    const std::vector<const Variable*>& all = context_.names().variablesOf(*entity);
+    if (all.empty()) {
         context_.report(Error::NoVariables, name.position, {entity->name});
         good = false;
     }
-    for (const auto& variable : entity->variables) {
+    for (const Variable* variable : all) {
         list.push_back(expressions_.variable(*variable, name.position));
         good = list.back() != nullptr && good;
     }
