@@ -144,25 +144,22 @@ ActualTable tableOf(TKelOutput& output, const std::filesystem::path& folder) {
     return table;
 }
 
-/// What the last program gave.
-Outcome runPrograms(const Case& given, const std::filesystem::path& folder) {
+/// What one program gives.
+Outcome runProgram(const std::string& program, const std::shared_ptr<TKelDictionary>& dictionary,
+                   const std::filesystem::path& folder) {
     Outcome outcome;
-    for (const std::string& program : given.programs) {
-        outcome = {};
-        Listener listener;
-        try {
-            const auto session = kel::makeDefaultSession(
-                kel::readDictionary((folder / (given.database + ".kxdb")).string(), nullptr, true));
-            session->setErrorsListener(&listener);
-            session->executeText(program, nullptr);
-            for (TKelOutput* output : session->outputs())
-                outcome.tables.push_back(tableOf(*output, folder));
-        } catch (const std::exception& error) {
-            outcome.thrown = fromFolder(error.what(), folder);
-        }
-        for (const std::string& message : listener.messages)
-            outcome.messages.push_back(fromFolder(message, folder));
+    Listener listener;
+    try {
+        const auto session = kel::makeDefaultSession(dictionary);
+        session->setErrorsListener(&listener);
+        session->executeText(program, nullptr);
+        for (TKelOutput* output : session->outputs())
+            outcome.tables.push_back(tableOf(*output, folder));
+    } catch (const std::exception& error) {
+        outcome.thrown = fromFolder(error.what(), folder);
     }
+    for (const std::string& message : listener.messages)
+        outcome.messages.push_back(fromFolder(message, folder));
     return outcome;
 }
 
@@ -174,7 +171,12 @@ Outcome runCase(const Case& given, const std::filesystem::path& folder, unsigned
         writeFile(folder / name, text);
     const Engine engine(given);
     boundary::setRunTuning({threads, blockRecords});
-    return runPrograms(given, folder);
+    const auto dictionary =
+        kel::readDictionary((folder / (given.database + ".kxdb")).string(), nullptr, true);
+    Outcome outcome;
+    for (const std::string& program : given.programs)
+        outcome = runProgram(program, dictionary, folder);
+    return outcome;
 }
 
 std::string toText(const Outcome& outcome) {
