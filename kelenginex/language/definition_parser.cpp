@@ -74,10 +74,11 @@ DefinitionKind kindOf(Keyword keyword) {
     }
 }
 
-/// Words that follow a whole expression are no expression: a kind may be misspelt.
+/// A word before another is no expression, but may be a misspelt kind.
 bool looksLikeKind(const Token& word, const Token& next) {
     return word.kind == TokenKind::Word && word.is(Keyword::None) && !word.reserved &&
-           next.kind == TokenKind::Word && next.is(Keyword::None);
+           next.kind == TokenKind::Word && next.is(Keyword::None) &&
+           !nearest(word.text, wordsFor(isDefineKind)).empty();
 }
 
 bool takesElse(const ast::Definition& definition) {
@@ -434,6 +435,7 @@ bool DefinitionParser::readAlias() {
         cursor_.unexpected("a short name that is no word of the language");
         return false;
     }
+    definition_.aliasPosition = token.position;
     definition_.alias = cursor_.take().value();
     return true;
 }
