@@ -14,7 +14,7 @@ class Checker {
 public:
     explicit Checker(CheckerContext& context)
         : context_(context), expressions_(context), runs_(context, expressions_),
-          tables_(context, expressions_), calls_(context), settings_(runs_.defaults()) {}
+          tables_(context, expressions_, bound_), calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
@@ -35,7 +35,7 @@ private:
     void take(const ast::Definition& definition) {
         context_.expectName(definition.name.entity, definition.name.name);
     }
-    void take(const ast::Table& table) { tables_.check(table, settings_, bound_); }
+    void take(const ast::Table& table) { tables_.check(table, settings_); }
 
     void take(const ast::Execute& command) {
         calls_.call(command, [this](const ast::Program& program) { takeAll(program); });
@@ -44,10 +44,10 @@ private:
     CheckerContext& context_;
     ExpressionChecker expressions_;
     RunChecker runs_;
+    BoundProgram bound_;
     TableChecker tables_;
     ProgramCaller calls_;
     CheckedSettings settings_;
-    BoundProgram bound_;
 };
 
 } // namespace

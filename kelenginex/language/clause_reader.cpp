@@ -86,4 +86,21 @@ bool ClauseReader::readDecimals(std::optional<int>& into) {
     return true;
 }
 
+std::optional<int> ClauseReader::readWhole(const std::string& clause, int least, int most) {
+    const Token& token = cursor_.peek();
+    if (token.kind != TokenKind::Number) {
+        cursor_.unexpected("the number of " + clause);
+        return std::nullopt;
+    }
+    cursor_.take();
+    int value = 0;
+    const char* const end = token.text.data() + token.text.size();
+    const auto read = std::from_chars(token.text.data(), end, value);
+    if (read.ec == std::errc() && read.ptr == end && value >= least && value <= most)
+        return value;
+    cursor_.report(Error::BadCount, token.position,
+                   {clause, std::to_string(least), std::to_string(most), std::string(token.text)});
+    return std::nullopt;
+}
+
 } // namespace kelx::language

@@ -10,9 +10,7 @@ namespace kelx::language {
 namespace {
 
 constexpr unsigned table = startsCommand | isTableKind;
-constexpr unsigned laterTable = table | notSupportedYet;
 constexpr unsigned both = isTableClause | isRunClause;
-constexpr unsigned laterClause = isTableClause | notSupportedYet;
 constexpr unsigned command = startsCommand | startsAnywhere;
 
 const std::vector<KeywordEntry> entries = {
@@ -24,20 +22,20 @@ const std::vector<KeywordEntry> entries = {
     {"freq", Keyword::Frequency, table},
     {"crosstabs", Keyword::Crosstabs, table},
     {"count", Keyword::Count, table},
-    {"average", Keyword::Average, laterTable},
-    {"median", Keyword::Median, laterTable},
-    {"sum", Keyword::Sum, laterTable},
-    {"minimum", Keyword::Minimum, laterTable},
-    {"min", Keyword::Minimum, laterTable},
-    {"maximum", Keyword::Maximum, laterTable},
-    {"max", Keyword::Maximum, laterTable},
-    {"stats", Keyword::Stats, laterTable},
-    {"gini", Keyword::Gini, laterTable},
-    {"quantile", Keyword::Quantile, laterTable},
-    {"arealist", Keyword::Arealist, laterTable},
-    {"view", Keyword::View, laterTable},
-    {"tabop", Keyword::Tabop, laterTable},
-    {"tablist", Keyword::Tablist, laterTable},
+    {"average", Keyword::Average, table},
+    {"median", Keyword::Median, table},
+    {"sum", Keyword::Sum, table},
+    {"minimum", Keyword::Minimum, table},
+    {"min", Keyword::Minimum, table},
+    {"maximum", Keyword::Maximum, table},
+    {"max", Keyword::Maximum, table},
+    {"stats", Keyword::Stats, table},
+    {"gini", Keyword::Gini, table},
+    {"quantile", Keyword::Quantile, table},
+    {"arealist", Keyword::Arealist, table},
+    {"view", Keyword::View, table},
+    {"tabop", Keyword::Tabop, table},
+    {"tablist", Keyword::Tablist, table},
     {"weight", Keyword::Weight, both},
     {"tally", Keyword::Tally, isTableClause},
     {"filter", Keyword::Filter, both},
@@ -45,11 +43,11 @@ const std::vector<KeywordEntry> entries = {
     {"decimals", Keyword::Decimals, both},
     {"by", Keyword::By, isTableClause},
     {"of", Keyword::Of, isTableClause},
-    {"sort", Keyword::Sort, laterClause},
-    {"outfile", Keyword::Outfile, laterClause},
-    {"outgraph", Keyword::Outgraph, laterClause},
-    {"save", Keyword::Save, laterClause},
-    {"sensitive", Keyword::Sensitive, laterClause},
+    {"sort", Keyword::Sort, isTableClause},
+    {"outfile", Keyword::Outfile, isTableClause},
+    {"outgraph", Keyword::Outgraph, isTableClause},
+    {"save", Keyword::Save, isTableClause},
+    {"sensitive", Keyword::Sensitive, isTableClause},
     {"tablestyle", Keyword::Tablestyle, both | notSupportedYet},
     {"graphstyle", Keyword::Graphstyle, both | notSupportedYet},
     {"mapstyle", Keyword::Mapstyle, both | notSupportedYet},

@@ -54,6 +54,16 @@ enum class Error : int {
     CallsTooDeep,
     TooManyCalls,
     UnknownValue,
+    BadCount,
+    NothingCounted,
+    UnknownTable,
+    ColumnBelow,
+    TableColumn,
+    TableOperand,
+    TableOperator,
+    TableShapes,
+    TablistTable,
+    SortColumn,
 };
 
 /// Codes of warnings; the same rule.
@@ -66,6 +76,11 @@ enum class Warning : int {
     UnknownArea,
     OtherDictionary,
     UnusedValue,
+    NoEffect,
+    ColumnTwice,
+    SortCrosstab,
+    OutfileType,
+    OutfileFormat,
 };
 
 /// A line of the table.
