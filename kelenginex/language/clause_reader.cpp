@@ -17,12 +17,6 @@ std::vector<std::string> joined(std::vector<std::string> words,
 
 } // namespace
 
-void ClauseReader::notSupported() {
-    const Token& token = cursor_.take();
-    if (unsupported_.insert(token.keyword).second)
-        cursor_.report(Error::NotSupported, token.position, {upperCase(token.text)});
-}
-
 bool ClauseReader::misplaced(const std::string& reason) {
     const Token& token = cursor_.take();
     cursor_.report(Error::MisplacedClause, token.position, {upperCase(token.text), reason});
@@ -36,20 +30,15 @@ bool ClauseReader::firstTime(const Token& clause) {
     return false;
 }
 
-std::optional<bool> ClauseReader::passOver(const Token& clause, const ClausePlace& place) {
+bool ClauseReader::canRead(const Token& clause, const ClausePlace& place) {
     const unsigned places = placesOf(clause.keyword);
-    if ((places & place.own) == 0) {
-        if ((places & place.other) != 0)
-            return misplaced(place.otherReason);
-        cursor_.unexpected(place.expected, joined(wordsFor(place.own), wordsFor(startsCommand)));
-        cursor_.take();
-        return false;
-    }
-    if ((places & notSupportedYet) == 0)
-        return std::nullopt;
-    notSupported();
-    cursor_.skipClause();
-    return true;
+    if ((places & place.own) != 0)
+        return true;
+    if ((places & place.other) != 0)
+        return misplaced(place.otherReason);
+    cursor_.unexpected(place.expected, joined(wordsFor(place.own), wordsFor(startsCommand)));
+    cursor_.take();
+    return false;
 }
 
 bool ClauseReader::readExpression(ast::NodePtr& into) {
@@ -86,7 +75,7 @@ bool ClauseReader::readDecimals(std::optional<int>& into) {
     return true;
 }
 
-std::optional<int> ClauseReader::readWhole(const std::string& clause, int least, int most) {
+std::optional<int> ClauseReader::readCount(const std::string& clause, int least, int most) {
     const Token& token = cursor_.peek();
     if (token.kind != TokenKind::Number) {
         cursor_.unexpected("the number of " + clause);
@@ -100,6 +89,19 @@ std::optional<int> ClauseReader::readWhole(const std::string& clause, int least,
         return value;
     cursor_.report(Error::BadCount, token.position,
                    {clause, std::to_string(least), std::to_string(most), std::string(token.text)});
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> ClauseReader::readWhole(std::int64_t least, const char* what) {
+    const Token& token = cursor_.peek();
+    const std::optional<Constant> number =
+        token.kind == TokenKind::Number ? numberOf(token.text) : std::nullopt;
+    const auto* whole = number ? std::get_if<std::int64_t>(&*number) : nullptr;
+    if (whole != nullptr && *whole >= least) {
+        cursor_.take();
+        return *whole;
+    }
+    cursor_.unexpected(std::string(what) + ", a whole number from " + std::to_string(least));
     return std::nullopt;
 }
 
