@@ -97,7 +97,20 @@ private:
     std::optional<plan::ValueText> label_;
 };
 
+/// Numbers of records: their own codes.
+class RecordNames : public CodeNames {
+public:
+    Category name(std::uint64_t record) override {
+        Category category;
+        category.value = static_cast<std::int64_t>(record);
+        category.code = category.label = std::to_string(record);
+        return category;
+    }
+};
+
 std::unique_ptr<CodeNames> namesOf(const language::Expression& expression) {
+    if (expression.operation == Operation::RecordNumber)
+        return std::make_unique<RecordNames>();
     if (expression.operation == Operation::CompoundCode)
         return std::make_unique<AreaNames>(*expression.codeEntity);
     return std::make_unique<VariableNames>(*expression.variable);
@@ -105,7 +118,9 @@ std::unique_ptr<CodeNames> namesOf(const language::Expression& expression) {
 
 Dimension describe(const language::Expression& expression) {
     Dimension dimension;
-    if (expression.operation == Operation::CompoundCode) {
+    if (expression.operation == Operation::RecordNumber) {
+        dimension.name = dimension.label = expression.text;
+    } else if (expression.operation == Operation::CompoundCode) {
         const Entity& entity = *expression.codeEntity;
         dimension.variable = entity.codeVar;
         dimension.name = expression.text;
