@@ -14,6 +14,13 @@ std::string keyOf(const std::string& entity, const std::string& name) {
 
 } // namespace
 
+CheckerContext::Place CheckerContext::moveTo(Place place) {
+    Place before{program_, std::move(options_.baseFolder)};
+    program_ = place.program;
+    options_.baseFolder = std::move(place.folder);
+    return before;
+}
+
 void CheckerContext::expectName(const std::string& entity, const std::string& name) {
     expected_.insert(keyOf(entity, name));
     expected_.insert(keyOf("", name));

@@ -29,6 +29,14 @@ public:
     Messages& messages() { return messages_; }
     std::string_view program() const { return program_; }
 
+    /// The text that is checked, and the folder that it names files from.
+    struct Place {
+        std::string_view program;
+        std::filesystem::path folder;
+    };
+    /// Goes to another text; gives where it was.
+    Place moveTo(Place place);
+
     template <typename Code>
     void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
         messages_.add(makeMessage(code, position, values));
@@ -49,7 +57,7 @@ private:
     std::string_view program_;
     const catalog::Dictionary& dictionary_;
     const Names& names_;
-    const CompileOptions& options_;
+    CompileOptions options_;
     Messages& messages_;
     std::set<std::string> expected_;
     std::unordered_map<const catalog::Variable*, bool> checked_;

@@ -57,8 +57,9 @@ constexpr std::array<Symbol, 18> symbols = {{{"<==", "<="},
 
 class Lexer {
 public:
-    Lexer(std::string_view program, const OddNames& oddNames, Messages& messages)
-        : program_(program), oddNames_(oddNames), messages_(messages) {}
+    Lexer(std::string_view program, const OddNames& oddNames, Messages& messages,
+          std::size_t source)
+        : program_(program), oddNames_(oddNames), messages_(messages), position_{1, 1, source} {}
 
     std::vector<Token> run() {
         while (skipBlanks())
@@ -258,8 +259,20 @@ private:
         add(TokenKind::Text, length);
     }
 
+    /// Place of the brace that closes the one here.
+    std::size_t closingBrace() const {
+        std::size_t open = 0;
+        for (std::size_t i = 0; i < rest().size(); ++i) {
+            if (rest()[i] == '{')
+                ++open;
+            else if (rest()[i] == '}' && --open == 0)
+                return i;
+        }
+        return std::string_view::npos;
+    }
+
     void addBraced() {
-        const std::size_t end = rest().find('}');
+        const std::size_t end = closingBrace();
         if (end == std::string_view::npos)
             messages_.add(makeMessage(Error::UnterminatedBrace, position_));
         add(end == std::string_view::npos ? TokenKind::Invalid : TokenKind::Braced,
@@ -304,9 +317,9 @@ std::string Token::value() const {
     return result;
 }
 
-std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames,
-                            Messages& messages) {
-    return Lexer(program, oddNames, messages).run();
+std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames, Messages& messages,
+                            std::size_t source) {
+    return Lexer(program, oddNames, messages, source).run();
 }
 
 } // namespace kelx::language

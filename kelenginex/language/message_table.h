@@ -49,6 +49,21 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
+    ProgramFile,
+    ProgramCycle,
+    CallsTooDeep,
+    TooManyCalls,
+    UnknownValue,
+    BadCount,
+    NothingCounted,
+    UnknownTable,
+    ColumnBelow,
+    TableColumn,
+    TableOperand,
+    TableOperator,
+    TableShapes,
+    TablistTable,
+    SortColumn,
 };
 
 /// Codes of warnings; the same rule.
@@ -60,6 +75,12 @@ enum class Warning : int {
     TableNameAgain,
     UnknownArea,
     OtherDictionary,
+    UnusedValue,
+    NoEffect,
+    ColumnTwice,
+    SortCrosstab,
+    OutfileType,
+    OutfileFormat,
 };
 
 /// A line of the table.
