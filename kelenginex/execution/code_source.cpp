@@ -14,7 +14,8 @@ using language::Operation;
 using storage::Physical;
 
 CodeSource::CodeSource(const language::Expression& expression) : entity_(expression.entity) {
-    if (expression.operation == Operation::CompoundCode) {
+    if (expression.operation == Operation::CompoundCode ||
+        expression.operation == Operation::RecordNumber) {
         entity_ = expression.codeEntity;
         domain_ = {Physical::Code64, 0, entity_->records()};
         return;

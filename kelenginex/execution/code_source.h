@@ -24,9 +24,12 @@ struct CodeDomain {
 /// One for each thread.
 class CodeSource {
 public:
-    /// Throws std::runtime_error where the expression is neither a variable nor a compound code.
+    /// Throws std::runtime_error where the expression is no variable, compound code or record
+    /// number.
     explicit CodeSource(const language::Expression& expression);
 
+    /// Whose records have the codes.
+    const Entity& entity() const { return *entity_; }
     const CodeDomain& domain() const { return domain_; }
     bool isReal() const { return domain_.physical == storage::Physical::Real64; }
     /// Codes of the current frame of the base, in the domain's physical form; reals are doubles.

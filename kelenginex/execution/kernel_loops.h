@@ -289,6 +289,33 @@ void index(const Code* codes, std::size_t count, Code lowest, Code domain, std::
     }
 }
 
+void binReals(const double* values, std::size_t count, const BinScale& scale, std::uint16_t* bins) {
+    const double lowest = scale.lowest;
+    const double perUnit = scale.perUnit;
+    const double missing = scale.missing;
+    const double notApplicable = scale.notApplicable;
+    const double last = scale.bins - 1;
+    const double none = scale.bins;
+    for (std::size_t i = 0; i < count; ++i) {
+        const double value = values[i];
+        double bin = (value - lowest) * perUnit;
+        bin = bin > 0 ? bin : 0;
+        bin = bin < last ? bin : last;
+        const bool valid = (value == value) & (value != missing) & (value != notApplicable);
+        bins[i] = (std::uint16_t)(int)(valid ? bin : none);
+    }
+}
+
+std::size_t pickBins(const double* values, const std::uint16_t* bins, std::size_t count,
+                     const Byte* wanted, double* out) {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        out[kept] = values[i];
+        kept += wanted[bins[i]];
+    }
+    return kept;
+}
+
 template <class Code>
 constexpr CodeKernels<Code> codeKernels() {
     return {testRange<Code>, expand<Code>, index<Code, Byte>, index<Code, std::uint32_t>};
@@ -310,7 +337,9 @@ constexpr Kernels allKernels() {
             maskReal,
             andMasks,
             expand<double>,
-            countRuns};
+            countRuns,
+            binReals,
+            pickBins};
 }
 
 } // namespace
