@@ -172,17 +172,52 @@ struct Definition {
     bool complete = true; ///< false where a part could not be read
 };
 
+/// What a table measures: an expression, or all variables of an entity.
+struct Measure {
+    NodePtr expression;
+    std::optional<Name> all; ///< Entity.*
+};
+
+/// SORT. Numbers behind the column: the table's name makes the first one the number of a column.
+struct Sort {
+    std::string column;       ///< as written, a text without its quotes; may be empty
+    std::optional<Name> name; ///< not of a text
+    bool descending = false;
+    std::vector<int> numbers;
+    Position position;       ///< of the word
+    Position columnPosition; ///< of what stands behind it
+};
+
+/// OUTFILE.
+struct OutFile {
+    std::string type, format; ///< in lower case; empty where not given
+    std::string file;
+    bool overwrite = false;
+    Position position, formatPosition;
+};
+
 /// A table, with or without the word TABLE.
 struct Table {
     Keyword kind = Keyword::Frequency;
     std::string kindWord; ///< FREQ, CROSSTABS, COUNT
     std::string name;     ///< empty for the short form
     Position position;
-    std::vector<std::vector<Name>> dimensions; ///< the list of the command, then one for each BY
-    std::optional<Name> entity;                ///< of COUNT
+    std::vector<Measure> measures; ///< of AVERAGE to GINI
+    /// The list of FREQ and CROSSTABS, empty for other kinds, then one for each BY.
+    std::vector<std::vector<Name>> dimensions;
+    std::optional<Name> entity; ///< of COUNT, AREALIST and VIEW
+    std::vector<Name> names;    ///< columns of AREALIST and VIEW, tables of TABLIST
+    NodePtr operation;          ///< of TABOP
+    std::optional<int> quantiles;
     NodePtr weight, tally, filter;
-    std::optional<std::string> title;
-    std::optional<int> decimals;
+    std::optional<std::string> title, tableStyle, graphStyle, mapStyle;
+    std::optional<int> decimals, sensitive;
+    std::optional<Sort> sort;
+    std::optional<OutFile> outfile;
+    std::optional<std::string> save;
+    bool outgraph = false;
+    bool complete = true; ///< false where a part could not be read
+    Position weightPosition, tallyPosition, filterPosition, savePosition;
     Span span;
 };
 

@@ -16,8 +16,8 @@ class Checker {
 public:
     explicit Checker(CheckerContext& context)
         : context_(context), expressions_(context), runs_(context, expressions_),
-          definitions_(context, expressions_), tables_(context, expressions_), calls_(context),
-          settings_(runs_.defaults()) {}
+          definitions_(context, expressions_), tables_(context, expressions_, bound_),
+          calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
@@ -40,7 +40,7 @@ private:
     void take(const ast::Definition& definition) {
         definitions_.check(definition, *settings_.settings, bound_);
     }
-    void take(const ast::Table& table) { tables_.check(table, settings_, bound_); }
+    void take(const ast::Table& table) { tables_.check(table, settings_); }
 
     void take(const ast::Execute& command) {
         calls_.call(command, [this](const ast::Program& program) { takeAll(program); });
@@ -50,10 +50,10 @@ private:
     ExpressionChecker expressions_;
     RunChecker runs_;
     DefinitionChecker definitions_;
+    BoundProgram bound_;
     TableChecker tables_;
     ProgramCaller calls_;
     CheckedSettings settings_;
-    BoundProgram bound_;
 };
 
 } // namespace

@@ -86,16 +86,20 @@ bool ClauseReader::readDecimals(std::optional<int>& into) {
     return true;
 }
 
-std::optional<std::int64_t> ClauseReader::readWhole(std::int64_t least, const char* what) {
+std::optional<int> ClauseReader::readWhole(const std::string& clause, int least, int most) {
     const Token& token = cursor_.peek();
-    const std::optional<Constant> number =
-        token.kind == TokenKind::Number ? numberOf(token.text) : std::nullopt;
-    const auto* whole = number ? std::get_if<std::int64_t>(&*number) : nullptr;
-    if (whole != nullptr && *whole >= least) {
-        cursor_.take();
-        return *whole;
+    if (token.kind != TokenKind::Number) {
+        cursor_.unexpected("the number of " + clause);
+        return std::nullopt;
     }
-    cursor_.unexpected(std::string(what) + ", a whole number from " + std::to_string(least));
+    cursor_.take();
+    int value = 0;
+    const char* const end = token.text.data() + token.text.size();
+    const auto read = std::from_chars(token.text.data(), end, value);
+    if (read.ec == std::errc() && read.ptr == end && value >= least && value <= most)
+        return value;
+    cursor_.report(Error::BadCount, token.position,
+                   {clause, std::to_string(least), std::to_string(most), std::string(token.text)});
     return std::nullopt;
 }
 

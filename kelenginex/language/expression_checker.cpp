@@ -154,6 +154,21 @@ ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string
     return finished(std::move(built), source(node.span));
 }
 
+ExpressionPtr ExpressionChecker::measure(const ast::Node& node, const std::string& clause) {
+    Built built = check(node);
+    if (built != nullptr && built->type == ValueType::String) {
+        context_.report(Error::NotANumber, node.position, {clause, describe(built->type)});
+        return nullptr;
+    }
+    return finished(std::move(built), source(node.span));
+}
+
+ExpressionPtr ExpressionChecker::recordNumber(const Entity& entity, Position position) {
+    Built built = make(Operation::RecordNumber, ValueType::Integer, position);
+    built->entity = built->codeEntity = &entity;
+    return finished(std::move(built), entity.name);
+}
+
 ExpressionPtr ExpressionChecker::variable(const ast::Name& name) {
     return finished(checkName(name, name.position), source(name.span));
 }

@@ -19,6 +19,10 @@ public:
     // Null where a fault was reported. `clause` names the clause in messages.
     ExpressionPtr condition(const ast::Node& node, const std::string& clause);
     ExpressionPtr number(const ast::Node& node, const std::string& clause);
+    /// What a table measures: a number, or a truth value as 0 or 1.
+    ExpressionPtr measure(const ast::Node& node, const std::string& clause);
+    /// The number of the record's ancestor, from 0.
+    static ExpressionPtr recordNumber(const Entity& entity, Position position);
     /// A variable as the dimension of a table.
     ExpressionPtr variable(const ast::Name& name);
     /// The variable by itself, not as a program names it.

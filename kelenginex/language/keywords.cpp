@@ -10,9 +10,7 @@ namespace kelx::language {
 namespace {
 
 constexpr unsigned table = startsCommand | isTableKind;
-constexpr unsigned laterTable = table | notSupportedYet;
 constexpr unsigned both = isTableClause | isRunClause;
-constexpr unsigned laterClause = isTableClause | notSupportedYet;
 constexpr unsigned command = startsCommand | startsAnywhere;
 constexpr unsigned all = both | isDefineClause;
 
@@ -25,20 +23,20 @@ const std::vector<KeywordEntry> entries = {
     {"freq", Keyword::Frequency, table},
     {"crosstabs", Keyword::Crosstabs, table},
     {"count", Keyword::Count, table | isDefineKind},
-    {"average", Keyword::Average, laterTable | isDefineKind},
-    {"median", Keyword::Median, laterTable | isDefineKind},
-    {"sum", Keyword::Sum, laterTable | isDefineKind},
-    {"minimum", Keyword::Minimum, laterTable | isDefineKind},
-    {"min", Keyword::Minimum, laterTable | isDefineKind},
-    {"maximum", Keyword::Maximum, laterTable | isDefineKind},
-    {"max", Keyword::Maximum, laterTable | isDefineKind},
-    {"stats", Keyword::Stats, laterTable},
-    {"gini", Keyword::Gini, laterTable},
-    {"quantile", Keyword::Quantile, laterTable},
-    {"arealist", Keyword::Arealist, laterTable},
-    {"view", Keyword::View, laterTable},
-    {"tabop", Keyword::Tabop, laterTable},
-    {"tablist", Keyword::Tablist, laterTable},
+    {"average", Keyword::Average, table | isDefineKind},
+    {"median", Keyword::Median, table | isDefineKind},
+    {"sum", Keyword::Sum, table | isDefineKind},
+    {"minimum", Keyword::Minimum, table | isDefineKind},
+    {"min", Keyword::Minimum, table | isDefineKind},
+    {"maximum", Keyword::Maximum, table | isDefineKind},
+    {"max", Keyword::Maximum, table | isDefineKind},
+    {"stats", Keyword::Stats, table},
+    {"gini", Keyword::Gini, table},
+    {"quantile", Keyword::Quantile, table},
+    {"arealist", Keyword::Arealist, table},
+    {"view", Keyword::View, table},
+    {"tabop", Keyword::Tabop, table},
+    {"tablist", Keyword::Tablist, table},
     {"weight", Keyword::Weight, all},
     {"tally", Keyword::Tally, isTableClause},
     {"filter", Keyword::Filter, all},
@@ -46,11 +44,11 @@ const std::vector<KeywordEntry> entries = {
     {"decimals", Keyword::Decimals, all},
     {"by", Keyword::By, isTableClause},
     {"of", Keyword::Of, isTableClause},
-    {"sort", Keyword::Sort, laterClause},
-    {"outfile", Keyword::Outfile, laterClause},
-    {"outgraph", Keyword::Outgraph, laterClause},
-    {"save", Keyword::Save, laterClause | isDefineClause},
-    {"sensitive", Keyword::Sensitive, laterClause | isDefineClause},
+    {"sort", Keyword::Sort, isTableClause},
+    {"outfile", Keyword::Outfile, isTableClause},
+    {"outgraph", Keyword::Outgraph, isTableClause},
+    {"save", Keyword::Save, isTableClause | isDefineClause},
+    {"sensitive", Keyword::Sensitive, isTableClause | isDefineClause},
     {"tablestyle", Keyword::Tablestyle, all | notSupportedYet},
     {"graphstyle", Keyword::Graphstyle, both | notSupportedYet},
     {"mapstyle", Keyword::Mapstyle, both | notSupportedYet},

@@ -65,6 +65,16 @@ enum class Error : int {
     CallsTooDeep,
     TooManyCalls,
     UnknownValue,
+    BadCount,
+    NothingCounted,
+    UnknownTable,
+    ColumnBelow,
+    TableColumn,
+    TableOperand,
+    TableOperator,
+    TableShapes,
+    TablistTable,
+    SortColumn,
 };
 
 /// Codes of warnings; the same rule.
@@ -79,6 +89,11 @@ enum class Warning : int {
     OpenSelection,
     WeightIgnored,
     UnusedValue,
+    NoEffect,
+    ColumnTwice,
+    SortCrosstab,
+    OutfileType,
+    OutfileFormat,
 };
 
 /// A line of the table.

@@ -19,13 +19,26 @@ public:
 private:
     void parseName(ast::Table& table);
     void parseKind(ast::Table& table, ast::Program& program);
-    void parseLists(ast::Table& table);
+    void parseQuantiles(ast::Table& table);
+
+    // What the kind is about: variables, an entity, tables.
+    bool parseSubject(ast::Table& table);
+    bool parseEntity(ast::Table& table, const std::string& expected);
     bool parseVariables(std::vector<ast::Name>& list);
+    bool parseMeasures(std::vector<ast::Measure>& measures);
+    bool parseList(ast::Table& table);
+    bool parseTables(std::vector<ast::Name>& tables);
+
     void parseClauses(ast::Table& table);
     bool parseClause(ast::Table& table);
+    bool parseBy(ast::Table& table);
+    bool parseOf(ast::Table& table);
+    bool parseCondition(ast::Table& table, const Token& clause);
+    bool parseSetting(ast::Table& table, const Token& clause);
 
     ClauseReader& clauses_;
     TokenCursor& cursor_;
+    bool hasSubject_ = false; ///< or a fault in it was told
 };
 
 } // namespace kelx::language
