@@ -238,9 +238,11 @@ const std::vector<Fault> faults = {
      "this is about PERSON. COUNT, SUM and the like gather what lies below.\n"},
     {"DEFINE PERSON.X AS CAUSE", "KEL_E_BRANCHES 1:20 PERSON and DEATH cannot be used together: "
                                  "neither of them is part of the other.\n"},
-    {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3",
-     "KEL_E_BELOW_ENTITY 1:36 FILTER must be about HOUSEHOLD or what lies above it, but this is "
-     "about PERSON.\n"},
+    {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3 DEFINE PERSON.X AS AGE FILTER CAUSE = 1",
+     "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one such "
+     "PERSON is kept.\n"
+     "KEL_E_BRANCHES 1:75 PERSON and DEATH cannot be used together: neither of them is part of the "
+     "other.\n"},
     {"DEFINE PERSON.X AS COUNT HOUSEHOLD", "KEL_E_NOT_BELOW 1:26 COUNT gathers what lies below "
                                            "each PERSON, but this is about HOUSEHOLD.\n"},
     {"DEFINE PERSON.X AS COUNT PERSON",
