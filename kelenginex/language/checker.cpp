@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/checker.h"
 
+#include "language/definition_checker.h"
 #include "language/expression_checker.h"
 #include "language/program_caller.h"
 #include "language/run_checker.h"
 #include "language/table_checker.h"
+#include "language/uses.h"
 
 namespace kelx::language {
 
@@ -14,11 +16,13 @@ class Checker {
 public:
     explicit Checker(CheckerContext& context)
         : context_(context), expressions_(context), runs_(context, expressions_),
-          tables_(context, expressions_, bound_), calls_(context), settings_(runs_.defaults()) {}
+          definitions_(context, expressions_), tables_(context, expressions_, bound_),
+          calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
         bound_.lastSettings = settings_.settings;
+        markUsed(bound_);
         return std::move(bound_);
     }
 
@@ -32,8 +36,9 @@ private:
         runs_.setWeight(expressions_.number(*command.weight, "WEIGHT"));
         settings_ = runs_.defaults();
     }
+    void take(const ast::StyleCommand& style) { settings_ = runs_.setStyle(style, settings_); }
     void take(const ast::Definition& definition) {
-        context_.expectName(definition.name.entity, definition.name.name);
+        definitions_.check(definition, *settings_.settings, bound_);
     }
     void take(const ast::Table& table) { tables_.check(table, settings_); }
 
@@ -44,6 +49,7 @@ private:
     CheckerContext& context_;
     ExpressionChecker expressions_;
     RunChecker runs_;
+    DefinitionChecker definitions_;
     BoundProgram bound_;
     TableChecker tables_;
     ProgramCaller calls_;

@@ -30,6 +30,21 @@ bool CheckerContext::isExpected(const std::string& entity, const std::string& na
     return expected_.contains(keyOf(entity, name));
 }
 
+void CheckerContext::define(const catalog::Variable& variable) {
+    names_.define(variable);
+    checked_[&variable] = true;
+}
+
+void CheckerContext::setDefining(const std::string& entity, const std::string& name) {
+    definingEntity_ = lowerCase(entity);
+    definingName_ = lowerCase(name);
+}
+
+bool CheckerContext::isDefining(const std::string& entity, const std::string& name) const {
+    return !definingName_.empty() && lowerCase(name) == definingName_ &&
+           (entity.empty() || lowerCase(entity) == definingEntity_);
+}
+
 bool CheckerContext::checkData(const catalog::Variable& variable, Position position) {
     const auto [entry, isNew] = checked_.emplace(&variable, true);
     if (!isNew)

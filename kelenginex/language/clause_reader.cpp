@@ -45,7 +45,7 @@ std::optional<bool> ClauseReader::passOver(const Token& clause, const ClausePlac
         cursor_.take();
         return false;
     }
-    if ((places & notSupportedYet) == 0)
+    if ((places & notSupportedYet) == 0 || place.own == isRunClause)
         return std::nullopt;
     notSupported();
     cursor_.skipClause();

@@ -6,6 +6,7 @@
 #include "language/expression_parser.h"
 #include "language/token_cursor.h"
 
+#include <cstdint>
 #include <optional>
 #include <set>
 #include <string>

@@ -9,7 +9,7 @@ namespace kelx::language {
 
 BoundProgram compile(const std::string& program, catalog::Dictionary& dictionary,
                      const CompileOptions& options, Messages& messages) {
-    const Names names(dictionary);
+    Names names(dictionary);
     CheckerContext context(program, dictionary, names, options, messages);
     ast::Program commands;
     if (isReadable(program, messages))

@@ -10,7 +10,8 @@ namespace kelx::language {
 
 std::filesystem::path resolvedFile(std::string name, const std::filesystem::path& folder) {
     std::replace(name.begin(), name.end(), '\\', '/');
-    return std::filesystem::absolute(folder / std::filesystem::path(name)).lexically_normal();
+    const std::filesystem::path base = folder.empty() ? "." : folder;
+    return std::filesystem::absolute(base / std::filesystem::path(name)).lexically_normal();
 }
 
 std::string contentOf(const std::filesystem::path& file, std::uintmax_t most,

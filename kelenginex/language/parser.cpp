@@ -2,6 +2,7 @@
 #include "language/parser.h"
 
 #include "language/clause_reader.h"
+#include "language/definition_parser.h"
 #include "language/execute_parser.h"
 #include "language/table_parser.h"
 #include "language/text.h"
@@ -13,10 +14,13 @@ namespace {
 constexpr ClausePlace inRundef{isRunClause, isTableClause, "it belongs to a table, not to RUNDEF",
                                "a clause of RUNDEF, such as SELECTION or FILTER, or a command"};
 
+const char* const styleFile = "the name of a style file in quotes";
+
 class Parser {
 public:
     Parser(const std::vector<Token>& tokens, Messages& messages)
-        : clauses_(tokens, messages), cursor_(clauses_.cursor()), tables_(clauses_) {}
+        : clauses_(tokens, messages), cursor_(clauses_.cursor()), definitions_(clauses_),
+          tables_(clauses_) {}
 
     ast::Program run() {
         while (!cursor_.atEnd())
@@ -28,7 +32,8 @@ private:
     void parseCommand();
     void parseWeight();
     void parseExecute();
-    void parseDefinition();
+    void parseStyle();
+    bool parseAreaBreak(ast::RunDefinition& run);
     void parseRunDefinition();
     bool parseRunClause(ast::RunDefinition& run);
     bool parseRunWeight(ast::RunDefinition& run, const Token& clause);
@@ -37,6 +42,7 @@ private:
 
     ClauseReader clauses_;
     TokenCursor& cursor_;
+    DefinitionParser definitions_;
     TableParser tables_;
     ast::Program program_;
 };
@@ -47,7 +53,9 @@ void Parser::parseCommand() {
     if (token.is(Keyword::Rundef))
         return parseRunDefinition();
     if (token.is(Keyword::Define))
-        return parseDefinition();
+        return definitions_.parse(program_);
+    if (token.is(Keyword::Tablestyle))
+        return parseStyle();
     if (token.is(Keyword::Table) ||
         ((places & isTableKind) != 0 && (places & notSupportedYet) == 0))
         return tables_.parse(program_);
@@ -84,13 +92,14 @@ void Parser::parseExecute() {
         cursor_.skipToCommand();
 }
 
-void Parser::parseDefinition() {
-    clauses_.notSupported();
-    if (cursor_.peek().kind == TokenKind::Word && !cursor_.peek().reserved) {
-        if (std::optional<ast::Name> name = clauses_.expressions().parseName("a variable", false))
-            program_.emplace_back(ast::Definition{std::move(*name)});
-    }
-    cursor_.skipToCommand();
+/// Alone, as where DEFINE has lost its line, it is a setting of the run.
+void Parser::parseStyle() {
+    cursor_.take();
+    std::optional<std::string> file;
+    if (clauses_.readText(file, styleFile))
+        program_.emplace_back(ast::StyleCommand{std::move(*file)});
+    else
+        cursor_.skipToClause();
 }
 
 void Parser::parseRunDefinition() {
@@ -131,9 +140,27 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
     case Keyword::Dictionary:
         run.dictionaryPosition = cursor_.peek().position;
         return clauses_.readText(run.dictionary, "the name of the dictionary file in quotes");
+    case Keyword::Areabreak:
+        return parseAreaBreak(run);
+    case Keyword::Tablestyle:
+        return clauses_.readText(run.tableStyle, styleFile);
+    case Keyword::Graphstyle:
+        return clauses_.readText(run.graphStyle, styleFile);
+    case Keyword::Mapstyle:
+        return clauses_.readText(run.mapStyle, styleFile);
     default:
         return parseRunWeight(run, clause);
     }
+}
+
+bool Parser::parseAreaBreak(ast::RunDefinition& run) {
+    const Token& first = cursor_.peek();
+    run.areaBreak = clauses_.expressions().parseName("an entity", false);
+    if (!run.areaBreak || run.areaBreak->entity.empty())
+        return run.areaBreak.has_value();
+    cursor_.report(Error::Unexpected, first.position, {"a variable", "an entity", ""});
+    run.areaBreak.reset();
+    return false;
 }
 
 /// WEIGHT, AUTOWEIGHT and NOWEIGHT exclude each other.
@@ -158,8 +185,8 @@ bool Parser::parseSelection(ast::RunDefinition& run) {
     }
     if (cursor_.takeKeyword(Keyword::Inline))
         return parseInlineSelection(run);
-    ast::NodePtr expression;
-    const bool good = clauses_.readExpression(expression);
+    ast::NodePtr expression = clauses_.expressions().parseSelection();
+    const bool good = expression != nullptr;
     run.selection = std::move(expression);
     return good;
 }

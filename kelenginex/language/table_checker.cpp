@@ -247,12 +247,13 @@ bool TableChecker::addAll(List& list, const ast::Name& name) {
     const Entity* entity = expressions_.entity(name.entity, name.position);
     if (entity == nullptr)
         return false;
-    if (entity->variables.empty()) {
+    const std::vector<const Variable*>& all = context_.names().variablesOf(*entity);
+    if (all.empty()) {
         context_.report(Error::NoVariables, name.position, {entity->name});
         return false;
     }
     bool good = true;
-    for (const auto& variable : entity->variables) {
+    for (const Variable* variable : all) {
         list.push_back(expressions_.variable(*variable, name.position));
         good = list.back() != nullptr && good;
     }
