@@ -85,7 +85,7 @@ void CodeSource::numbers(Frames& frames, const Entity& at, std::vector<std::uint
         double value = 0;
         std::memcpy(&value, &number, sizeof value);
         if (std::isnan(value))
-            number = blank;
+            number = column_->info().naCode == number ? number : blank;
         else if (value == 0)
             number = 0;
     }
