@@ -247,11 +247,9 @@ bool DefinitionParser::readSample() {
         cursor_.unexpected("RANDOM or SYSTEMATIC", {"RANDOM", "SYSTEMATIC"});
         return false;
     }
-    const bool random = definition_.kind == DefinitionKind::SampleRandom;
-    const std::optional<std::int64_t> number = clauses_.readWhole(
-        1, random ? "the largest number to draw" : "the step, which takes every n-th");
-    if (number)
-        definition_.sample = *number;
+    const std::optional<int> number =
+        clauses_.readWhole("SAMPLE", 1, std::numeric_limits<int>::max());
+    definition_.sample = number.value_or(1);
     return number.has_value();
 }
 
@@ -479,14 +477,11 @@ bool DefinitionParser::readSave() {
 }
 
 bool DefinitionParser::readSensitive() {
-    const std::optional<std::int64_t> number =
-        clauses_.readWhole(0, "the least number of records that may be shown");
-    if (!number)
-        return false;
-    constexpr std::int64_t most = std::numeric_limits<int>::max();
-    if (*number > 0)
-        definition_.sensitive = static_cast<int>(std::min(*number, most));
-    return true;
+    const std::optional<int> number =
+        clauses_.readWhole("SENSITIVE", 0, std::numeric_limits<int>::max());
+    if (number.value_or(0) > 0)
+        definition_.sensitive = number;
+    return number.has_value();
 }
 
 bool DefinitionParser::readStyle(ast::Program& program) {
