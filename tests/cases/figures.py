@@ -24,15 +24,14 @@ A table of a case may be followed by a check, which says what is in it:
 
 With --fill the rows of these tables are written into the files."""
 import argparse
-import fractions
 import itertools
 import math
 import pathlib
 import sys
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
 import databases
-
-Number = fractions.Fraction
+import measures
 
 
 class Check:
@@ -156,85 +155,17 @@ class Table:
     def figures(self, records):
         kind = self.check.kind
         weighted = "weight" in self.check.settings or "tally" in self.check.settings
-        pairs = [(Number(w) * Number(t), Number(m)) for w, t, m in records]
+        pairs = [(w * t, m) for w, t, m in records]
         if kind in ("freq", "count"):
-            return [float(sum(w for w, _ in pairs)) if weighted else len(pairs)]
+            return [measures.add(w for w, _ in pairs) if weighted else len(pairs)]
         if kind == "quantiles":
-            parts = int(self.check.settings.get("parts", 4))
-            return [quantile(pairs, Number(i, parts), weighted) for i in range(1, parts)]
+            return measures.quantiles(pairs, int(self.check.settings.get("parts", 4)), weighted)
         if kind == "stats":
-            return stats(pairs, weighted)
-        return [{"average": mean, "sum": total, "minimum": minimum, "maximum": maximum,
-                 "median": lambda p: quantile(p, Number(1, 2), weighted), "gini": gini}[kind](pairs)]
-
-
-def total(pairs):
-    return sum(w * x for w, x in pairs)
-
-
-def mean(pairs):
-    weights = sum(w for w, _ in pairs)
-    return total(pairs) / weights if weights else None
-
-
-def minimum(pairs):
-    return min((x for _, x in pairs), default=None)
-
-
-def maximum(pairs):
-    return max((x for _, x in pairs), default=None)
-
-
-def quantile(pairs, share, weighted):
-    """Without weights by linear interpolation; with them the smallest value at which the running
-    weight reaches the share of the total."""
-    values = sorted(pairs, key=lambda pair: pair[1])
-    if not values:
-        return None
-    if not weighted:
-        place = (len(values) - 1) * share
-        low = math.floor(place)
-        high = min(low + 1, len(values) - 1)
-        return values[low][1] + (place - low) * (values[high][1] - values[low][1])
-    needed, running = share * sum(w for w, _ in values), 0
-    for weight, value in values:
-        running += weight
-        if running >= needed:
-            return value
-    return values[-1][1]
-
-
-def gini(pairs):
-    values = sorted(pairs, key=lambda pair: pair[1])
-    weights, amount = sum(w for w, _ in values), total(values)
-    if not weights or not amount:
-        return None
-    running, twice, squares = 0, 0, 0
-    for weight, value in values:
-        running += weight
-        twice += 2 * weight * value * running
-        squares += weight * weight * value
-    return (twice - squares) / (weights * amount) - 1
-
-
-def variance(pairs):
-    weights = sum(w for w, _ in pairs)
-    if weights <= 1:
-        return None
-    middle = mean(pairs)
-    return sum(w * (x - middle) ** 2 for w, x in pairs) / (weights - 1)
-
-
-def stats(pairs, weighted):
-    weights = sum(w for w, _ in pairs)
-    spread = variance(pairs)
-    deviation = math.sqrt(spread) if spread is not None else None
-    middle = mean(pairs)
-    share = 100 * deviation / float(middle) if deviation is not None and middle else None
-    fault = deviation / math.sqrt(weights) if deviation is not None else None
-    return [weights if weighted else len(pairs), total(pairs), middle,
-            quantile(pairs, Number(1, 2), weighted), minimum(pairs), maximum(pairs), deviation,
-            spread, share, fault]
+            return measures.stats(pairs, weighted)
+        if kind == "median":
+            return [measures.median(pairs, weighted)]
+        return [{"average": measures.mean, "sum": measures.total, "minimum": measures.minimum,
+                 "maximum": measures.maximum, "gini": measures.gini}[kind](pairs)]
 
 
 def number_or_blank(value):
