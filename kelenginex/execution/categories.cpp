@@ -38,6 +38,8 @@ public:
     Category name(std::uint64_t code) override {
         if (code == blank)
             return marker(CategoryKind::Missing);
+        if (column_->info().naCode == code)
+            return marker(CategoryKind::NotApplicable);
         Category category;
         const std::uint8_t state = read(code, category);
         if (state != state::valid)

@@ -70,7 +70,7 @@ void CodeSource::numbers(Frames& frames, std::vector<std::uint64_t>& out) {
         double value = 0;
         std::memcpy(&value, &number, sizeof value);
         if (std::isnan(value))
-            number = blank;
+            number = column_->info().naCode == number ? number : blank;
         else if (value == 0)
             number = 0;
     }

@@ -31,7 +31,8 @@ public:
     bool isReal() const { return domain_.physical == storage::Physical::Real64; }
     /// Codes of the current frame of the base, in the domain's physical form; reals are doubles.
     const void* codes(Frames& frames);
-    /// The same as numbers that tell values apart: blanks are all ones, both zeros are one.
+    /// The same as numbers that tell values apart: blanks are all ones, both zeros are one. A
+    /// column's own code for NA stays what it is, here and in codes().
     void numbers(Frames& frames, std::vector<std::uint64_t>& out);
 
 private:

@@ -60,6 +60,10 @@ struct Kernels {
     void (*andMasks)(std::uint8_t* mask, const std::uint8_t* other, std::size_t count);
     void (*expandReal)(const double* values, const std::uint32_t* ends, std::size_t runs,
                        double* out);
+    /// out[i] = number of set bytes of the mask (0 or 0xff) from offsets[i] to offsets[i + 1],
+    /// where the mask begins at offsets[0]; 0xff for more than 254. Tells the most in a run.
+    std::uint64_t (*countRuns)(const std::uint8_t* mask, const std::uint32_t* offsets,
+                               std::size_t runs, std::uint8_t* out);
 
     template <class Code>
     const CodeKernels<Code>& of() const {

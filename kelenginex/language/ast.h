@@ -165,7 +165,7 @@ struct Definition {
     std::optional<Literal> defaultValue, missing, notapp;
     std::optional<Name> like;
     std::optional<SaveFile> save;
-    Position weightPosition, typePosition;
+    Position weightPosition, typePosition, aliasPosition;
 
     Position position;
     Span span;

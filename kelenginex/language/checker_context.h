@@ -49,6 +49,7 @@ public:
     /// The variable whose DEFINE is being checked; empty texts for none.
     void setDefining(const std::string& entity, const std::string& name);
     bool isDefining(const std::string& entity, const std::string& name) const;
+    void expectDefining() { expectName(definingEntity_, definingName_); }
 
     /// A name that a faulty command makes; its use is no further fault.
     void expectName(const std::string& entity, const std::string& name);

@@ -79,13 +79,24 @@ bool DefinitionChecker::makeExpression(const ast::Definition& ast, const Entity&
                         {"WEIGHT", "it belongs to what gathers records, such as COUNT or SUM"});
         good = false;
     }
-    if (ast.filter == nullptr)
-        return good;
-    ExpressionPtr filter = expressions_.condition(*ast.filter, "FILTER");
-    if (filter == nullptr || !checkAbove(context_, *filter, owner, "FILTER"))
+    return (ast.filter == nullptr || addFilter(*ast.filter, owner, into)) && good;
+}
+
+/// One on an entity below keeps the records that have a passing one, as for tables.
+bool DefinitionChecker::addFilter(const ast::Node& node, const Entity& owner, Definition& into) {
+    ExpressionPtr filter = expressions_.condition(node, "FILTER");
+    if (filter == nullptr)
         return false;
+    const Entity* about = filter->entity;
+    const bool above = about == nullptr || about->isAncestorOf(owner);
+    if (!above && !owner.isAncestorOf(*about)) {
+        context_.report(Error::Branches, filter->position, {owner.name, about->name});
+        return false;
+    }
+    if (!above)
+        context_.report(Warning::FilterBelow, filter->position, {about->name, owner.name});
     into.filters.push_back(std::move(filter));
-    return good;
+    return true;
 }
 
 bool DefinitionChecker::checkType(const ast::Definition& ast, ValueType natural) {

@@ -22,6 +22,7 @@ private:
     bool makeValues(const ast::Definition& ast, const Entity& owner, const RunSettings& run,
                     Definition& into);
     bool makeExpression(const ast::Definition& ast, const Entity& owner, Definition& into);
+    bool addFilter(const ast::Node& node, const Entity& owner, Definition& into);
     bool checkType(const ast::Definition& ast, ValueType natural);
     void expectNames(const std::string& entity, const ast::Definition& ast);
 

@@ -74,10 +74,11 @@ DefinitionKind kindOf(Keyword keyword) {
     }
 }
 
-/// Words that follow a whole expression are no expression: a kind may be misspelt.
+/// A word before another is no expression, but may be a misspelt kind.
 bool looksLikeKind(const Token& word, const Token& next) {
     return word.kind == TokenKind::Word && word.is(Keyword::None) && !word.reserved &&
-           next.kind == TokenKind::Word && next.is(Keyword::None);
+           next.kind == TokenKind::Word && next.is(Keyword::None) &&
+           !nearest(word.text, wordsFor(isDefineKind)).empty();
 }
 
 bool takesElse(const ast::Definition& definition) {
@@ -246,11 +247,9 @@ bool DefinitionParser::readSample() {
         cursor_.unexpected("RANDOM or SYSTEMATIC", {"RANDOM", "SYSTEMATIC"});
         return false;
     }
-    const bool random = definition_.kind == DefinitionKind::SampleRandom;
-    const std::optional<std::int64_t> number = clauses_.readWhole(
-        1, random ? "the largest number to draw" : "the step, which takes every n-th");
-    if (number)
-        definition_.sample = *number;
+    const std::optional<int> number =
+        clauses_.readWhole("SAMPLE", 1, std::numeric_limits<int>::max());
+    definition_.sample = number.value_or(1);
     return number.has_value();
 }
 
@@ -434,6 +433,7 @@ bool DefinitionParser::readAlias() {
         cursor_.unexpected("a short name that is no word of the language");
         return false;
     }
+    definition_.aliasPosition = token.position;
     definition_.alias = cursor_.take().value();
     return true;
 }
@@ -477,14 +477,11 @@ bool DefinitionParser::readSave() {
 }
 
 bool DefinitionParser::readSensitive() {
-    const std::optional<std::int64_t> number =
-        clauses_.readWhole(0, "the least number of records that may be shown");
-    if (!number)
-        return false;
-    constexpr std::int64_t most = std::numeric_limits<int>::max();
-    if (*number > 0)
-        definition_.sensitive = static_cast<int>(std::min(*number, most));
-    return true;
+    const std::optional<int> number =
+        clauses_.readWhole("SENSITIVE", 0, std::numeric_limits<int>::max());
+    if (number.value_or(0) > 0)
+        definition_.sensitive = number;
+    return number.has_value();
 }
 
 bool DefinitionParser::readStyle(ast::Program& program) {

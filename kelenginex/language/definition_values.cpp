@@ -212,21 +212,21 @@ bool DefinitionValues::addValues(Expression& to, std::vector<Built> values) {
         return false;
     for (Built& value : values)
         good = expressions_.append(to, std::move(value)) && good;
-    if (Built last = otherwise(); last != nullptr && definition_.otherwise == nullptr)
-        to.arguments.push_back(std::move(last));
+    if (good && definition_.otherwise == nullptr && definition_.defaultValue)
+        addDefault(to);
     return good;
 }
 
 /// DEFAULT as the value where no other is chosen.
-Built DefinitionValues::otherwise() const {
-    if (!definition_.defaultValue)
-        return nullptr;
+void DefinitionValues::addDefault(Expression& to) const {
     const ast::Literal& literal = *definition_.defaultValue;
-    const ValueType types[] = {ValueType::Integer, ValueType::Real, ValueType::String,
-                               ValueType::Boolean};
-    const ValueType type = definition_.type.value_or(types[literal.constant.index()]);
+    const bool real = isNumeric(to.type) && definition_.type == ValueType::Real;
+    const ValueType type = real ? ValueType::Real : to.type;
     std::optional<Constant> constant = constantFor(literal, type);
-    return constant ? makeConstant(std::move(*constant), type, literal.position) : nullptr;
+    if (!constant)
+        return;
+    to.type = type;
+    to.arguments.push_back(makeConstant(std::move(*constant), type, literal.position));
 }
 
 bool DefinitionValues::unify(Expression& to, std::vector<Built>& values) {

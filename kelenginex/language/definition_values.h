@@ -35,7 +35,7 @@ private:
     Built number();
     Built sample();
     bool addValues(Expression& to, std::vector<Built> values);
-    Built otherwise() const;
+    void addDefault(Expression& to) const;
     bool unify(Expression& to, std::vector<Built>& values);
     Built toText(Built number) const;
 

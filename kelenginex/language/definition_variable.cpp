@@ -100,7 +100,7 @@ std::shared_ptr<Variable> DefinitionVariable::make(const ast::Definition& ast, c
     if (ast.alias && catalog::isUsableName(*ast.alias))
         variable->alias = *ast.alias;
     else if (ast.alias)
-        context_.report(Error::BadAlias, ast.position, {inQuotes(*ast.alias)});
+        context_.report(Error::BadAlias, ast.aliasPosition, {inQuotes(*ast.alias)});
     if (ast.missing)
         variable->missing = code(ast.missing, "MISSING", *variable);
     if (ast.notapp)

@@ -211,14 +211,16 @@ void ExpressionChecker::reportUnknown(const ast::Name& name, const std::string& 
     if (context_.isExpected(owner, name.name))
         return;
     const bool number = entity.empty() && name.name[0] >= '0' && name.name[0] <= '9';
-    if (number)
+    if (number) {
         context_.report(Error::BadNumber, name.position, {inQuotes(name.name)});
-    else if (context_.isDefining(owner, name.name))
+    } else if (context_.isDefining(owner, name.name)) {
         context_.report(Error::SelfReference, name.namePosition, {inQuotes(name.name)});
-    else
+        context_.expectDefining();
+    } else {
         context_.report(
             Error::UnknownVariable, name.namePosition,
             {entity.empty() ? inQuotes(name.name) : inQuotes(name.name) + " in " + entity, hint});
+    }
 }
 
 const Variable* ExpressionChecker::find(const ast::Name& name) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "faults.h"
 #include "fixture.h"
 #include "language/message_table.h"
 
@@ -6,11 +7,6 @@
 #include <set>
 
 namespace kelx::language {
-
-struct Fault {
-    const char* program;
-    const char* messages;
-};
 
 const std::vector<Fault> faults = {
     // Characters and words.
@@ -203,135 +199,158 @@ const std::vector<Fault> faults = {
      "KEL_E_WEIGHT_BELOW 3:19 The weight is about PERSON, but COUNT counts PROVINCE, which has "
      "many of them: take a weight of PROVINCE or of what lies above it.\n"},
 
-    // Tables of other kinds.
-    {"SUM\nTABLE x STATS BY SEX2 TITLE \"t\"\nTABLIST\nTABLE y TABOP\n AREALIST TITLE \"x\"",
-     "KEL_E_UNEXPECTED 2:1 Found the reserved word TABLE, but expected a value, such as a number, "
-     "a "
-     "text in quotes, Entity.Variable, a function or \"(\".\n"
-     "KEL_E_UNEXPECTED 2:15 Found the reserved word BY, but expected what to measure: a variable "
-     "or "
-     "an expression.\n"
-     "KEL_E_UNEXPECTED 4:1 Found the reserved word TABLE, but expected the name of a table.\n"
-     "KEL_E_UNEXPECTED 5:2 Found the reserved word AREALIST, but expected a value, such as a "
-     "number, "
-     "a text in quotes, Entity.Variable, a function or \"(\".\n"
-     "KEL_E_UNEXPECTED 5:11 Found the reserved word TITLE, but expected the entity to list.\n"},
-    {"SUM AGE OF ROOMS\nAREALIST PROVINCE BY NAME\nTABLE a FREQ SEX2\nTABOP a BY GRP",
-     "KEL_E_MISPLACED_CLAUSE 1:9 OF cannot stand here: it follows the kind of the table directly.\n"
-     "KEL_E_MISPLACED_CLAUSE 2:19 BY cannot stand here: a list has a row for each record; use FREQ "
-     "for a table.\n"
-     "KEL_E_MISPLACED_CLAUSE 4:9 BY cannot stand here: the tables that it is made of have their "
-     "own "
-     "variables.\n"},
-    {"QUANTILE 1 OF AGE\nQUANTILE 2.5 OF AGE\nFREQ AGE SENSITIVE 1.5 FREQ AGE SENSITIVE few\n"
-     "FREQ AGE SORT AGE 99999999999",
-     "KEL_E_BAD_COUNT 1:10 QUANTILE takes a whole number from 2 to 1000, not 1.\n"
-     "KEL_E_BAD_COUNT 2:10 QUANTILE takes a whole number from 2 to 1000, not 2.5.\n"
-     "KEL_E_BAD_COUNT 3:20 SENSITIVE takes a whole number from 0 to 1000000000, not 1.5.\n"
-     "KEL_E_UNEXPECTED 3:43 Found \"few\", but expected the number of SENSITIVE.\n"
-     "KEL_E_BAD_COUNT 4:19 SORT takes a whole number from 0 to 2000000000, not 99999999999.\n"},
-    {"FREQ AGE OUTFILE xlt \"a\"\nFREQ AGE OUTFILE \"\"\nFREQ AGE OUTFILE \"a.csv\" utf16\n"
-     "FREQ AGE OUTGRAPH \"a.bmp\" cake\nFREQ AGE SAVE a\nFREQ AGE TABLESTYLE s",
-     "KEL_E_UNEXPECTED 1:18 Found \"xlt\", but expected a type of file, such as XLS or CSV, or a "
-     "file "
-     "name in quotes. Did you mean xls?\n"
-     "KEL_E_UNEXPECTED 3:1 Found the reserved word FREQ, but expected the name of the file in "
-     "quotes.\n"
-     "KEL_E_UNEXPECTED 3:26 Found \"utf16\", but expected a clause of the table, such as BY or "
-     "TITLE, "
-     "or a new command.\n"
-     "KEL_E_UNEXPECTED 4:27 Found \"cake\", but expected a clause of the table, such as BY or "
-     "TITLE, "
-     "or a new command.\n"
-     "KEL_E_UNEXPECTED 5:15 Found \"a\", but expected the name of the file in quotes.\n"
-     "KEL_E_UNEXPECTED 6:21 Found \"s\", but expected the name of a style file in quotes.\n"},
-    {"AVERAGE GRP BY SEX2\nSTATS PROVINCE.CODE BY GRP\nSUM 3\nSUM AGE BY CAUSE\nGINI AGEE",
-     "KEL_E_NOT_A_NUMBER 1:9 AVERAGE takes a number, but this is a text.\n"
-     "KEL_E_NOT_A_NUMBER 2:24 STATS takes a number, but this is a text.\n"
-     "KEL_E_NOTHING_COUNTED 3:1 SUM needs a variable: a number alone does not tell what records to "
-     "go over.\n"
-     "KEL_E_BRANCHES 4:12 PERSON and DEATH cannot be used together: neither of them is part of the "
-     "other.\n"
-     "KEL_E_UNKNOWN_VARIABLE 5:6 There is no variable \"AGEE\". Did you mean AGE?\n"},
-    {"TABLE byAge FREQ AGE TABLE bad FREQ AGEE\nAREALIST PROVINCE, byAgf, bad, NAME, bat, ROMS\n"
-     "TABLIST byAgf, bad\nTABOP PERSON.byAge / bad",
-     "KEL_E_UNKNOWN_VARIABLE 1:37 There is no variable \"AGEE\". Did you mean AGE?\n"
-     "KEL_E_UNKNOWN_TABLE 2:20 There is no table \"byAgf\" before this place. Did you mean byAge?\n"
-     "KEL_E_UNKNOWN_VARIABLE 2:38 There is no variable \"bat\".\n"
-     "KEL_E_UNKNOWN_VARIABLE 2:43 There is no variable \"ROMS\". Did you mean ROOMS?\n"
-     "KEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did you mean byAge?\n"
-     "KEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this place. Did you mean "
-     "byAge?\n"},
-    {"AREALIST PROVINCE, PERSON.AGE, ROOMS, SEX\nVIEW PERSON, CAUSE, NAME, PROVINSE.*",
-     "KEL_E_COLUMN_BELOW 1:20 PERSON.AGE is about PERSON, but the rows are of PROVINCE, which have "
-     "many of them: make a table of it, as in TABLE T FREQ PERSON.AGE, and name the table here.\n"
-     "KEL_E_COLUMN_BELOW 1:32 HOUSEHOLD.ROOMS is about HOUSEHOLD, but the rows are of PROVINCE, "
-     "which have many of them: make a table of it, as in TABLE T FREQ HOUSEHOLD.ROOMS, and name "
-     "the "
-     "table here.\n"
-     "KEL_E_AMBIGUOUS_NAME 1:39 More than one variable is called \"SEX\". Write one of PERSON.SEX, "
-     "DEATH.SEX.\n"
-     "KEL_E_BRANCHES 2:14 PERSON and DEATH cannot be used together: neither of them is part of the "
-     "other.\n"
-     "KEL_E_UNKNOWN_ENTITY 2:27 There is no entity \"PROVINSE\". Did you mean PROVINCE?\n"},
-    {"TABLE a FREQ SEX2 BY GRP TABLE b FREQ ROOMS TABLE c VIEW DEATH TABLE d TABOP b\n"
-     "AREALIST PERSON, a, b, c, d",
-     "KEL_E_TABLE_COLUMN 2:18 The table a cannot be a column of this list: it has more than one "
+    // DEFINE and RUNDEF's other clauses.
+    {"DEFINE", "KEL_E_UNEXPECTED 1:7 Found the end of the program, but expected the name of the "
+               "new variable, as in Entity.Name.\n"},
+    {"DEFINE FREQ AGE", "KEL_E_UNEXPECTED 1:8 Found the reserved word FREQ, but expected the name "
+                        "of the new variable, as in Entity.Name.\n"},
+    {"DEFINE X AS COUNT PERSON FREQ X", "KEL_E_UNEXPECTED 1:8 Found \"X\", but expected the name "
+                                        "of the new variable, as in Entity.Name.\n"},
+    {"DEFINE PERSON.X", "KEL_E_UNEXPECTED 1:16 Found the end of the program, but expected an "
+                        "expression, or how the variable is made, such as COUNT or RECODE.\n"},
+    {"DEFINE PERSON.X AS SUMM AGE",
+     "KEL_E_UNEXPECTED 1:20 Found \"SUMM\", but expected an expression, or how the variable is "
+     "made, such as COUNT or RECODE. Did you mean SUM?\n"},
+    {"DEFINE PERSON.X AS AGE VARLABL \"x\"",
+     "KEL_E_UNEXPECTED 1:24 Found \"VARLABL\", but expected a clause of DEFINE, such as TYPE or "
+     "VARLABEL, or a new command. Did you mean VARLABEL?\n"},
+    {"DEFINE PERSON.X AS AGE TITLE \"x\" SELECTION \"f\"",
+     "KEL_E_MISPLACED_CLAUSE 1:24 TITLE cannot stand here: it belongs to a table.\n"
+     "KEL_E_MISPLACED_CLAUSE 1:34 SELECTION cannot stand here: it belongs to RUNDEF.\n"},
+    {"DEFINE PERSON.X AS AGE TYPE INTEGR",
+     "KEL_E_UNEXPECTED 1:29 Found \"INTEGR\", but expected INTEGER, REAL, STRING or BOOL. Did you "
+     "mean INTEGER?\n"},
+    {"DEFINE PERSON.X AS AGE ELSE 3",
+     "KEL_E_MISPLACED_CLAUSE 1:24 ELSE cannot stand here: it belongs to RECODE and SWITCH; DEFAULT "
+     "sets the value that stands where there is no other.\n"},
+    {"DEFINE PERSON.X AS AGE WEIGHT 3", "KEL_E_MISPLACED_CLAUSE 1:24 WEIGHT cannot stand here: it "
+                                        "belongs to what gathers records, such as COUNT or SUM.\n"},
+    {"DEFINE PERSON.X AS NUMBER HOUSEHOLD WEIGHT 3",
+     "KEL_W_WEIGHT_IGNORED 1:37 NUMBER has no use for a weight: it is left out.\n"},
+    {"DEFINE PERSON.X AS X + PERSON.X", "KEL_E_SELF_REFERENCE 1:20 \"X\" is used to make itself, "
+                                        "but there is no such variable yet.\n"},
+    {"DEFINE HOUSEHOLD.X AS AGE + 1",
+     "KEL_E_BELOW_ENTITY 1:23 The expression must be about HOUSEHOLD or what lies above it, but "
+     "this is about PERSON. COUNT, SUM and the like gather what lies below.\n"},
+    {"DEFINE PERSON.X AS CAUSE", "KEL_E_BRANCHES 1:20 PERSON and DEATH cannot be used together: "
+                                 "neither of them is part of the other.\n"},
+    {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3 DEFINE PERSON.X AS AGE FILTER CAUSE = 1",
+     "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one "
+     "such "
+     "PERSON is kept.\n"
+     "KEL_E_BRANCHES 1:75 PERSON and DEATH cannot be used together: neither of them is part of the "
+     "other.\n"},
+    {"DEFINE PERSON.X AS COUNT HOUSEHOLD", "KEL_E_NOT_BELOW 1:26 COUNT gathers what lies below "
+                                           "each PERSON, but this is about HOUSEHOLD.\n"},
+    {"DEFINE PERSON.X AS COUNT PERSON",
+     "KEL_E_NOT_BELOW 1:26 COUNT gathers what lies below each PERSON, but this is about PERSON.\n"},
+    {"DEFINE HOUSEHOLD.X AS SUM 3", "KEL_E_NOT_BELOW 1:27 SUM gathers what lies below each "
+                                    "HOUSEHOLD, but this is the same for all records.\n"},
+    {"DEFINE HOUSEHOLD.X AS SUM ROOMS", "KEL_E_NOT_BELOW 1:27 SUM gathers what lies below each "
+                                        "HOUSEHOLD, but this is about HOUSEHOLD.\n"},
+    {"DEFINE DISTRICT.X AS SUM ROOMS WEIGHT AGE",
+     "KEL_E_BELOW_ENTITY 1:39 WEIGHT must be about HOUSEHOLD or what lies above it, but this is "
+     "about PERSON.\n"},
+    {"DEFINE DISTRICT.X AS COUNT PERSON FILTER CAUSE = 1",
+     "KEL_E_AGGREGATE_BRANCH 1:42 The filter is about DEATH, but COUNT goes over PERSON, which is "
+     "neither above nor below it.\n"},
+    {"DEFINE DISTRICT.X AS COUNT HOUSEHOLD FILTER AGE > 60",
+     "KEL_W_FILTER_BELOW 1:45 The filter is about PERSON: each HOUSEHOLD that has at least one "
+     "such PERSON is kept.\n"},
+    {"DEFINE PERSON.X AS NUMBER PERSON",
+     "KEL_E_NUMBER_ENTITY 1:27 NUMBER takes an entity above PERSON, in which each PERSON has its "
+     "place, but this is PERSON.\n"},
+    {"DEFINE PERSON.X AS NUMBER DEATH",
+     "KEL_E_NUMBER_ENTITY 1:27 NUMBER takes an entity above PERSON, in which each PERSON has its "
+     "place, but this is DEATH.\n"},
+    {"DEFINE PERSON.X AS RECODE AGE (1:2 = 1) (3:4 = \"b\")",
+     "KEL_E_MIXED_VALUES 1:48 The values of RECODE must be of one type: this is a text, those "
+     "before are not.\n"},
+    {"DEFINE PERSON.X AS SWITCH CASE AGE ASSIGN 1 CASE WORKS ASSIGN 2 ELSE WORKS",
+     "KEL_E_NOT_A_CONDITION 1:32 CASE takes a condition, but this is a number.\n"
+     "KEL_E_MIXED_VALUES 1:70 The values of SWITCH must be of one type: this is a condition, those "
+     "before are not.\n"},
+    {"DEFINE PERSON.X AS GRP TYPE INTEGER", "KEL_E_TYPE_CONVERSION 1:24 A text cannot be stored as "
+                                            "INTEGER. VAL reads the number in a text.\n"},
+    {"DEFINE PERSON.X AS AGE > 3 TYPE STRING",
+     "KEL_E_TYPE_CONVERSION 1:28 A condition cannot be stored as STRING.\n"},
+    {"DEFINE DISTRICT.X AS COUNT PERSON TYPE STRING",
+     "KEL_E_TYPE_CONVERSION 1:35 A number cannot be stored as STRING.\n"},
+    {"DEFINE PERSON.X AS AGE DEFAULT \"5\" MISSING \"a\" RANGE (\"a\" : \"b\") VALUELABELS x "
+     "\"label\"",
+     "KEL_E_CLAUSE_VALUE 1:32 DEFAULT of PERSON.X must be a number, but found the text \"5\". "
+     "Leave out the quotes.\n"
+     "KEL_E_CLAUSE_VALUE 1:44 MISSING of PERSON.X must be a number, but found \"a\".\n"
+     "KEL_E_CLAUSE_VALUE 1:55 RANGE of PERSON.X must be numbers, but found a text.\n"
+     "KEL_E_CLAUSE_VALUE 1:78 VALUELABELS of PERSON.X must be a number, but found the text "
+     "\"x\".\n"},
+    {"DEFINE PERSON.X AS GRP RANGE (1:2) DEFAULT abc MISSING TRUE",
+     "KEL_E_MISPLACED_CLAUSE 1:31 RANGE cannot stand here: texts have no ranges.\n"
+     "KEL_E_CLAUSE_VALUE 1:56 MISSING of PERSON.X must be a number, but found \"TRUE\".\n"},
+    {"DEFINE PERSON.X AS AGE > 3 DEFAULT 7",
+     "KEL_E_CLAUSE_VALUE 1:36 DEFAULT of PERSON.X must be TRUE, FALSE, 1 or 0, but found 7.\n"},
+    {"DEFINE PERSON.X AS AGE ALIAS \"a b\" GROUP",
+     "KEL_E_BAD_ALIAS 1:30 \"a b\" cannot be a name: it holds blanks or signs.\n"
+     "KEL_E_UNEXPECTED 1:41 Found the end of the program, but expected the name of a group.\n"},
+    {"DEFINE PERSON.X AS RECODE AGE ELSE 3",
+     "KEL_E_UNEXPECTED 1:31 Found the reserved word ELSE, but expected an interval and its new "
+     "value, as in (1 : 9 = 2).\n"},
+    {"DEFINE PERSON.X AS RECODE AGE (1 : 2) VARLABEL \"x\"",
+     "KEL_E_UNEXPECTED 1:37 Found \")\", but expected \"=\" and the new value.\n"},
+    {"DEFINE PERSON.X AS RECODE AGE (\"a\" : \"b\" = 2)",
+     "KEL_E_COMPARE_TYPES 1:32 a number cannot be compared with a text. Leave out the quotes.\n"},
+    {"DEFINE PERSON.X AS SAMPLE RANDM 3", "KEL_E_UNEXPECTED 1:27 Found \"RANDM\", but expected "
+                                          "RANDOM or SYSTEMATIC. Did you mean RANDOM?\n"},
+    {"DEFINE PERSON.X AS SAMPLE RANDOM 0", "KEL_E_UNEXPECTED 1:34 Found the number 0, but expected "
+                                           "the largest number to draw, a whole number from 1.\n"},
+    {"DEFINE DISTRICT.X AS RATIO AGE", "KEL_E_UNEXPECTED 1:31 Found the end of the program, but "
+                                       "expected the values that count, as in (1 : 3) (5 : 5).\n"},
+    {"DEFINE DISTRICT.X AS FRACTION NUM AGE (1:3) DENOMINATOR SEX2 (1)",
+     "KEL_E_UNEXPECTED 1:45 Found \"DENOMINATOR\", but expected DENOM, a variable and its "
+     "values.\n"},
+    {"DEFINE DISTRICT.X AS INDICATOR NUM AGE DENOM GRP",
+     "KEL_E_NOT_A_NUMBER 1:46 DENOM takes a number, but this is a text.\n"},
+    {"DEFINE PERSON.X AS SWITCH WHEN AGE > 3 ASSIGN 2",
+     "KEL_E_UNEXPECTED 1:27 Found \"WHEN\", but expected CASE and a condition.\n"},
+    {"DEFINE PERSON.X AS AGE VALUELABELS 1 2 \"b\"",
+     "KEL_E_UNEXPECTED 1:38 Found the number 2, but expected the label of 1 in quotes.\n"},
+    {"DEFINE PERSON.X AS AGE SENSITIVE \"3\"",
+     "KEL_E_UNEXPECTED 1:34 Found the text \"3\", but expected the number of SENSITIVE.\n"},
+    {"DEFINE PERSON.X AS AGE SAVE f LIKE 3",
+     "KEL_E_UNEXPECTED 1:29 Found \"f\", but expected the name of a file in quotes.\n"
+     "KEL_E_UNEXPECTED 1:36 Found the number 3, but expected the variable whose labels and codes "
+     "to take over.\n"},
+    {"RUNDEF AREABREAK NATION AREABREAK PROVINCE.CODE TABLESTYLE f",
+     "KEL_E_NO_CODE 1:18 NATION has no compound code: neither it nor an entity above it has a code "
      "variable.\n"
-     "KEL_E_TABLE_COLUMN 2:21 The table b cannot be a column of this list: it counts HOUSEHOLD, "
-     "which "
-     "does not lie in PERSON.\n"
-     "KEL_E_TABLE_COLUMN 2:24 The table c cannot be a column of this list: it is a list itself.\n"
-     "KEL_E_TABLE_COLUMN 2:27 The table d cannot be a column of this list: it is made of other "
-     "tables; take those.\n"},
-    {"TABLE a FREQ SEX2 TABLE b FREQ SEX2 BY GRP TABLE c STATS AGE BY SEX2 TABLE v VIEW DEATH\n"
-     "TABOP a / b\nTABOP c / v + nothing\nTABOP 3 * (2 - 1)\nTABOP a > 1\nTABOP SQRT(a)\nTABOP a + "
-     "\"b\"",
-     "KEL_E_TABLE_SHAPES 2:7 a and b have different variables: TABOP takes tables of equal shape.\n"
-     "KEL_E_TABLE_OPERAND 3:7 The table c cannot be used here: it has several figures in each "
-     "cell.\n"
-     "KEL_E_TABLE_OPERAND 3:11 The table v cannot be used here: it is a list.\n"
-     "KEL_E_UNKNOWN_TABLE 3:15 There is no table \"nothing\" before this place.\n"
-     "KEL_E_TABLE_OPERATOR 4:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"3 * (2 - 1)\".\n"
-     "KEL_E_TABLE_OPERATOR 5:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"a > 1\".\n"
-     "KEL_E_TABLE_OPERATOR 6:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"SQRT(a)\".\n"
-     "KEL_E_TABLE_OPERATOR 7:11 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"\"b\"\".\n"},
-    {"TABLE a FREQ SEX2 TABLE b FREQ GRP BY SEX2 TABLE c COUNT PERSON\nTABLIST a, b, c",
-     "KEL_E_TABLIST_TABLE 2:12 b cannot stand beside a in a TABLIST: its rows are of another "
-     "variable.\n"
-     "KEL_E_TABLIST_TABLE 2:15 c cannot stand beside a in a TABLIST: it has no variable, and so no "
-     "rows.\n"},
-    {"FREQ SEX2 SORT PERSON.AGE\nAREALIST PROVINCE, NAME SORT NAMEE\nVIEW PERSON, AGE SORT SEX2\n"
-     "FREQ SEX2, GRP SORT PERSON.AGE FREQ SEX2, GRP SORT PERSON.GRP",
-     "KEL_E_SORT_COLUMN 1:16 FREQ_1 has no column \"PERSON.AGE\" to be sorted by.\n"
-     "KEL_E_SORT_COLUMN 2:30 AREALIST_1 has no column \"NAMEE\" to be sorted by. Did you mean "
-     "NAME?\n"
-     "KEL_E_SORT_COLUMN 3:23 VIEW_1 has no column \"SEX2\" to be sorted by.\n"
-     "KEL_E_SORT_COLUMN 4:21 FREQ_3 has no column \"PERSON.AGE\" to be sorted by. Did you mean "
-     "PERSON.GRP?\n"},
-    {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\n"
-     "AREALIST PROVINCE, NAME WEIGHT 3 TALLY AGE\nFREQ SEX2 BY GRP SORT DESC SEX2",
-     "KEL_W_NO_EFFECT 2:9 FILTER has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_NO_EFFECT 2:24 WEIGHT has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_NO_EFFECT 2:33 TALLY has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_COLUMN_TWICE 3:20 \"NAME\" is a variable and a table: the variable is taken.\n"
-     "KEL_W_NO_EFFECT 3:25 WEIGHT has no effect on AREALIST: it lists variables, and no table.\n"
-     "KEL_W_NO_EFFECT 3:34 TALLY has no effect on AREALIST: it lists variables, and no table.\n"
-     "KEL_W_SORT_CROSSTAB 4:18 A table of several variables is not sorted.\n"},
-    {"FREQ SEX2 OUTFILE xml \"a\" UNICODE",
-     "KEL_W_OUTFILE_TYPE 1:19 XML is not written; the file will be CSV.\n"
-     "KEL_W_OUTFILE_FORMAT 1:27 Files are written in UTF-8, not in UNICODE.\n"},
+     "KEL_E_REPEATED_CLAUSE 1:25 AREABREAK is given twice for one command.\n"
+     "KEL_E_UNEXPECTED 1:60 Found \"f\", but expected the name of a style file in quotes.\n"},
+    {"RUNDEF AREABREAK PROVINCE.CODE",
+     "KEL_E_UNEXPECTED 1:18 Found a variable, but expected an entity.\n"},
+    {"RUNDEF r VARLABEL \"x\" FREQ AGE RANGE (1:2)",
+     "KEL_E_UNEXPECTED 1:10 Found the reserved word VARLABEL, but expected a clause of RUNDEF, "
+     "such as SELECTION or FILTER, or a command.\n"
+     "KEL_E_UNEXPECTED 1:32 Found the reserved word RANGE, but expected a clause of the table, "
+     "such as BY or TITLE, or a new command.\n"},
+    {"VARLABEL \"x\"", "KEL_E_UNEXPECTED 1:1 Found the reserved word VARLABEL, but expected a "
+                       "command, such as RUNDEF, TABLE or FREQ.\n"},
+    {"FREQ GROUP", "KEL_E_UNEXPECTED 1:6 Found the reserved word GROUP, but expected a variable, "
+                   "such as Entity.Variable, or Entity.* for all of them (a variable of this name "
+                   "is written Entity.GROUP).\n"},
+    {"DEFINE PERSON.X AS AGE LIKE PERSON.NOTHING",
+     "KEL_E_UNKNOWN_VARIABLE 1:36 There is no variable \"NOTHING\" in PERSON.\n"},
+    {"DEFINE PERSON.X AS MISSING(AGE) MISSING 9 FREQ SEX2 FILTER AGE > > 3 AND MISSING(AGE)",
+     "KEL_E_UNEXPECTED 1:66 Found \">\", but expected a value, such as a number, a text in quotes, "
+     "Entity.Variable, a function or \"(\".\n"},
+    {"DEFINE PERSON.X AS RECODE AGE (5 : 1 = 2)",
+     "KEL_W_EMPTY_INTERVAL 1:32 The interval 5 : 1 holds no value: its lower end is above its "
+     "upper end.\n"},
+    {"DEFINE DISTRICT.X AS SUM PERSON.AGE > 3",
+     "KEL_E_NOT_A_NUMBER 1:26 SUM takes a number, but this is a condition.\n"},
+    {"DEFINE DISTRICT.X AS RATIO GRP (1:3)", "KEL_E_COMPARE_TYPES 1:33 a text cannot be compared "
+                                             "with a number. Put the number in quotes.\n"},
+    {"RUNDEF SELECTION PROVINCE = \"01\" OR",
+     "KEL_W_OPEN_SELECTION 1:34 Nothing follows this OR: it is left out.\n"},
 
     // Warnings.
     {"RUNDEF r DICTIONARY \"D:\\data\\other.kxdb\" FREQ AGE RUNDEF DICTIONARY \"sub/X.kxdb\" FREQ "
@@ -359,6 +378,7 @@ TEST_P(Faults, AreToldWhereTheyAre) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Faults, ::testing::ValuesIn(faults));
+INSTANTIATE_TEST_SUITE_P(OfTables, Faults, ::testing::ValuesIn(tableFaults()));
 
 TEST(DataFiles, MustBeThere) {
     Census census;
@@ -384,10 +404,13 @@ TEST(MessageTable, IsTestedAsAWhole) {
         "KEL_E_TOO_DEEP", "KEL_E_PROGRAM_TOO_LARGE", "KEL_E_TOO_MANY_TABLES",
         "KEL_E_DATA_FILE_DAMAGED", "KEL_E_SELECTION_FILE", "KEL_W_SELECTION_BELOW",
         "KEL_W_UNKNOWN_AREA", // told by the plan
+        "KEL_E_SAVE_EXISTS", "KEL_E_SAVE_TWICE",
         // Of EXECUTE, which needs files.
         "KEL_E_PROGRAM_CYCLE", "KEL_E_CALLS_TOO_DEEP", "KEL_E_TOO_MANY_CALLS",
         "KEL_E_UNKNOWN_VALUE", "KEL_W_UNUSED_VALUE"};
-    for (const Fault& fault : faults) {
+    std::vector<Fault> all = faults;
+    all.insert(all.end(), tableFaults().begin(), tableFaults().end());
+    for (const Fault& fault : all) {
         Census census;
         census.compile(fault.program);
         for (const Message& message : census.messages.all())

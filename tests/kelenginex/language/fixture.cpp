@@ -2,6 +2,7 @@
 #include "fixture.h"
 
 #include "catalog/names.h"
+#include "catalog/type_names.h"
 #include "language/message_table.h"
 
 namespace kelx::language {
@@ -160,10 +161,63 @@ std::string shape(const Expression& expression) {
             result += " " + show(interval);
         return result + ")";
     }
+    case Operation::Recode: {
+        std::string result = "RECODE " + shape(*expression.arguments[0]);
+        for (std::size_t i = 1; i < expression.arguments.size(); ++i) {
+            const bool otherwise = i > expression.intervals.size();
+            result += otherwise ? " else " : " (" + show(expression.intervals[i - 1]) + " = ";
+            result += shape(*expression.arguments[i]) + (otherwise ? "" : ")");
+        }
+        return result;
+    }
+    case Operation::Switch:
+        return "SWITCH" + arguments(expression);
+    case Operation::Number:
+        return "NUMBER " + expression.codeEntity->name;
+    case Operation::SampleRandom:
+        return "RANDOM" + arguments(expression);
+    case Operation::SampleSystematic:
+        return "SYSTEMATIC" + arguments(expression);
     default:
         return "(" + shape(*expression.arguments.at(0)) + " " + symbolOf(expression.operation) +
                " " + shape(*expression.arguments.at(1)) + ")";
     }
+}
+
+std::string shape(const Aggregate& aggregate) {
+    const char* const kinds[] = {"COUNT", "SUM", "AVERAGE", "MEDIAN", "MINIMUM", "MAXIMUM"};
+    std::string result =
+        kinds[static_cast<std::size_t>(aggregate.kind)] + (" " + aggregate.over->name);
+    if (aggregate.value != nullptr)
+        result += " of " + shape(*aggregate.value);
+    if (aggregate.weight != nullptr)
+        result += " weight " + shape(*aggregate.weight);
+    for (const ExpressionPtr& filter : aggregate.filters)
+        result += " filter " + shape(*filter);
+    return result;
+}
+
+std::string shape(const Definition& definition) {
+    std::string result =
+        definition.variable->fullName() + " " + catalog::typeName(definition.variable->type) + ": ";
+    if (definition.value != nullptr)
+        result += shape(*definition.value);
+    if (definition.numerator)
+        result += shape(*definition.numerator);
+    if (definition.denominator)
+        result += " / " + shape(*definition.denominator);
+    for (const ExpressionPtr& filter : definition.filters)
+        result += " where " + shape(*filter);
+    if (definition.otherwise)
+        result += " default " + show(*definition.otherwise);
+    return result;
+}
+
+std::string definitions(const BoundProgram& program) {
+    std::string result;
+    for (const Definition& definition : program.definitions)
+        result += shape(definition) + "\n";
+    return result;
 }
 
 namespace {
