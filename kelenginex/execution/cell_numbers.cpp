@@ -31,11 +31,11 @@ std::vector<CodeDomain> domainsOf(const plan::PlannedTable& table) {
 } // namespace
 
 CellNumbers::CellNumbers(const plan::PlannedTable& table, const Entity& unit, SourcePool& pool)
-    : unit_(&unit), lowest_(lowestOf(table)), upper_(lowest_ != nullptr ? *lowest_ : unit),
+    : unit_(&unit), lowest_(lowestOf(table)),
       dense_(domainsOf(table), MeasureForm(*table.command).weighted), shape_(dense_),
       numbers_(table.dimensions.size()), codes_(std::max<std::size_t>(numbers_.size(), 1)) {
     for (const auto& dimension : table.dimensions)
-        sources_.push_back(&(single() ? pool : ownPool_).of(*dimension));
+        sources_.push_back(&pool.of(*dimension));
     known_.resize(dense_.cells);
     shape_.cells = 0;
     shape_.strides.clear();
@@ -53,29 +53,24 @@ const std::vector<std::uint32_t>& CellNumbers::find(Frames& frames, HashCells& c
         result_ = {static_cast<std::uint32_t>(cells.add(codes_.data(), 0, {}))};
         return result_;
     }
-    if (!single()) {
-        const Frame frame = frames.frame(*lowest_);
-        upper_.move(frame.begin, frame.count);
-    }
-    Frames& own = single() ? frames : upper_;
-    result_.resize(own.baseFrame().count);
+    result_.resize(frames.frame(*lowest_).count);
     if (dense_.dense())
-        findDense(own, cells);
+        findDense(frames, cells);
     else
-        findHashed(own, cells);
+        findHashed(frames, cells);
     return result_;
 }
 
 void CellNumbers::makeIndex(Frames& frames) {
-    const std::size_t count = frames.baseFrame().count;
+    const std::size_t count = result_.size();
     index_.resize(count);
     for (std::size_t i = 0; i < sources_.size(); ++i) {
         const CodeDomain& domain = sources_[i]->domain();
-        withCodes(sources_[i]->codes(frames), domain.physical, [&](const auto* codes) {
+        withCodes(sources_[i]->codes(frames, *lowest_), domain.physical, [&](const auto* codes) {
             using Code = std::decay_t<decltype(*codes)>;
             kernels().of<Code>().index32(codes, count, static_cast<Code>(domain.lowest),
-                                         static_cast<Code>(domain.size), dense_.strides[i], i > 0,
-                                         index_.data());
+                                         static_cast<Code>(domain.numbers() - 1), dense_.strides[i],
+                                         i > 0, index_.data());
         });
     }
 }
@@ -87,7 +82,7 @@ void CellNumbers::findDense(Frames& frames, HashCells& cells) {
         if (known == 0) {
             for (std::size_t d = 0; d < codes_.size(); ++d) {
                 const CodeDomain& domain = dense_.domains[d];
-                const std::uint64_t slot = index_[i] / dense_.strides[d] % (domain.size + 1);
+                const std::uint64_t slot = index_[i] / dense_.strides[d] % domain.numbers();
                 codes_[d] = slot == domain.size ? storage::blankCode(storage::Physical::Code64)
                                                 : domain.lowest + slot;
             }
@@ -99,7 +94,7 @@ void CellNumbers::findDense(Frames& frames, HashCells& cells) {
 
 void CellNumbers::findHashed(Frames& frames, HashCells& cells) {
     for (std::size_t d = 0; d < sources_.size(); ++d)
-        sources_[d]->numbers(frames, numbers_[d]);
+        sources_[d]->numbers(frames, *lowest_, numbers_[d]);
     for (std::size_t i = 0; i < result_.size(); ++i) {
         for (std::size_t d = 0; d < codes_.size(); ++d)
             codes_[d] = numbers_[d][i];

@@ -35,8 +35,6 @@ private:
 
     const Entity* unit_;
     const Entity* lowest_ = nullptr; ///< null without dimensions: one run
-    Frames upper_;                   ///< over the lowest entity, where it is above the unit
-    SourcePool ownPool_;
     std::vector<CodeSource*> sources_;
     TableShape dense_, shape_;
     std::vector<std::uint32_t> known_; ///< cell + 1 by number of a dense cell

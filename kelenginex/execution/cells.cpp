@@ -18,6 +18,12 @@ Sum DenseCells::sum(std::size_t cell) const {
     return result;
 }
 
+void DenseCells::add(std::size_t cell, std::uint64_t records, std::initializer_list<double> terms) {
+    counts[cell] += records;
+    for (const double term : terms)
+        sums[cell * lanes].add(term);
+}
+
 void DenseCells::merge(const DenseCells& other) {
     for (std::size_t i = 0; i < counts.size(); ++i)
         counts[i] += other.counts[i];

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "execution/sum.h"
+#include "execution/weight_parts.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,18 +45,30 @@ struct Kernels {
     CodeKernels<std::uint32_t> code32;
     CodeKernels<std::uint64_t> code64;
 
-    /// Adds to counts[first + k] the records with code first + k, k < kinds. A null mask takes all.
+    /// Adds to counts[first + k] the records with code first + k, k < kinds; first + kinds is at
+    /// most 255. A null mask takes all, here and below.
     void (*countFew)(const std::uint8_t* codes, const std::uint8_t* mask, std::size_t count,
                      std::uint8_t first, unsigned kinds, std::uint64_t* counts);
     std::uint64_t (*countMask)(const std::uint8_t* mask, std::size_t count);
-    /// Adds to counts[index[i]].
-    void (*histogram8)(const std::uint8_t* index, std::size_t count, std::uint64_t* counts);
+    /// Adds to counts[index[i]]; all are below kinds.
+    void (*histogram8)(const std::uint8_t* index, const std::uint8_t* mask, std::size_t count,
+                       unsigned kinds, std::uint64_t* counts);
     void (*histogram32)(const std::uint32_t* index, std::size_t count, std::uint64_t* counts);
     /// Keeps where the mask is set, in order; gives the number kept. May work in place.
-    std::size_t (*compact8)(const std::uint8_t* in, const std::uint8_t* mask, std::size_t count,
-                            std::uint8_t* out);
     std::size_t (*compact32)(const std::uint32_t* in, const std::uint8_t* mask, std::size_t count,
                              std::uint32_t* out);
+    /// Puts another index where the mask is not set.
+    void (*replace32)(std::uint32_t* index, const std::uint8_t* mask, std::size_t count,
+                      std::uint32_t other);
+    void (*splitWeights)(const double* weights, std::size_t count, const WeightUnits& units,
+                         WeightParts* parts);
+    /// Adds parts[runs[i]], or parts[i] where there are no runs, to cells[index[i]].
+    void (*addParts)(const std::uint32_t* index, const std::uint32_t* runs,
+                     const WeightParts* parts, std::size_t count, WeightParts* cells);
+    /// The same for cells of partLanes places each, so that equal neighbours do not wait for each
+    /// other.
+    void (*addPartsInLanes)(const std::uint32_t* index, const std::uint32_t* runs,
+                            const WeightParts* parts, std::size_t count, WeightParts* cells);
     /// Adds weights[i] to sums[index[i]], one after the other.
     void (*addWeights)(const std::uint32_t* index, const double* weights, std::size_t count,
                        Sum* sums);

@@ -2,6 +2,7 @@
 #include "execution/pass_runner.h"
 
 #include "execution/table_maker.h"
+#include "execution/weight_parts.h"
 #include "execution/worker.h"
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace {
 /// Sums of weights are added up within stretches of so many records, counted from the entity's
 /// first, and then stretch by stretch: the order of additions is the same on any machine.
 constexpr std::uint64_t chunkRecords = 1U << 20;
+static_assert(chunkRecords <= mostExact);
 
 using Chunk = plan::RecordRanges;
 

@@ -4,6 +4,7 @@
 
 #include "execution/node.h"
 #include "execution/record_filter.h"
+#include "execution/weights.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -18,21 +19,18 @@ public:
     /// Throws std::runtime_error where weight or tally is no number.
     RecordWeights(const language::TableCommand& command, const Entity& unit, NodePool& nodes);
 
-    bool weighted() const { return !factors_.empty(); }
-    bool filtered() const { return filter_ != nullptr; }
+    bool weighted() const { return weights_.any(); }
     bool mayPass(std::size_t block) const { return !filter_ || filter_->mayPass(block); }
     /// The mask without the records that the filter or a weight without value leaves out; null
     /// takes all.
     const std::uint8_t* mask(Frames& frames, const std::uint8_t* mask);
-    /// Weight times tally of each record; only where weighted().
-    const double* weights(Frames& frames);
+    /// Weight times tally of each record; after mask(), and only where weighted().
+    const double* weights(Frames& frames) { return weights_.ofRecords(frames); }
 
 private:
     std::unique_ptr<RecordFilter> filter_;
-    std::vector<Node*> factors_;
+    Weights weights_;
     std::vector<std::uint8_t> mask_;
-    std::vector<double> weights_;
-    NumberView view_;
 };
 
 } // namespace kelx::execution

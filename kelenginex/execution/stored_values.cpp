@@ -21,7 +21,7 @@ std::int64_t StoredValues::whole(std::uint64_t code) const {
 }
 
 StoredValues::Value StoredValues::value(std::uint64_t code) const {
-    if (code == blank)
+    if (code == blank || code == column_->info().naCode)
         return {};
     if (column_->info().physical == storage::Physical::Real64)
         return std::bit_cast<double>(code);
@@ -33,6 +33,8 @@ StoredValues::Value StoredValues::value(std::uint64_t code) const {
 std::uint8_t StoredValues::state(std::uint64_t code) const {
     if (code == blank)
         return state::blank;
+    if (code == column_->info().naCode)
+        return state::blankNotApplicable;
     if (!states_.any())
         return state::valid;
     if (column_->info().physical == storage::Physical::Real64)

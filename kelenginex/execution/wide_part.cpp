@@ -31,6 +31,16 @@ void WidePart::clear() {
     numbers_.clear();
 }
 
+/// Where only the values count, and those of a cell lie side by side.
+bool WidePart::mayStay() const {
+    return values_.isColumn() && !form_.weighted && !form_.wantsTotals() && !numbers_.single();
+}
+
+/// What is not looked at needs no room in the cache.
+std::size_t WidePart::mostAtOnce() const {
+    return mayStay() ? storage::recordsPerBlock : cachedStep;
+}
+
 void WidePart::add(Frames& frames, const std::uint8_t* mask) {
     values_.read(frames);
     const std::uint8_t* passing = weights_.mask(frames, mask);
@@ -45,10 +55,9 @@ void WidePart::add(Frames& frames, const std::uint8_t* mask) {
         addCopies();
 }
 
-/// Where only the values count, and those of a cell lie side by side.
 bool WidePart::addInPlace(Frames& frames) {
     const double* values = values_.inPlace();
-    if (values == nullptr || form_.weighted || form_.wantsTotals() || numbers_.single())
+    if (values == nullptr || !mayStay())
         return false;
     const auto& ends = numbers_.ends(frames);
     if (frames.baseFrame().count < ends.size() * longRun)

@@ -44,10 +44,12 @@ public:
     /// To be called where what was found was taken.
     void clear();
 
+    std::size_t mostAtOnce() const override;
     bool mayPass(std::size_t block) const override { return weights_.mayPass(block); }
     void add(Frames& frames, const std::uint8_t* mask) override;
 
 private:
+    bool mayStay() const;
     bool addInPlace(Frames& frames);
     void findRecords(Frames& frames, const std::uint8_t* mask);
     void addCounts();
