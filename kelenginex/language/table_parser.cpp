@@ -119,7 +119,7 @@ void TableParser::parseQuantiles(ast::Table& table) {
     const Token& next = cursor_.peek(1);
     const bool subject = next.kind == TokenKind::Word || next.isSymbol("(");
     if (cursor_.peek().kind == TokenKind::Number && subject && !isOperator(next))
-        table.quantiles = clauses_.readWhole(table.kindWord, 2, most);
+        table.quantiles = clauses_.readCount(table.kindWord, 2, most);
 }
 
 bool TableParser::parseSubject(ast::Table& table) {
@@ -194,9 +194,9 @@ bool TableParser::parseList(ast::Table& table) {
 bool TableParser::parseTables(std::vector<ast::Name>& tables) {
     do {
         const Token& token = cursor_.peek();
-        const bool last = !cursor_.peek(1).isSymbol(",");
+        const bool keyword = cursor_.atClause() || cursor_.atCommand();
         if (token.kind != TokenKind::Word ||
-            (last && (cursor_.atClause() || cursor_.atCommand()))) {
+            (keyword && tables.empty() && !cursor_.peek(1).isSymbol(","))) {
             cursor_.unexpected("the name of a table");
             return false;
         }
@@ -221,8 +221,8 @@ void TableParser::parseClauses(ast::Table& table) {
 
 bool TableParser::parseClause(ast::Table& table) {
     const Token& clause = cursor_.peek();
-    if (const std::optional<bool> passedOver = clauses_.passOver(clause, inTable))
-        return *passedOver;
+    if (!clauses_.canRead(clause, inTable))
+        return false;
     if (clause.is(Keyword::By))
         return parseBy(table);
     if (clause.is(Keyword::Of))
@@ -296,7 +296,7 @@ bool TableParser::parseSetting(ast::Table& table, const Token& clause) {
     case Keyword::Mapstyle:
         return clauses_.readText(table.mapStyle, styleFile);
     case Keyword::Sensitive:
-        table.sensitive = clauses_.readWhole("SENSITIVE", 0, mostRecords);
+        table.sensitive = clauses_.readCount("SENSITIVE", 0, mostRecords);
         return table.sensitive.has_value();
     default:
         return clauses_.readDecimals(table.decimals);
