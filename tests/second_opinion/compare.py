@@ -8,6 +8,7 @@ A sample census goes through `kelx convert --csv` into SQLite, one table a level
 the levels above. A fault prints the program, so that it can be run by hand.
 """
 import argparse
+import collections
 import json
 import math
 import pathlib
@@ -15,8 +16,9 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "support"))
 import database
-import questions
+import maker
 
 
 def main():
@@ -28,46 +30,51 @@ def main():
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
         census = database.Census(options.kelx, pathlib.Path(folder), options.persons, options.seed)
-        maker = questions.Maker(census, options.seed)
-        faults = sum(not agrees(census, maker.next()) for _ in range(options.tables))
+        source = maker.Maker(census, options.seed)
+        kinds = collections.Counter()
+        faults = 0
+        for _ in range(options.tables):
+            question = source.next()
+            kinds[type(question).__name__ + (" of DEFINE" if question.definitions else "")] += 1
+            faults += not agrees(census, question)
+    print(", ".join(f"{number} {kind}" for kind, number in sorted(kinds.items())))
     print(f"{options.tables} tables put to both, {faults} with differences")
     return 1 if faults or not options.tables else 0
 
 
 def agrees(census, question):
     program = question.program()
-    expected = question.figures()
-    differences = compare(expected, engine_figures(census, program, len(question.dimensions)))
+    table = ask(census, program)
+    differences = compare(question.expected(), question.found(table))
     for difference in differences[:5]:
         print(f"{difference}\n  in: {program}")
     return not differences
 
 
-def engine_figures(census, program, dimensions):
-    """Cells by their categories: a code, or MV, NA, TOT."""
+def ask(census, program):
     done = subprocess.run([census.kelx, "run", census.file, "-e", program, "--format", "json"],
                           capture_output=True, text=True)
     if done.returncode != 0:
         sys.exit(f"{program}\n{done.stderr}")
     (table,) = json.loads(done.stdout)
-    figures = {}
-    for row in table["rows"]:
-        kinds = {"": None, "tot": "TOT", "mv": "MV", "na": "NA"}
-        key = tuple(kinds[row[3 * i + 2]] or row[3 * i] for i in range(dimensions))
-        if key in figures:
-            sys.exit(f"{program}\nthe row {key} stands there twice")
-        figures[key] = row[-1]
-    return figures
+    return table
+
+
+def same(wanted, given):
+    if isinstance(wanted, str) or wanted is None or isinstance(given, str) or given is None:
+        return wanted == given
+    return math.isclose(wanted, given, rel_tol=1e-11, abs_tol=1e-8)
 
 
 def compare(expected, found):
     differences = []
     for key in sorted(set(expected) | set(found)):
-        wanted, given = expected.get(key, 0), found.get(key, 0)
-        if not math.isclose(wanted, given, rel_tol=1e-12, abs_tol=1e-9):
-            differences.append(f"{key}: SQLite {wanted}, engine {given}")
-    missing = [key for key, value in expected.items() if value and key not in found]
-    return differences + [f"{key}: the engine has no row" for key in missing]
+        wanted, given = expected.get(key), found.get(key)
+        if wanted is None or given is None or len(wanted) != len(given) or not all(
+                same(a, b) for a, b in zip(wanted, given)):
+            if given is not None or any(wanted):
+                differences.append(f"{key}: expected {wanted}, the engine says {given}")
+    return differences
 
 
 if __name__ == "__main__":

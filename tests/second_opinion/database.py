@@ -34,6 +34,7 @@ class Entity:
         self.above = above
         self.code = told["code"]
         self.weight = told["weight"]
+        self.label = told["labelVariable"]
         self.variables = [Variable(self, variable) for variable in told["variables"]]
 
     def line(self):

@@ -1,54 +1,44 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Random tables, as a program and as SQL."""
+"""Tables of categories and of measures, as a program and as SQL and Python."""
 import itertools
-import random
 
-SKIPPED = {"INCOME", "NAME", "AREA_KM2", "WEIGHT"}  # too many categories to be one dimension
+import measures
+
+MARKERS = ("MV", "NA")
 
 
 class Question:
+    """What all tables have: a run's settings, an own filter, a weight, a tally."""
+
     def __init__(self, census, unit, dimensions):
         self.census = census
         self.unit = unit
         self.dimensions = dimensions
+        self.definitions = []
         self.weight = None        # a variable, "auto", or none
         self.tally = None
-        self.filter = None        # (text, SQL, entity)
-        self.universal = None     # the same, for the run
+        self.filter = None
+        self.universal = None
         self.areas = []           # (entity, compound code)
 
-    def program(self):
-        run = "RUNDEF Random " + ("AUTOWEIGHT" if self.weight == "auto" else "NOWEIGHT")
+    def run(self):
+        text = "".join(definition.command() for definition in self.definitions)
+        text += "RUNDEF Random " + ("AUTOWEIGHT" if self.weight == "auto" else "NOWEIGHT")
         if self.areas:
-            run += " SELECTION INLINE " + " ".join(f'{e.name} "{c}"' for e, c in self.areas)
-        if self.universal:
-            run += f" FILTER {self.universal[0]}"
-        table = " FREQ " + " BY ".join(variable.program for variable in self.dimensions)
-        if self.tally:
-            table += " TALLY " + self.tally.program
-        if self.weight not in (None, "auto"):
-            table += " WEIGHT " + self.weight.program
-        if self.filter:
-            table += f" FILTER {self.filter[0]}"
-        return run + table
+            text += " SELECTION INLINE " + " ".join(f'{e.name} "{c}"' for e, c in self.areas)
+        return text + (f" FILTER {self.universal.text}" if self.universal else "")
 
-    def figures(self):
-        amount, conditions = "1", []
-        for factor in (self.weight_variable(), self.tally):
-            if factor:
-                amount += f" * {factor.column}"
-                conditions.append(factor.is_valid())
-        for given in (self.filter, self.universal):
-            if given:
-                conditions.append(self.condition(*given[1:]))
-        if self.areas:
-            conditions.append(self.selection())
-        where = " AND ".join(f"({c})" for c in conditions) or "1"
-        categories = ", ".join(variable.category() for variable in self.dimensions)
-        cells = self.census.sql.execute(
-            f"SELECT {categories}, SUM({amount}) FROM m_{self.unit.name} WHERE {where} "
-            f"GROUP BY {', '.join(str(i + 1) for i in range(len(self.dimensions)))}")
-        return with_totals({tuple(row[:-1]): row[-1] for row in cells})
+    def program(self):
+        return f"{self.run()} {self.table()}"
+
+    def clauses(self):
+        text = f" TALLY {self.tally.program}" if self.tally else ""
+        if self.weight not in (None, "auto"):
+            text += f" WEIGHT {self.weight.program}"
+        return text + (f" FILTER {self.filter.text}" if self.filter else "")
+
+    def is_weighted(self):
+        return bool(self.weight_variable() or self.tally)
 
     def weight_variable(self):
         if self.weight != "auto":
@@ -58,115 +48,110 @@ class Question:
                 return next(v for v in entity.variables if v.name == entity.weight)
         return None
 
-    def condition(self, sql, entity):
-        if not entity.is_below(self.unit):
-            return sql
-        key = f"id_{self.unit.name}"
-        return f"{key} IN (SELECT {key} FROM m_{entity.name} WHERE {sql})"
+    def amount(self):
+        factors = [f.column for f in (self.weight_variable(), self.tally) if f]
+        return " * ".join(factors) or "1"
 
-    def selection(self):
-        listed = [f"{code_of(entity)} = '{code}'" for entity, code in self.areas
-                  if entity in self.unit.line()]
-        return " OR ".join(listed) or "0"
+    def where(self, *needed):
+        """Records that count, those given being valid."""
+        conditions = [v.is_valid() for v in (*needed, self.weight_variable(), self.tally) if v]
+        conditions += [c.on(self.unit) for c in (self.filter, self.universal) if c]
+        if self.areas:
+            conditions.append(selected(self.areas, self.unit))
+        return " AND ".join(f"({c})" for c in conditions) or "1"
+
+    def found(self, table):
+        """Figures by categories: a code, or MV, NA, TOT."""
+        width = len(self.dimensions)
+        kinds = {"": None, "tot": "TOT", "mv": "MV", "na": "NA"}
+        figures = {}
+        for row in table["rows"]:
+            key = tuple(kinds[row[3 * i + 2]] or row[3 * i] for i in range(width))
+            assert key not in figures, f"the row {key} stands there twice"
+            figures[key] = tuple(row[-self.width():])
+        return figures
+
+    def width(self):
+        return 1
+
+
+class Frequency(Question):
+    def table(self):
+        return "FREQ " + " BY ".join(v.program for v in self.dimensions) + self.clauses()
+
+    def expected(self):
+        categories = ", ".join(variable.category() for variable in self.dimensions)
+        cells = self.census.sql.execute(
+            f"SELECT {categories}, SUM({self.amount()}) FROM m_{self.unit.name} "
+            f"WHERE {self.where()} GROUP BY {', '.join(str(i + 1) for i in range(len(self.dimensions)))}")
+        cells = {tuple(row[:-1]): [row[-1]] for row in cells}
+        cells = with_totals(cells, 0)
+        cells.setdefault(("TOT",) * len(self.dimensions), [])
+        return {key: (measures.add(values),) for key, values in cells.items()}
+
+
+class Measure(Question):
+    KINDS = ["AVERAGE", "SUM", "MINIMUM", "MAXIMUM", "MEDIAN", "QUANTILE", "STATS", "GINI"]
+
+    def __init__(self, census, unit, dimensions, kind, measured):
+        super().__init__(census, unit, dimensions)
+        self.kind, self.measured = kind, measured
+        self.parts = 5
+
+    def width(self):
+        return {"QUANTILE": self.parts - 1, "STATS": 10}.get(self.kind, 1)
+
+    def table(self):
+        word = f"QUANTILE {self.parts} OF" if self.kind == "QUANTILE" else self.kind
+        by = "".join(f" BY {v.program}" for v in self.dimensions)
+        return f"{word} {self.measured.program}{by}{self.clauses()}"
+
+    def records(self, first=()):
+        """By categories, pairs of weight and value."""
+        columns = list(first) + [v.category() for v in self.dimensions]
+        cells = {}
+        for *key, weight, value in self.census.sql.execute(
+                f"SELECT {', '.join([*columns, self.amount(), self.measured.column])} "
+                f"FROM m_{self.unit.name} WHERE {self.where(self.measured)}"):
+            cells.setdefault(tuple(key), []).append((weight, value))
+        return cells
+
+    def expected(self):
+        cells = with_totals(self.records(), 0)
+        cells.setdefault(("TOT",) * len(self.dimensions), [])
+        return {key: tuple(self.figures(pairs)) for key, pairs in cells.items()}
+
+    def figures(self, pairs):
+        weighted = self.is_weighted()
+        if self.kind == "QUANTILE":
+            return [None] * self.width() if not pairs else measures.quantiles(pairs, self.parts,
+                                                                              weighted)
+        if self.kind == "STATS":
+            return measures.stats(pairs, weighted)
+        if self.kind == "MEDIAN":
+            return [measures.median(pairs, weighted)]
+        return [{"AVERAGE": measures.mean, "SUM": measures.total, "MINIMUM": measures.minimum,
+                 "MAXIMUM": measures.maximum, "GINI": measures.gini}[self.kind](pairs)]
 
 
 def code_of(entity):
     return " || ".join(f"{level.name}__{level.code}" for level in entity.line())
 
 
-def with_totals(cells):
-    """Adds the sums over the valid categories of one dimension or several."""
-    result = dict(cells)
-    width = len(next(iter(cells), ()))
-    for summed in itertools.product([False, True], repeat=width):
-        if not any(summed):
-            continue
-        for key, value in cells.items():
-            if any(s and k in ("MV", "NA") for s, k in zip(summed, key)):
+def selected(areas, unit):
+    listed = [f"{code_of(entity)} = '{code}'" for entity, code in areas if entity in unit.line()]
+    return " OR ".join(listed) or "0"
+
+
+def with_totals(cells, kept):
+    """Joins the lists of the cells to those of totals over the valid categories of one dimension or
+    several, but for the first ones that are kept."""
+    result = {}
+    for key, values in cells.items():
+        choices = [(False,)] * kept + [(False, True)] * (len(key) - kept)
+        for summed in itertools.product(*choices):
+            if any(s and k in MARKERS for s, k in zip(summed, key)):
                 continue
             total = tuple("TOT" if s else k for s, k in zip(summed, key))
-            result[total] = result.get(total, 0) + value
+            result.setdefault(total, []).extend(values)
     return result
-
-
-class Maker:
-    def __init__(self, census, seed):
-        self.census = census
-        self.random = random.Random(seed)
-
-    def next(self):
-        lowest = self.random.choice(list(self.census.entities.values()))
-        usable = [v for e in lowest.line() for v in e.variables if v.name not in SKIPPED]
-        count = min(len(usable), self.random.choice([1, 1, 2, 2, 3]))
-        dimensions = self.random.sample(usable, count)
-        question = Question(self.census, lowest, dimensions)
-        self.add_amounts(question, lowest)
-        used = dimensions + [v for v in (question.tally, question.weight)
-                             if v not in (None, "auto")]
-        question.unit = max((v.entity for v in used), key=lambda e: len(e.line()))
-        self.add_conditions(question)
-        return question
-
-    def add_amounts(self, question, lowest):
-        numbers = [v for e in lowest.line() for v in e.variables
-                   if v.type in ("integer", "real")]
-        question.weight = self.random.choice([None, "auto", "some"])
-        if question.weight == "some":
-            question.weight = self.random.choice(numbers) if numbers else None
-        if numbers and self.random.random() < 0.25:
-            question.tally = self.random.choice(numbers)
-
-    def add_conditions(self, question):
-        below = [e for e in self.census.entities.values()
-                 if e.is_below(question.unit) or e in question.unit.line()]
-        if self.random.random() < 0.6:
-            question.filter = self.filter(self.random.choice(below))
-        if self.random.random() < 0.3:
-            question.universal = self.filter(self.random.choice(below))
-        if self.random.random() < 0.3:
-            for _ in range(self.random.randint(1, 4)):
-                entity = self.census.entities[self.random.choice(["PROVINCE", "DISTRICT"])]
-                question.areas.append((entity, self.some_code(entity)))
-
-    def some_code(self, entity):
-        codes = self.census.sql.execute(f"SELECT {code_of(entity)} FROM m_{entity.name}").fetchall()
-        return self.random.choice(codes)[0]
-
-    def filter(self, entity):
-        """A condition on variables of the entity and of those above, the entity's own among them."""
-        parts = [self.comparison(self.random.choice(entity.variables))]
-        others = [v for e in entity.line() for v in e.variables]
-        for _ in range(self.random.choice([0, 0, 1, 2])):
-            parts.append(self.comparison(self.random.choice(others)))
-        text, sql = parts[0]
-        for part, part_sql in parts[1:]:
-            word = self.random.choice(["AND", "OR"])
-            text, sql = f"({text} {word} {part})", f"({sql} {word} {part_sql})"
-        if self.random.random() < 0.2:
-            text, sql = f"NOT ({text})", f"NOT ({sql})"
-        return text, sql, entity
-
-    def comparison(self, variable):
-        """Stored codes count; a comparison with a blank is false."""
-        name, column = variable.program, variable.column
-        if variable.type == "boolean":
-            return name, f"COALESCE({column} = 1, 0)"
-        if self.random.random() < 0.15:
-            return f"MISSING({name})", f"{variable.category()} = 'MV'"
-        values = [self.some_value(variable) for _ in range(3)]
-        if variable.type != "string" and self.random.random() < 0.3:
-            low, high = sorted(values[:2])
-            return (f"{name} IN ({low}:{high}, {values[2]})",
-                    f"COALESCE({column} BETWEEN {low} AND {high} OR {column} = {values[2]}, 0)")
-        operator = self.random.choice(["=", "<>", "<", "<=", ">", ">="])
-        value = values[0]
-        if variable.type == "string":
-            quoted = value.replace("'", "''")
-            return f'{name} {operator} "{value}"', f"COALESCE({column} {operator} '{quoted}', 0)"
-        return f"{name} {operator} {value}", f"COALESCE({column} {operator} {value}, 0)"
-
-    def some_value(self, variable):
-        rows = self.census.sql.execute(
-            f"SELECT DISTINCT {variable.column} FROM m_{variable.entity.name} "
-            f"WHERE {variable.column} IS NOT NULL").fetchall()
-        return self.random.choice(rows)[0]
