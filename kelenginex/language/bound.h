@@ -82,7 +82,8 @@ using ExpressionPtr = std::shared_ptr<const Expression>;
 struct AreaSelection {
     struct Area {
         const Entity* entity = nullptr;
-        std::string code; ///< compound code
+        std::string code;  ///< compound code
+        Position position; ///< where it is listed
     };
     std::vector<Area> areas;  ///< none: all, unless expression is set
     ExpressionPtr expression; ///< of SELECTION expression

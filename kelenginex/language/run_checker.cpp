@@ -128,7 +128,7 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
             continue;
         }
         for (const std::string& code : group.codes)
-            result.areas.push_back({entity, code});
+            result.areas.push_back({entity, code, position});
     }
     return result;
 }
@@ -147,7 +147,7 @@ void RunChecker::addArea(AreaSelection& selection, const Entity* entity, const s
     if (entity == nullptr)
         return;
     if (entity->hasCode())
-        selection.areas.push_back({entity, code});
+        selection.areas.push_back({entity, code, position});
     else
         context_.report(Error::NoCode, position, {entity->name});
 }

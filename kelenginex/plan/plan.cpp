@@ -80,16 +80,16 @@ private:
         const RunSettings& settings = *command.settings;
         if (!settings.selection || settings.selection->areas.empty())
             return joined({{0, unit.records()}});
-        return recordsUnder(areasOf(settings, command), unit);
+        return recordsUnder(areasOf(settings), unit);
     }
 
-    const SelectedAreas& areasOf(const RunSettings& settings, const TableCommand& command) {
+    const SelectedAreas& areasOf(const RunSettings& settings) {
         const auto known = areas_.find(&settings);
         if (known != areas_.end())
             return known->second;
         SelectedAreas areas = findAreas(*settings.selection);
         for (const auto& area : areas.unknown)
-            messages_.add(language::makeMessage(language::Warning::UnknownArea, command.position,
+            messages_.add(language::makeMessage(language::Warning::UnknownArea, area.position,
                                                 {area.entity->name, area.code}));
         return areas_.emplace(&settings, std::move(areas)).first->second;
     }
