@@ -17,12 +17,6 @@ std::vector<std::string> joined(std::vector<std::string> words,
 
 } // namespace
 
-void ClauseReader::notSupported() {
-    const Token& token = cursor_.take();
-    if (unsupported_.insert(token.keyword).second)
-        cursor_.report(Error::NotSupported, token.position, {upperCase(token.text)});
-}
-
 bool ClauseReader::misplaced(const std::string& reason) {
     const Token& token = cursor_.take();
     cursor_.report(Error::MisplacedClause, token.position, {upperCase(token.text), reason});
@@ -36,20 +30,15 @@ bool ClauseReader::firstTime(const Token& clause) {
     return false;
 }
 
-std::optional<bool> ClauseReader::passOver(const Token& clause, const ClausePlace& place) {
+bool ClauseReader::canRead(const Token& clause, const ClausePlace& place) {
     const unsigned places = placesOf(clause.keyword);
-    if ((places & place.own) == 0) {
-        if ((places & place.other) != 0)
-            return misplaced(place.otherReason);
-        cursor_.unexpected(place.expected, joined(wordsFor(place.own), wordsFor(startsCommand)));
-        cursor_.take();
-        return false;
-    }
-    if ((places & notSupportedYet) == 0 || place.own == isRunClause)
-        return std::nullopt;
-    notSupported();
-    cursor_.skipClause();
-    return true;
+    if ((places & place.own) != 0)
+        return true;
+    if ((places & place.other) != 0)
+        return misplaced(place.otherReason);
+    cursor_.unexpected(place.expected, joined(wordsFor(place.own), wordsFor(startsCommand)));
+    cursor_.take();
+    return false;
 }
 
 bool ClauseReader::readExpression(ast::NodePtr& into) {

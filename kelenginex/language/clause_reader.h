@@ -33,10 +33,8 @@ public:
     bool firstTime(const Token& clause);
     /// Takes the word and tells why it cannot stand here; false.
     bool misplaced(const std::string& reason);
-    /// Tells once for each word, and leaves the cursor behind the word.
-    void notSupported();
-    /// What to answer for a clause that is not read here; nothing where it is to be read.
-    std::optional<bool> passOver(const Token& clause, const ClausePlace& place);
+    /// False for a word that is no clause of the place; it is taken and reported.
+    bool canRead(const Token& clause, const ClausePlace& place);
 
     // False where a fault was reported.
     bool readExpression(ast::NodePtr& into);
@@ -48,8 +46,7 @@ public:
 private:
     TokenCursor cursor_;
     ExpressionParser expressions_;
-    std::set<Keyword> given_;       ///< clauses of the command being read
-    std::set<Keyword> unsupported_; ///< told already
+    std::set<Keyword> given_; ///< clauses of the command being read
 };
 
 } // namespace kelx::language

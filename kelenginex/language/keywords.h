@@ -96,10 +96,9 @@ enum class Keyword {
 /// Places where a keyword can stand; a set of bits.
 enum Place : unsigned {
     startsCommand = 1,
-    isTableKind = 2,   ///< after TABLE name, and by itself
-    isTableClause = 4, ///< after a table
-    isRunClause = 8,   ///< in RUNDEF
-    notSupportedYet = 16,
+    isTableKind = 2,     ///< after TABLE name, and by itself
+    isTableClause = 4,   ///< after a table
+    isRunClause = 8,     ///< in RUNDEF
     startsAnywhere = 32, ///< unmistakably a new command, wherever on the line it stands
     isDefineKind = 64,   ///< after DEFINE name AS
     isDefineClause = 128 ///< after that

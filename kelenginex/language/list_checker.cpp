@@ -17,7 +17,7 @@ bool ListChecker::check(const ast::Table& table, TableCommand& command) {
     for (const ast::Name& name : table.names)
         good = addColumn(name, command) && good;
     if (table.names.empty() && command.kind == TableKind::View) {
-        for (const auto& variable : entity.variables)
+        for (const Variable* variable : context_.names().variablesOf(entity))
             good = addVariable(*variable, table.entity->position, command) && good;
     }
     if (good)
@@ -87,7 +87,7 @@ bool ListChecker::addVariables(const ast::Name& name, TableCommand& command) {
     if (entity == nullptr)
         return false;
     bool good = true;
-    for (const auto& variable : entity->variables)
+    for (const Variable* variable : context_.names().variablesOf(*entity))
         good = good && addVariable(*variable, name.position, command);
     return good;
 }

@@ -49,24 +49,18 @@ private:
 
 void Parser::parseCommand() {
     const Token& token = cursor_.peek();
-    const unsigned places = placesOf(token.keyword);
     if (token.is(Keyword::Rundef))
         return parseRunDefinition();
     if (token.is(Keyword::Define))
         return definitions_.parse(program_);
     if (token.is(Keyword::Tablestyle))
         return parseStyle();
-    if (token.is(Keyword::Table) ||
-        ((places & isTableKind) != 0 && (places & notSupportedYet) == 0))
+    if (token.is(Keyword::Table) || (placesOf(token.keyword) & isTableKind) != 0)
         return tables_.parse(program_);
     if (token.is(Keyword::Execute))
         return parseExecute();
     if (token.is(Keyword::Weight))
         return parseWeight();
-    if ((places & notSupportedYet) != 0) {
-        clauses_.notSupported();
-        return (places & startsCommand) != 0 ? cursor_.skipToCommand() : cursor_.skipClause();
-    }
     if (cursor_.atClause()) {
         clauses_.misplaced("it must follow the command that it belongs to");
         return cursor_.skipToClause();
@@ -119,8 +113,8 @@ void Parser::parseRunDefinition() {
 
 bool Parser::parseRunClause(ast::RunDefinition& run) {
     const Token& clause = cursor_.peek();
-    if (const std::optional<bool> passedOver = clauses_.passOver(clause, inRundef))
-        return *passedOver;
+    if (!clauses_.canRead(clause, inRundef))
+        return false;
     cursor_.take();
     if (!clauses_.firstTime(clause))
         return false;

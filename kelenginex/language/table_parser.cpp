@@ -194,9 +194,9 @@ bool TableParser::parseList(ast::Table& table) {
 bool TableParser::parseTables(std::vector<ast::Name>& tables) {
     do {
         const Token& token = cursor_.peek();
-        const bool last = !cursor_.peek(1).isSymbol(",");
+        const bool keyword = cursor_.atClause() || cursor_.atCommand();
         if (token.kind != TokenKind::Word ||
-            (last && (cursor_.atClause() || cursor_.atCommand()))) {
+            (keyword && tables.empty() && !cursor_.peek(1).isSymbol(","))) {
             cursor_.unexpected("the name of a table");
             return false;
         }
@@ -221,8 +221,8 @@ void TableParser::parseClauses(ast::Table& table) {
 
 bool TableParser::parseClause(ast::Table& table) {
     const Token& clause = cursor_.peek();
-    if (const std::optional<bool> passedOver = clauses_.passOver(clause, inTable))
-        return *passedOver;
+    if (!clauses_.canRead(clause, inTable))
+        return false;
     if (clause.is(Keyword::By))
         return parseBy(table);
     if (clause.is(Keyword::Of))

@@ -71,7 +71,7 @@ std::optional<std::size_t> TableRegister::findOrReport(const ast::Name& name) {
     const std::string written = name.entity.empty() ? name.name : name.entity + "." + name.name;
     context_.report(
         Error::UnknownTable, name.position,
-        {inQuotes(written), context_.wantsHints() ? didYouMean(nearest(written, names())) : ""});
+        {inQuotes(written), context_.wantsHints() ? didYouMean(nearest(name.name, names())) : ""});
     return std::nullopt;
 }
 

@@ -56,11 +56,6 @@ void TokenCursor::skipToClause() {
         take();
 }
 
-void TokenCursor::skipClause() {
-    while (!atEnd() && !atClause() && !startsCommandHere())
-        take();
-}
-
 void TokenCursor::skipToCommand() {
     while (!atEnd() && !startsCommandHere())
         take();

@@ -32,9 +32,8 @@ public:
     /// Of which commands the clauses are told from other words; those of tables and of RUNDEF
     /// unless told otherwise.
     void setClauses(unsigned places) { clauses_ = places; }
-    // To the next clause or command past words that are not understood: there the name of a kind of
-    // table begins a command only at the start of a line.
-    void skipClause();
+    /// To the next command past words that are not understood: there the name of a kind of table
+    /// begins a command only at the start of a line.
     void skipToCommand();
 
     template <typename Code>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "faults.h"
 #include "fixture.h"
 #include "language/message_table.h"
 
@@ -6,11 +7,6 @@
 #include <set>
 
 namespace kelx::language {
-
-struct Fault {
-    const char* program;
-    const char* messages;
-};
 
 const std::vector<Fault> faults = {
     // Characters and words.
@@ -239,7 +235,8 @@ const std::vector<Fault> faults = {
     {"DEFINE PERSON.X AS CAUSE", "KEL_E_BRANCHES 1:20 PERSON and DEATH cannot be used together: "
                                  "neither of them is part of the other.\n"},
     {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3 DEFINE PERSON.X AS AGE FILTER CAUSE = 1",
-     "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one such "
+     "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one "
+     "such "
      "PERSON is kept.\n"
      "KEL_E_BRANCHES 1:75 PERSON and DEATH cannot be used together: neither of them is part of the "
      "other.\n"},
@@ -381,15 +378,7 @@ TEST_P(Faults, AreToldWhereTheyAre) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Faults, ::testing::ValuesIn(faults));
-
-TEST(Unsupported, IsToldOnceForEachWord) {
-    Census census;
-    const BoundProgram program =
-        census.compile("FREQ SEX2 MAPSTYLE \"f\" TITLE \"t\" FREQ AGE MAPSTYLE \"g\"");
-    EXPECT_EQ(told(census.messages), "KEL_E_NOT_SUPPORTED 1:11 MAPSTYLE is not supported yet.\n");
-    ASSERT_EQ(program.tables.size(), 2u);
-    EXPECT_EQ(program.tables[0].title, "t");
-}
+INSTANTIATE_TEST_SUITE_P(OfTables, Faults, ::testing::ValuesIn(tableFaults()));
 
 TEST(DataFiles, MustBeThere) {
     Census census;
@@ -419,7 +408,9 @@ TEST(MessageTable, IsTestedAsAWhole) {
         // Of EXECUTE, which needs files.
         "KEL_E_PROGRAM_CYCLE", "KEL_E_CALLS_TOO_DEEP", "KEL_E_TOO_MANY_CALLS",
         "KEL_E_UNKNOWN_VALUE", "KEL_W_UNUSED_VALUE"};
-    for (const Fault& fault : faults) {
+    std::vector<Fault> all = faults;
+    all.insert(all.end(), tableFaults().begin(), tableFaults().end());
+    for (const Fault& fault : all) {
         Census census;
         census.compile(fault.program);
         for (const Message& message : census.messages.all())

@@ -143,6 +143,10 @@ std::string shape(const Expression& expression) {
         return show(expression.constant);
     case Operation::VariableValue:
         return expression.variable->fullName();
+    case Operation::RecordNumber:
+        return "record " + expression.codeEntity->name;
+    case Operation::TableFigure:
+        return "#" + std::to_string(expression.table);
     case Operation::CompoundCode:
         return "code " + expression.codeEntity->name;
     case Operation::Not:
@@ -216,12 +220,57 @@ std::string definitions(const BoundProgram& program) {
     return result;
 }
 
+namespace {
+
+const char* wordOf(TableKind kind) {
+    constexpr const char* words[] = {"",         "COUNT",  "AVERAGE",  "SUM",    "MIN",
+                                     "MAX",      "MEDIAN", "QUANTILE", "STATS",  "GINI",
+                                     "AREALIST", "VIEW",   "TABOP",    "TABLIST"};
+    return words[static_cast<std::size_t>(kind)];
+}
+
+/// What the table is about, as the language writes it.
+std::string subject(const TableCommand& table) {
+    std::string result;
+    if (table.measure != nullptr)
+        result += std::string(" ") + wordOf(table.kind) +
+                  (table.kind == TableKind::Quantile ? " " + std::to_string(table.quantiles) : "") +
+                  " " + shape(*table.measure);
+    for (std::size_t i = 0; i < table.dimensions.size(); ++i)
+        result += (i == 0 && table.measure == nullptr ? " " : " BY ") + shape(*table.dimensions[i]);
+    if (table.kind == TableKind::AreaList || table.kind == TableKind::View)
+        result += std::string(" ") + wordOf(table.kind);
+    for (const ListColumn& column : table.columns)
+        result += " " + (column.table ? "#" + std::to_string(*column.table)
+                                      : column.variable->variable->fullName());
+    if (table.kind == TableKind::Tablist)
+        result += " TABLIST";
+    if (table.operation != nullptr)
+        result += " TABOP " + shape(*table.operation) + " of";
+    for (const std::size_t operand : table.operands)
+        result += " #" + std::to_string(operand);
+    return result;
+}
+
+/// What the command does not say itself.
+std::string status(const TableCommand& table) {
+    return std::string(table.isHidden ? " hidden" : "") +
+           (table.isOutput || table.isHidden ? "" : " silent") + (table.isNeeded ? "" : " idle");
+}
+
+std::string order(const SortClause& sort) {
+    return " sort " + sort.column + (sort.element ? "/" + std::to_string(*sort.element) : "") +
+           (sort.descending ? " desc" : "") +
+           (sort.limit ? " limit " + std::to_string(*sort.limit) : "");
+}
+
+} // namespace
+
 std::string summary(const BoundProgram& program) {
     std::string result;
     for (const TableCommand& table : program.tables) {
-        result += table.name + " " + table.unit->name + ":";
-        for (std::size_t i = 0; i < table.dimensions.size(); ++i)
-            result += (i == 0 ? " " : " BY ") + shape(*table.dimensions[i]);
+        result += table.name + " " + (table.unit == nullptr ? "-" : table.unit->name) + ":";
+        result += subject(table);
         if (table.weight != nullptr)
             result += " weight " + shape(*table.weight);
         if (table.tally != nullptr)
@@ -234,6 +283,11 @@ std::string summary(const BoundProgram& program) {
             result += " title " + *table.title;
         if (table.decimals)
             result += " decimals " + std::to_string(*table.decimals);
+        if (table.sort)
+            result += order(*table.sort);
+        if (table.sensitive)
+            result += " sensitive " + std::to_string(*table.sensitive);
+        result += status(table);
         result += "\n";
     }
     return result;
