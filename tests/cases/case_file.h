@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <iosfwd>
 #include <map>
 #include <string>
 #include <utility>
@@ -35,6 +36,9 @@ struct Case {
     std::vector<ExpectedTable> tables;
     std::vector<std::string> messages; ///< "KEL_E_NAME 1:2", and perhaps a part of the text
 };
+
+/// For GoogleTest: where the case stands.
+void PrintTo(const Case& given, std::ostream* stream);
 
 /// Throws std::runtime_error with file and line where the text is no case.
 std::vector<Case> readCases(const std::filesystem::path& file);

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -155,60 +156,60 @@ void compareOutcome(const Case& given, const Outcome& outcome) {
         compareTable(given, given.tables[i], outcome.tables[i]);
 }
 
-class CaseTest : public testing::Test {
-public:
-    explicit CaseTest(const Case& given) : given_(given) {}
+/// The cases of this run, told before tests are registered.
+std::vector<Case>& allCases() {
+    static std::vector<Case> cases;
+    return cases;
+}
 
-private:
-    void TestBody() override {
-        ASSERT_TRUE(given_.hasTables || !given_.messages.empty()) << "nothing is expected";
-        const Outcome outcome = runFresh(given_, plain);
-        if (std::getenv("KELX_CASES_PRINT") != nullptr)
-            std::cout << toText(outcome);
-        compareOutcome(given_, outcome);
-        for (const Tuning& tuning : others)
-            EXPECT_EQ(toText(runFresh(given_, tuning)), toText(outcome))
-                << given_.file.string() << ":" << given_.line << ": with " << tuning.threads
-                << " threads and blocks of " << tuning.blockRecords;
-    }
+class Cases : public testing::TestWithParam<Case> {};
 
-    const Case& given_;
-};
+TEST_P(Cases, GiveTheirTables) {
+    const Case& given = GetParam();
+    ASSERT_TRUE(given.hasTables || !given.messages.empty()) << "nothing is expected";
+    const Outcome outcome = runFresh(given, plain);
+    if (std::getenv("KELX_CASES_PRINT") != nullptr)
+        std::cout << toText(outcome);
+    compareOutcome(given, outcome);
+    for (const Tuning& tuning : others)
+        EXPECT_EQ(toText(runFresh(given, tuning)), toText(outcome))
+            << given.file.string() << ":" << given.line << ": with " << tuning.threads
+            << " threads and blocks of " << tuning.blockRecords;
+}
 
-std::string identifier(const std::string& title) {
-    std::string name;
-    for (const char c : title)
-        name += std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
+std::string nameOf(const testing::TestParamInfo<Case>& info) {
+    std::string name = info.param.file.stem().string() + "_" + info.param.title;
+    for (char& c : name)
+        c = std::isalnum(static_cast<unsigned char>(c)) != 0 ? c : '_';
     return name;
 }
 
-/// The cases must outlive the tests.
-void registerCases(const std::vector<Case>& cases) {
-    for (const Case& given : cases)
-        testing::RegisterTest(
-            identifier(given.file.stem().string()).c_str(), identifier(given.title).c_str(),
-            nullptr, nullptr, given.file.c_str(), given.line,
-            [&given] { return static_cast<testing::Test*>(new CaseTest(given)); });
-}
+INSTANTIATE_TEST_SUITE_P(All, Cases, testing::ValuesIn(allCases()), nameOf);
 
 } // namespace
+
+void PrintTo(const Case& given, std::ostream* stream) {
+    *stream << given.file.string() << ":" << given.line;
+}
+
 } // namespace kelx::test
 
 int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    std::vector<std::vector<kelx::test::Case>> files;
     try {
-        for (int i = 1; i < argc; ++i)
-            files.push_back(kelx::test::readCases(argv[i]));
+        for (int i = 1; i < argc; ++i) {
+            if (std::string(argv[i]).starts_with("-"))
+                continue;
+            for (kelx::test::Case& given : kelx::test::readCases(argv[i]))
+                kelx::test::allCases().push_back(std::move(given));
+        }
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";
         return 2;
     }
-    if (files.empty()) {
+    if (kelx::test::allCases().empty()) {
         std::cerr << "cases_test FILE.case ...\n";
         return 2;
     }
-    for (const auto& cases : files)
-        kelx::test::registerCases(cases);
+    testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -74,9 +74,12 @@ class Maker:
     def measure(self):
         lowest = self.random.choice([e for e in self.census.entities.values() if self.numbers(e)])
         measured = self.random.choice(self.numbers(lowest))
+        kind = self.random.choice(questions.Measure.KINDS)
+        if kind == "STATS" and measured.name == measured.entity.code:
+            kind = "MEDIAN"  # STATS of a code BY a variable is read the other way round
         question = questions.Measure(self.census, lowest,
-                                     self.some(lowest, self.random.choice([0, 1, 1, 2])),
-                                     self.random.choice(questions.Measure.KINDS), measured)
+                                     self.some(lowest, self.random.choice([0, 1, 1, 2])), kind,
+                                     measured)
         self.add_weight(question, lowest)
         return self.settle(question, measured)
 
