@@ -236,11 +236,11 @@ def split_row(line):
 
 
 def join_rows(rows):
-    rows = [[f'"{c}"' if c != c.strip() else c for c in row] for row in rows]
+    """Lines of rows; quotes keep blanks, and a line that would be empty."""
+    rows = [[f'"{c}"' if c != c.strip() or row == [""] else c for c in row] for row in rows]
     widths = [max(len(row[i]) for row in rows if i < len(row))
               for i in range(max(map(len, rows), default=0))]
-    return [("    " + " | ".join(c.ljust(w) for c, w in zip(row, widths))).rstrip() if any(row)
-            else "    " + " | ".join(c.ljust(w) for c, w in zip(row, widths)) for row in rows]
+    return [("    " + " | ".join(c.ljust(w) for c, w in zip(row, widths))).rstrip() for row in rows]
 
 
 def same(expected, found, tolerance):
