@@ -190,7 +190,8 @@ std::string joinRow(const Cells& cells) {
     std::string line;
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const std::string& cell = cells[i];
-        const bool quoted = (cell.empty() && cells.size() == 1) || cell != trimmed(cell) || (cell.size() >= 2 && cell.front() == '"');
+        const bool quoted = (cell.empty() && cells.size() == 1) || cell != trimmed(cell) ||
+                            (cell.size() >= 2 && cell.front() == '"');
         line += (i > 0 ? " | " : "") + (quoted ? '"' + cell + '"' : cell);
     }
     return line;
