@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "catalog/reader.h"
 #include "commands.h"
 #include "interrupt.h"
 #include "language/compile.h"
+#include "output/files.h"
 #include "output/run.h"
+#include "output/saved_variables.h"
 #include "password.h"
 #include "progress_bar.h"
 #include "storage/error.h"
@@ -65,6 +68,28 @@ output::TablesOfRun makeTables(const language::BoundProgram& program,
     return made;
 }
 
+/// Variables that the program saves stand in the dictionary file from now on.
+void keepVariables(const language::BoundProgram& program, catalog::Dictionary& dictionary) {
+    if (output::joinSavedVariables(program, dictionary) == 0)
+        return;
+    catalog::saveDictionary(dictionary, dictionary.file);
+    for (const language::Definition& definition : program.definitions) {
+        if (definition.save)
+            std::cerr << definition.variable->fullName() << ": saved in "
+                      << definition.save->file.string() << '\n';
+    }
+}
+
+/// Those that the program itself asks for.
+void writeFiles(const std::vector<output::Table>& tables, const language::BoundProgram& program) {
+    std::vector<output::TableFile> files = output::csvFiles(tables, program);
+    for (output::TableFile& file : output::jsonFiles(tables, program))
+        files.push_back(std::move(file));
+    output::writeFiles(files);
+    for (const output::TableFile& file : files)
+        std::cerr << file.path.string() << ": written\n";
+}
+
 int run(const RunRequest& request) {
     const std::string name = request.program.empty() ? "-e" : request.program.string();
     const std::string text = request.program.empty() ? request.text : readFile(request.program);
@@ -77,10 +102,15 @@ int run(const RunRequest& request) {
         print(messages, name);
         return failure;
     }
+    output::requireCsv(program);
     const output::TablesOfRun made = makeTables(program, *dictionary, request, messages);
     print(messages, name);
+    if (messages.hasErrors())
+        return failure;
+    keepVariables(program, *dictionary);
+    writeFiles(made.tables, program);
     print(made.tables, request.printing);
-    return messages.hasErrors() ? failure : success;
+    return success;
 }
 
 int runWithinMemory(const RunRequest& request) {
