@@ -248,7 +248,7 @@ bool DefinitionParser::readSample() {
         return false;
     }
     const std::optional<int> number =
-        clauses_.readWhole("SAMPLE", 1, std::numeric_limits<int>::max());
+        clauses_.readCount("SAMPLE", 1, std::numeric_limits<int>::max());
     definition_.sample = number.value_or(1);
     return number.has_value();
 }
@@ -478,7 +478,7 @@ bool DefinitionParser::readSave() {
 
 bool DefinitionParser::readSensitive() {
     const std::optional<int> number =
-        clauses_.readWhole("SENSITIVE", 0, std::numeric_limits<int>::max());
+        clauses_.readCount("SENSITIVE", 0, std::numeric_limits<int>::max());
     if (number.value_or(0) > 0)
         definition_.sensitive = number;
     return number.has_value();

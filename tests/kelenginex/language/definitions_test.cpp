@@ -137,6 +137,17 @@ TEST(DefinedNames, HoldFromThereOn) {
     EXPECT_EQ(read, expected);
 }
 
+TEST(DefinedNames, HoldAfterACalledProgram) {
+    Census census;
+    census.write("sub/ages.spc", "DEFINE PERSON.OLD AS PERSON.AGE > {limit} SAVE \"old.kbf\"");
+    const BoundProgram program =
+        census.compile("EXECUTE \"sub/ages.spc\" limit = {64}\nRUNDEF NOWEIGHT FREQ OLD");
+    EXPECT_EQ(told(census.messages), "");
+    EXPECT_EQ(definitions(program), "PERSON.OLD BOOLEAN: (PERSON.AGE > 64)\n");
+    EXPECT_EQ(summary(program), "FREQ_1 PERSON: PERSON.OLD\n");
+    EXPECT_EQ(program.definitions[0].save->fileName, "sub/old.kbf");
+}
+
 TEST(DefinedNames, AreFoundAndSuggested) {
     Census census;
     census.compile("DEFINE PERSON.SEX3 AS SEX2 ALIAS GENDER\nDEFINE DEATH.SEX2 AS CAUSE\n"
@@ -298,6 +309,12 @@ TEST(DefinedVariables, AreUsedWhereATableReachesThem) {
     EXPECT_EQ(used("RUNDEF SELECTION A > 3 FREQ SEX2"), "A");
     EXPECT_EQ(used("RUNDEF WEIGHT A FREQ SEX2"), "A");
     EXPECT_EQ(used("RUNDEF FILTER A > 3"), "");
+    EXPECT_EQ(used("AVERAGE A BY SEX2"), "A");
+    EXPECT_EQ(used("VIEW PERSON, D"), "D");
+    EXPECT_EQ(used("AREALIST DISTRICT, DISTRICT.E"), "DE");
+    EXPECT_EQ(used("TABLE T FREQ PERSON.B\nAREALIST DISTRICT, T SORT T"), "AB");
+    EXPECT_EQ(used("TABLE T FREQ PERSON.B TABLE U FREQ PERSON.B FILTER D = 1 TABOP T / U"), "ABD");
+    EXPECT_EQ(used("QUANTILE HOUSEHOLD.C"), "ABC");
     EXPECT_EQ(used("RUNDEF FILTER D > 3\nDEFINE DISTRICT.X AS COUNT PERSON RUNDEF FREQ X"), "DX");
 }
 
