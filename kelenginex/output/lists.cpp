@@ -84,7 +84,7 @@ private:
 
     void addCodes() {
         const catalog::Entity& entity = *command_.countEntity;
-        const bool coded = entity.hasCode();
+        const bool coded = entity.codeVar != nullptr;
         groups_.push_back(
             {{nullptr, &entity, coded ? entity.name + ".CMPCODE" : entity.name, headingOf(entity)},
              "",

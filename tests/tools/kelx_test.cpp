@@ -186,6 +186,35 @@ TEST_F(KelxTest, ProgramFaultsHaveTheirPlace) {
                 StartsWith("-e:1:6: error: "));
 }
 
+TEST_F(KelxTest, WritesTheFilesOfAProgram) {
+    ASSERT_EQ(kelx("sample @/kept --persons 1000").status, 0);
+    folder->write("kept/made.spc", "TABLE a FREQ PERSON.SEX OUTFILE \"a.csv\" SAVE \"a.json\"\n"
+                                   "TABLE b FREQ PERSON.SEX, PERSON.LITERATE OUTFILE \"b.csv\"\n"
+                                   "DEFINE PERSON.ADULT AS PERSON.AGE >= 18 SAVE \"adult.kbf\"\n");
+    const Outcome made = kelx("run @/kept/sample.kxdb @/kept/made.spc --json");
+    ASSERT_EQ(made.status, 0) << made.err;
+    EXPECT_EQ(made.err, "");
+    const json tables = json::parse(made.out);
+    ASSERT_EQ(tables.size(), 3u);
+    EXPECT_EQ(json::parse(folder->read("kept/a.json")), tables[0]);
+    EXPECT_EQ(folder->read("kept/a.csv"),
+              kelx("run @/kept/sample.kxdb -e 'FREQ PERSON.SEX' --format csv").out);
+    const std::string several = folder->read("kept/b.csv");
+    EXPECT_THAT(several, StartsWith("b_1\r\nPERSON.SEX,"));
+    EXPECT_THAT(several, HasSubstr("\r\n\r\nb_2\r\nPERSON.LITERATE,"));
+    // The saved variable is known from now on.
+    EXPECT_EQ(kelx("run @/kept/sample.kxdb -e 'FREQ PERSON.ADULT'").status, 0);
+}
+
+TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {
+    const Outcome refused =
+        kelx("run @/sample/sample.kxdb -e 'COUNT PERSON FREQ PERSON.SEX OUTFILE PDF \"x.pdf\"'");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err, "kelx: error: line 1: PDF files are written by the workbench only; " +
+                               path("sample/x.pdf") + " can be had as CSV or JSON here\n");
+}
+
 TEST_F(KelxTest, ImportsAndConverts) {
     EXPECT_EQ(kelx("convert @/sample/sample.kxdb @/csv --csv").status, 0);
     const std::string levels =

@@ -73,11 +73,6 @@ void keepVariables(const language::BoundProgram& program, catalog::Dictionary& d
     if (output::joinSavedVariables(program, dictionary) == 0)
         return;
     catalog::saveDictionary(dictionary, dictionary.file);
-    for (const language::Definition& definition : program.definitions) {
-        if (definition.save)
-            std::cerr << definition.variable->fullName() << ": saved in "
-                      << definition.save->file.string() << '\n';
-    }
 }
 
 /// Those that the program itself asks for.
@@ -86,8 +81,6 @@ void writeFiles(const std::vector<output::Table>& tables, const language::BoundP
     for (output::TableFile& file : output::jsonFiles(tables, program))
         files.push_back(std::move(file));
     output::writeFiles(files);
-    for (const output::TableFile& file : files)
-        std::cerr << file.path.string() << ": written\n";
 }
 
 int run(const RunRequest& request) {
@@ -141,6 +134,8 @@ void addRun(CLI::App& app, Action& action) {
                      "Several tables as csv on standard output: each after a line with its name, "
                      "an empty line between them")
         ->check(CLI::IsMember({"text", "json", "csv"}));
+    command->add_flag_callback(
+        "--json", [request] { request->printing.format = "json"; }, "The same as --format json");
     command->add_option("--out", printing.folder, "Write a file for each table into this folder")
         ->type_name("FOLDER")
         ->check(hasName);

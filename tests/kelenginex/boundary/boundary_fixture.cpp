@@ -41,6 +41,17 @@ std::shared_ptr<TKelDictionary> BoundaryTest::open(const std::string& name) {
     return dictionary;
 }
 
+void BoundaryTest::dropSensitivity() {
+    const auto file = folder / "sample.kxdb";
+    const auto dictionary = sampleDictionary(file);
+    catalog::Entity& person = *dictionary->findEntity("PERSON");
+    person.sensitive.reset();
+    for (const auto& variable : person.variables) {
+        variable->sensitive.reset();
+    }
+    catalog::saveDictionary(*dictionary, file);
+}
+
 std::vector<std::string> BoundaryTest::run(const std::string& program) {
     session = kel::makeDefaultSession(open());
     session->setErrorsListener(&listener);

@@ -35,7 +35,9 @@ public:
     bool sensitiveByDefault() override { return false; }
     bool strictTypes() override { return false; }
     std::shared_ptr<TKelUIProvider> uiProvider() override { return provider; }
+    bool tab_show_intermediate() override { return intermediate; }
     bool stop = false;
+    bool intermediate = false;
     bool weight = true;
     std::shared_ptr<Provider> provider = std::make_shared<Provider>();
 };
@@ -69,6 +71,8 @@ protected:
     BoundaryTest();
     ~BoundaryTest() override;
     std::shared_ptr<TKelDictionary> open(const std::string& name = "sample.kxdb");
+    /// From now on the sample shows small cells, too.
+    void dropSensitivity();
     /// Rows of the first output of a run, cells joined by "|".
     std::vector<std::string> run(const std::string& program);
 

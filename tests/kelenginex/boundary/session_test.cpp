@@ -13,7 +13,10 @@ using testing::HasSubstr;
 
 namespace {
 
-using SessionTest = test::BoundaryTest;
+class SessionTest : public test::BoundaryTest {
+protected:
+    SessionTest() { dropSensitivity(); }
+};
 
 // Persons: sex 1 2 1 2 9 with 9 missing; weights 1 1 2 2 4.
 TEST_F(SessionTest, RunsAFrequency) {
@@ -209,13 +212,14 @@ TEST_F(SessionTest, TextAndBinaryDictionaryGiveTheSameTables) {
     EXPECT_EQ(test::rowsOf(*second->outputs()[0]->dataset()), expected);
 }
 
-TEST_F(SessionTest, ExecuteSaysThatItIsMissing) {
-    const auto execute = kel::makeExecute(open());
-    execute->setErrorsListener(&listener);
-    execute->setCallback({});
-    EXPECT_EQ(test::thrownBy([&] { execute->execute("EXECUTE \"a.spc\""); }),
-              "EXECUTE is not supported yet");
-    EXPECT_TRUE(execute->outputs().empty());
+TEST_F(SessionTest, SmallCellsOfSensitiveVariablesAreHidden) {
+    auto dictionary = open();
+    session = kel::makeDefaultSession(dictionary);
+    session->executeText("RUNDEF r NOWEIGHT FREQ PERSON.SEX SENSITIVE 2", nullptr);
+    // Two of each sex are enough, the one of unknown sex is not.
+    EXPECT_THAT(test::rowsOf(*session->outputs()[0]->dataset()),
+                ElementsAre("1|Male||2", "2|Female é||2", "0|__tot__|tot|4", "0|__mv__|mv|"));
+    EXPECT_EQ(session->outputs()[0]->suppressed(), 1);
 }
 
 TEST_F(SessionTest, SessionsOutliveTheirDictionaryPointer) {

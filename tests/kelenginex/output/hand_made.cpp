@@ -2,6 +2,7 @@
 #include "hand_made.h"
 
 #include <numeric>
+#include <utility>
 
 namespace kelx::test {
 
@@ -111,9 +112,8 @@ void HandMade::take(std::size_t index, execution::TableResult result) {
 std::map<std::string, output::Table> HandMade::finish() {
     execution::Progress silent({});
     output::Workshop workshop(program, dictionary);
-    for (auto& [index, result] : results_)
+    for (auto& [index, result] : std::exchange(results_, {}))
         workshop.take(index, std::move(result), silent);
-    results_.clear();
     std::map<std::string, output::Table> tables;
     for (output::Table& table : workshop.finish(silent)) {
         const std::string name = table.name;
