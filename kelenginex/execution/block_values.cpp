@@ -23,12 +23,8 @@ std::optional<std::int64_t> rounded(double value) {
     return static_cast<std::int64_t>(whole);
 }
 
-/// The number that a text is, blanks around it left aside; NaN where it is none.
+/// The number that a text is; NaN where it is none.
 double numberIn(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return nothing;
-    text = text.substr(first, text.find_last_not_of(' ') - first + 1);
     return catalog::parseNumber(text).value_or(nothing);
 }
 
