@@ -381,6 +381,39 @@ void indexOf(const Code* codes, std::size_t count, Code lowest, Code domain, Ind
     }
 }
 
+/// Bytes have no multiplication of their own: even and odd ones are multiplied apart.
+template <bool Add, bool Times>
+std::size_t indexBytes(const Byte* codes, std::size_t count, Byte lowest, Byte domain, Byte stride,
+                       Byte* out) {
+    std::size_t i = 0;
+    for (; i + 32 <= count; i += 32) {
+        Bytes32 slot;
+        load(codes + i, slot);
+        slot -= lowest;
+        const Bytes32 last = Bytes32{} + domain;
+        slot = slot < last ? slot : last;
+        if (Times) {
+            const Words16 both = (Words16)slot;
+            slot = (Bytes32)((both & 0xff) * (std::uint16_t)stride |
+                             (both >> 8) * (std::uint16_t)(stride << 8));
+        }
+        if (Add) {
+            Bytes32 before;
+            load(out + i, before);
+            slot += before;
+        }
+        __builtin_memcpy(out + i, &slot, sizeof slot);
+    }
+    return i;
+}
+
+template <bool Add, bool Times>
+void indexOf(const Byte* codes, std::size_t count, Byte lowest, Byte domain, Byte stride,
+             Byte* out) {
+    const std::size_t done = indexBytes<Add, Times>(codes, count, lowest, domain, stride, out);
+    indexOf<Add, Times, Byte, Byte>(codes + done, count - done, lowest, domain, stride, out + done);
+}
+
 template <class Code, class Index>
 void index(const Code* codes, std::size_t count, Code lowest, Code domain, std::uint32_t stride,
            bool add, Index* out) {
