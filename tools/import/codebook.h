@@ -38,13 +38,14 @@ struct FieldPlan {
     storage::ValueType type = storage::ValueType::Integer;
     bool coded = false; ///< values without a label are worth a word
     int width = 0;      ///< characters of a text: exact for keys and codes, else the most; 0: any
+    bool loose = false; ///< no text needs to have exactly its width
     int impliedDecimals = 0; ///< digits behind the point where a real is written without one
     std::vector<CodeEntry> codes;
     std::vector<catalog::Range> ranges;
     std::vector<Recode> recodes;
     Place place;
 
-    bool exactWidth() const { return width > 0 && (coded || role == FieldRole::Key); }
+    bool exactWidth() const { return width > 0 && !loose && (coded || role == FieldRole::Key); }
 };
 
 /// A level, that is an entity and its file.

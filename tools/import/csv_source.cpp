@@ -15,6 +15,7 @@ CsvSource::CsvSource(const std::filesystem::path& file, const BytesRead& onRead)
         field.plan.place = csv_.place(i);
         fields_.push_back(std::move(field));
     }
+    notes_ = makeNames(fields_);
 }
 
 std::string CsvSource::rowFault() const {

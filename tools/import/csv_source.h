@@ -5,6 +5,7 @@
 #include "import/csv_reader.h"
 #include "import/row_source.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace kelx::tools {
@@ -22,11 +23,13 @@ public:
     }
     Place place(std::size_t field) const override { return csv_.place(field); }
     std::string rowFault() const override; ///< not as many fields as the header
+    std::vector<std::string> notes() const override { return notes_; }
     std::size_t faultyField() const { return std::min(csv_.fields(), fields_.size()); }
 
 private:
     CsvReader csv_;
     std::vector<SourceField> fields_;
+    std::vector<std::string> notes_;
 };
 
 } // namespace kelx::tools

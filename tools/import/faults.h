@@ -19,22 +19,26 @@ public:
     explicit Faults(bool tolerant) : tolerant_(tolerant) {}
 
     void meet(const LocatedError& fault) {
+        if (muted_ && !heard_)
+            return;
+        heard_ = false;
         if (!tolerant_)
             throw fault;
-        if (muted_)
-            return;
         ++count_;
         if (first_.size() < kept)
             first_.emplace_back(fault.what());
     }
-    /// From now on, faults are ones that have been met before.
+    /// From now on, faults are ones that have been met before,
     void mute() { muted_ = true; }
+    /// but for the next one.
+    void unmute() { heard_ = true; }
     std::uint64_t count() const { return count_; }
     const std::vector<std::string>& first() const { return first_; }
 
 private:
     bool tolerant_;
     bool muted_ = false;
+    bool heard_ = false;
     std::uint64_t count_ = 0;
     std::vector<std::string> first_;
 };

@@ -57,6 +57,9 @@ public:
     /// A fault of the current row that makes it useless; empty for none.
     virtual std::string rowFault() const { return {}; }
 
+    /// What the source changed on its own, for the report.
+    virtual std::vector<std::string> notes() const { return {}; }
+
     LocatedError faultAt(std::size_t field, const std::string& text) const {
         return {name(), place(field), text};
     }
