@@ -75,7 +75,7 @@ bool ClauseReader::readDecimals(std::optional<int>& into) {
     return true;
 }
 
-std::optional<int> ClauseReader::readCount(const std::string& clause, int least, int most) {
+std::optional<int> ClauseReader::readWhole(const std::string& clause, int least, int most) {
     const Token& token = cursor_.peek();
     if (token.kind != TokenKind::Number) {
         cursor_.unexpected("the number of " + clause);
@@ -89,19 +89,6 @@ std::optional<int> ClauseReader::readCount(const std::string& clause, int least,
         return value;
     cursor_.report(Error::BadCount, token.position,
                    {clause, std::to_string(least), std::to_string(most), std::string(token.text)});
-    return std::nullopt;
-}
-
-std::optional<std::int64_t> ClauseReader::readWhole(std::int64_t least, const char* what) {
-    const Token& token = cursor_.peek();
-    const std::optional<Constant> number =
-        token.kind == TokenKind::Number ? numberOf(token.text) : std::nullopt;
-    const auto* whole = number ? std::get_if<std::int64_t>(&*number) : nullptr;
-    if (whole != nullptr && *whole >= least) {
-        cursor_.take();
-        return *whole;
-    }
-    cursor_.unexpected(std::string(what) + ", a whole number from " + std::to_string(least));
     return std::nullopt;
 }
 

@@ -119,7 +119,7 @@ void TableParser::parseQuantiles(ast::Table& table) {
     const Token& next = cursor_.peek(1);
     const bool subject = next.kind == TokenKind::Word || next.isSymbol("(");
     if (cursor_.peek().kind == TokenKind::Number && subject && !isOperator(next))
-        table.quantiles = clauses_.readCount(table.kindWord, 2, most);
+        table.quantiles = clauses_.readWhole(table.kindWord, 2, most);
 }
 
 bool TableParser::parseSubject(ast::Table& table) {
@@ -296,7 +296,7 @@ bool TableParser::parseSetting(ast::Table& table, const Token& clause) {
     case Keyword::Mapstyle:
         return clauses_.readText(table.mapStyle, styleFile);
     case Keyword::Sensitive:
-        table.sensitive = clauses_.readCount("SENSITIVE", 0, mostRecords);
+        table.sensitive = clauses_.readWhole("SENSITIVE", 0, mostRecords);
         return table.sensitive.has_value();
     default:
         return clauses_.readDecimals(table.decimals);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "faults.h"
 #include "fixture.h"
 #include "language/message_table.h"
 
@@ -6,11 +7,6 @@
 #include <set>
 
 namespace kelx::language {
-
-struct Fault {
-    const char* program;
-    const char* messages;
-};
 
 const std::vector<Fault> faults = {
     // Characters and words.
@@ -238,9 +234,12 @@ const std::vector<Fault> faults = {
      "this is about PERSON. COUNT, SUM and the like gather what lies below.\n"},
     {"DEFINE PERSON.X AS CAUSE", "KEL_E_BRANCHES 1:20 PERSON and DEATH cannot be used together: "
                                  "neither of them is part of the other.\n"},
-    {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3",
-     "KEL_E_BELOW_ENTITY 1:36 FILTER must be about HOUSEHOLD or what lies above it, but this is "
-     "about PERSON.\n"},
+    {"DEFINE HOUSEHOLD.X AS ROOMS FILTER AGE > 3 DEFINE PERSON.X AS AGE FILTER CAUSE = 1",
+     "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one "
+     "such "
+     "PERSON is kept.\n"
+     "KEL_E_BRANCHES 1:75 PERSON and DEATH cannot be used together: neither of them is part of the "
+     "other.\n"},
     {"DEFINE PERSON.X AS COUNT HOUSEHOLD", "KEL_E_NOT_BELOW 1:26 COUNT gathers what lies below "
                                            "each PERSON, but this is about HOUSEHOLD.\n"},
     {"DEFINE PERSON.X AS COUNT PERSON",
@@ -316,8 +315,7 @@ const std::vector<Fault> faults = {
     {"DEFINE PERSON.X AS AGE VALUELABELS 1 2 \"b\"",
      "KEL_E_UNEXPECTED 1:38 Found the number 2, but expected the label of 1 in quotes.\n"},
     {"DEFINE PERSON.X AS AGE SENSITIVE \"3\"",
-     "KEL_E_UNEXPECTED 1:34 Found the text \"3\", but expected the least number of records that "
-     "may be shown, a whole number from 0.\n"},
+     "KEL_E_UNEXPECTED 1:34 Found the text \"3\", but expected the number of SENSITIVE.\n"},
     {"DEFINE PERSON.X AS AGE SAVE f LIKE 3",
      "KEL_E_UNEXPECTED 1:29 Found \"f\", but expected the name of a file in quotes.\n"
      "KEL_E_UNEXPECTED 1:36 Found the number 3, but expected the variable whose labels and codes "
@@ -353,135 +351,6 @@ const std::vector<Fault> faults = {
                                              "with a number. Put the number in quotes.\n"},
     {"RUNDEF SELECTION PROVINCE = \"01\" OR",
      "KEL_W_OPEN_SELECTION 1:34 Nothing follows this OR: it is left out.\n"},
-    // Tables of other kinds.
-    {"SUM\nTABLE x STATS BY SEX2 TITLE \"t\"\nTABLIST\nTABLE y TABOP\n AREALIST TITLE \"x\"",
-     "KEL_E_UNEXPECTED 2:1 Found the reserved word TABLE, but expected a value, such as a number, "
-     "a "
-     "text in quotes, Entity.Variable, a function or \"(\".\n"
-     "KEL_E_UNEXPECTED 2:15 Found the reserved word BY, but expected what to measure: a variable "
-     "or "
-     "an expression.\n"
-     "KEL_E_UNEXPECTED 4:1 Found the reserved word TABLE, but expected the name of a table.\n"
-     "KEL_E_UNEXPECTED 5:2 Found the reserved word AREALIST, but expected a value, such as a "
-     "number, "
-     "a text in quotes, Entity.Variable, a function or \"(\".\n"
-     "KEL_E_UNEXPECTED 5:11 Found the reserved word TITLE, but expected the entity to list.\n"},
-    {"SUM AGE OF ROOMS\nAREALIST PROVINCE BY NAME\nTABLE a FREQ SEX2\nTABOP a BY GRP",
-     "KEL_E_MISPLACED_CLAUSE 1:9 OF cannot stand here: it follows the kind of the table directly.\n"
-     "KEL_E_MISPLACED_CLAUSE 2:19 BY cannot stand here: a list has a row for each record; use FREQ "
-     "for a table.\n"
-     "KEL_E_MISPLACED_CLAUSE 4:9 BY cannot stand here: the tables that it is made of have their "
-     "own "
-     "variables.\n"},
-    {"QUANTILE 1 OF AGE\nQUANTILE 2.5 OF AGE\nFREQ AGE SENSITIVE 1.5 FREQ AGE SENSITIVE few\n"
-     "FREQ AGE SORT AGE 99999999999",
-     "KEL_E_BAD_COUNT 1:10 QUANTILE takes a whole number from 2 to 1000, not 1.\n"
-     "KEL_E_BAD_COUNT 2:10 QUANTILE takes a whole number from 2 to 1000, not 2.5.\n"
-     "KEL_E_BAD_COUNT 3:20 SENSITIVE takes a whole number from 0 to 1000000000, not 1.5.\n"
-     "KEL_E_UNEXPECTED 3:43 Found \"few\", but expected the number of SENSITIVE.\n"
-     "KEL_E_BAD_COUNT 4:19 SORT takes a whole number from 0 to 2000000000, not 99999999999.\n"},
-    {"FREQ AGE OUTFILE xlt \"a\"\nFREQ AGE OUTFILE \"\"\nFREQ AGE OUTFILE \"a.csv\" utf16\n"
-     "FREQ AGE OUTGRAPH \"a.bmp\" cake\nFREQ AGE SAVE a\nFREQ AGE TABLESTYLE s",
-     "KEL_E_UNEXPECTED 1:18 Found \"xlt\", but expected a type of file, such as XLS or CSV, or a "
-     "file "
-     "name in quotes. Did you mean xls?\n"
-     "KEL_E_UNEXPECTED 3:1 Found the reserved word FREQ, but expected the name of the file in "
-     "quotes.\n"
-     "KEL_E_UNEXPECTED 3:26 Found \"utf16\", but expected a clause of the table, such as BY or "
-     "TITLE, "
-     "or a new command.\n"
-     "KEL_E_UNEXPECTED 4:27 Found \"cake\", but expected a clause of the table, such as BY or "
-     "TITLE, "
-     "or a new command.\n"
-     "KEL_E_UNEXPECTED 5:15 Found \"a\", but expected the name of the file in quotes.\n"
-     "KEL_E_UNEXPECTED 6:21 Found \"s\", but expected the name of a style file in quotes.\n"},
-    {"AVERAGE GRP BY SEX2\nSTATS PROVINCE.CODE BY GRP\nSUM 3\nSUM AGE BY CAUSE\nGINI AGEE",
-     "KEL_E_NOT_A_NUMBER 1:9 AVERAGE takes a number, but this is a text.\n"
-     "KEL_E_NOT_A_NUMBER 2:24 STATS takes a number, but this is a text.\n"
-     "KEL_E_NOTHING_COUNTED 3:1 SUM needs a variable: a number alone does not tell what records to "
-     "go over.\n"
-     "KEL_E_BRANCHES 4:12 PERSON and DEATH cannot be used together: neither of them is part of the "
-     "other.\n"
-     "KEL_E_UNKNOWN_VARIABLE 5:6 There is no variable \"AGEE\". Did you mean AGE?\n"},
-    {"TABLE byAge FREQ AGE TABLE bad FREQ AGEE\nAREALIST PROVINCE, byAgf, bad, NAME, bat, ROMS\n"
-     "TABLIST byAgf, bad\nTABOP PERSON.byAge / bad",
-     "KEL_E_UNKNOWN_VARIABLE 1:37 There is no variable \"AGEE\". Did you mean AGE?\n"
-     "KEL_E_UNKNOWN_TABLE 2:20 There is no table \"byAgf\" before this place. Did you mean byAge?\n"
-     "KEL_E_UNKNOWN_VARIABLE 2:38 There is no variable \"bat\".\n"
-     "KEL_E_UNKNOWN_VARIABLE 2:43 There is no variable \"ROMS\". Did you mean ROOMS?\n"
-     "KEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did you mean byAge?\n"
-     "KEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this place. Did you mean "
-     "byAge?\n"},
-    {"AREALIST PROVINCE, PERSON.AGE, ROOMS, SEX\nVIEW PERSON, CAUSE, NAME, PROVINSE.*",
-     "KEL_E_COLUMN_BELOW 1:20 PERSON.AGE is about PERSON, but the rows are of PROVINCE, which have "
-     "many of them: make a table of it, as in TABLE T FREQ PERSON.AGE, and name the table here.\n"
-     "KEL_E_COLUMN_BELOW 1:32 HOUSEHOLD.ROOMS is about HOUSEHOLD, but the rows are of PROVINCE, "
-     "which have many of them: make a table of it, as in TABLE T FREQ HOUSEHOLD.ROOMS, and name "
-     "the "
-     "table here.\n"
-     "KEL_E_AMBIGUOUS_NAME 1:39 More than one variable is called \"SEX\". Write one of PERSON.SEX, "
-     "DEATH.SEX.\n"
-     "KEL_E_BRANCHES 2:14 PERSON and DEATH cannot be used together: neither of them is part of the "
-     "other.\n"
-     "KEL_E_UNKNOWN_ENTITY 2:27 There is no entity \"PROVINSE\". Did you mean PROVINCE?\n"},
-    {"TABLE a FREQ SEX2 BY GRP TABLE b FREQ ROOMS TABLE c VIEW DEATH TABLE d TABOP b\n"
-     "AREALIST PERSON, a, b, c, d",
-     "KEL_E_TABLE_COLUMN 2:18 The table a cannot be a column of this list: it has more than one "
-     "variable.\n"
-     "KEL_E_TABLE_COLUMN 2:21 The table b cannot be a column of this list: it counts HOUSEHOLD, "
-     "which "
-     "does not lie in PERSON.\n"
-     "KEL_E_TABLE_COLUMN 2:24 The table c cannot be a column of this list: it is a list itself.\n"
-     "KEL_E_TABLE_COLUMN 2:27 The table d cannot be a column of this list: it is made of other "
-     "tables; take those.\n"},
-    {"TABLE a FREQ SEX2 TABLE b FREQ SEX2 BY GRP TABLE c STATS AGE BY SEX2 TABLE v VIEW DEATH\n"
-     "TABOP a / b\nTABOP c / v + nothing\nTABOP 3 * (2 - 1)\nTABOP a > 1\nTABOP SQRT(a)\nTABOP a + "
-     "\"b\"",
-     "KEL_E_TABLE_SHAPES 2:7 a and b have different variables: TABOP takes tables of equal shape.\n"
-     "KEL_E_TABLE_OPERAND 3:7 The table c cannot be used here: it has several figures in each "
-     "cell.\n"
-     "KEL_E_TABLE_OPERAND 3:11 The table v cannot be used here: it is a list.\n"
-     "KEL_E_UNKNOWN_TABLE 3:15 There is no table \"nothing\" before this place.\n"
-     "KEL_E_TABLE_OPERATOR 4:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"3 * (2 - 1)\".\n"
-     "KEL_E_TABLE_OPERATOR 5:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"a > 1\".\n"
-     "KEL_E_TABLE_OPERATOR 6:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"SQRT(a)\".\n"
-     "KEL_E_TABLE_OPERATOR 7:11 TABOP calculates with tables, numbers, + - * / and parentheses; "
-     "here "
-     "stands \"\"b\"\".\n"},
-    {"TABLE a FREQ SEX2 TABLE b FREQ GRP BY SEX2 TABLE c COUNT PERSON\nTABLIST a, b, c",
-     "KEL_E_TABLIST_TABLE 2:12 b cannot stand beside a in a TABLIST: its rows are of another "
-     "variable.\n"
-     "KEL_E_TABLIST_TABLE 2:15 c cannot stand beside a in a TABLIST: it has no variable, and so no "
-     "rows.\n"},
-    {"FREQ SEX2 SORT PERSON.AGE\nAREALIST PROVINCE, NAME SORT NAMEE\nVIEW PERSON, AGE SORT SEX2\n"
-     "FREQ SEX2, GRP SORT PERSON.AGE FREQ SEX2, GRP SORT PERSON.GRP",
-     "KEL_E_SORT_COLUMN 1:16 FREQ_1 has no column \"PERSON.AGE\" to be sorted by.\n"
-     "KEL_E_SORT_COLUMN 2:30 AREALIST_1 has no column \"NAMEE\" to be sorted by. Did you mean "
-     "NAME?\n"
-     "KEL_E_SORT_COLUMN 3:23 VIEW_1 has no column \"SEX2\" to be sorted by.\n"
-     "KEL_E_SORT_COLUMN 4:21 FREQ_3 has no column \"PERSON.AGE\" to be sorted by. Did you mean "
-     "PERSON.GRP?\n"},
-    {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\n"
-     "AREALIST PROVINCE, NAME WEIGHT 3 TALLY AGE\nFREQ SEX2 BY GRP SORT DESC SEX2",
-     "KEL_W_NO_EFFECT 2:9 FILTER has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_NO_EFFECT 2:24 WEIGHT has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_NO_EFFECT 2:33 TALLY has no effect on TABOP: the tables that it is made of have their "
-     "own.\n"
-     "KEL_W_COLUMN_TWICE 3:20 \"NAME\" is a variable and a table: the variable is taken.\n"
-     "KEL_W_NO_EFFECT 3:25 WEIGHT has no effect on AREALIST: it lists variables, and no table.\n"
-     "KEL_W_NO_EFFECT 3:34 TALLY has no effect on AREALIST: it lists variables, and no table.\n"
-     "KEL_W_SORT_CROSSTAB 4:18 A table of several variables is not sorted.\n"},
-    {"FREQ SEX2 OUTFILE xml \"a\" UNICODE",
-     "KEL_W_OUTFILE_TYPE 1:19 XML is not written; the file will be CSV.\n"
-     "KEL_W_OUTFILE_FORMAT 1:27 Files are written in UTF-8, not in UNICODE.\n"},
 
     // Warnings.
     {"RUNDEF r DICTIONARY \"D:\\data\\other.kxdb\" FREQ AGE RUNDEF DICTIONARY \"sub/X.kxdb\" FREQ "
@@ -509,6 +378,7 @@ TEST_P(Faults, AreToldWhereTheyAre) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Faults, ::testing::ValuesIn(faults));
+INSTANTIATE_TEST_SUITE_P(OfTables, Faults, ::testing::ValuesIn(tableFaults()));
 
 TEST(DataFiles, MustBeThere) {
     Census census;
@@ -538,7 +408,9 @@ TEST(MessageTable, IsTestedAsAWhole) {
         // Of EXECUTE, which needs files.
         "KEL_E_PROGRAM_CYCLE", "KEL_E_CALLS_TOO_DEEP", "KEL_E_TOO_MANY_CALLS",
         "KEL_E_UNKNOWN_VALUE", "KEL_W_UNUSED_VALUE"};
-    for (const Fault& fault : faults) {
+    std::vector<Fault> all = faults;
+    all.insert(all.end(), tableFaults().begin(), tableFaults().end());
+    for (const Fault& fault : all) {
         Census census;
         census.compile(fault.program);
         for (const Message& message : census.messages.all())
