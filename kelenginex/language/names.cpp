@@ -4,6 +4,7 @@
 #include "language/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelx::language {
 
@@ -65,18 +66,15 @@ const std::vector<const Variable*>& Names::variablesOf(const Entity& entity) con
 
 void Names::define(const Variable& variable) {
     const std::string key = lowerCase(variable.name);
-    const auto replace = [&](std::vector<const Variable*>& list) {
-        const auto same = std::find_if(list.begin(), list.end(), [&](const Variable* v) {
-            return v->entity == variable.entity && lowerCase(v->name) == key;
-        });
-        if (same == list.end())
-            list.push_back(&variable);
+    const Variable*& holder = byEntity_[variable.entity][key];
+    const bool isNew = holder == nullptr || lowerCase(holder->name) != key;
+    for (std::vector<const Variable*>* list : {&lists_[variable.entity], &byName_[key]}) {
+        if (isNew)
+            list->push_back(&variable);
         else
-            *same = &variable;
-    };
-    replace(lists_[variable.entity]);
-    replace(byName_[key]);
-    byEntity_[variable.entity][key] = &variable;
+            std::replace(list->begin(), list->end(), std::as_const(holder), &variable);
+    }
+    holder = &variable;
     addName(variable.name);
     if (!variable.alias.empty())
         defineAlias(variable);

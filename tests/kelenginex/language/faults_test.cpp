@@ -238,7 +238,7 @@ const std::vector<Fault> faults = {
      "KEL_W_FILTER_BELOW 1:36 The filter is about PERSON: each HOUSEHOLD that has at least one "
      "such "
      "PERSON is kept.\n"
-     "KEL_E_BRANCHES 1:75 PERSON and DEATH cannot be used together: neither of them is part of the "
+     "KEL_E_BRANCHES 1:74 PERSON and DEATH cannot be used together: neither of them is part of the "
      "other.\n"},
     {"DEFINE PERSON.X AS COUNT HOUSEHOLD", "KEL_E_NOT_BELOW 1:26 COUNT gathers what lies below "
                                            "each PERSON, but this is about HOUSEHOLD.\n"},
@@ -301,8 +301,8 @@ const std::vector<Fault> faults = {
      "KEL_E_COMPARE_TYPES 1:32 a number cannot be compared with a text. Leave out the quotes.\n"},
     {"DEFINE PERSON.X AS SAMPLE RANDM 3", "KEL_E_UNEXPECTED 1:27 Found \"RANDM\", but expected "
                                           "RANDOM or SYSTEMATIC. Did you mean RANDOM?\n"},
-    {"DEFINE PERSON.X AS SAMPLE RANDOM 0", "KEL_E_UNEXPECTED 1:34 Found the number 0, but expected "
-                                           "the largest number to draw, a whole number from 1.\n"},
+    {"DEFINE PERSON.X AS SAMPLE RANDOM 0",
+     "KEL_E_BAD_COUNT 1:34 SAMPLE takes a whole number from 1 to 2147483647, not 0.\n"},
     {"DEFINE DISTRICT.X AS RATIO AGE", "KEL_E_UNEXPECTED 1:31 Found the end of the program, but "
                                        "expected the values that count, as in (1 : 3) (5 : 5).\n"},
     {"DEFINE DISTRICT.X AS FRACTION NUM AGE (1:3) DENOMINATOR SEX2 (1)",
