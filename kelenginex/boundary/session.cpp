@@ -5,7 +5,9 @@
 #include "boundary/memory.h"
 #include "boundary/output_data.h"
 #include "language/compile.h"
+#include "output/files.h"
 #include "output/run.h"
+#include "output/saved_variables.h"
 
 #include <stdexcept>
 
@@ -107,10 +109,14 @@ void TKelSession::Data::run(Messages& messages) {
     if (made.cancelled) {
         return;
     }
-    state.refresh();
-    for (std::size_t i = 0; i < made.tables.size(); ++i) {
-        outputs.push_back(
-            kelx::boundary::makeOutput(std::move(made.tables[i]), program.tables[i], state));
+    if (!messages.hasErrors()) {
+        kelx::output::joinSavedVariables(program, *state.dictionary);
+        state.refresh();
+        kelx::output::writeFiles(kelx::output::jsonFiles(made.tables, program));
+    }
+    for (kelx::output::Table& table : made.tables) {
+        const auto& command = program.tables[table.command];
+        outputs.push_back(kelx::boundary::makeOutput(std::move(table), command, state));
     }
     definition = definitionOf(program);
 }

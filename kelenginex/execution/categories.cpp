@@ -38,6 +38,8 @@ public:
     Category name(std::uint64_t code) override {
         if (code == blank)
             return marker(CategoryKind::Missing);
+        if (column_->info().naCode == code)
+            return marker(CategoryKind::NotApplicable);
         Category category;
         const std::uint8_t state = read(code, category);
         if (state != state::valid)
@@ -199,8 +201,9 @@ LooseCells number(const TableCells& cells, const std::vector<DimensionCategories
     return result;
 }
 
-/// Sorts cells and adds up those that have come to be the same.
-Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress) {
+/// Sorts cells and adds up those that have come to be the same. Tells where each has gone.
+Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress,
+                      std::vector<std::uint32_t>* places) {
     const std::size_t dimensions = loose.dimensions;
     std::vector<std::uint32_t> order(loose.records.size());
     std::iota(order.begin(), order.end(), 0U);
@@ -216,6 +219,8 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
     });
     Cells result(dimensions, weighted);
     result.reserve(order.size());
+    if (places != nullptr)
+        places->resize(order.size());
     for (const std::uint32_t cell : order) {
         progress.check();
         const std::uint32_t* categories = loose.of(cell);
@@ -224,6 +229,8 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
             result.join(loose.at(cell));
         else
             result.add(loose.at(cell));
+        if (places != nullptr)
+            (*places)[cell] = static_cast<std::uint32_t>(result.size() - 1);
     }
     return result;
 }
@@ -231,7 +238,7 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
 } // namespace
 
 TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells,
-                        Progress& progress) {
+                        Progress& progress, std::vector<std::uint32_t>* places) {
     const bool weighted = cells.shape().weighted;
     TableResult result;
     result.command = table.command;
@@ -248,7 +255,7 @@ TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells
         result.dimensions.push_back(describe(*table.dimensions[d]));
         result.dimensions.back().categories = dimensions[d].number(progress);
     }
-    result.cells = sortedAndJoined(number(cells, dimensions, progress), weighted, progress);
+    result.cells = sortedAndJoined(number(cells, dimensions, progress), weighted, progress, places);
     if (dimensions.empty() && result.cells.empty())
         result.cells.add({});
     return result;

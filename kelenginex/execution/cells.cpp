@@ -74,10 +74,10 @@ void HashCells::grow() {
     }
 }
 
-void HashCells::add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum) {
+std::size_t HashCells::add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum) {
     const std::size_t cell = find(codes);
-    counts_[cell] += count;
-    sums_[cell].add(sum);
+    addTo(cell, count, sum);
+    return cell;
 }
 
 bool HashCells::merge(const HashCells& other, const GoOn& goOn) {

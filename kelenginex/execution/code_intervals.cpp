@@ -18,7 +18,10 @@ class CodeBound {
 public:
     explicit CodeBound(const Column& column) : column_(column) {}
 
-    std::uint64_t end() const { return column_.info().maxCode + 1; }
+    std::uint64_t end() const {
+        const auto& info = column_.info();
+        return info.naCode ? *info.naCode : info.maxCode + 1;
+    }
     bool takes(const Constant& constant) const {
         const bool isText = std::holds_alternative<std::string>(constant);
         const auto& info = column_.info();

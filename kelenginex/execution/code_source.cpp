@@ -70,11 +70,11 @@ const void* CodeSource::spread(Frames& frames, Spread& to) {
     return to.bytes.data();
 }
 
-void CodeSource::numbers(Frames& frames, std::vector<std::uint64_t>& out) {
-    const std::size_t count = frames.baseFrame().count;
+void CodeSource::numbers(Frames& frames, const Entity& at, std::vector<std::uint64_t>& out) {
+    const std::size_t count = frames.frame(at).count;
     out.resize(count);
     const std::uint64_t blank = storage::blankCode(Physical::Code64);
-    withCodes(codes(frames), domain_.physical, [&](const auto* codes) {
+    withCodes(codes(frames, at), domain_.physical, [&](const auto* codes) {
         using Code = std::decay_t<decltype(*codes)>;
         for (std::size_t i = 0; i < count; ++i)
             out[i] = codes[i] == static_cast<Code>(~Code{0}) ? blank : codes[i];
@@ -85,7 +85,7 @@ void CodeSource::numbers(Frames& frames, std::vector<std::uint64_t>& out) {
         double value = 0;
         std::memcpy(&value, &number, sizeof value);
         if (std::isnan(value))
-            number = blank;
+            number = column_->info().naCode == number ? number : blank;
         else if (value == 0)
             number = 0;
     }

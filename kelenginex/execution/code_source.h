@@ -40,8 +40,12 @@ public:
     const void* codes(Frames& frames) { return codes(frames, frames.base()); }
     /// The same for the frame of an entity between the own one and the base.
     const void* codes(Frames& frames, const Entity& at);
-    /// The same as numbers that tell values apart: blanks are all ones, both zeros are one.
-    void numbers(Frames& frames, std::vector<std::uint64_t>& out);
+    /// The same as numbers that tell values apart: blanks are all ones, both zeros are one. A
+    /// column's own code for NA stays what it is, here and in codes().
+    void numbers(Frames& frames, std::vector<std::uint64_t>& out) {
+        numbers(frames, frames.base(), out);
+    }
+    void numbers(Frames& frames, const Entity& at, std::vector<std::uint64_t>& out);
 
 private:
     /// Codes for the records of an entity below.

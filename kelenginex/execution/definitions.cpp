@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/definitions.h"
 
+#include "execution/variable_maker.h"
+
 #include <algorithm>
-#include <stdexcept>
 
 namespace kelx::execution {
 
-void makeVariables(const language::BoundProgram& program, const RunOptions& /*options*/,
-                   double /*share*/, Progress& /*progress*/) {
+void makeVariables(const language::BoundProgram& program, const RunOptions& options, double share,
+                   Progress& progress) {
+    const auto isUsed = [](const language::Definition& definition) { return definition.used; };
+    const auto all = std::count_if(program.definitions.begin(), program.definitions.end(), isUsed);
+    double done = 0;
     for (const language::Definition& definition : program.definitions) {
-        if (definition.used)
-            throw std::runtime_error("DEFINE is not supported yet");
+        if (!definition.used)
+            continue;
+        ++done;
+        makeVariable(definition, options, share * done / static_cast<double>(all), progress);
     }
 }
-
-void saveVariables(const language::BoundProgram& /*program*/, Progress& /*progress*/) {}
 
 } // namespace kelx::execution

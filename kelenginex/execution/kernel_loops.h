@@ -310,6 +310,91 @@ void expand(const T* values, const std::uint32_t* ends, std::size_t runs, T* out
     }
 }
 
+/// A bit for each byte of a mask: 32 bytes at a time.
+std::uint32_t bitsOf(const Byte* mask) {
+#ifdef __AVX2__
+    Bytes32 bytes;
+    load(mask, bytes);
+    using Signed32 [[gnu::vector_size(32)]] = char;
+    return (std::uint32_t)__builtin_ia32_pmovmskb256((Signed32)bytes);
+#else
+    std::uint32_t bits = 0;
+    for (unsigned i = 0; i < 4; ++i) {
+        std::uint64_t eight;
+        __builtin_memcpy(&eight, mask + i * 8, 8);
+        const std::uint64_t gathered = (eight & 0x0101010101010101U) * 0x0102040810204080U >> 56;
+        bits |= (std::uint32_t)gathered << (i * 8);
+    }
+    return bits;
+#endif
+}
+
+/// The mask as bits; 8 bytes beyond the last are readable.
+constexpr std::size_t mostBits = 16384;
+void packBits(const Byte* mask, std::size_t count, Byte* bits) {
+    std::size_t i = 0;
+    for (; i + 32 <= count; i += 32) {
+        const std::uint32_t packed = bitsOf(mask + i);
+        __builtin_memcpy(bits + i / 8, &packed, 4);
+    }
+    for (std::size_t k = i / 8; k < count / 8 + 9; ++k)
+        bits[k] = 0;
+    for (; i < count; ++i)
+        bits[i / 8] = (Byte)(bits[i / 8] | (mask[i] & 1U) << (i % 8));
+}
+
+std::uint64_t countBits(const Byte* bits, std::size_t begin, std::size_t end) {
+    constexpr std::size_t most = 56; // what eight bytes hold from any bit of the first on
+    std::uint64_t count = 0;
+    for (; begin < end; begin += most) {
+        const std::size_t length = end - begin < most ? end - begin : most;
+        std::uint64_t eight;
+        __builtin_memcpy(&eight, bits + begin / 8, 8);
+        eight = eight >> (begin % 8) & (((std::uint64_t)1 << length) - 1);
+        count += (std::uint64_t)__builtin_popcountll(eight);
+    }
+    return count;
+}
+
+/// A run that is longer than the bits.
+std::uint64_t countLong(const Byte* mask, std::size_t length) {
+    std::uint64_t count = 0;
+    for (std::size_t i = 0; i < length; ++i)
+        count += mask[i] & 1U;
+    return count;
+}
+
+std::uint64_t countRuns(const Byte* mask, const std::uint32_t* offsets, std::size_t runs,
+                        Byte* out) {
+    Byte bits[mostBits / 8 + 16];
+    const std::size_t first = offsets[0];
+    const std::size_t all = offsets[runs] - first;
+    std::uint64_t most = 0;
+    std::size_t run = 0;
+    while (run < runs) {
+        const std::size_t begin = offsets[run] - first;
+        const std::size_t held = all - begin < mostBits ? all - begin : mostBits;
+        packBits(mask + begin, held, bits);
+        const std::size_t start = run;
+        std::size_t from = 0;
+        for (; run < runs; ++run) {
+            const std::size_t to = offsets[run + 1] - first - begin;
+            if (to > held)
+                break;
+            const std::uint64_t count = countBits(bits, from, to);
+            most = count > most ? count : most;
+            out[run] = (Byte)(count < 255 ? count : 255);
+            from = to;
+        }
+        if (run == start) {
+            const std::uint64_t count = countLong(mask + begin, offsets[run + 1] - offsets[run]);
+            most = count > most ? count : most;
+            out[run++] = (Byte)(count < 255 ? count : 255);
+        }
+    }
+    return most;
+}
+
 template <bool Add, bool Times, class Code, class Index>
 void indexOf(const Code* codes, std::size_t count, Code lowest, Code domain, Index stride,
              Index* out) {
@@ -366,6 +451,33 @@ void index(const Code* codes, std::size_t count, Code lowest, Code domain, std::
         indexOf<false, true>(codes, count, lowest, domain, step, out);
 }
 
+void binReals(const double* values, std::size_t count, const BinScale& scale, std::uint16_t* bins) {
+    const double lowest = scale.lowest;
+    const double perUnit = scale.perUnit;
+    const double missing = scale.missing;
+    const double notApplicable = scale.notApplicable;
+    const double last = scale.bins - 1;
+    const double none = scale.bins;
+    for (std::size_t i = 0; i < count; ++i) {
+        const double value = values[i];
+        double bin = (value - lowest) * perUnit;
+        bin = bin > 0 ? bin : 0;
+        bin = bin < last ? bin : last;
+        const bool valid = (value == value) & (value != missing) & (value != notApplicable);
+        bins[i] = (std::uint16_t)(int)(valid ? bin : none);
+    }
+}
+
+std::size_t pickBins(const double* values, const std::uint16_t* bins, std::size_t count,
+                     const Byte* wanted, double* out) {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        out[kept] = values[i];
+        kept += wanted[bins[i]];
+    }
+    return kept;
+}
+
 template <class Code>
 constexpr CodeKernels<Code> codeKernels() {
     return {testRange, expand<Code>, index<Code, Byte>, index<Code, std::uint32_t>};
@@ -389,7 +501,10 @@ constexpr Kernels allKernels() {
             addWeights8,
             maskReal,
             andMasks,
-            expand<double>};
+            expand<double>,
+            countRuns,
+            binReals,
+            pickBins};
 }
 
 } // namespace

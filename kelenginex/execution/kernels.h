@@ -31,6 +31,14 @@ struct CodeKernels {
                     std::uint32_t stride, bool add, std::uint32_t* out);
 };
 
+/// Bins of equal width for reals. What lies beyond both ends goes into the first and the last.
+struct BinScale {
+    double lowest = 0;
+    double perUnit = 0;
+    std::uint16_t bins = 1;                ///< also the number that stands for "no value"
+    double missing = 0, notApplicable = 0; ///< no values; NaN for none
+};
+
 struct Kernels {
     CodeKernels<std::uint8_t> code8;
     CodeKernels<std::uint16_t> code16;
@@ -73,6 +81,16 @@ struct Kernels {
     void (*andMasks)(std::uint8_t* mask, const std::uint8_t* other, std::size_t count);
     void (*expandReal)(const double* values, const std::uint32_t* ends, std::size_t runs,
                        double* out);
+    /// out[i] = number of set bytes of the mask (0 or 0xff) from offsets[i] to offsets[i + 1],
+    /// where the mask begins at offsets[0]; 0xff for more than 254. Tells the most in a run.
+    std::uint64_t (*countRuns)(const std::uint8_t* mask, const std::uint32_t* offsets,
+                               std::size_t runs, std::uint8_t* out);
+    /// The bin of each value; never descending with ascending values.
+    void (*binReals)(const double* values, std::size_t count, const BinScale& scale,
+                     std::uint16_t* bins);
+    /// Keeps values whose bin is wanted, in order; gives the number kept. Room for all is needed.
+    std::size_t (*pickBins)(const double* values, const std::uint16_t* bins, std::size_t count,
+                            const std::uint8_t* wanted, double* out);
 
     template <class Code>
     const CodeKernels<Code>& of() const {

@@ -14,7 +14,9 @@ const Kernels& baselineKernels() {
 
 const Kernels& kernels() {
 #ifdef KELX_AVX2_KERNELS
-    static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0;
+    static const bool hasAvx2 = __builtin_cpu_supports("avx2") != 0 &&
+                                __builtin_cpu_supports("bmi2") != 0 &&
+                                __builtin_cpu_supports("popcnt") != 0;
     if (hasAvx2)
         return avx2Kernels();
 #endif

@@ -7,6 +7,7 @@
 #include "plan/area_codes.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 namespace kelx::execution {
@@ -50,7 +51,7 @@ protected:
     void work(Frames& frames, std::size_t count) override {
         const Frame frame = frames.frame(*entity());
         const void* data = column_->read(frame.begin, count, scratch_);
-        const bool mayBeBlank = column_->info().blanks > 0;
+        const bool mayBeBlank = column_->info().blanks > 0 || column_->info().naCode;
         result_.allValid = !mayBeBlank && !states_.any();
         result_.states.resize(count);
         if (type() == ValueType::Real)
@@ -72,6 +73,12 @@ private:
             return;
         for (std::size_t i = 0; i < count; ++i)
             result_.states[i] = std::isnan(values[i]) ? state::blank : states_.ofNumber(values[i]);
+        if (!column_->info().naCode)
+            return;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (std::bit_cast<std::uint64_t>(values[i]) == storage::naRealBits)
+                result_.states[i] = state::blankNotApplicable;
+        }
     }
 
     template <class Code>
@@ -85,6 +92,19 @@ private:
         for (std::size_t i = 0; i < count; ++i)
             result_.states[i] =
                 isBlank(codes[i]) ? state::blank : states_.ofInteger(result_.integers[i]);
+        markNotApplicable(codes, count);
+    }
+
+    /// What has the column's own code for NA has no stored code.
+    template <class Code>
+    void markNotApplicable(const Code* codes, std::size_t count) {
+        if (!column_->info().naCode)
+            return;
+        const auto na = static_cast<Code>(*column_->info().naCode);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (codes[i] == na)
+                result_.states[i] = state::blankNotApplicable;
+        }
     }
 
     template <class Code>
@@ -95,6 +115,7 @@ private:
             result_.truths[i] = !blank && codes[i] != 0 ? truth : 0;
             result_.states[i] = blank ? state::blank : states_.ofInteger(codes[i] != 0 ? 1 : 0);
         }
+        markNotApplicable(codes, count);
     }
 
     template <class Code>
@@ -105,6 +126,7 @@ private:
             result_.texts[i] = blank ? std::string_view{} : column_->text(codes[i]);
             result_.states[i] = blank ? state::blank : states_.ofText(result_.texts[i]);
         }
+        markNotApplicable(codes, count);
     }
 
     template <class Code>

@@ -87,6 +87,15 @@ std::unique_ptr<Node> NodePool::make(const Expression& expression) {
         return makeArithmetic(expression.operation, std::move(arguments), expression.entity);
     case Operation::Function:
         return makeFunction(expression.function, std::move(arguments), expression.entity);
+    case Operation::Recode:
+        return makeRecode(expression, std::move(arguments));
+    case Operation::Switch:
+        return makeSwitch(std::move(arguments), expression.entity);
+    case Operation::Number:
+    case Operation::SampleRandom:
+    case Operation::SampleSystematic:
+    case Operation::RecordNumber:
+        return makeRecordNode(expression);
     default:
         return makeComparison(expression.operation, *arguments.at(0), *arguments.at(1),
                               expression.entity);

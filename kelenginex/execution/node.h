@@ -86,6 +86,12 @@ std::unique_ptr<Node> makeArithmetic(language::Operation operation, std::vector<
                                      const Entity* entity);
 std::unique_ptr<Node> makeFunction(const std::string& name, std::vector<Node*> arguments,
                                    const Entity* entity);
+/// Records that nothing takes are MV and untaken.
+std::unique_ptr<Node> makeRecode(const language::Expression& expression,
+                                 std::vector<Node*> arguments);
+std::unique_ptr<Node> makeSwitch(std::vector<Node*> arguments, const Entity* entity);
+/// NUMBER, SAMPLE and the record's number.
+std::unique_ptr<Node> makeRecordNode(const language::Expression& expression);
 
 /// A view of numbers (or truth values) as doubles or integers, converted where need be.
 class NumberView {

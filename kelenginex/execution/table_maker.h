@@ -48,7 +48,8 @@ public:
     virtual bool take(TablePart& part, const GoOn& goOn) = 0;
     /// What finishing may take, in the time of scanning one of the pass's records.
     virtual double finishing(double records) const = 0;
-    /// Called once, after all parts were taken. Throws Cancelled.
+    /// Called once, after all parts were taken; its stage of the progress has `sinkUnits`. Throws
+    /// Cancelled.
     virtual TableResult finish(Progress& progress) = 0;
 };
 

@@ -22,6 +22,9 @@ constexpr std::uint8_t missing = 1;
 constexpr std::uint8_t notApplicable = 2;
 constexpr std::uint8_t noValue = 4; ///< there is no stored code to compare with
 constexpr std::uint8_t blank = missing | noValue;
+constexpr std::uint8_t blankNotApplicable = notApplicable | noValue;
+/// Beside blank: no interval of RECODE and no case of SWITCH took the record.
+constexpr std::uint8_t untaken = 8;
 
 /// The state of what is computed from two values: NA goes before MV, and neither has a code.
 constexpr std::uint8_t combined(std::uint8_t a, std::uint8_t b) {

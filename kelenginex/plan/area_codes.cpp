@@ -32,7 +32,7 @@ std::string ValueText::at(std::uint64_t record) {
         return numberText(value);
     }
     const std::uint64_t code = codeAt(data, info.physical);
-    if (code == storage::blankCode(info.physical))
+    if (code == storage::blankCode(info.physical) || info.naCode == code)
         return {};
     if (info.type == storage::ValueType::String)
         return std::string(column_->text(code));

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -39,6 +40,9 @@ constexpr std::uint64_t blankCode(Physical p) {
     }
 }
 
+/// The bits of the NaN that stands for "not applicable" among reals, where a column has such.
+constexpr std::uint64_t naRealBits = 0x7ff80000'00004e41;
+
 constexpr std::uint32_t recordsPerBlock = 65536;
 
 /// What a column says of itself.
@@ -55,6 +59,10 @@ struct ColumnInfo {
     double maxReal = 0;
     std::uint8_t decimals = 0;
     bool isProtected = false;
+    /// A second kind of blank, "not applicable"; only columns in memory may have one. Of coded
+    /// columns it is above the code of every value, and bounds take it in like a code; of reals
+    /// it is naRealBits, and blanks take it in.
+    std::optional<std::uint64_t> naCode;
 };
 
 /// The same for one block, to rule it out unread.

@@ -21,16 +21,29 @@ MemoryColumn::MemoryColumn(const ColumnInfo& info, std::shared_ptr<const MappedF
     measure();
 }
 
+MemoryColumn::MemoryColumn(const ColumnInfo& info, Values values, std::vector<Zone> zones,
+                           std::vector<std::string> texts)
+    : made_(std::move(values)), texts_(std::move(texts)), zones_(std::move(zones)),
+      data_(made_.get()) {
+    info_ = info;
+    takeBounds();
+}
+
 void MemoryColumn::measure() {
     const std::size_t size = physicalSize(info_.physical);
-    ZoneTotal total;
     zones_.reserve(blockCount());
     for (std::uint64_t begin = 0; begin < info_.records; begin += recordsPerBlock) {
         const auto count = static_cast<std::size_t>(
             std::min<std::uint64_t>(info_.records - begin, recordsPerBlock));
         zones_.push_back(measureBlock(info_.physical, data_ + begin * size, count));
-        total.add(zones_.back());
     }
+    takeBounds();
+}
+
+void MemoryColumn::takeBounds() {
+    ZoneTotal total;
+    for (const Zone& zone : zones_)
+        total.add(zone);
     info_.blanks = total.blanks;
     info_.minCode = total.minCode;
     info_.maxCode = total.maxCode;

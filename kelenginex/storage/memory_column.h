@@ -19,6 +19,10 @@ public:
                  std::vector<std::string> texts = {});
     /// The same over the bytes of a file, which must be as many as the records need.
     MemoryColumn(const ColumnInfo& info, std::shared_ptr<const MappedFile> map);
+    using Values = std::unique_ptr<std::byte[]>;
+    /// Takes values with zones that were measured while they were made.
+    MemoryColumn(const ColumnInfo& info, Values values, std::vector<Zone> zones,
+                 std::vector<std::string> texts = {});
 
     Zone zone(std::size_t block) const override { return zones_.at(block); }
     const void* read(std::uint64_t begin, std::size_t count, ColumnScratch& scratch) const override;
@@ -27,9 +31,11 @@ public:
 
 private:
     void measure();
+    void takeBounds();
 
     std::shared_ptr<const MappedFile> map_;
     std::vector<std::byte> values_;
+    Values made_;
     std::vector<std::string> texts_;
     std::vector<Zone> zones_;
     const std::byte* data_ = nullptr;

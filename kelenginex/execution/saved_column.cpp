@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "execution/saved_column.h"
+
+#include "catalog/names.h"
+#include "execution/typed_data.h"
+#include "storage/block_stats.h"
+#include "storage/coding.h"
+#include "storage/error.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace kelx::execution {
+namespace {
+
+using storage::Column;
+using storage::ColumnInfo;
+using storage::ColumnScratch;
+using storage::Physical;
+using storage::ValueType;
+
+/// Doubles tell all whole numbers apart up to here.
+constexpr double mostExact = 0x1p53;
+
+/// Codes that have a meaning, whether they occur or not.
+std::vector<double> namedCodes(const catalog::Variable& variable) {
+    std::vector<double> codes;
+    if (variable.missing)
+        codes.push_back(*variable.missing);
+    for (const auto& [code, label] : variable.valueLabels) {
+        if (const auto number = catalog::parseNumber(code))
+            codes.push_back(*number);
+    }
+    return codes;
+}
+
+[[noreturn]] void failForCode(const catalog::Variable& variable) {
+    throw storage::FileError(variable.fullName(), "has no code left for what is not applicable; "
+                                                  "give it one with NOTAPP");
+}
+
+double aboveAll(const catalog::Variable& variable, double lowest, double highest) {
+    for (const double code : namedCodes(variable)) {
+        lowest = std::min(lowest, code);
+        highest = std::max(highest, code);
+    }
+    const double above = std::floor(highest) + 1;
+    const double below = std::ceil(lowest) - 1;
+    if (std::fabs(above) <= mostExact)
+        return above;
+    if (std::fabs(below) <= mostExact)
+        return below;
+    failForCode(variable);
+}
+
+double freeText(const catalog::Variable& variable, const Column& column) {
+    const std::vector<double> named = namedCodes(variable);
+    std::set<double> taken(named.begin(), named.end());
+    for (std::uint64_t i = 0; i < column.textCount(); ++i) {
+        if (const auto number = catalog::parseNumber(column.text(i)))
+            taken.insert(*number);
+    }
+    for (double code = 9; code < mostExact; code = code * 10 + 9) {
+        if (taken.count(code) == 0)
+            return code;
+    }
+    failForCode(variable);
+}
+
+/// Codes are given in 64 bits, so that there is room for one more.
+class NaAsCode : public Column {
+public:
+    NaAsCode(std::optional<double> code, std::shared_ptr<const Column> column)
+        : column_(std::move(column)), code_(code) {
+        info_ = column_->info();
+        info_.naCode.reset();
+        if (info_.physical == Physical::Real64)
+            return;
+        info_.physical = Physical::Code64;
+        if (info_.type == ValueType::Integer)
+            placeNumber(static_cast<std::int64_t>(*code));
+        else if (info_.type == ValueType::String)
+            placeText(catalog::numberText(*code));
+        else
+            na_ = storage::blankCode(Physical::Code64);
+    }
+
+    storage::Zone zone(std::size_t block) const override {
+        const auto begin = std::uint64_t{block} * storage::recordsPerBlock;
+        const auto count = static_cast<std::size_t>(
+            std::min<std::uint64_t>(info_.records - begin, storage::recordsPerBlock));
+        ColumnScratch scratch;
+        return storage::measureBlock(info_.physical, read(begin, count, scratch), count);
+    }
+
+    const void* read(std::uint64_t begin, std::size_t count,
+                     ColumnScratch& scratch) const override {
+        const void* data = column_->read(begin, count, scratch);
+        std::vector<std::byte> out(count * sizeof(std::uint64_t));
+        if (info_.physical == Physical::Real64)
+            readReals(static_cast<const double*>(data), count, out.data());
+        else
+            withCodes(data, column_->info().physical,
+                      [&](const auto* codes) { readCodes(codes, count, out.data()); });
+        scratch.bytes = std::move(out);
+        return scratch.bytes.data();
+    }
+
+    std::uint64_t textCount() const override {
+        return column_->textCount() + (text_.empty() ? 0 : 1);
+    }
+    std::string_view text(std::uint64_t code) const override {
+        if (text_.empty() || code < na_)
+            return column_->text(code);
+        return code == na_ ? std::string_view(text_) : column_->text(code - 1);
+    }
+
+private:
+    void placeNumber(std::int64_t number) {
+        const std::int64_t base = info_.base;
+        info_.base = std::min(base, number);
+        shift_ = storage::codeOf(base, info_.base);
+        na_ = storage::codeOf(number, info_.base);
+        findBounds(column_->info().minCode + shift_, lastValue() + shift_);
+    }
+
+    void placeText(std::string text) {
+        text_ = std::move(text);
+        while (na_ < column_->textCount() && column_->text(na_) < text_)
+            ++na_;
+        findBounds(0, column_->textCount());
+    }
+
+    /// The bounds of the source take its NA in.
+    std::uint64_t lastValue() const {
+        const std::uint64_t na = *column_->info().naCode;
+        return na == 0 ? 0 : na - 1;
+    }
+
+    void findBounds(std::uint64_t lowest, std::uint64_t highest) {
+        info_.minCode = std::min(lowest, na_);
+        info_.maxCode = std::max(highest, na_);
+    }
+
+    template <class Code>
+    void readCodes(const Code* codes, std::size_t count, std::byte* out) const {
+        const auto na = static_cast<Code>(*column_->info().naCode);
+        const bool isText = !text_.empty();
+        for (std::size_t i = 0; i < count; ++i) {
+            std::uint64_t code = codes[i] + shift_;
+            if (codes[i] == std::numeric_limits<Code>::max())
+                code = storage::blankCode(Physical::Code64);
+            else if (codes[i] == na)
+                code = na_;
+            else if (isText && code >= na_)
+                ++code;
+            std::memcpy(out + i * sizeof code, &code, sizeof code);
+        }
+    }
+
+    void readReals(const double* values, std::size_t count, std::byte* out) const {
+        for (std::size_t i = 0; i < count; ++i) {
+            const bool isNa = std::bit_cast<std::uint64_t>(values[i]) == storage::naRealBits;
+            const double value = isNa && code_ ? *code_ : values[i];
+            std::memcpy(out + i * sizeof value, &value, sizeof value);
+        }
+    }
+
+    std::shared_ptr<const Column> column_;
+    std::optional<double> code_;
+    std::uint64_t shift_ = 0; ///< from the source's codes to ours
+    std::uint64_t na_ = 0;    ///< our code of NA
+    std::string text_;        ///< of NA, among texts
+};
+
+} // namespace
+
+std::optional<double> freeCodeForNa(const catalog::Variable& variable) {
+    const auto column = variable.column();
+    const ColumnInfo& info = column->info();
+    if (!info.naCode || info.type == ValueType::Boolean)
+        return std::nullopt;
+    if (info.type == ValueType::String)
+        return freeText(variable, *column);
+    if (info.type == ValueType::Real)
+        return aboveAll(variable, info.minReal, info.maxReal);
+    const std::uint64_t last = *info.naCode == 0 ? 0 : *info.naCode - 1;
+    return aboveAll(
+        variable,
+        static_cast<double>(storage::decodeValue(info.base, std::min(info.minCode, last))),
+        static_cast<double>(storage::decodeValue(info.base, last)));
+}
+
+std::shared_ptr<const Column> withNaAs(std::optional<double> code,
+                                       std::shared_ptr<const Column> column) {
+    if (!column->info().naCode)
+        return column;
+    return std::make_shared<const NaAsCode>(code, std::move(column));
+}
+
+} // namespace kelx::execution

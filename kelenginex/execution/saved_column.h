@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// A column as it goes to a file, where NA needs a code like any other.
+#pragma once
+
+#include "catalog/model.h"
+
+#include <memory>
+#include <optional>
+
+namespace kelx::execution {
+
+/// A code for NA that no value of the variable, no label and not its code for MV has: one above
+/// the largest, of texts the first of 9, 99, 999 and so on that is free. Nothing where the column
+/// needs none: it has no NA of its own, or holds truth values. Throws storage::FileError where
+/// none is left.
+std::optional<double> freeCodeForNa(const catalog::Variable& variable);
+
+/// The column with NA as that code; truth values have none to spare, so their NA becomes a blank.
+/// A column that has no NA of its own is given back.
+std::shared_ptr<const storage::Column> withNaAs(std::optional<double> code,
+                                                std::shared_ptr<const storage::Column> column);
+
+} // namespace kelx::execution
