@@ -150,7 +150,7 @@ SortGuide guideOf(const RowTable& rows, const Table& table) {
         guide.ordered.push_back(d * step);
     }
     guide.column = table.fields.size() - rows.figures.size();
-    guide.names.emplace_back(rows.command->name, guide.column);
+    guide.parts.push_back({rows.command->name, guide.column, rows.figures.size(), guide.column});
     if (rows.command->measure)
         addNames(variableOf(*rows.command->measure), guide.column, guide);
     guide.isMarker = [&rows](std::size_t row) { return rows.isMarker(row); };
@@ -178,11 +178,16 @@ TableVariable variableOf(const language::Expression& expression) {
 
 void addNames(const TableVariable& variable, std::size_t column, SortGuide& guide) {
     guide.names.emplace_back(variable.name, column);
-    if (variable.variable == nullptr)
+    if (variable.variable == nullptr || variable.variable->entity == nullptr)
         return;
-    guide.names.emplace_back(variable.variable->name, column);
-    if (!variable.variable->alias.empty())
-        guide.names.emplace_back(variable.variable->alias, column);
+    const catalog::Entity& entity = *variable.variable->entity;
+    for (const std::string& name : {variable.variable->name, variable.variable->alias}) {
+        if (name.empty())
+            continue;
+        guide.names.emplace_back(name, column);
+        for (const std::string& owner : {entity.name, entity.alias})
+            guide.names.emplace_back(owner + "." + name, column);
+    }
 }
 
 Table described(const TableCommand& command, const catalog::Dictionary& dictionary) {

@@ -92,6 +92,8 @@ private:
         add({groups_.back().variable.name, headingOf(entity), ""},
             columnOf(std::move(list_.codes)));
         laid_.guide.names.emplace_back(entity.name, 0);
+        if (entity.codeVar != nullptr)
+            addNames(plain(*entity.codeVar), 0, laid_.guide);
     }
 
     void addLabels(const catalog::Variable& label) {
@@ -158,14 +160,17 @@ private:
         groups_.push_back({variableOfTable(rows), rows.command->name, ""});
         const bool crossed = rows.dimensions.size() > 1;
         const TableFigures figures = figuresOf(rows, crossed);
+        SortGuide::Part part{rows.command->name, nextColumn(), 0, 0};
         for (std::uint32_t place = 0; place < figures.size(); ++place) {
             if (figures[place].empty())
                 continue;
             if (!crossed || place == rows.valid[1])
-                laid_.guide.names.emplace_back(rows.command->name, nextColumn());
+                part.total = nextColumn();
             for (std::size_t f = 0; f < figures[place].size(); ++f)
                 add(fieldOf(rows, place, crossed, f), Column::of(figures[place][f]));
         }
+        part.columns = nextColumn() - part.first;
+        laid_.guide.parts.push_back(std::move(part));
     }
 
     /// Columns by place and figure; none for a place that does not occur.

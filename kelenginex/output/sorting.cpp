@@ -35,12 +35,29 @@ std::optional<std::size_t> findField(const Table& table, const std::string& name
                              "). Its columns are " + names + ".");
 }
 
+std::size_t columnOf(const SortGuide::Part& part, const Table& table,
+                     const language::SortClause& clause) {
+    if (!clause.element)
+        return part.total;
+    const auto element = static_cast<std::size_t>(std::max(*clause.element, 1));
+    if (element > part.columns)
+        throw std::runtime_error(
+            "The table " + part.name + " has no column " + std::to_string(element) + " that " +
+            table.name + " could be sorted by (line " + std::to_string(clause.position.line) +
+            "), but " + std::to_string(part.columns) + ".");
+    return part.first + element - 1;
+}
+
 std::size_t columnOf(const Laid& laid, const language::SortClause& clause) {
     if (clause.column.empty())
         return laid.guide.column;
     for (const auto& [name, column] : laid.guide.names) {
         if (catalog::sameName(name, clause.column))
             return column;
+    }
+    for (const SortGuide::Part& part : laid.guide.parts) {
+        if (catalog::sameName(part.name, clause.column))
+            return columnOf(part, laid.table, clause);
     }
     if (const auto field = findField(laid.table, clause.column, &Field::name))
         return *field;

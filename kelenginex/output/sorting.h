@@ -15,8 +15,16 @@ namespace kelx::output {
 
 /// What only the maker of a table knows about its rows and columns.
 struct SortGuide {
-    /// Names that mean a column, beside the names and labels of fields: variables and tables.
+    /// Names of variables that mean a column, beside the names and labels of fields.
     std::vector<std::pair<std::string, std::size_t>> names;
+    /// The columns of a table that is part of this one, or all figures of its own.
+    struct Part {
+        std::string name;
+        std::size_t first = 0;
+        std::size_t columns = 1;
+        std::size_t total = 0; ///< the one that the name alone means
+    };
+    std::vector<Part> parts;
     std::size_t column = 0; ///< where the command names none
     /// Columns whose values are numbered in their own order.
     std::vector<std::size_t> ordered;

@@ -30,7 +30,7 @@ public:
 
     void addTo(Laid& laid) const {
         const std::string& name = rows_.command->name;
-        const std::string& group = name;
+        SortGuide::Part part{name, laid.table.fields.size(), 0, 0};
         for (const auto& [combination, columns] : columns_) {
             std::string field = name;
             bool isTotal = true;
@@ -39,14 +39,16 @@ public:
                 isTotal = isTotal && combination[d - 1] == rows_.valid[d];
             }
             if (isTotal)
-                laid.guide.names.emplace_back(name, laid.table.fields.size());
+                part.total = laid.table.fields.size();
             for (std::size_t f = 0; f < columns.size(); ++f) {
                 const std::string full =
                     columns.size() > 1 ? field + " " + rows_.figureNames[f] : field;
-                laid.table.fields.push_back({full, full, group});
+                laid.table.fields.push_back({full, full, name});
                 laid.table.columns.push_back(Column::of(columns[f]));
             }
         }
+        part.columns = laid.table.fields.size() - part.first;
+        laid.guide.parts.push_back(std::move(part));
         const auto figures = static_cast<std::int64_t>(rows_.figures.size());
         laid.table.suppressed += rows_.suppressed() * figures;
     }

@@ -20,7 +20,7 @@ protected:
                  std::optional<int> sensitive = {}) {
         made_.program.tables.clear();
         auto& command = made_.add("T", TableKind::Frequency, {made_.expression("PERSON", "SEX")});
-        command.sort = SortClause{column, descending, limit, {4, 7}};
+        command.sort = SortClause{column, {}, descending, limit, {4, 7}};
         command.sensitive = sensitive;
         made_.take(
             0, counted({dimension(made_.variable("PERSON", "SEX"),
@@ -70,7 +70,7 @@ TEST_F(Sorting, anUnknownColumnIsToldWithTheKnownOnes) {
 TEST_F(Sorting, textsAndTriplesStayTogether) {
     auto& command = made_.add("M", TableKind::Maximum, {made_.expression("PERSON", "SEX")});
     command.measure = made_.expression("PERSON", "AGE");
-    command.sort = SortClause{"age", true, 1, {}};
+    command.sort = SortClause{"age", {}, true, 1, {}};
     made_.take(0, measured({dimension(made_.variable("PERSON", "SEX"), {"1. A", "2. B"})},
                            {{{0}, 0, {2}}, {{1}, 0, {3.5}}}, 1, [](const auto& values) {
                                return std::vector<execution::Figure>{values.back()};
@@ -81,7 +81,8 @@ TEST_F(Sorting, textsAndTriplesStayTogether) {
 }
 
 TEST_F(Sorting, listsBySomeColumn) {
-    const auto listed = [&](const std::string& column, bool descending) {
+    const auto listed = [&](const std::string& column, bool descending,
+                            std::optional<int> element = {}) {
         made_.program.tables.clear();
         auto& list = made_.add("L", TableKind::AreaList);
         list.countEntity = made_.dictionary.findEntity("PROVINCE");
@@ -90,7 +91,7 @@ TEST_F(Sorting, listsBySomeColumn) {
         hidden.isHidden = true;
         hidden.isOutput = false;
         list.columns = {{made_.expression("PROVINCE", "RATE"), {}, {}}, {nullptr, 1, {}}};
-        list.sort = SortClause{column, descending, {}, {}};
+        list.sort = SortClause{column, element, descending, {}, {3, 1}};
         execution::TableResult records;
         records.list = std::make_shared<execution::ListResult>();
         records.list->records = {0, 1, 2};
@@ -113,7 +114,11 @@ TEST_F(Sorting, listsBySomeColumn) {
     EXPECT_EQ(listed("rate", true), "132");
     EXPECT_EQ(listed("PROVINCE", true), "321");
     EXPECT_EQ(listed("NAME", false), "213");
+    EXPECT_EQ(listed("PROVINCE.CODE", true), "321");
     EXPECT_EQ(listed("T1", true), "213");
+    EXPECT_EQ(listed("T1", true, 1), "132");
+    EXPECT_EQ(listed("T1", true, 3), "213");
+    EXPECT_THROW(listed("T1", true, 4), std::runtime_error);
     EXPECT_EQ(listed("2. female", true), "231");
     EXPECT_EQ(listed("Male", true), "132");
 }
