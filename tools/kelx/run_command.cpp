@@ -7,14 +7,12 @@
 #include "output/run.h"
 #include "output/saved_variables.h"
 #include "password.h"
+#include "program_text.h"
 #include "progress_bar.h"
-#include "storage/error.h"
 #include "table_printer.h"
 
 #include <CLI/CLI.hpp>
 
-#include <fstream>
-#include <iostream>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -31,25 +29,6 @@ struct RunRequest {
     TablePrinting printing;
     unsigned threads = 0;
 };
-
-std::string readFile(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::error_code ignored;
-    if (!stream || fs::is_directory(file, ignored))
-        throw storage::FileError(file, "cannot be opened");
-    std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
-    if (text.starts_with("\xef\xbb\xbf"))
-        text.erase(0, 3);
-    return text;
-}
-
-void print(const language::Messages& messages, const std::string& name) {
-    for (const language::Message& message : messages.forDisplay()) {
-        const bool isError = message.severity == language::Severity::Error;
-        std::cerr << name << ':' << message.position.line << ':' << message.position.column << ": "
-                  << (isError ? "error: " : "warning: ") << message.text << '\n';
-    }
-}
 
 output::TablesOfRun makeTables(const language::BoundProgram& program,
                                const catalog::Dictionary& dictionary, const RunRequest& request,
@@ -85,19 +64,19 @@ void writeFiles(const std::vector<output::Table>& tables, const language::BoundP
 
 int run(const RunRequest& request) {
     const std::string name = request.program.empty() ? "-e" : request.program.string();
-    const std::string text = request.program.empty() ? request.text : readFile(request.program);
+    const std::string text = request.program.empty() ? request.text : readProgram(request.program);
     const auto dictionary = openDatabase(request.database, request.passwordFile);
     language::CompileOptions compileOptions;
     compileOptions.baseFolder = fs::absolute(request.database).parent_path();
     language::Messages messages;
     const auto program = language::compile(text, *dictionary, compileOptions, messages);
     if (messages.hasErrors()) {
-        print(messages, name);
+        printMessages(messages, name);
         return failure;
     }
     output::requireCsv(program);
     const output::TablesOfRun made = makeTables(program, *dictionary, request, messages);
-    print(messages, name);
+    printMessages(messages, name);
     if (messages.hasErrors())
         return failure;
     keepVariables(program, *dictionary);
