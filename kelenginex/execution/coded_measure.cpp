@@ -78,6 +78,7 @@ class CodedMaker : public TableMaker {
 public:
     CodedMaker(const plan::PlannedTable& table, const Entity& unit)
         : table_(table), joint_(table), unit_(unit), form_(*table.command) {
+        form_.whole = true; // whatever the dictionary says of them
         joint_.dimensions.push_back(table.command->measure);
     }
 
@@ -168,9 +169,10 @@ private:
 std::unique_ptr<TableMaker> makeCodedMeasureMaker(const plan::PlannedTable& table,
                                                   const Entity& unit) {
     const language::Expression& measure = *table.command->measure;
-    if (measure.operation != language::Operation::VariableValue ||
-        measure.type == language::ValueType::Real ||
-        measure.variable->column()->info().physical == storage::Physical::Real64)
+    if (measure.operation != language::Operation::VariableValue)
+        return nullptr;
+    const ValueType type = measure.variable->column()->info().type;
+    if (type != ValueType::Integer && type != ValueType::Boolean)
         return nullptr;
     std::vector<CodeDomain> domains;
     for (const auto& dimension : table.dimensions)

@@ -23,6 +23,9 @@ public:
     const Exclusions& exclusions() const { return exclusions_; }
     bool mayExclude() const { return mayExclude_; }
 
+    /// Whole numbers or truth values, as the data say.
+    bool areWhole() const { return node_ != nullptr && node_->type() != ValueType::Real; }
+
     /// To be called first in a step; the values stay until the next one.
     void read(Frames& frames);
     /// The column's values where they lie, which they do as long as the column; null where they

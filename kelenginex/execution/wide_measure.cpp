@@ -25,6 +25,7 @@ public:
                 lists_->exclusions = part->values().exclusions();
                 lists_->keep(part->values().column());
             }
+            form_.whole = part->values().areWhole();
             mayExclude_ = part->values().mayExclude();
         }
         return part;

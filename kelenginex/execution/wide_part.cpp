@@ -24,7 +24,9 @@ WidePart::WidePart(const plan::PlannedTable& table, const Entity& unit, NodePool
                    SourcePool& sources)
     : form_(*table.command), weights_(*table.command, unit, nodes),
       values_(*table.command->measure, unit, nodes), numbers_(table, unit, sources),
-      found_(numbers_.shape()) {}
+      found_(numbers_.shape()) {
+    form_.whole = values_.areWhole();
+}
 
 void WidePart::clear() {
     found_.clear();

@@ -179,6 +179,15 @@ TEST_F(Measures, takeFiltersSelectionsAndUpperMeasures) {
     EXPECT_EQ(first(of(TableKind::Average, "PERSON.JOB")), (Rows{{"", 3.0 / 7}, {"all", 3.0 / 7}}));
 }
 
+TEST_F(Measures, goByTheDataWhereTheDictionarySaysOtherwise) {
+    catalog::Entity& person = *country_.dictionary.findEntity("PERSON");
+    person.findVariable("INCOME")->type = storage::ValueType::Integer;
+    person.findVariable("AGE")->type = storage::ValueType::Real;
+    EXPECT_EQ(of(TableKind::Sum, "PERSON.INCOME").at("all"), (std::vector<Figure>{218.0}));
+    EXPECT_EQ(of(TableKind::Minimum, "PERSON.INCOME").at("all"), (std::vector<Figure>{-3.0}));
+    EXPECT_EQ(of(TableKind::Sum, "PERSON.AGE").at("all"), (std::vector<Figure>{std::int64_t{133}}));
+}
+
 TEST_F(Measures, breakByArea) {
     language::BoundProgram program = measureProgram(
         country_.dictionary, {TableKind::Sum, "PERSON.AGE", "PERSON.SEX", {}, "RUNDEF r"});
