@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "kel.h"
 
+#include "boundary/consistency_dataset.h"
 #include "boundary/engine.h"
 #include "boundary/execute_data.h"
 #include "boundary/memory.h"
@@ -140,8 +141,9 @@ std::string variant_to_string(const TKelVariant& value) {
 
 namespace tools {
 
-std::shared_ptr<TKelDataset> databaseConsistency(const std::string& /*dictionaryPath*/) {
-    throw std::runtime_error("The consistency check is not supported yet");
+std::shared_ptr<TKelDataset> databaseConsistency(const std::string& dictionaryPath) {
+    return kelx::boundary::withinMemory(
+        [&] { return kelx::boundary::checkDatabase(dictionaryPath, questions()); });
 }
 
 } // namespace tools

@@ -4,8 +4,6 @@
 #include "boundary/memory.h"
 #include "output/names.h"
 
-#include <filesystem>
-
 TKelOutput::TKelOutput() : d(std::make_unique<Data>()) {}
 
 TKelOutput::~TKelOutput() = default;
@@ -62,18 +60,32 @@ namespace kelx::boundary {
 
 namespace {
 
-/// The dictionary's own wrapper, or a detached copy of a variable that only the program knows.
-template <typename OutputData>
-void addVariable(OutputData& data, const catalog::Variable& variable,
-                 const DictionaryState& state) {
-    TKelVariable* shown = state.wrapperOf(&variable);
-    if (shown == nullptr) {
-        auto own = std::make_unique<TKelVariable>(state.wrapperOf(variable.entity));
-        KelBoundaryAccess::data(*own).variable->copyDescription(variable);
-        shown = own.get();
-        data.ownVariables.push_back(std::move(own));
+/// The dictionary's own wrapper, or a detached copy of what only the program knows.
+template <typename OutputData> // the output's own, which has no public name
+TKelVariable* shownVariable(OutputData& data, const output::TableVariable& shown,
+                            const DictionaryState& state) {
+    if (shown.areas != nullptr) {
+        TKelEntity* areas = state.wrapperOf(shown.areas);
+        TKelVariable* codes = areas != nullptr ? areas->cmpCodeVar() : nullptr;
+        if (codes != nullptr) {
+            return codes;
+        }
     }
-    data.variables.push_back(shown);
+    if (TKelVariable* own = state.wrapperOf(shown.variable)) {
+        return own;
+    }
+    const catalog::Entity* entity =
+        shown.variable != nullptr ? shown.variable->entity : state.dictionary->root.get();
+    auto copy = std::make_unique<TKelVariable>(state.wrapperOf(entity));
+    catalog::Variable& model = *KelBoundaryAccess::data(*copy).variable;
+    if (shown.variable != nullptr) {
+        model.copyDescription(*shown.variable);
+    } else {
+        model.name = shown.name;
+        model.label = shown.label;
+    }
+    data.ownVariables.push_back(std::move(copy));
+    return data.ownVariables.back().get();
 }
 
 void setWeight(TKelOutputConfig& options, const output::Table& table) {
@@ -89,8 +101,27 @@ void setWeight(TKelOutputConfig& options, const output::Table& table) {
     }
 }
 
-std::string absolutePath(const std::string& name, const DictionaryState& state) {
-    return (state.dictionary->file.parent_path() / name).lexically_normal().string();
+void setFile(TKelOutputConfig& options, const language::OutputFile& file) {
+    constexpr int csv = 0;
+    constexpr int xlsx = 3;
+    constexpr int pdf = 10;
+    constexpr int appended = 2;
+    using Format = language::OutputFile::Format;
+    options.outputFile = file.path;
+    options.format = file.format == Format::Xlsx ? xlsx : file.format == Format::Pdf ? pdf : csv;
+    options.formatFlavour = file.overwrite ? 0 : appended;
+    options.direct = true;
+}
+
+void setSort(TKelOutputConfig& options, const language::SortClause& clause) {
+    TKelOutputSortConfig sort;
+    sort.variable = clause.column;
+    if (clause.limit && *clause.limit > 0) {
+        sort.limit = clause.limit;
+    }
+    sort.order = clause.descending ? TKelOutputSortConfig::Order::DESCENDING
+                                   : TKelOutputSortConfig::Order::ASCENDING;
+    options.sort = sort;
 }
 
 } // namespace
@@ -104,13 +135,15 @@ std::unique_ptr<TKelOutput> makeOutput(output::Table table, const language::Tabl
     data.options.filter = data.table.filter;
     data.options.decimals = data.table.decimals;
     setWeight(data.options, data.table);
-    if (command.settings != nullptr && command.settings->tableStyle) {
-        data.options.style = absolutePath(*command.settings->tableStyle, state);
+    data.options.style = command.tableStyle;
+    if (command.outfile) {
+        setFile(data.options, *command.outfile);
     }
-    for (const catalog::Variable* variable : data.table.variables) {
-        if (variable != nullptr) {
-            addVariable(data, *variable, state);
-        }
+    if (command.sort) {
+        setSort(data.options, *command.sort);
+    }
+    for (const output::TableVariable& variable : data.table.variables) {
+        data.variables.push_back(shownVariable(data, variable, state));
     }
     data.entity = state.wrapperOf(data.table.entity);
     data.dataset = std::make_unique<TableDataset>(data.table);

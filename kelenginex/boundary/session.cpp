@@ -1,74 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "boundary/session_data.h"
 
-#include "boundary/engine.h"
 #include "boundary/memory.h"
-#include "boundary/output_data.h"
-#include "language/compile.h"
-#include "output/run.h"
+#include "boundary/program_run.h"
 
 #include <stdexcept>
-
-namespace {
+#include <utility>
 
 using kelx::language::Messages;
-using kelx::language::Severity;
-
-std::size_t count(const Messages& messages, Severity severity) {
-    std::size_t result = 0;
-    for (const auto& message : messages.all()) {
-        result += message.severity == severity ? 1 : 0;
-    }
-    return result;
-}
-
-[[noreturn]] void throwFound(std::size_t number, const std::string& what) {
-    throw std::runtime_error(std::to_string(number) + " " + what + (number == 1 ? "" : "s") +
-                             " found");
-}
-
-kelx::language::CompileOptions compileOptions(const kelx::catalog::Dictionary& dictionary) {
-    const auto config = kelx::boundary::configuration();
-    kelx::language::CompileOptions options;
-    options.autoWeight = config == nullptr || config->autoWeight();
-    options.baseFolder = dictionary.file.parent_path();
-    return options;
-}
-
-std::shared_ptr<TKelRunDefinition> definitionOf(const kelx::language::BoundProgram& program) {
-    std::string label;
-    std::optional<std::string> filter;
-    if (const auto& settings = program.lastSettings) {
-        label = settings->selection ? settings->selection->label : std::string();
-        if (settings->filter != nullptr) {
-            filter = settings->filterLabel.value_or(settings->filter->text);
-        }
-    }
-    return std::make_shared<TKelRunDefinition>(std::make_shared<TKelRunSelection>(label), filter);
-}
-
-} // namespace
 
 void TKelSession::Data::forget() {
     outputs.clear();
     program = {};
     definition = std::make_shared<TKelRunDefinition>(nullptr, std::nullopt);
-}
-
-void TKelSession::Data::report(const Messages& messages) const {
-    if (listener == nullptr) {
-        return;
-    }
-    for (const auto& message : messages.forDisplay()) {
-        const std::string text = kelx::boundary::toLocal8Bit(message.text);
-        if (message.severity == Severity::Error) {
-            listener->error(static_cast<eSpcErrors>(message.code), text, message.position.line,
-                            message.position.column);
-        } else {
-            listener->warning(static_cast<eSpcWarnings>(message.code), text, message.position.line,
-                              message.position.column);
-        }
-    }
 }
 
 void TKelSession::Data::compile(const std::string& text, Messages& messages) {
@@ -77,42 +21,29 @@ void TKelSession::Data::compile(const std::string& text, Messages& messages) {
     if (state.dictionary->root == nullptr) {
         throw std::runtime_error("The session has no open dictionary.");
     }
-    program = kelx::language::compile(text, *state.dictionary, compileOptions(*state.dictionary),
-                                      messages);
-    if (messages.hasErrors()) {
-        report(messages);
-        throwFound(messages.errorCount(), "error");
-    }
-    const auto config = kelx::boundary::configuration();
-    const std::size_t warnings = count(messages, Severity::Warning);
-    if (warnings > 0 && config != nullptr && config->stopAtWarnings()) {
-        report(messages);
-        throwFound(warnings, "warning");
+    program = kelx::language::compile(text, *state.dictionary,
+                                      kelx::boundary::compileOptions(*state.dictionary), messages);
+    try {
+        kelx::boundary::throwUnlessFree(messages);
+    } catch (const std::runtime_error&) {
+        kelx::boundary::report(messages, listener);
+        throw;
     }
 }
 
 void TKelSession::Data::run(Messages& messages) {
-    kelx::execution::RunOptions options;
-    const auto tuning = kelx::boundary::runTuning();
-    options.threads = tuning.threads;
-    options.blockRecords = tuning.blockRecords;
-    const auto config = kelx::boundary::configuration();
-    if (timer && (config == nullptr || config->showProgress())) {
-        options.progress = [this](int expected, int elapsed, int percent) {
+    kelx::execution::ProgressCallback progress;
+    if (timer) {
+        progress = [this](int expected, int elapsed, int percent) {
             return timer(nullptr, expected, elapsed, percent, nullptr);
         };
     }
-    auto& state = KelBoundaryAccess::state(*dictionary);
-    auto made = kelx::output::runTables(program, *state.dictionary, options, messages);
-    if (made.cancelled) {
-        return;
+    auto made = kelx::boundary::runProgram(program, KelBoundaryAccess::state(*dictionary),
+                                           std::move(progress), messages);
+    if (!made.cancelled) {
+        outputs = std::move(made.outputs);
+        definition = kelx::boundary::definitionOf(program);
     }
-    state.refresh();
-    for (std::size_t i = 0; i < made.tables.size(); ++i) {
-        outputs.push_back(
-            kelx::boundary::makeOutput(std::move(made.tables[i]), program.tables[i], state));
-    }
-    definition = definitionOf(program);
 }
 
 void TKelSession::Data::execute(const std::string& text) {
@@ -121,12 +52,12 @@ void TKelSession::Data::execute(const std::string& text) {
     try {
         run(messages);
     } catch (...) {
-        report(messages);
+        kelx::boundary::report(messages, listener);
         throw;
     }
-    report(messages);
+    kelx::boundary::report(messages, listener);
     if (messages.hasErrors()) {
-        throwFound(messages.errorCount(), "error");
+        kelx::boundary::throwUnlessFree(messages);
     }
 }
 
@@ -163,8 +94,8 @@ void TKelSession::compile(const std::string& program) {
     kelx::boundary::withinMemory([&] {
         Messages messages;
         d->compile(program, messages);
-        d->report(messages);
-        d->definition = definitionOf(d->program);
+        kelx::boundary::report(messages, d->listener);
+        d->definition = kelx::boundary::definitionOf(d->program);
     });
 }
 

@@ -24,8 +24,6 @@ struct TKelSession::Data {
 
     /// Drops what an earlier run left.
     void forget();
-    /// Hands the messages to the listener.
-    void report(const kelx::language::Messages& messages) const;
     /// Throws where the program must not run, its messages reported.
     void compile(const std::string& text, kelx::language::Messages& messages);
     void run(kelx::language::Messages& messages);

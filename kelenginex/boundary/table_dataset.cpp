@@ -44,7 +44,7 @@ void TableDataset::range(std::pair<double, double>& out, int column) {
     out = {0, 0};
     std::optional<std::pair<double, double>> found;
     for (std::int64_t row = 0; row < table_.rows(); ++row) {
-        const output::Value& value = at(row, column);
+        const output::Value value = at(row, column);
         if (std::holds_alternative<std::string>(value)) {
             return;
         }
@@ -58,7 +58,7 @@ void TableDataset::range(std::pair<double, double>& out, int column) {
 }
 
 double TableDataset::doubleValue(std::int64_t row, int column) {
-    const output::Value& value = at(row, column);
+    const output::Value value = at(row, column);
     if (const auto* text = std::get_if<std::string>(&value)) {
         return toDouble(*text);
     }
@@ -80,11 +80,10 @@ std::vector<std::string> TableDataset::listValueNames() const {
     return {"suppressed", "time.duration"};
 }
 
-const output::Value& TableDataset::at(std::int64_t row, int column) const {
-    static const output::Value blank;
+output::Value TableDataset::at(std::int64_t row, int column) const {
     const bool inside = row >= 0 && row < table_.rows() && column >= 0 &&
                         static_cast<std::size_t>(column) < table_.fields.size();
-    return inside ? table_.at(row, static_cast<std::size_t>(column)) : blank;
+    return inside ? table_.at(row, static_cast<std::size_t>(column)) : output::Value();
 }
 
 } // namespace kelx::boundary

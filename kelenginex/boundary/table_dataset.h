@@ -27,7 +27,7 @@ public:
 
 private:
     std::vector<std::string> listValueNames() const override;
-    const output::Value& at(std::int64_t row, int column) const; ///< blank out of range
+    output::Value at(std::int64_t row, int column) const; ///< blank out of range
 
     const output::Table& table_;
     std::vector<std::shared_ptr<TKelField>> fields_;

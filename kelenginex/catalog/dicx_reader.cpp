@@ -27,6 +27,7 @@ private:
     void readRanges(const pugi::xml_node& node, Variable& variable);
     void readLabels(const pugi::xml_node& node, Variable& variable);
     void readRawLayout(const pugi::xml_node& node, Variable& variable);
+    void readTextField(const pugi::xml_node& node, Variable& variable);
     bool truth(const pugi::xml_node& node, const char* element) const;
     std::optional<int> integer(const pugi::xml_node& node, const char* element) const;
     std::optional<double> number(const pugi::xml_node& node, const char* element) const;
@@ -159,6 +160,7 @@ void DicxReader::readVariable(const pugi::xml_node& node, Entity& entity) {
     readRanges(node, variable);
     readLabels(node, variable);
     readRawLayout(node, variable);
+    readTextField(node, variable);
 }
 
 void DicxReader::readType(const pugi::xml_node& node, Variable& variable) {
@@ -222,6 +224,24 @@ void DicxReader::readRawLayout(const pugi::xml_node& node, Variable& variable) {
     raw.decimals = variable.decimals.value_or(0);
     raw.valueType = variable.type == ValueType::None ? naturalType(raw) : variable.type;
     variable.raw = raw;
+}
+
+void DicxReader::readTextField(const pugi::xml_node& node, Variable& variable) {
+    const pugi::xml_node choice = node.child("varWipChoice");
+    if (!choice) {
+        return;
+    }
+    TextField field;
+    field.recordType = trimmedText(choice, "recType");
+    field.start = integer(choice, "start");
+    // A field is numbered or named; only a number tells its turn.
+    if (const auto turn = parseInteger(trimmedText(choice, "field")); turn && *turn >= 1) {
+        field.turn = integer(choice, "field");
+    }
+    if (field.start && *field.start < 1) {
+        failAt("start", textOf(choice, "start"));
+    }
+    variable.textField = std::move(field);
 }
 
 bool DicxReader::truth(const pugi::xml_node& node, const char* element) const {

@@ -193,6 +193,7 @@ void Variable::copyDescription(const Variable& from) {
     ranges = from.ranges;
     valueLabels = from.valueLabels;
     raw = from.raw;
+    textField = from.textField;
 }
 
 Entity* Entity::addChild(std::unique_ptr<Entity> child) {

@@ -31,6 +31,13 @@ struct Range {
     double maximum = 0;
 };
 
+/// Where a variable stands in the lines of a text that its dictionary describes.
+struct TextField {
+    std::string recordType;   ///< of the lines that have it; empty where all are alike
+    std::optional<int> turn;  ///< its number among the fields of a line
+    std::optional<int> start; ///< its first character, from 1
+};
+
 /// A variable of an entity.
 struct Variable {
     Entity* entity = nullptr;
@@ -50,6 +57,7 @@ struct Variable {
     std::vector<Range> ranges;
     std::vector<std::pair<std::string, std::string>> valueLabels; ///< value, label
     std::optional<storage::RawLayout> raw; ///< of a .bin file, as the dictionary says
+    std::optional<TextField> textField;    ///< of a .dicx that describes a text; never written
 
     /// ENTITY.VARIABLE, as the command language writes it.
     std::string fullName() const;

@@ -99,7 +99,20 @@ private:
     std::optional<plan::ValueText> label_;
 };
 
+/// Numbers of records: their own codes.
+class RecordNames : public CodeNames {
+public:
+    Category name(std::uint64_t record) override {
+        Category category;
+        category.value = static_cast<std::int64_t>(record);
+        category.code = category.label = std::to_string(record);
+        return category;
+    }
+};
+
 std::unique_ptr<CodeNames> namesOf(const language::Expression& expression) {
+    if (expression.operation == Operation::RecordNumber)
+        return std::make_unique<RecordNames>();
     if (expression.operation == Operation::CompoundCode)
         return std::make_unique<AreaNames>(*expression.codeEntity);
     return std::make_unique<VariableNames>(*expression.variable);
@@ -107,7 +120,9 @@ std::unique_ptr<CodeNames> namesOf(const language::Expression& expression) {
 
 Dimension describe(const language::Expression& expression) {
     Dimension dimension;
-    if (expression.operation == Operation::CompoundCode) {
+    if (expression.operation == Operation::RecordNumber) {
+        dimension.name = dimension.label = expression.text;
+    } else if (expression.operation == Operation::CompoundCode) {
         const Entity& entity = *expression.codeEntity;
         dimension.variable = entity.codeVar;
         dimension.name = expression.text;
@@ -186,8 +201,9 @@ LooseCells number(const TableCells& cells, const std::vector<DimensionCategories
     return result;
 }
 
-/// Sorts cells and adds up those that have come to be the same.
-Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress) {
+/// Sorts cells and adds up those that have come to be the same. Tells where each has gone.
+Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress,
+                      std::vector<std::uint32_t>* places) {
     const std::size_t dimensions = loose.dimensions;
     std::vector<std::uint32_t> order(loose.records.size());
     std::iota(order.begin(), order.end(), 0U);
@@ -203,6 +219,8 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
     });
     Cells result(dimensions, weighted);
     result.reserve(order.size());
+    if (places != nullptr)
+        places->resize(order.size());
     for (const std::uint32_t cell : order) {
         progress.check();
         const std::uint32_t* categories = loose.of(cell);
@@ -211,6 +229,8 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
             result.join(loose.at(cell));
         else
             result.add(loose.at(cell));
+        if (places != nullptr)
+            (*places)[cell] = static_cast<std::uint32_t>(result.size() - 1);
     }
     return result;
 }
@@ -218,7 +238,7 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
 } // namespace
 
 TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells,
-                        Progress& progress) {
+                        Progress& progress, std::vector<std::uint32_t>* places) {
     const bool weighted = cells.shape().weighted;
     TableResult result;
     result.command = table.command;
@@ -235,7 +255,7 @@ TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells
         result.dimensions.push_back(describe(*table.dimensions[d]));
         result.dimensions.back().categories = dimensions[d].number(progress);
     }
-    result.cells = sortedAndJoined(number(cells, dimensions, progress), weighted, progress);
+    result.cells = sortedAndJoined(number(cells, dimensions, progress), weighted, progress, places);
     if (dimensions.empty() && result.cells.empty())
         result.cells.add({});
     return result;

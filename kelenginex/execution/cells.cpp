@@ -18,6 +18,12 @@ Sum DenseCells::sum(std::size_t cell) const {
     return result;
 }
 
+void DenseCells::add(std::size_t cell, std::uint64_t records, std::initializer_list<double> terms) {
+    counts[cell] += records;
+    for (const double term : terms)
+        sums[cell * lanes].add(term);
+}
+
 void DenseCells::merge(const DenseCells& other) {
     for (std::size_t i = 0; i < counts.size(); ++i)
         counts[i] += other.counts[i];
@@ -68,10 +74,10 @@ void HashCells::grow() {
     }
 }
 
-void HashCells::add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum) {
+std::size_t HashCells::add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum) {
     const std::size_t cell = find(codes);
-    counts_[cell] += count;
-    sums_[cell].add(sum);
+    addTo(cell, count, sum);
+    return cell;
 }
 
 bool HashCells::merge(const HashCells& other, const GoOn& goOn) {

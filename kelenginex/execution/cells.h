@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <span>
 #include <vector>
 
@@ -23,6 +24,7 @@ struct DenseCells {
 
     void resize(std::size_t cells, bool weighted, std::size_t sumsOfCell);
     Sum sum(std::size_t cell) const;
+    void add(std::size_t cell, std::uint64_t records, std::initializer_list<double> terms);
     void merge(const DenseCells& other);
     void clear();
 };
@@ -32,8 +34,13 @@ class HashCells {
 public:
     explicit HashCells(std::size_t dimensions = 1) : dimensions_(dimensions) {}
 
-    /// Adds to the cell of so many codes as there are dimensions.
-    void add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum);
+    /// Adds to the cell of so many codes as there are dimensions, and gives its number: cells are
+    /// numbered as they come up.
+    std::size_t add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum);
+    void addTo(std::size_t cell, std::uint64_t count, const Sum& sum) {
+        counts_[cell] += count;
+        sums_[cell].add(sum);
+    }
     /// In the order in which the other's cells came up; false where it was ended.
     bool merge(const HashCells& other, const GoOn& goOn);
     void clear();

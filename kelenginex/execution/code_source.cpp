@@ -4,8 +4,10 @@
 #include "execution/kernels.h"
 #include "execution/typed_data.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <numeric>
 #include <stdexcept>
 
 namespace kelx::execution {
@@ -14,9 +16,10 @@ using language::Operation;
 using storage::Physical;
 
 CodeSource::CodeSource(const language::Expression& expression) : entity_(expression.entity) {
-    if (expression.operation == Operation::CompoundCode) {
+    if (expression.operation == Operation::CompoundCode ||
+        expression.operation == Operation::RecordNumber) {
         entity_ = expression.codeEntity;
-        domain_ = {Physical::Code64, 0, entity_->records()};
+        domain_ = {Physical::Code64, 0, entity_->records(), false};
         return;
     }
     if (expression.operation != Operation::VariableValue)
@@ -24,42 +27,54 @@ CodeSource::CodeSource(const language::Expression& expression) : entity_(express
     entity_ = expression.variable->entity;
     column_ = expression.variable->column();
     const storage::ColumnInfo& info = column_->info();
-    domain_ = {info.physical, info.minCode, info.maxCode - info.minCode + 1};
+    domain_ = {info.physical, info.minCode, info.maxCode - info.minCode + 1, info.blanks > 0};
 }
 
-const void* CodeSource::own(const Frame& frame) {
-    if (column_)
-        return column_->read(frame.begin, frame.count, scratch_);
-    recordNumbers_.resize(frame.count);
-    for (std::size_t i = 0; i < frame.count; ++i)
-        recordNumbers_[i] = frame.begin + i;
-    return recordNumbers_.data();
-}
-
-const void* CodeSource::codes(Frames& frames) {
+const void* CodeSource::own(Frames& frames) {
     if (serial_ == frames.serial())
-        return current_;
+        return own_;
     serial_ = frames.serial();
-    current_ = own(frames.frame(*entity_));
-    if (entity_ == &frames.base())
-        return current_;
-    const auto& ends = frames.runEnds(*entity_, frames.base());
-    spread_.resize(frames.baseFrame().count * storage::physicalSize(domain_.physical) +
-                   expandSlack);
-    withCodes(current_, domain_.physical, [&](const auto* codes) {
+    const Frame frame = frames.frame(*entity_);
+    if (column_) {
+        own_ = column_->read(frame.begin, frame.count, scratch_);
+    } else {
+        recordNumbers_.resize(frame.count);
+        std::iota(recordNumbers_.begin(), recordNumbers_.end(), frame.begin);
+        own_ = recordNumbers_.data();
+    }
+    return own_;
+}
+
+const void* CodeSource::codes(Frames& frames, const Entity& at) {
+    if (entity_ == &at)
+        return own(frames);
+    auto to = std::find_if(spread_.begin(), spread_.end(),
+                           [&](const Spread& known) { return known.at == &at; });
+    if (to == spread_.end())
+        to = spread_.insert(to, {&at, {}, 0});
+    return spread(frames, *to);
+}
+
+const void* CodeSource::spread(Frames& frames, Spread& to) {
+    if (to.serial == frames.serial())
+        return to.bytes.data();
+    to.serial = frames.serial();
+    const auto& ends = frames.runEnds(*entity_, *to.at);
+    to.bytes.resize(frames.frame(*to.at).count * storage::physicalSize(domain_.physical) +
+                    expandSlack);
+    withCodes(own(frames), domain_.physical, [&](const auto* codes) {
         using Code = std::decay_t<decltype(*codes)>;
         kernels().of<Code>().expand(codes, ends.data(), ends.size(),
-                                    reinterpret_cast<Code*>(spread_.data()));
+                                    reinterpret_cast<Code*>(to.bytes.data()));
     });
-    current_ = spread_.data();
-    return current_;
+    return to.bytes.data();
 }
 
-void CodeSource::numbers(Frames& frames, std::vector<std::uint64_t>& out) {
-    const std::size_t count = frames.baseFrame().count;
+void CodeSource::numbers(Frames& frames, const Entity& at, std::vector<std::uint64_t>& out) {
+    const std::size_t count = frames.frame(at).count;
     out.resize(count);
     const std::uint64_t blank = storage::blankCode(Physical::Code64);
-    withCodes(codes(frames), domain_.physical, [&](const auto* codes) {
+    withCodes(codes(frames, at), domain_.physical, [&](const auto* codes) {
         using Code = std::decay_t<decltype(*codes)>;
         for (std::size_t i = 0; i < count; ++i)
             out[i] = codes[i] == static_cast<Code>(~Code{0}) ? blank : codes[i];

@@ -16,6 +16,40 @@ void load(const Byte* from, Bytes32& to) {
     __builtin_memcpy(&to, from, sizeof to);
 }
 
+/// A step goes over one column after the other, which the processor does not foresee. What lies
+/// ahead of the codes at hand belongs to the same column, beyond the step's end too.
+void fetchAhead(const Byte* codes) {
+    constexpr std::size_t ahead = 2048;
+    __builtin_prefetch(codes + ahead);
+}
+
+using Words16 [[gnu::vector_size(32)]] = std::uint16_t;
+using Words32 [[gnu::vector_size(32)]] = std::uint32_t;
+using Words64 [[gnu::vector_size(32)]] = std::uint64_t;
+using Reals4 [[gnu::vector_size(32)]] = double;
+
+/// The sum of all lanes.
+std::uint64_t total(const Bytes32& bytes) {
+    Words16 by16 = (Words16)bytes;
+    by16 = (by16 & 0xff) + (by16 >> 8);
+    Words32 by32 = (Words32)by16;
+    by32 = (by32 & 0xffff) + (by32 >> 16);
+    Words64 by64 = (Words64)by32;
+    by64 = (by64 & 0xffffffff) + (by64 >> 32);
+    return by64[0] + by64[1] + by64[2] + by64[3];
+}
+
+/// What the mask leaves out becomes 0xff, which is no code that is counted.
+template <bool Masked>
+void loadKept(const Byte* codes, const Byte* mask, std::size_t i, Bytes32& value) {
+    load(codes + i, value);
+    if (!Masked)
+        return;
+    Bytes32 kept;
+    load(mask + i, kept);
+    value |= ~kept;
+}
+
 /// Up to Kinds codes with a byte counter a lane for each; folded before a lane could overflow.
 template <unsigned Kinds, bool Masked>
 void countGroup(const Byte* codes, const Byte* mask, std::size_t count, Byte first,
@@ -27,22 +61,14 @@ void countGroup(const Byte* codes, const Byte* mask, std::size_t count, Byte fir
         Bytes32 sums[Kinds] = {};
         for (std::size_t step = 0; step < steps; ++step, i += 32) {
             Bytes32 value;
-            load(codes + i, value);
-            Bytes32 kept = {};
-            if (Masked)
-                load(mask + i, kept);
-#pragma GCC unroll 8
-            for (unsigned k = 0; k < Kinds; ++k) {
-                const auto hit = (Bytes32)(value == (Byte)(first + k));
-                sums[k] -= Masked ? (hit & kept) : hit;
-            }
+            fetchAhead(codes + i);
+            loadKept<Masked>(codes, mask, i, value);
+#pragma GCC unroll 16
+            for (unsigned k = 0; k < Kinds; ++k)
+                sums[k] -= (Bytes32)(value == (Byte)(first + k));
         }
-        for (unsigned k = 0; k < Kinds; ++k) {
-            std::uint64_t sum = 0;
-            for (unsigned lane = 0; lane < 32; ++lane)
-                sum += sums[k][lane];
-            counts[first + k] += sum;
-        }
+        for (unsigned k = 0; k < Kinds; ++k)
+            counts[first + k] += total(sums[k]);
     }
     for (; i < count; ++i) {
         const Byte k = (Byte)(codes[i] - first);
@@ -51,24 +77,32 @@ void countGroup(const Byte* codes, const Byte* mask, std::size_t count, Byte fir
     }
 }
 
+constexpr unsigned mostInGroup = 12; ///< their counters stay in registers
+
 template <bool Masked>
 void countGroups(const Byte* codes, const Byte* mask, std::size_t count, Byte first, unsigned kinds,
                  std::uint64_t* counts) {
     using Group = void (*)(const Byte*, const Byte*, std::size_t, Byte, std::uint64_t*);
-    static constexpr Group groups[] = {nullptr,
-                                       countGroup<1, Masked>,
-                                       countGroup<2, Masked>,
-                                       countGroup<3, Masked>,
-                                       countGroup<4, Masked>,
-                                       countGroup<5, Masked>,
-                                       countGroup<6, Masked>,
-                                       countGroup<7, Masked>,
-                                       countGroup<8, Masked>};
+    static constexpr Group groups[mostInGroup + 1] = {nullptr,
+                                                      countGroup<1, Masked>,
+                                                      countGroup<2, Masked>,
+                                                      countGroup<3, Masked>,
+                                                      countGroup<4, Masked>,
+                                                      countGroup<5, Masked>,
+                                                      countGroup<6, Masked>,
+                                                      countGroup<7, Masked>,
+                                                      countGroup<8, Masked>,
+                                                      countGroup<9, Masked>,
+                                                      countGroup<10, Masked>,
+                                                      countGroup<11, Masked>,
+                                                      countGroup<12, Masked>};
     constexpr std::size_t slice = 255 * 32; // stays in the first-level cache between the groups
+    const unsigned passes = (kinds + mostInGroup - 1) / mostInGroup;
+    const unsigned most = passes > 0 ? (kinds + passes - 1) / passes : 1;
     for (std::size_t begin = 0; begin < count; begin += slice) {
         const std::size_t length = count - begin < slice ? count - begin : slice;
-        for (unsigned done = 0; done < kinds; done += 8) {
-            const unsigned now = kinds - done < 8 ? kinds - done : 8;
+        for (unsigned done = 0; done < kinds; done += most) {
+            const unsigned now = kinds - done < most ? kinds - done : most;
             groups[now](codes + begin, Masked ? mask + begin : nullptr, length,
                         (Byte)(first + done), counts);
         }
@@ -89,26 +123,52 @@ std::uint64_t countMask(const Byte* mask, std::size_t count) {
     return counts[0xff];
 }
 
-/// Several tables in turn, so that equal neighbours do not wait for each other.
-void histogram8(const Byte* index, std::size_t count, std::uint64_t* counts) {
-    std::uint32_t tables[4][256] = {};
+/// Eight tables in turn, so that equal neighbours do not wait for each other. What the mask leaves
+/// out is counted as 0xff.
+template <bool Masked>
+void histogramOf(const Byte* index, const Byte* mask, std::size_t count, unsigned kinds,
+                 std::uint64_t* counts) {
+    std::uint32_t tables[8][256] = {};
     std::size_t i = 0;
     for (; i + 8 <= count; i += 8) {
         std::uint64_t eight;
+        fetchAhead(index + i);
         __builtin_memcpy(&eight, index + i, 8);
+        if (Masked) {
+            std::uint64_t kept;
+            __builtin_memcpy(&kept, mask + i, 8);
+            eight |= ~kept;
+        }
         ++tables[0][eight & 255];
         ++tables[1][eight >> 8 & 255];
         ++tables[2][eight >> 16 & 255];
         ++tables[3][eight >> 24 & 255];
-        ++tables[0][eight >> 32 & 255];
-        ++tables[1][eight >> 40 & 255];
-        ++tables[2][eight >> 48 & 255];
-        ++tables[3][eight >> 56];
+        ++tables[4][eight >> 32 & 255];
+        ++tables[5][eight >> 40 & 255];
+        ++tables[6][eight >> 48 & 255];
+        ++tables[7][eight >> 56];
     }
     for (; i < count; ++i)
-        ++tables[0][index[i]];
-    for (unsigned k = 0; k < 256; ++k)
-        counts[k] += (std::uint64_t)tables[0][k] + tables[1][k] + tables[2][k] + tables[3][k];
+        ++tables[0][Masked && mask[i] == 0 ? 0xff : index[i]];
+    for (unsigned k = 0; k < kinds; ++k) {
+        for (const auto& table : tables)
+            counts[k] += table[k];
+    }
+}
+
+void histogram8(const Byte* index, const Byte* mask, std::size_t count, unsigned kinds,
+                std::uint64_t* counts) {
+    constexpr std::size_t few = 256; // clearing and adding up the tables would take longer
+    if (count < few) {
+        for (std::size_t i = 0; i < count; ++i)
+            counts[index[i]] += mask == nullptr ? 1 : mask[i] & 1U;
+        return;
+    }
+    if (mask == nullptr)
+        return histogramOf<false>(index, mask, count, kinds, counts);
+    histogramOf<true>(index, mask, count, kinds, counts);
+    if (kinds == 256)
+        counts[255] -= count - countMask(mask, count);
 }
 
 void histogram32(const std::uint32_t* index, std::size_t count, std::uint64_t* counts) {
@@ -116,14 +176,62 @@ void histogram32(const std::uint32_t* index, std::size_t count, std::uint64_t* c
         ++counts[index[i]];
 }
 
-template <class T>
-std::size_t compact(const T* in, const Byte* mask, std::size_t count, T* out) {
+std::size_t compact32(const std::uint32_t* in, const Byte* mask, std::size_t count,
+                      std::uint32_t* out) {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < count; ++i) {
         out[kept] = in[i];
         kept += mask[i] & 1U;
     }
     return kept;
+}
+
+void replace32(std::uint32_t* index, const Byte* mask, std::size_t count, std::uint32_t other) {
+    for (std::size_t i = 0; i < count; ++i)
+        index[i] = mask[i] != 0 ? index[i] : other;
+}
+
+/// Adding and taking away a large number rounds to a multiple of its last bit.
+void splitWeights(const double* weights, std::size_t count, const WeightUnits& units,
+                  WeightParts* parts) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const double weight = weights[i];
+        const double high = (weight + units.high) - units.high;
+        const double rest = weight - high;
+        const double middle = (rest + units.middle) - units.middle;
+        parts[i] = {high, middle, rest - middle, 1};
+    }
+}
+
+void addParts(const WeightParts& from, WeightParts& to) {
+    Reals4 sums, parts;
+    __builtin_memcpy(&parts, &from.high, sizeof parts);
+    __builtin_memcpy(&sums, &to.high, sizeof sums);
+    sums += parts;
+    __builtin_memcpy(&to.high, &sums, sizeof sums);
+}
+
+template <std::size_t Lanes, bool Runs>
+void addPartsIn(const std::uint32_t* index, const std::uint32_t* runs, const WeightParts* parts,
+                std::size_t count, WeightParts* cells) {
+    std::size_t i = 0;
+    for (; i + Lanes <= count; i += Lanes) {
+#pragma GCC unroll 4
+        for (std::size_t lane = 0; lane < Lanes; ++lane)
+            addParts(parts[Runs ? runs[i + lane] : i + lane],
+                     cells[index[i + lane] * Lanes + lane]);
+    }
+    for (; i < count; ++i)
+        addParts(parts[Runs ? runs[i] : i], cells[index[i] * Lanes]);
+}
+
+template <std::size_t Lanes>
+void addWeightParts(const std::uint32_t* index, const std::uint32_t* runs, const WeightParts* parts,
+                    std::size_t count, WeightParts* cells) {
+    if (runs != nullptr)
+        addPartsIn<Lanes, true>(index, runs, parts, count, cells);
+    else
+        addPartsIn<Lanes, false>(index, nullptr, parts, count, cells);
 }
 
 void addTo(Sum& to, double value) {
@@ -169,6 +277,21 @@ template <class Code>
 void testRange(const Code* codes, std::size_t count, Code first, Code width, Byte* truths) {
     for (std::size_t i = 0; i < count; ++i)
         truths[i] |= (Byte)((Code)(codes[i] - first) <= width ? 0xff : 0);
+}
+
+void testRange(const Byte* codes, std::size_t count, Byte first, Byte width, Byte* truths) {
+    std::size_t i = 0;
+    for (; i + 32 <= count; i += 32) {
+        Bytes32 code;
+        Bytes32 before;
+        fetchAhead(codes + i);
+        load(codes + i, code);
+        load(truths + i, before);
+        code -= first;
+        before |= (Bytes32)(code <= width);
+        __builtin_memcpy(truths + i, &before, sizeof before);
+    }
+    testRange<Byte>(codes + i, count - i, first, width, truths + i);
 }
 
 /// Short runs are written as one stretch of fixed length, whose rest the next run overwrites.
@@ -264,26 +387,92 @@ bool countRuns(const Byte* mask, const std::uint32_t* offsets, std::size_t runs,
     return fits;
 }
 
+template <bool Add, bool Times, class Code, class Index>
+void indexOf(const Code* codes, std::size_t count, Code lowest, Code domain, Index stride,
+             Index* out) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const Code code = (Code)(codes[i] - lowest);
+        const auto slot = (Index)(code < domain ? code : domain);
+        out[i] = (Index)((Add ? out[i] : 0) + (Index)(Times ? slot * stride : slot));
+    }
+}
+
+/// Bytes have no multiplication of their own: even and odd ones are multiplied apart.
+template <bool Add, bool Times>
+std::size_t indexBytes(const Byte* codes, std::size_t count, Byte lowest, Byte domain, Byte stride,
+                       Byte* out) {
+    std::size_t i = 0;
+    for (; i + 32 <= count; i += 32) {
+        Bytes32 slot;
+        fetchAhead(codes + i);
+        load(codes + i, slot);
+        slot -= lowest;
+        const Bytes32 last = Bytes32{} + domain;
+        slot = slot < last ? slot : last;
+        if (Times) {
+            const Words16 both = (Words16)slot;
+            slot = (Bytes32)((both & 0xff) * (std::uint16_t)stride |
+                             (both >> 8) * (std::uint16_t)(stride << 8));
+        }
+        if (Add) {
+            Bytes32 before;
+            load(out + i, before);
+            slot += before;
+        }
+        __builtin_memcpy(out + i, &slot, sizeof slot);
+    }
+    return i;
+}
+
+template <bool Add, bool Times>
+void indexOf(const Byte* codes, std::size_t count, Byte lowest, Byte domain, Byte stride,
+             Byte* out) {
+    const std::size_t done = indexBytes<Add, Times>(codes, count, lowest, domain, stride, out);
+    indexOf<Add, Times, Byte, Byte>(codes + done, count - done, lowest, domain, stride, out + done);
+}
+
 template <class Code, class Index>
 void index(const Code* codes, std::size_t count, Code lowest, Code domain, std::uint32_t stride,
            bool add, Index* out) {
     const auto step = (Index)stride;
-    if (add) {
-        for (std::size_t i = 0; i < count; ++i) {
-            const Code code = (Code)(codes[i] - lowest);
-            out[i] = (Index)(out[i] + (Index)(code < domain ? code : domain) * step);
-        }
-        return;
-    }
+    if (add)
+        indexOf<true, true>(codes, count, lowest, domain, step, out);
+    else if (stride == 1)
+        indexOf<false, false>(codes, count, lowest, domain, step, out);
+    else
+        indexOf<false, true>(codes, count, lowest, domain, step, out);
+}
+
+void binReals(const double* values, std::size_t count, const BinScale& scale, std::uint16_t* bins) {
+    const double lowest = scale.lowest;
+    const double perUnit = scale.perUnit;
+    const double missing = scale.missing;
+    const double notApplicable = scale.notApplicable;
+    const double last = scale.bins - 1;
+    const double none = scale.bins;
     for (std::size_t i = 0; i < count; ++i) {
-        const Code code = (Code)(codes[i] - lowest);
-        out[i] = (Index)((Index)(code < domain ? code : domain) * step);
+        const double value = values[i];
+        double bin = (value - lowest) * perUnit;
+        bin = bin > 0 ? bin : 0;
+        bin = bin < last ? bin : last;
+        const bool valid = (value == value) & (value != missing) & (value != notApplicable);
+        bins[i] = (std::uint16_t)(int)(valid ? bin : none);
     }
+}
+
+std::size_t pickBins(const double* values, const std::uint16_t* bins, std::size_t count,
+                     const Byte* wanted, double* out) {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        out[kept] = values[i];
+        kept += wanted[bins[i]];
+    }
+    return kept;
 }
 
 template <class Code>
 constexpr CodeKernels<Code> codeKernels() {
-    return {testRange<Code>, expand<Code>, index<Code, Byte>, index<Code, std::uint32_t>};
+    return {testRange, expand<Code>, index<Code, Byte>, index<Code, std::uint32_t>};
 }
 
 constexpr Kernels allKernels() {
@@ -295,14 +484,19 @@ constexpr Kernels allKernels() {
             countMask,
             histogram8,
             histogram32,
-            compact<Byte>,
-            compact<std::uint32_t>,
+            compact32,
+            replace32,
+            splitWeights,
+            addWeightParts<1>,
+            addWeightParts<partLanes>,
             addWeights,
             addWeights8,
             maskReal,
             andMasks,
             expand<double>,
-            countRuns};
+            countRuns,
+            binReals,
+            pickBins};
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "execution/sum.h"
+#include "execution/weight_parts.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,24 +34,44 @@ struct CodeKernels {
                     std::uint32_t stride, bool add, std::uint32_t* out);
 };
 
+/// Bins of equal width for reals. What lies beyond both ends goes into the first and the last.
+struct BinScale {
+    double lowest = 0;
+    double perUnit = 0;
+    std::uint16_t bins = 1;                ///< also the number that stands for "no value"
+    double missing = 0, notApplicable = 0; ///< no values; NaN for none
+};
+
 struct Kernels {
     CodeKernels<std::uint8_t> code8;
     CodeKernels<std::uint16_t> code16;
     CodeKernels<std::uint32_t> code32;
     CodeKernels<std::uint64_t> code64;
 
-    /// Adds to counts[first + k] the records with code first + k, k < kinds. A null mask takes all.
+    /// Adds to counts[first + k] the records with code first + k, k < kinds; first + kinds is at
+    /// most 255. A null mask takes all, here and below.
     void (*countFew)(const std::uint8_t* codes, const std::uint8_t* mask, std::size_t count,
                      std::uint8_t first, unsigned kinds, std::uint64_t* counts);
     std::uint64_t (*countMask)(const std::uint8_t* mask, std::size_t count);
-    /// Adds to counts[index[i]].
-    void (*histogram8)(const std::uint8_t* index, std::size_t count, std::uint64_t* counts);
+    /// Adds to counts[index[i]]; all are below kinds.
+    void (*histogram8)(const std::uint8_t* index, const std::uint8_t* mask, std::size_t count,
+                       unsigned kinds, std::uint64_t* counts);
     void (*histogram32)(const std::uint32_t* index, std::size_t count, std::uint64_t* counts);
     /// Keeps where the mask is set, in order; gives the number kept. May work in place.
-    std::size_t (*compact8)(const std::uint8_t* in, const std::uint8_t* mask, std::size_t count,
-                            std::uint8_t* out);
     std::size_t (*compact32)(const std::uint32_t* in, const std::uint8_t* mask, std::size_t count,
                              std::uint32_t* out);
+    /// Puts another index where the mask is not set.
+    void (*replace32)(std::uint32_t* index, const std::uint8_t* mask, std::size_t count,
+                      std::uint32_t other);
+    void (*splitWeights)(const double* weights, std::size_t count, const WeightUnits& units,
+                         WeightParts* parts);
+    /// Adds parts[runs[i]], or parts[i] where there are no runs, to cells[index[i]].
+    void (*addParts)(const std::uint32_t* index, const std::uint32_t* runs,
+                     const WeightParts* parts, std::size_t count, WeightParts* cells);
+    /// The same for cells of partLanes places each, so that equal neighbours do not wait for each
+    /// other.
+    void (*addPartsInLanes)(const std::uint32_t* index, const std::uint32_t* runs,
+                            const WeightParts* parts, std::size_t count, WeightParts* cells);
     /// Adds weights[i] to sums[index[i]], one after the other.
     void (*addWeights)(const std::uint32_t* index, const double* weights, std::size_t count,
                        Sum* sums);
@@ -67,6 +88,12 @@ struct Kernels {
     /// where the mask begins at offsets[0]. False where one is above mostInRun.
     bool (*countRuns)(const std::uint8_t* mask, const std::uint32_t* offsets, std::size_t runs,
                       std::uint8_t* out);
+    /// The bin of each value; never descending with ascending values.
+    void (*binReals)(const double* values, std::size_t count, const BinScale& scale,
+                     std::uint16_t* bins);
+    /// Keeps values whose bin is wanted, in order; gives the number kept. Room for all is needed.
+    std::size_t (*pickBins)(const double* values, const std::uint16_t* bins, std::size_t count,
+                            const std::uint8_t* wanted, double* out);
 
     template <class Code>
     const CodeKernels<Code>& of() const {

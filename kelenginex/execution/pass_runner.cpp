@@ -2,6 +2,7 @@
 #include "execution/pass_runner.h"
 
 #include "execution/table_maker.h"
+#include "execution/weight_parts.h"
 #include "execution/worker.h"
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace {
 /// Sums of weights are added up within stretches of so many records, counted from the entity's
 /// first, and then stretch by stretch: the order of additions is the same on any machine.
 constexpr std::uint64_t chunkRecords = 1U << 20;
+static_assert(chunkRecords <= mostExact);
 
 using Chunk = plan::RecordRanges;
 
@@ -61,15 +63,19 @@ public:
             all += maker->finishing(records);
         const double start = progress_.seconds();
         double done = records + 1;
+        const auto tell = [&](double part) { progress_.begin(shareAt(part / all), sinkUnits); };
         progress_.begin(shareAt(done / all), plan::recordCount(pass_.ranges));
         scan();
         workers_.clear();
         const double scanned =
             (progress_.seconds() - start) / static_cast<double>(pass_.tables.size());
         for (std::size_t i = 0; i < makers_.size(); ++i) {
-            done += makers_[i]->finishing(records);
-            progress_.begin(shareAt(done / all), sinkUnits);
-            finish(i, scanned, sink);
+            const double half = makers_[i]->finishing(records) / 2;
+            tell(done += half);
+            TableResult result = finish(i, scanned);
+            tell(done += half);
+            sink(pass_.tables[i].index, std::move(result), progress_);
+            progress_.checkNow();
         }
     }
 
@@ -86,14 +92,12 @@ private:
         progress_.checkNow();
     }
 
-    void finish(std::size_t table, double scanned, const TableSink& sink) {
-        const plan::PlannedTable& planned = pass_.tables[table];
+    TableResult finish(std::size_t table, double scanned) {
         const double start = progress_.seconds();
         TableResult result = makers_[table]->finish(progress_);
         makers_[table].reset();
         result.seconds = scanned + progress_.seconds() - start;
-        sink(planned.index, std::move(result), progress_);
-        progress_.checkNow();
+        return result;
     }
 
     void runThreads() {

@@ -40,6 +40,10 @@ public:
         else if (truths[0] == 0)
             std::memset(mask, 0, count);
     }
+    const std::uint8_t* mask(Frames& frames) override {
+        const Vector& values = node_.value(frames);
+        return values.constant ? nullptr : passing(values, buffer_).data();
+    }
     bool mayPass(std::size_t block) const override {
         return node_.entity() != &unit_ || node_.mayBeTrue(block);
     }

@@ -18,6 +18,8 @@ public:
     virtual ~RecordFilter() = default;
     /// Clears mask bytes (0 or 0xff) of the records that do not pass.
     virtual void apply(Frames& frames, std::uint8_t* mask) = 0;
+    /// The mask of those that pass, where it stands ready for each record; else null.
+    virtual const std::uint8_t* mask(Frames& /*frames*/) { return nullptr; }
     /// False where no record of a block of the unit can pass.
     virtual bool mayPass(std::size_t /*block*/) const { return true; }
 };

@@ -20,7 +20,7 @@ using ProgressCallback = std::function<bool(int expected, int elapsed, int perce
 struct RunOptions {
     unsigned threads = 0; ///< 0: one for each core
     std::size_t blockRecords =
-        65536; ///< records a step works on at once; figures never depend on it
+        65536; ///< records a step works on at most; figures never depend on it
     /// Called on the calling thread, at least every 100 ms; the last call of a whole run says 100.
     ProgressCallback progress;
 };

@@ -12,16 +12,21 @@
 namespace kelx::execution {
 
 /// The shape of a table: the domains of its dimensions and how their codes make a cell's number.
+/// Cells that differ only in dimensions without long runs are neighbours.
 struct TableShape {
     std::vector<CodeDomain> domains;
     std::vector<std::uint32_t> strides; ///< of dense cells
     std::size_t cells = 0;              ///< dense cells in all; 0: the table is hashed
+    std::size_t neighbours = 1;         ///< cells that share the codes of long runs
     bool weighted = false;
 
     TableShape(std::vector<CodeDomain> of, bool isWeighted);
     bool dense() const { return cells > 0; }
-    /// Cells have numbers of one byte.
-    bool small() const { return dense() && cells <= 256; }
+    /// Cells have numbers of one byte, among their neighbours.
+    bool small() const { return dense() && neighbours <= 256; }
+
+private:
+    bool number(bool longRuns);
 };
 
 /// Figures by cell; partial ones are merged into the whole.

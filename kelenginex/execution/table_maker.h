@@ -22,7 +22,12 @@ class SourcePool;
 /// What one thread has found for one table.
 class TablePart {
 public:
+    /// What is worked out for so many records stays in the first-level cache.
+    static constexpr std::size_t cachedStep = 16384;
+
     virtual ~TablePart() = default;
+    /// The longest step that it is good for.
+    virtual std::size_t mostAtOnce() const { return cachedStep; }
     /// False where no record of a block of the unit can matter to the table.
     virtual bool mayPass(std::size_t /*block*/) const { return true; }
     /// Takes the frame's records where the mask is set; a null mask takes all.
@@ -43,7 +48,8 @@ public:
     virtual bool take(TablePart& part, const GoOn& goOn) = 0;
     /// What finishing may take, in the time of scanning one of the pass's records.
     virtual double finishing(double records) const = 0;
-    /// Called once, after all parts were taken. Throws Cancelled.
+    /// Called once, after all parts were taken; its stage of the progress has `sinkUnits`. Throws
+    /// Cancelled.
     virtual TableResult finish(Progress& progress) = 0;
 };
 

@@ -8,13 +8,18 @@
 
 #include <algorithm>
 #include <numeric>
-#include <stdexcept>
 
 namespace kelx::execution {
 namespace {
 
 /// Up to so many cells are counted by comparing; beyond, a table of counters is faster.
 constexpr std::uint64_t mostCompared = 32;
+
+/// Where runs are so long on average a stretch of its own costs less than an index by record.
+constexpr std::uint64_t longRun = 1024;
+
+/// Up to so many cells have their sums in lanes.
+constexpr std::size_t mostInLanes = 4096;
 
 std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& pool) {
     std::vector<CodeSource*> result;
@@ -24,23 +29,24 @@ std::vector<CodeSource*> sourcesOf(const plan::PlannedTable& table, SourcePool& 
     return result;
 }
 
-TableShape shapeOf(const std::vector<CodeSource*>& sources, bool weighted) {
+TableShape shapeOf(const std::vector<CodeSource*>& sources, const Entity& unit, bool weighted) {
     std::vector<CodeDomain> domains;
     domains.reserve(sources.size());
-    for (const CodeSource* source : sources)
+    for (const CodeSource* source : sources) {
         domains.push_back(source->domain());
+        const Entity& entity = source->entity();
+        domains.back().hasLongRuns =
+            &entity != &unit && unit.records() / longRun >= entity.records();
+    }
     return {std::move(domains), weighted};
 }
 
-/// The lower of the entities of weight and tally.
-const Entity* weightedBy(const language::TableCommand& command) {
-    const Entity* result = nullptr;
-    for (const language::ExpressionPtr& factor : {command.weight, command.tally}) {
-        const Entity* entity = factor ? factor->entity : nullptr;
-        if (entity != nullptr && (result == nullptr || result->isAncestorOf(*entity)))
-            result = entity;
-    }
-    return result;
+/// The place of a code among a domain's numbers.
+std::size_t numberOf(const void* codes, std::size_t record, const CodeDomain& domain) {
+    return withCodes(codes, domain.physical, [&](const auto* typed) {
+        const std::uint64_t code = typed[record] - domain.lowest;
+        return static_cast<std::size_t>(std::min(code, domain.numbers() - 1));
+    });
 }
 
 } // namespace
@@ -56,47 +62,55 @@ CodeSource& SourcePool::of(const language::Expression& expression) {
 
 Tabulator::Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePool& nodes,
                      SourcePool& sources)
-    : command_(*table.command), unit_(&unit), weighted_(weightedBy(command_)),
-      sources_(sourcesOf(table, sources)), weight_(factor(command_.weight, nodes)),
-      tally_(factor(command_.tally, nodes)),
-      shape_(shapeOf(sources_, weight_ != nullptr || tally_ != nullptr)), cells_(shape_),
-      numbers_(sources_.size()) {
+    : command_(*table.command), sources_(sourcesOf(table, sources)),
+      weights_(command_, unit, nodes), shape_(shapeOf(sources_, unit, weights_.any())),
+      cells_(shape_), numbers_(sources_.size()) {
     if (command_.filter)
         filter_ = makeFilter(command_.filter, unit, nodes);
+    if (!shape_.dense())
+        return;
+    sortDimensions();
+    if (weights_.exact()) {
+        lanes_ = shape_.cells <= mostInLanes ? partLanes : 1;
+        parts_.resize((shape_.cells + 1) * lanes_);
+    }
 }
 
-Node* Tabulator::factor(const language::ExpressionPtr& expression, NodePool& nodes) const {
-    if (!expression)
-        return nullptr;
-    Node& node = nodes.at(*expression, weighted_ != nullptr ? *weighted_ : *unit_);
-    if (!isNumber(node.type()))
-        throw std::runtime_error("A weight or tally is a number, but " + expression->text +
-                                 " is not.");
-    return &node;
+void Tabulator::sortDimensions() {
+    for (std::size_t i = 0; i < sources_.size(); ++i) {
+        const Entity& entity = sources_[i]->entity();
+        const bool isFar = shape_.domains[i].hasLongRuns;
+        (isFar ? far_ : close_).push_back({sources_[i], shape_.strides[i]});
+        if (isFar && (lowestFar_ == nullptr || lowestFar_->isAncestorOf(entity)))
+            lowestFar_ = &entity;
+    }
 }
 
-/// Where the records end that share a weight.
-const std::vector<std::uint32_t>& Tabulator::runEnds(Frames& frames) {
-    if (weighted_ != nullptr)
-        return frames.runEnds(*weighted_, *unit_);
-    onlyEnd_ = {static_cast<std::uint32_t>(frames.baseFrame().count)};
-    return onlyEnd_;
+bool Tabulator::isOneByte() const {
+    return close_.size() == 1 && close_[0].source->domain().physical == storage::Physical::Code8;
+}
+
+/// Codes that are counted where they lie need no room in the cache.
+std::size_t Tabulator::mostAtOnce() const {
+    const bool inPlace =
+        shape_.dense() && !filter_ && !weights_.any() && (close_.empty() || isOneByte());
+    return inPlace ? storage::recordsPerBlock : cachedStep;
 }
 
 void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
-    if (shape_.weighted)
-        findWeights(frames);
+    if (weights_.any())
+        weights_.find(frames);
     mask = ownMask(frames, mask);
-    const std::size_t count = frames.baseFrame().count;
-    const bool oneByte =
-        sources_.size() == 1 && sources_[0]->domain().physical == storage::Physical::Code8;
     if (!shape_.dense())
         return addHashed(frames, mask);
+    findStretches(frames);
+    if (weights_.exact())
+        return addParts(frames, mask);
     if (shape_.weighted)
         addSums(frames, mask);
-    if (sources_.empty())
-        cells_.dense.counts[0] += mask != nullptr ? kernels().countMask(mask, count) : count;
-    else if (oneByte)
+    if (close_.empty())
+        addWithoutCodes(mask);
+    else if (isOneByte())
         addBytes(frames, mask);
     else if (shape_.small())
         addSmall(frames, mask);
@@ -105,12 +119,14 @@ void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
 }
 
 const std::uint8_t* Tabulator::ownMask(Frames& frames, const std::uint8_t* mask) {
-    const auto mayBeInvalid = [&](Node* node) {
-        return node != nullptr && !node->value(frames).allValid;
-    };
-    const bool checked = mayBeInvalid(weight_) || mayBeInvalid(tally_);
+    const bool inParts = shape_.dense() && weights_.exact();
+    const bool checked = weights_.any() && weights_.mayBeInvalid() && !inParts;
     if (!filter_ && !checked)
         return mask;
+    if (filter_ && mask == nullptr && !checked) {
+        if (const std::uint8_t* ready = filter_->mask(frames))
+            return ready;
+    }
     const std::size_t count = frames.baseFrame().count;
     if (mask != nullptr)
         mask_.assign(mask, mask + count);
@@ -118,147 +134,163 @@ const std::uint8_t* Tabulator::ownMask(Frames& frames, const std::uint8_t* mask)
         mask_.assign(count, truth);
     if (filter_)
         filter_->apply(frames, mask_.data());
-    for (Node* node : {weight_, tally_}) {
-        if (mayBeInvalid(node))
-            dropInvalid(node->value(frames), frames);
-    }
+    if (checked)
+        weights_.dropInvalid(frames, mask_.data());
     return mask_.data();
 }
 
-void Tabulator::dropInvalid(const Vector& values, Frames& frames) {
-    if (weighted_ == unit_) {
-        for (std::size_t i = 0; i < mask_.size(); ++i) {
-            if (values.stateAt(i) != state::valid)
-                mask_[i] = 0;
-        }
+void Tabulator::findStretches(Frames& frames) {
+    stretches_.clear();
+    const std::size_t count = frames.baseFrame().count;
+    if (lowestFar_ == nullptr) {
+        stretches_.push_back({0, count, 0});
         return;
     }
-    const auto& ends = runEnds(frames);
     std::size_t begin = 0;
-    for (std::size_t run = 0; run < ends.size(); ++run) {
-        if (values.stateAt(run) != state::valid)
-            std::fill(mask_.begin() + static_cast<std::ptrdiff_t>(begin),
-                      mask_.begin() + static_cast<std::ptrdiff_t>(ends[run]), std::uint8_t{0});
-        begin = ends[run];
+    for (const std::uint32_t end : frames.runEnds(*lowestFar_, frames.base())) {
+        stretches_.push_back({begin, end, 0});
+        begin = end;
     }
+    for (const Dimension& dimension : far_)
+        addCell(dimension, frames);
 }
 
-void Tabulator::findWeights(Frames& frames) {
-    weights_.assign(weighted_ != nullptr ? frames.frame(*weighted_).count : 1, 1);
-    for (Node* factor : {weight_, tally_}) {
-        if (factor != nullptr)
-            multiplyBy(*factor, frames);
-    }
+void Tabulator::addCell(const Dimension& dimension, Frames& frames) {
+    const void* codes = dimension.source->codes(frames, *lowestFar_);
+    for (std::size_t i = 0; i < stretches_.size(); ++i)
+        stretches_[i].cell += numberOf(codes, i, dimension.source->domain()) * dimension.stride;
 }
 
-void Tabulator::multiplyBy(Node& factor, Frames& frames) {
-    const Vector& values = factor.value(frames);
-    const std::size_t step = values.constant ? 0 : 1;
-    const auto multiply = [&](const auto* numbers, auto toReal) {
-        for (std::size_t i = 0; i < weights_.size(); ++i)
-            weights_[i] *= toReal(numbers[i * step]);
-    };
-    if (values.type == ValueType::Real)
-        multiply(values.reals.data(), [](double value) { return value; });
-    else if (values.type == ValueType::Integer)
-        multiply(values.integers.data(), [](auto value) { return static_cast<double>(value); });
-    else
-        multiply(values.truths.data(), [](unsigned value) { return value != 0 ? 1.0 : 0.0; });
+void Tabulator::addWithoutCodes(const std::uint8_t* mask) {
+    for (const Stretch& stretch : stretches_) {
+        const std::size_t count = stretch.end - stretch.begin;
+        cells_.dense.counts[stretch.cell] +=
+            mask != nullptr ? kernels().countMask(mask + stretch.begin, count) : count;
+    }
 }
 
 void Tabulator::addBytes(Frames& frames, const std::uint8_t* mask) {
-    const std::size_t count = frames.baseFrame().count;
-    const auto* codes = static_cast<const std::uint8_t*>(sources_[0]->codes(frames));
-    const CodeDomain& domain = sources_[0]->domain();
-    std::uint64_t found[256] = {};
-    std::size_t passing = count;
-    if (domain.size <= mostCompared) {
-        if (mask != nullptr)
-            passing = static_cast<std::size_t>(kernels().countMask(mask, count));
-        kernels().countFew(codes, mask, count, static_cast<std::uint8_t>(domain.lowest),
-                           static_cast<unsigned>(domain.size), found);
-    } else {
-        if (mask != nullptr) {
-            index8_.resize(count);
-            passing = kernels().compact8(codes, mask, count, index8_.data());
-            codes = index8_.data();
-        }
-        kernels().histogram8(codes, passing, found);
+    const auto* codes = static_cast<const std::uint8_t*>(close_[0].source->codes(frames));
+    const CodeDomain& domain = close_[0].source->domain();
+    const auto lowest = static_cast<std::uint8_t>(domain.lowest);
+    const auto size = static_cast<unsigned>(domain.size);
+    for (const auto& [begin, end, cell] : stretches_) {
+        std::uint64_t found[256] = {};
+        const std::size_t count = end - begin;
+        const std::uint8_t* kept = mask != nullptr ? mask + begin : nullptr;
+        if (size <= mostCompared)
+            kernels().countFew(codes + begin, kept, count, lowest, size, found);
+        else
+            kernels().histogram8(codes + begin, kept, count, lowest + size, found);
+        std::uint64_t* counts = cells_.dense.counts.data() + cell;
+        const std::uint64_t* first = found + lowest;
+        for (std::size_t i = 0; i < size; ++i)
+            counts[i] += first[i];
+        if (domain.mayBeBlank)
+            counts[size] += (kept != nullptr ? kernels().countMask(kept, count) : count) -
+                            std::accumulate(first, first + size, std::uint64_t{0});
     }
-    const std::uint64_t* first = found + domain.lowest;
-    for (std::size_t i = 0; i < domain.size; ++i)
-        cells_.dense.counts[i] += first[i];
-    cells_.dense.counts[domain.size] +=
-        passing - std::accumulate(first, first + domain.size, std::uint64_t{0});
 }
 
 template <class Index>
 void Tabulator::makeIndex(Frames& frames, std::vector<Index>& index) {
     const std::size_t count = frames.baseFrame().count;
     index.resize(count);
-    if (sources_.empty())
+    if (close_.empty())
         std::fill(index.begin(), index.end(), Index{0});
-    for (std::size_t i = 0; i < sources_.size(); ++i) {
-        const CodeDomain& domain = sources_[i]->domain();
-        withCodes(sources_[i]->codes(frames), domain.physical, [&](const auto* codes) {
+    for (const Dimension& dimension : close_) {
+        const CodeDomain& domain = dimension.source->domain();
+        const bool add = &dimension != close_.data();
+        withCodes(dimension.source->codes(frames), domain.physical, [&](const auto* codes) {
             using Code = std::decay_t<decltype(*codes)>;
             const auto& set = kernels().of<Code>();
             const auto lowest = static_cast<Code>(domain.lowest);
-            const auto size = static_cast<Code>(domain.size);
+            const auto last = static_cast<Code>(domain.numbers() - 1);
             if constexpr (sizeof(Index) == 1)
-                set.index8(codes, count, lowest, size, shape_.strides[i], i > 0, index.data());
+                set.index8(codes, count, lowest, last, dimension.stride, add, index.data());
             else
-                set.index32(codes, count, lowest, size, shape_.strides[i], i > 0, index.data());
+                set.index32(codes, count, lowest, last, dimension.stride, add, index.data());
         });
     }
 }
 
 void Tabulator::addSmall(Frames& frames, const std::uint8_t* mask) {
-    std::size_t count = frames.baseFrame().count;
     makeIndex(frames, index8_);
-    std::uint64_t* counts = cells_.dense.counts.data();
-    if (shape_.cells <= mostCompared) {
-        kernels().countFew(index8_.data(), mask, count, 0, static_cast<unsigned>(shape_.cells),
-                           counts);
-        return;
+    const auto kinds = static_cast<unsigned>(shape_.neighbours);
+    for (const auto& [begin, end, cell] : stretches_) {
+        const std::uint8_t* kept = mask != nullptr ? mask + begin : nullptr;
+        std::uint64_t* counts = cells_.dense.counts.data() + cell;
+        if (kinds <= mostCompared)
+            kernels().countFew(index8_.data() + begin, kept, end - begin, 0, kinds, counts);
+        else
+            kernels().histogram8(index8_.data() + begin, kept, end - begin, kinds, counts);
     }
-    if (mask != nullptr)
-        count = kernels().compact8(index8_.data(), mask, count, index8_.data());
-    kernels().histogram8(index8_.data(), count, counts);
 }
 
 void Tabulator::addDense(Frames& frames, const std::uint8_t* mask) {
-    std::size_t count = frames.baseFrame().count;
     makeIndex(frames, index32_);
-    if (mask != nullptr)
-        count = kernels().compact32(index32_.data(), mask, count, index32_.data());
-    kernels().histogram32(index32_.data(), count, cells_.dense.counts.data());
+    for (const auto& [begin, end, cell] : stretches_) {
+        std::uint32_t* index = index32_.data() + begin;
+        std::size_t count = end - begin;
+        if (mask != nullptr)
+            count = kernels().compact32(index, mask + begin, count, index);
+        kernels().histogram32(index, count, cells_.dense.counts.data() + cell);
+    }
 }
 
-/// The weight of each record. Mostly weights belong to records above, as those of persons do to
-/// their household.
-double* Tabulator::recordWeights(Frames& frames) {
-    if (weighted_ == unit_)
-        return weights_.data();
-    const auto& ends = runEnds(frames);
-    spread_.resize(frames.baseFrame().count + expandSlack / sizeof(double));
-    kernels().expandReal(weights_.data(), ends.data(), ends.size(), spread_.data());
-    return spread_.data();
+/// What the mask leaves out goes into a cell behind all others.
+void Tabulator::addParts(Frames& frames, const std::uint8_t* mask) {
+    makeIndex(frames, index32_);
+    const std::vector<WeightParts>& parts = weights_.parts();
+    const std::uint32_t* runs = weights_.runs(frames);
+    const auto add = lanes_ == 1 ? kernels().addParts : kernels().addPartsInLanes;
+    for (const auto& [begin, end, cell] : stretches_) {
+        std::uint32_t* index = index32_.data() + begin;
+        if (mask != nullptr)
+            kernels().replace32(index, mask + begin, end - begin,
+                                static_cast<std::uint32_t>(shape_.cells - cell));
+        const bool own = runs == nullptr;
+        add(index, own ? nullptr : runs + begin, own ? parts.data() + begin : parts.data(),
+            end - begin, parts_.data() + cell * lanes_);
+    }
+}
+
+TableCells& Tabulator::cells() {
+    if (parts_.empty())
+        return cells_;
+    for (std::size_t cell = 0; cell < shape_.cells; ++cell) {
+        WeightParts all;
+        for (std::size_t lane = 0; lane < lanes_; ++lane) {
+            const WeightParts& own = parts_[cell * lanes_ + lane];
+            all.high += own.high;
+            all.middle += own.middle;
+            all.low += own.low;
+            all.records += own.records;
+        }
+        cells_.dense.add(cell, static_cast<std::uint64_t>(all.records),
+                         {all.high, all.middle, all.low});
+    }
+    std::fill(parts_.begin(), parts_.end(), WeightParts{});
+    return cells_;
 }
 
 /// Records that the mask leaves out add nothing, in their place.
 void Tabulator::addSums(Frames& frames, const std::uint8_t* mask) {
     const Frame& frame = frames.baseFrame();
-    double* weights = recordWeights(frames);
+    double* weights = weights_.ofRecords(frames);
     if (mask != nullptr)
         kernels().maskReal(mask, frame.count, weights);
-    Sum* sums = cells_.dense.sums.data();
-    if (shape_.small()) {
+    if (shape_.small())
         makeIndex(frames, index8_);
-        kernels().addWeights8(index8_.data(), weights, frame.count, frame.begin, sums);
-    } else {
+    else
         makeIndex(frames, index32_);
-        kernels().addWeights(index32_.data(), weights, frame.count, sums);
+    for (const auto& [begin, end, cell] : stretches_) {
+        Sum* sums = cells_.dense.sums.data() + cell * cells_.dense.lanes;
+        if (shape_.small())
+            kernels().addWeights8(index8_.data() + begin, weights + begin, end - begin,
+                                  frame.begin + begin, sums);
+        else
+            kernels().addWeights(index32_.data() + begin, weights + begin, end - begin, sums);
     }
 }
 
@@ -266,7 +298,7 @@ void Tabulator::addHashed(Frames& frames, const std::uint8_t* mask) {
     for (std::size_t d = 0; d < sources_.size(); ++d)
         sources_[d]->numbers(frames, numbers_[d]);
     const std::size_t count = frames.baseFrame().count;
-    const double* weights = shape_.weighted ? recordWeights(frames) : nullptr;
+    const double* weights = shape_.weighted ? weights_.ofRecords(frames) : nullptr;
     std::vector<std::uint64_t> codes(sources_.size());
     for (std::size_t i = 0; i < count; ++i) {
         if (mask != nullptr && mask[i] == 0)

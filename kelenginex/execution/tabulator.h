@@ -6,6 +6,7 @@
 #include "execution/record_filter.h"
 #include "execution/table_cells.h"
 #include "execution/table_maker.h"
+#include "execution/weights.h"
 #include "plan/plan.h"
 
 #include <cstddef>
@@ -26,45 +27,59 @@ private:
 };
 
 /// One for each table and thread. A record whose weight or tally is blank, MV or NA is not counted.
+/// Dimensions of entities far above the unit hold for long stretches of a step: each stretch is
+/// counted by the other dimensions alone, into the cells that belong to it.
 class Tabulator final : public TablePart {
 public:
     Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePool& nodes,
               SourcePool& sources);
 
     const TableShape& shape() const { return shape_; }
-    TableCells& cells() { return cells_; }
+    /// With all that was added.
+    TableCells& cells();
+    std::size_t mostAtOnce() const override;
     /// By the table's own filter.
     bool mayPass(std::size_t block) const override { return !filter_ || filter_->mayPass(block); }
     void add(Frames& frames, const std::uint8_t* mask) override;
 
 private:
+    /// Records begin to end - 1 of a step, whose cells are counted from `cell` on.
+    struct Stretch {
+        std::size_t begin, end;
+        std::size_t cell;
+    };
+    struct Dimension {
+        CodeSource* source;
+        std::uint32_t stride;
+    };
+    void sortDimensions();
+    bool isOneByte() const;
     const std::uint8_t* ownMask(Frames& frames, const std::uint8_t* mask);
-    Node* factor(const language::ExpressionPtr& expression, NodePool& nodes) const;
-    const std::vector<std::uint32_t>& runEnds(Frames& frames);
-    void findWeights(Frames& frames);
-    void multiplyBy(Node& factor, Frames& frames);
-    void dropInvalid(const Vector& values, Frames& frames);
+    void findStretches(Frames& frames);
+    void addCell(const Dimension& dimension, Frames& frames);
+    void addWithoutCodes(const std::uint8_t* mask);
     void addBytes(Frames& frames, const std::uint8_t* mask);
     void addSmall(Frames& frames, const std::uint8_t* mask);
     void addDense(Frames& frames, const std::uint8_t* mask);
-    double* recordWeights(Frames& frames);
+    void addParts(Frames& frames, const std::uint8_t* mask);
     void addSums(Frames& frames, const std::uint8_t* mask);
     void addHashed(Frames& frames, const std::uint8_t* mask);
     template <class Index>
     void makeIndex(Frames& frames, std::vector<Index>& index);
 
     const language::TableCommand& command_;
-    const Entity* unit_;
-    const Entity* weighted_; ///< whose records have the weights; null where one holds for all
     std::vector<CodeSource*> sources_;
-    std::unique_ptr<RecordFilter> filter_;
-    Node* weight_ = nullptr;
-    Node* tally_ = nullptr;
+    Weights weights_;
     TableShape shape_;
     TableCells cells_;
+    std::vector<WeightParts> parts_;     ///< of all cells, and of one for what is left out
+    std::size_t lanes_ = 1;              ///< parts of a cell, side by side
+    std::vector<Dimension> close_, far_; ///< dimensions without and with long runs
+    const Entity* lowestFar_ = nullptr;
+    std::unique_ptr<RecordFilter> filter_;
+    std::vector<Stretch> stretches_;
     std::vector<std::uint8_t> mask_, index8_;
-    std::vector<std::uint32_t> index32_, onlyEnd_;
-    std::vector<double> weights_, spread_;
+    std::vector<std::uint32_t> index32_;
     std::vector<std::vector<std::uint64_t>> numbers_;
 };
 

@@ -10,8 +10,12 @@ Worker::Worker(const plan::Pass& pass, const std::vector<std::unique_ptr<TableMa
     : unit_(*pass.unit), stepRecords_(stepRecords), frames_(unit_), progress_(progress) {
     for (const auto& condition : pass.filters)
         filters_.push_back(makeFilter(condition, unit_, nodes_));
-    for (const auto& maker : makers)
+    if (!filters_.empty())
+        stepRecords_ = std::min(stepRecords_, TablePart::cachedStep);
+    for (const auto& maker : makers) {
         tables_.push_back(maker->makePart(nodes_, sources_));
+        stepRecords_ = std::min(stepRecords_, tables_.back()->mostAtOnce());
+    }
 }
 
 bool Worker::work(const plan::RecordRanges& ranges, const GoOn& goOn) {
@@ -58,6 +62,10 @@ bool Worker::workBlock(std::size_t block, plan::RecordRange range, const GoOn& g
 const std::uint8_t* Worker::findMask() {
     if (filters_.empty())
         return nullptr;
+    if (filters_.size() == 1) {
+        if (const std::uint8_t* ready = filters_[0]->mask(frames_))
+            return ready;
+    }
     mask_.assign(frames_.baseFrame().count, truth);
     for (const auto& filter : filters_)
         filter->apply(frames_, mask_.data());

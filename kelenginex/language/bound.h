@@ -169,7 +169,10 @@ struct ListColumn {
 };
 
 struct SortClause {
-    std::string column; ///< as written: a variable, a table's name, or a field
+    /// As written: a variable, a table's name, or a field; empty where the program names none.
+    std::string column;
+    /// Behind the name of a table that is a column: which of its columns, from 1.
+    std::optional<int> element;
     bool descending = false;
     std::optional<int> limit; ///< rows to keep; not set for 0
     Position position;

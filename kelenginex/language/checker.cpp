@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/checker.h"
 
+#include "language/definition_checker.h"
 #include "language/expression_checker.h"
+#include "language/program_caller.h"
 #include "language/run_checker.h"
 #include "language/table_checker.h"
+#include "language/uses.h"
 
 namespace kelx::language {
 
@@ -13,32 +16,44 @@ class Checker {
 public:
     explicit Checker(CheckerContext& context)
         : context_(context), expressions_(context), runs_(context, expressions_),
-          tables_(context, expressions_), settings_(runs_.defaults()) {}
+          definitions_(context, expressions_), tables_(context, expressions_, bound_),
+          calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
-        for (const ast::Command& command : program)
-            std::visit([this](const auto& c) { take(c); }, command);
+        takeAll(program);
         bound_.lastSettings = settings_.settings;
+        markUsed(bound_);
         return std::move(bound_);
     }
 
 private:
+    void takeAll(const ast::Program& program) {
+        for (const ast::Command& command : program)
+            std::visit([this](const auto& c) { take(c); }, command);
+    }
     void take(const ast::RunDefinition& run) { settings_ = runs_.check(run); }
     void take(const ast::WeightCommand& command) {
         runs_.setWeight(expressions_.number(*command.weight, "WEIGHT"));
         settings_ = runs_.defaults();
     }
+    void take(const ast::StyleCommand& style) { settings_ = runs_.setStyle(style, settings_); }
     void take(const ast::Definition& definition) {
-        context_.expectName(definition.name.entity, definition.name.name);
+        definitions_.check(definition, *settings_.settings, bound_);
     }
-    void take(const ast::Table& table) { tables_.check(table, settings_, bound_); }
+    void take(const ast::Table& table) { tables_.check(table, settings_); }
+
+    void take(const ast::Execute& command) {
+        calls_.call(command, [this](const ast::Program& program) { takeAll(program); });
+    }
 
     CheckerContext& context_;
     ExpressionChecker expressions_;
     RunChecker runs_;
-    TableChecker tables_;
-    CheckedSettings settings_;
+    DefinitionChecker definitions_;
     BoundProgram bound_;
+    TableChecker tables_;
+    ProgramCaller calls_;
+    CheckedSettings settings_;
 };
 
 } // namespace

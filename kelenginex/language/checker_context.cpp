@@ -14,6 +14,13 @@ std::string keyOf(const std::string& entity, const std::string& name) {
 
 } // namespace
 
+CheckerContext::Place CheckerContext::moveTo(Place place) {
+    Place before{program_, std::move(options_.baseFolder)};
+    program_ = place.program;
+    options_.baseFolder = std::move(place.folder);
+    return before;
+}
+
 void CheckerContext::expectName(const std::string& entity, const std::string& name) {
     expected_.insert(keyOf(entity, name));
     expected_.insert(keyOf("", name));
@@ -21,6 +28,21 @@ void CheckerContext::expectName(const std::string& entity, const std::string& na
 
 bool CheckerContext::isExpected(const std::string& entity, const std::string& name) const {
     return expected_.contains(keyOf(entity, name));
+}
+
+void CheckerContext::define(const catalog::Variable& variable) {
+    names_.define(variable);
+    checked_[&variable] = true;
+}
+
+void CheckerContext::setDefining(const std::string& entity, const std::string& name) {
+    definingEntity_ = lowerCase(entity);
+    definingName_ = lowerCase(name);
+}
+
+bool CheckerContext::isDefining(const std::string& entity, const std::string& name) const {
+    return !definingName_.empty() && lowerCase(name) == definingName_ &&
+           (entity.empty() || lowerCase(entity) == definingEntity_);
 }
 
 bool CheckerContext::checkData(const catalog::Variable& variable, Position position) {

@@ -18,8 +18,8 @@ namespace kelx::language {
 
 class CheckerContext {
 public:
-    CheckerContext(std::string_view program, const catalog::Dictionary& dictionary,
-                   const Names& names, const CompileOptions& options, Messages& messages)
+    CheckerContext(std::string_view program, const catalog::Dictionary& dictionary, Names& names,
+                   const CompileOptions& options, Messages& messages)
         : program_(program), dictionary_(dictionary), names_(names), options_(options),
           messages_(messages) {}
 
@@ -29,6 +29,14 @@ public:
     Messages& messages() { return messages_; }
     std::string_view program() const { return program_; }
 
+    /// The text that is checked, and the folder that it names files from.
+    struct Place {
+        std::string_view program;
+        std::filesystem::path folder;
+    };
+    /// Goes to another text; gives where it was.
+    Place moveTo(Place place);
+
     template <typename Code>
     void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
         messages_.add(makeMessage(code, position, values));
@@ -36,7 +44,14 @@ public:
     /// Hints cost time: after many errors nobody reads them.
     bool wantsHints() const { return messages_.all().size() < 200; }
 
-    /// A name that a command makes which is not supported yet; its use is no further fault.
+    /// Adds a variable that the program makes to the names. It must live on.
+    void define(const catalog::Variable& variable);
+    /// The variable whose DEFINE is being checked; empty texts for none.
+    void setDefining(const std::string& entity, const std::string& name);
+    bool isDefining(const std::string& entity, const std::string& name) const;
+    void expectDefining() { expectName(definingEntity_, definingName_); }
+
+    /// A name that a faulty command makes; its use is no further fault.
     void expectName(const std::string& entity, const std::string& name);
     bool isExpected(const std::string& entity, const std::string& name) const;
 
@@ -48,10 +63,11 @@ public:
 private:
     std::string_view program_;
     const catalog::Dictionary& dictionary_;
-    const Names& names_;
-    const CompileOptions& options_;
+    Names& names_;
+    CompileOptions options_;
     Messages& messages_;
     std::set<std::string> expected_;
+    std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;
 };
 

@@ -15,17 +15,6 @@ bool isNumeric(ValueType type) {
     return type == ValueType::Integer || type == ValueType::Real;
 }
 
-const char* describe(ValueType type) {
-    switch (type) {
-    case ValueType::String:
-        return "a text";
-    case ValueType::Boolean:
-        return "a condition";
-    default:
-        return "a number";
-    }
-}
-
 ValueType typeOf(const Constant& constant) {
     constexpr ValueType types[] = {ValueType::Integer, ValueType::Real, ValueType::String,
                                    ValueType::Boolean};
@@ -115,6 +104,17 @@ std::unique_ptr<Expression> make(Operation operation, ValueType type, Position p
 
 } // namespace
 
+const char* describe(ValueType type) {
+    switch (type) {
+    case ValueType::String:
+        return "a text";
+    case ValueType::Boolean:
+        return "a condition";
+    default:
+        return "a number";
+    }
+}
+
 bool lower(const Entity*& entity, const Entity* other) {
     if (entity == nullptr || other == nullptr || entity->isAncestorOf(*other)) {
         entity = other == nullptr ? entity : other;
@@ -154,6 +154,21 @@ ExpressionPtr ExpressionChecker::number(const ast::Node& node, const std::string
     return finished(std::move(built), source(node.span));
 }
 
+ExpressionPtr ExpressionChecker::measure(const ast::Node& node, const std::string& clause) {
+    Built built = check(node);
+    if (built != nullptr && built->type == ValueType::String) {
+        context_.report(Error::NotANumber, node.position, {clause, describe(built->type)});
+        return nullptr;
+    }
+    return finished(std::move(built), source(node.span));
+}
+
+ExpressionPtr ExpressionChecker::recordNumber(const Entity& entity, Position position) {
+    Built built = make(Operation::RecordNumber, ValueType::Integer, position);
+    built->entity = built->codeEntity = &entity;
+    return finished(std::move(built), entity.name);
+}
+
 ExpressionPtr ExpressionChecker::variable(const ast::Name& name) {
     return finished(checkName(name, name.position), source(name.span));
 }
@@ -190,27 +205,37 @@ ExpressionChecker::Built ExpressionChecker::checkConstant(const ast::Node& node)
     return built;
 }
 
-void ExpressionChecker::reportUnknown(const ast::Name& name, const std::string& hint) {
+void ExpressionChecker::reportUnknown(const ast::Name& name, const std::string& owner,
+                                      const std::string& hint) {
     const std::string& entity = name.entity;
+    if (context_.isExpected(owner, name.name))
+        return;
     const bool number = entity.empty() && name.name[0] >= '0' && name.name[0] <= '9';
-    if (number)
+    if (number) {
         context_.report(Error::BadNumber, name.position, {inQuotes(name.name)});
-    else if (!context_.isExpected(entity, name.name))
+    } else if (context_.isDefining(owner, name.name)) {
+        context_.report(Error::SelfReference, name.namePosition, {inQuotes(name.name)});
+        context_.expectDefining();
+    } else {
         context_.report(
             Error::UnknownVariable, name.namePosition,
             {entity.empty() ? inQuotes(name.name) : inQuotes(name.name) + " in " + entity, hint});
+    }
 }
 
 const Variable* ExpressionChecker::find(const ast::Name& name) {
     if (name.entity.empty())
         return findAlone(name);
+    if (context_.isExpected(name.entity, name.name))
+        return nullptr;
     const Entity* owner = entity(name.entity, name.position);
     if (owner == nullptr)
         return nullptr;
     const Variable* found = context_.names().variable(*owner, name.name);
     if (found == nullptr)
-        reportUnknown(
-            name, context_.wantsHints() ? context_.names().similarVariable(*owner, name.name) : "");
+        reportUnknown(name, owner->name,
+                      context_.wantsHints() ? context_.names().similarVariable(*owner, name.name)
+                                            : "");
     return found;
 }
 
@@ -227,7 +252,7 @@ const Variable* ExpressionChecker::findAlone(const ast::Name& name) {
     }
     const Entity* entity = context_.names().entity(name.name);
     if (entity == nullptr) {
-        reportUnknown(name,
+        reportUnknown(name, "",
                       context_.wantsHints() ? context_.names().similarVariable(name.name) : "");
         return nullptr;
     }

@@ -19,18 +19,28 @@ public:
     // Null where a fault was reported. `clause` names the clause in messages.
     ExpressionPtr condition(const ast::Node& node, const std::string& clause);
     ExpressionPtr number(const ast::Node& node, const std::string& clause);
+    /// What a table measures: a number, or a truth value as 0 or 1.
+    ExpressionPtr measure(const ast::Node& node, const std::string& clause);
+    /// The number of the record's ancestor, from 0.
+    static ExpressionPtr recordNumber(const Entity& entity, Position position);
     /// A variable as the dimension of a table.
     ExpressionPtr variable(const ast::Name& name);
     /// The variable by itself, not as a program names it.
     ExpressionPtr variable(const Variable& variable, Position position);
     const Entity* entity(const std::string& name, Position position);
+    const Variable* find(const ast::Name& name);
+
+    // Parts of expressions that others put together; null and false for a reported fault.
+    using Built = std::unique_ptr<Expression>;
+    Built check(const ast::Node& node);
+    Built checkName(const ast::Name& name, Position position);
+    bool checkInterval(const ast::Interval& interval, const Expression& operand);
+    bool append(Expression& to, Built argument); ///< takes over the argument and its entity
+    static ExpressionPtr finished(Built&& built, std::string text);
+    std::string source(ast::Span span) const; ///< of the program, blanks simplified
 
 private:
-    using Built = std::unique_ptr<Expression>;
-
-    Built check(const ast::Node& node);
     Built checkConstant(const ast::Node& node);
-    Built checkName(const ast::Name& name, Position position);
     Built checkOperation(const ast::Node& node);
     Built checkLogic(const ast::Node& node);
     Built checkArithmetic(const ast::Node& node);
@@ -41,17 +51,14 @@ private:
     Built comparand(const ast::Node& node, bool withText);
     Built compoundCode(const Entity& entity, Position position);
     Built value(const Variable& variable, Position position);
-    const Variable* find(const ast::Name& name);
     const Variable* findAlone(const ast::Name& name);
     const Entity* entityAlone(const ast::Node& node) const;
-    bool checkInterval(const ast::Interval& interval, const Expression& operand);
-    bool append(Expression& to, Built argument);
-    void reportUnknown(const ast::Name& name, const std::string& hint);
-    static ExpressionPtr finished(Built&& built, std::string text);
-    std::string source(ast::Span span) const;
+    void reportUnknown(const ast::Name& name, const std::string& owner, const std::string& hint);
 
     CheckerContext& context_;
 };
+
+const char* describe(ValueType type); ///< a number, a text, a condition
 
 /// The lower of two entities; null for none. False where neither lies on the other's branch.
 bool lower(const Entity*& entity, const Entity* other);

@@ -40,24 +40,6 @@ NodePtr makeNode(NodeKind kind, const Token& token) {
     return node;
 }
 
-std::optional<Constant> numberOf(std::string_view text) {
-    std::int64_t integer = 0;
-    const char* const end = text.data() + text.size();
-    if (text.find_first_of(".eE") == std::string_view::npos) {
-        const auto read = std::from_chars(text.data(), end, integer);
-        return read.ec == std::errc() ? std::optional<Constant>(integer) : std::nullopt;
-    }
-    double real = 0;
-    const auto read = std::from_chars(text.data(), end, real);
-    return read.ec == std::errc() && read.ptr == end ? std::optional<Constant>(real) : std::nullopt;
-}
-
-Constant negated(const Constant& constant) {
-    if (const auto* integer = std::get_if<std::int64_t>(&constant))
-        return -*integer;
-    return -std::get<double>(constant);
-}
-
 bool isNumber(const Node& node) {
     return node.kind == NodeKind::Constant &&
            (std::holds_alternative<std::int64_t>(node.constant) ||
@@ -66,7 +48,8 @@ bool isNumber(const Node& node) {
 
 /// SUM (x) is a mistaken function, AND (x) is none.
 bool canBeFunction(const Token& word) {
-    return word.is(Keyword::None) || (placesOf(word.keyword) & startsCommand) != 0;
+    return word.is(Keyword::None) || word.is(Keyword::Missing) ||
+           (placesOf(word.keyword) & startsCommand) != 0;
 }
 
 struct OperatorEntry {
@@ -109,6 +92,24 @@ NodePtr balanced(std::vector<NodePtr>& operands, std::size_t begin, std::size_t 
 
 } // namespace
 
+std::optional<Constant> numberOf(std::string_view text) {
+    std::int64_t integer = 0;
+    const char* const end = text.data() + text.size();
+    if (text.find_first_of(".eE") == std::string_view::npos) {
+        const auto read = std::from_chars(text.data(), end, integer);
+        return read.ec == std::errc() ? std::optional<Constant>(integer) : std::nullopt;
+    }
+    double real = 0;
+    const auto read = std::from_chars(text.data(), end, real);
+    return read.ec == std::errc() && read.ptr == end ? std::optional<Constant>(real) : std::nullopt;
+}
+
+Constant negated(const Constant& constant) {
+    if (const auto* integer = std::get_if<std::int64_t>(&constant))
+        return -*integer;
+    return -std::get<double>(constant);
+}
+
 NodePtr ExpressionParser::tooDeep(Position position) {
     cursor_.report(Error::TooDeep, position);
     return nullptr;
@@ -130,13 +131,32 @@ NodePtr ExpressionParser::parse() {
     return parseChain(Chain::Or);
 }
 
+NodePtr ExpressionParser::parseSelection() {
+    mayEndInOr_ = true;
+    NodePtr node = parse();
+    mayEndInOr_ = false;
+    return node;
+}
+
+/// Behind an OR: nothing that it could join.
+bool ExpressionParser::atOpenEnd() const {
+    return mayEndInOr_ && (cursor_.atEnd() || cursor_.atClause() || cursor_.atCommand() ||
+                           cursor_.peek().isSymbol(")"));
+}
+
 NodePtr ExpressionParser::parseChain(Chain chain) {
     const bool isOr = chain == Chain::Or;
     std::vector<NodePtr> operands;
+    Position link;
     do {
+        if (isOr && !operands.empty() && atOpenEnd()) {
+            cursor_.report(Warning::OpenSelection, link);
+            break;
+        }
         operands.push_back(isOr ? parseChain(Chain::And) : parseNot());
         if (operands.back() == nullptr)
             return nullptr;
+        link = cursor_.peek().position;
     } while (cursor_.takeKeyword(isOr ? Keyword::Or : Keyword::And));
     return balanced(operands, 0, operands.size(), isOr ? Operation::Or : Operation::And,
                     isOr ? "OR" : "AND");
@@ -380,7 +400,8 @@ NodePtr ExpressionParser::parseNumber() {
 std::optional<ast::Name> ExpressionParser::parseName(const std::string& expected, bool allowAll) {
     const Token& first = cursor_.peek();
     if (first.kind != TokenKind::Word || first.reserved) {
-        const bool plain = first.reserved && placesOf(first.keyword) == 0;
+        const unsigned places = placesOf(first.keyword) & ~(isDefineKind | isDefineClause);
+        const bool plain = first.reserved && places == 0;
         cursor_.unexpected(plain ? expected + " (a variable of this name is written Entity." +
                                        upperCase(first.text) + ")"
                                  : expected);

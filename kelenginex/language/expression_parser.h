@@ -7,6 +7,7 @@
 #include "language/token_cursor.h"
 
 #include <optional>
+#include <string_view>
 
 namespace kelx::language {
 
@@ -16,9 +17,15 @@ public:
 
     /// Null where a fault was reported.
     ast::NodePtr parse();
+    /// The same for a selection, which may end in an OR with nothing behind it: a row without a
+    /// code was left out there.
+    ast::NodePtr parseSelection();
     /// Entity.Variable or a name alone, with allowAll Entity.* too; null where a fault was
     /// reported.
     std::optional<ast::Name> parseName(const std::string& expected, bool allowAll);
+
+    /// a : b, or a value alone; without parentheses.
+    bool parseInterval(std::vector<ast::Interval>& intervals);
 
 private:
     enum class Chain { Or, And };
@@ -34,14 +41,19 @@ private:
     ast::NodePtr parseParenthesis();
     ast::NodePtr parseCall();
     ast::NodePtr parseNumber();
-    bool parseInterval(std::vector<ast::Interval>& intervals);
     bool parseBound(std::optional<Constant>& bound, bool& open);
     ast::NodePtr combine(Operation operation, const std::string& text, ast::NodePtr left,
                          ast::NodePtr right);
     ast::NodePtr tooDeep(Position position);
+    bool atOpenEnd() const;
 
     TokenCursor& cursor_;
     int nesting_ = 0;
+    bool mayEndInOr_ = false;
 };
+
+/// The value of a number as written; nothing where it needs more than 64 bits.
+std::optional<Constant> numberOf(std::string_view text);
+Constant negated(const Constant& number);
 
 } // namespace kelx::language

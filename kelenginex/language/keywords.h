@@ -53,6 +53,26 @@ enum class Keyword {
     Autoweight,
     Noweight,
     Dictionary,
+    // Kinds and clauses of DEFINE.
+    Recode,
+    Switch,
+    Number,
+    Sample,
+    Ratio,
+    Fraction,
+    Indicator,
+    Else,
+    Type,
+    Range,
+    Varlabel,
+    Valuelabels,
+    Doc,
+    Default,
+    Missing,
+    Notapp,
+    Like,
+    Alias,
+    Group,
     // Words inside of commands and expressions.
     And,
     Or,
@@ -64,16 +84,24 @@ enum class Keyword {
     Inline,
     Lowest,
     Highest,
+    Random,
+    Systematic,
+    Case,
+    Assign,
+    Num,
+    Denom,
+    Overwrite,
 };
 
 /// Places where a keyword can stand; a set of bits.
 enum Place : unsigned {
     startsCommand = 1,
-    isTableKind = 2,   ///< after TABLE name, and by itself
-    isTableClause = 4, ///< after a table
-    isRunClause = 8,   ///< in RUNDEF
-    notSupportedYet = 16,
-    startsAnywhere = 32 ///< unmistakably a new command, wherever on the line it stands
+    isTableKind = 2,     ///< after TABLE name, and by itself
+    isTableClause = 4,   ///< after a table
+    isRunClause = 8,     ///< in RUNDEF
+    startsAnywhere = 32, ///< unmistakably a new command, wherever on the line it stands
+    isDefineKind = 64,   ///< after DEFINE name AS
+    isDefineClause = 128 ///< after that
 };
 
 struct KeywordEntry {
@@ -87,5 +115,6 @@ Keyword keywordOf(std::string_view word); ///< in any case
 unsigned placesOf(Keyword keyword);
 /// Upper-case spellings of the keywords that have one of the places.
 std::vector<std::string> wordsFor(unsigned places);
+std::vector<std::string> wordsOf(Keyword keyword); ///< its upper-case spellings
 
 } // namespace kelx::language

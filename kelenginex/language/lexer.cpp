@@ -57,8 +57,9 @@ constexpr std::array<Symbol, 18> symbols = {{{"<==", "<="},
 
 class Lexer {
 public:
-    Lexer(std::string_view program, const OddNames& oddNames, Messages& messages)
-        : program_(program), oddNames_(oddNames), messages_(messages) {}
+    Lexer(std::string_view program, const OddNames& oddNames, Messages& messages,
+          std::size_t source)
+        : program_(program), oddNames_(oddNames), messages_(messages), position_{1, 1, source} {}
 
     std::vector<Token> run() {
         while (skipBlanks())
@@ -149,8 +150,9 @@ private:
     }
 
     /// Length of the name or word that begins here; 0 where none does.
-    std::size_t wordLength() const {
-        const std::size_t odd = oddNameLength();
+    std::size_t wordLength() {
+        const std::size_t made = atNewName() ? newNameLength() : 0;
+        const std::size_t odd = made > 0 ? made : oddNameLength();
         if (odd > 0)
             return odd;
         std::size_t length = 0;
@@ -173,6 +175,26 @@ private:
             return (peek(run.size()) == '-' || peek(run.size()) == '+') &&
                    isDigit(peek(run.size() + 1));
         return exponent.find_first_not_of("0123456789") == std::string_view::npos;
+    }
+
+    /// DEFINE Entity. stands before.
+    bool atNewName() const {
+        const std::size_t count = tokens_.size();
+        return afterDot() && count >= 3 && tokens_[count - 3].is(Keyword::Define);
+    }
+
+    /// A name that DEFINE makes may hold "-", and keeps it from there on.
+    std::size_t newNameLength() {
+        constexpr std::size_t longest = 200;
+        std::size_t length = 0;
+        while (isWordByte(peek(length)) || (peek(length) == '-' && isWordByte(peek(length + 1))))
+            ++length;
+        const std::string_view name = rest().substr(0, length);
+        if (length > longest || name.find('-') == std::string_view::npos)
+            return 0;
+        oddNames_.names.insert(lowerCase(name));
+        oddNames_.longest = std::max(oddNames_.longest, length);
+        return length;
     }
 
     std::size_t oddNameLength() const {
@@ -240,10 +262,14 @@ private:
         add(TokenKind::Number, length);
     }
 
+    /// A documentation may have many lines.
     void addText() {
+        const bool isLong = !tokens_.empty() && tokens_.back().is(Keyword::Doc) &&
+                            rest().find('"', 1) != std::string_view::npos;
+        const std::string_view ends = isLong ? "\"" : "\"\r\n";
         std::size_t length = 1;
         for (;; ++length) {
-            const std::size_t offset = rest().substr(length).find_first_of("\"\r\n");
+            const std::size_t offset = rest().substr(length).find_first_of(ends);
             if (offset == std::string_view::npos || rest()[length + offset] != '"')
                 return addOpenText(std::min(offset, rest().size() - length) + length);
             length += offset + 1;
@@ -258,8 +284,20 @@ private:
         add(TokenKind::Text, length);
     }
 
+    /// Place of the brace that closes the one here.
+    std::size_t closingBrace() const {
+        std::size_t open = 0;
+        for (std::size_t i = 0; i < rest().size(); ++i) {
+            if (rest()[i] == '{')
+                ++open;
+            else if (rest()[i] == '}' && --open == 0)
+                return i;
+        }
+        return std::string_view::npos;
+    }
+
     void addBraced() {
-        const std::size_t end = rest().find('}');
+        const std::size_t end = closingBrace();
         if (end == std::string_view::npos)
             messages_.add(makeMessage(Error::UnterminatedBrace, position_));
         add(end == std::string_view::npos ? TokenKind::Invalid : TokenKind::Braced,
@@ -282,7 +320,7 @@ private:
     }
 
     std::string_view program_;
-    const OddNames& oddNames_;
+    OddNames oddNames_; ///< those of the dictionary and of DEFINE
     Messages& messages_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;
@@ -304,9 +342,9 @@ std::string Token::value() const {
     return result;
 }
 
-std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames,
-                            Messages& messages) {
-    return Lexer(program, oddNames, messages).run();
+std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames, Messages& messages,
+                            std::size_t source) {
+    return Lexer(program, oddNames, messages, source).run();
 }
 
 } // namespace kelx::language

@@ -19,7 +19,7 @@ enum class TokenKind {
     Number,
     Text,    ///< in double quotes, quotes included
     Label,   ///< without quotes, to the end of the line
-    Braced,  ///< between braces, braces included
+    Braced,  ///< between braces, braces included; may hold other braces in pairs
     Symbol,  ///< punctuation and operators; `==` and the like already as `=`
     Invalid, ///< reported already
 };
@@ -52,6 +52,8 @@ struct OddNames {
 };
 
 /// The tokens of a program, an End last. The text must outlive them. Faults go to messages.
-std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames, Messages& messages);
+/// `source` is the text's number there, for a program that is called.
+std::vector<Token> tokenize(std::string_view program, const OddNames& oddNames, Messages& messages,
+                            std::size_t source = 0);
 
 } // namespace kelx::language

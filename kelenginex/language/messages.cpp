@@ -21,6 +21,21 @@ bool standsBefore(const Message& left, const Message& right) {
 
 } // namespace
 
+void Messages::add(Message message) {
+    std::size_t source = message.position.source;
+    if (source > 0 && source <= sources_.size())
+        message.text = sources_[source - 1].file + ":" + std::to_string(message.position.line) +
+                       ": " + message.text;
+    for (; source > 0 && source <= sources_.size(); source = message.position.source)
+        message.position = sources_[source - 1].call;
+    list_.push_back(std::move(message));
+}
+
+std::size_t Messages::addSource(std::string file, Position call) {
+    sources_.push_back({std::move(file), call});
+    return sources_.size();
+}
+
 bool Messages::hasErrors() const {
     return std::any_of(list_.begin(), list_.end(), isError);
 }

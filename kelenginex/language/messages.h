@@ -13,6 +13,7 @@ namespace kelx::language {
 struct Position {
     std::int64_t line = 1;
     std::int64_t column = 1;
+    std::size_t source = 0; ///< of a called program, its number in Messages; 0 is the program
 };
 
 enum class Severity { Error, Warning };
@@ -31,7 +32,10 @@ class Messages {
 public:
     static constexpr std::size_t shown = 30; ///< beyond, "and N more"
 
-    void add(Message message) { list_.push_back(std::move(message)); }
+    /// A message about a called program is told at the call, and begins "file:line: ".
+    void add(Message message);
+    /// The number of a program that is called, for the positions in it.
+    std::size_t addSource(std::string file, Position call);
     bool hasErrors() const;
     std::size_t errorCount() const;
     const std::vector<Message>& all() const { return list_; }
@@ -39,7 +43,13 @@ public:
     std::vector<Message> forDisplay() const;
 
 private:
+    struct Source {
+        std::string file;
+        Position call;
+    };
+
     std::vector<Message> list_;
+    std::vector<Source> sources_;
 };
 
 } // namespace kelx::language

@@ -4,6 +4,7 @@
 #include "language/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelx::language {
 
@@ -12,12 +13,12 @@ namespace {
 using catalog::Entity;
 using catalog::Variable;
 
-std::vector<std::string> namesOf(const Entity& entity, const std::string& prefix) {
+std::vector<std::string> namesOf(const std::vector<const Variable*>& variables) {
     std::vector<std::string> result;
-    for (const auto& variable : entity.variables) {
-        result.push_back(prefix + variable->name);
+    for (const Variable* variable : variables) {
+        result.push_back(variable->name);
         if (!variable->alias.empty())
-            result.push_back(prefix + variable->alias);
+            result.push_back(variable->alias);
     }
     return result;
 }
@@ -36,6 +37,7 @@ Names::Names(const catalog::Dictionary& dictionary) {
         addName(entity->name);
         auto& own = byEntity_[entity];
         for (const auto& variable : entity->variables) {
+            lists_[entity].push_back(variable.get());
             own.emplace(lowerCase(variable->name), variable.get());
             byName_[lowerCase(variable->name)].push_back(variable.get());
             addName(variable->name);
@@ -54,6 +56,40 @@ Names::Names(const catalog::Dictionary& dictionary) {
             addName(variable->alias);
         }
     }
+}
+
+const std::vector<const Variable*>& Names::variablesOf(const Entity& entity) const {
+    static const std::vector<const Variable*> none;
+    const auto found = lists_.find(&entity);
+    return found == lists_.end() ? none : found->second;
+}
+
+void Names::define(const Variable& variable) {
+    const std::string key = lowerCase(variable.name);
+    const Variable*& holder = byEntity_[variable.entity][key];
+    const bool isNew = holder == nullptr || lowerCase(holder->name) != key;
+    for (std::vector<const Variable*>* list : {&lists_[variable.entity], &byName_[key]}) {
+        if (isNew)
+            list->push_back(&variable);
+        else
+            std::replace(list->begin(), list->end(), std::as_const(holder), &variable);
+    }
+    holder = &variable;
+    addName(variable.name);
+    if (!variable.alias.empty())
+        defineAlias(variable);
+}
+
+/// The newest alias holds, but no alias hides a name.
+void Names::defineAlias(const Variable& variable) {
+    const std::string key = lowerCase(variable.alias);
+    const Variable*& holder = byEntity_[variable.entity][key];
+    if (holder == nullptr || lowerCase(holder->name) != key)
+        holder = &variable;
+    std::vector<const Variable*>& all = byAlias_[key];
+    std::erase_if(all, [&](const Variable* v) { return v->entity == variable.entity; });
+    all.push_back(&variable);
+    addName(variable.alias);
 }
 
 /// Only names that would not be read as one word are odd.
@@ -99,14 +135,14 @@ std::string Names::similarVariable(const Entity& entity, std::string_view name) 
     const auto& same = variables(name);
     if (!same.empty())
         return didYouMean(same.front()->fullName());
-    const std::string near = nearest(name, namesOf(entity, ""));
+    const std::string near = nearest(name, namesOf(variablesOf(entity)));
     return didYouMean(near.empty() ? near : entity.name + "." + near);
 }
 
 std::string Names::similarVariable(std::string_view name) const {
     std::vector<std::string> candidates;
     for (const auto& [entity, own] : byEntity_) {
-        const std::vector<std::string> more = namesOf(*entity, "");
+        const std::vector<std::string> more = namesOf(variablesOf(*entity));
         candidates.insert(candidates.end(), more.begin(), more.end());
         candidates.push_back(entity->name);
     }

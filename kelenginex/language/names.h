@@ -20,6 +20,10 @@ public:
     const catalog::Variable* variable(const catalog::Entity& entity, std::string_view name) const;
     /// All variables with that name or, where there are none, with that alias.
     const std::vector<const catalog::Variable*>& variables(std::string_view name) const;
+    /// All of an entity: in the dictionary's order, then what was defined.
+    const std::vector<const catalog::Variable*>& variablesOf(const catalog::Entity& entity) const;
+    /// A variable that the program makes, in place of one of the same name. It must live on.
+    void define(const catalog::Variable& variable);
     const OddNames& oddNames() const { return oddNames_; }
 
     // Hints for a message: empty, or " Did you mean X?".
@@ -31,11 +35,13 @@ private:
     using Variables = std::unordered_map<std::string, std::vector<const catalog::Variable*>>;
 
     void addName(const std::string& name);
+    void defineAlias(const catalog::Variable& variable);
 
     std::unordered_map<std::string, const catalog::Entity*> entities_;
     std::unordered_map<const catalog::Entity*,
                        std::unordered_map<std::string, const catalog::Variable*>>
         byEntity_;
+    std::unordered_map<const catalog::Entity*, std::vector<const catalog::Variable*>> lists_;
     Variables byName_, byAlias_;
     OddNames oddNames_;
 };

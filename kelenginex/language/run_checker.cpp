@@ -1,23 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/run_checker.h"
 
+#include "language/files.h"
 #include "language/selection_file.h"
 #include "language/text.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace kelx::language {
-
-namespace {
-
-/// Programs that were written elsewhere name files with backslashes.
-std::filesystem::path resolve(std::string file, const std::filesystem::path& folder) {
-    std::replace(file.begin(), file.end(), '\\', '/');
-    return folder / std::filesystem::path(file);
-}
-
-} // namespace
 
 RunSettings RunChecker::start() const {
     RunSettings settings;
@@ -25,11 +15,39 @@ RunSettings RunChecker::start() const {
                           : context_.options().autoWeight ? WeightMode::Automatic
                                                           : WeightMode::None;
     settings.weight = weight_;
+    settings.tableStyle = tableStyle_;
     return settings;
 }
 
 CheckedSettings RunChecker::defaults() const {
     return {std::make_shared<const RunSettings>(start()), {}};
+}
+
+CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
+                                     const CheckedSettings& current) {
+    tableStyle_ = resolvedFile(style.file, context_.options().baseFolder).string();
+    RunSettings settings = *current.settings;
+    settings.tableStyle = tableStyle_;
+    return {std::make_shared<const RunSettings>(std::move(settings)), current.selectionPosition};
+}
+
+void RunChecker::setStyles(const ast::RunDefinition& run, RunSettings& settings) const {
+    const auto set = [&](std::optional<std::string>& into, const std::optional<std::string>& file) {
+        if (file)
+            into = resolvedFile(*file, context_.options().baseFolder).string();
+    };
+    set(settings.tableStyle, run.tableStyle);
+    set(settings.graphStyle, run.graphStyle);
+    set(settings.mapStyle, run.mapStyle);
+}
+
+/// The tables' first dimension is its compound code, so it must have one.
+const Entity* RunChecker::areaBreak(const ast::Name& name) {
+    const Entity* entity = expressions_.entity(name.name, name.position);
+    if (entity == nullptr || entity->hasCode())
+        return entity;
+    context_.report(Error::NoCode, name.position, {entity->name});
+    return nullptr;
 }
 
 CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
@@ -39,6 +57,9 @@ CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
     settings.title = run.title;
     settings.decimals = run.decimals;
     settings.filterLabel = run.filterLabel;
+    setStyles(run, settings);
+    if (run.areaBreak)
+        settings.areaBreak = areaBreak(*run.areaBreak);
     if (!std::holds_alternative<std::monostate>(run.selection))
         settings.selection = selection(run);
     if (run.selectionLabel) {
@@ -61,7 +82,7 @@ void RunChecker::checkDictionary(const ast::RunDefinition& run) {
     const std::filesystem::path& open = context_.dictionary().file;
     if (!run.dictionary || open.empty())
         return;
-    const std::filesystem::path told = resolve(*run.dictionary, context_.options().baseFolder);
+    const std::filesystem::path told = resolvedFile(*run.dictionary, context_.options().baseFolder);
     std::error_code missing;
     const bool same = lowerCase(told.filename().string()) == lowerCase(open.filename().string()) ||
                       std::filesystem::equivalent(told, open, missing);
@@ -88,7 +109,7 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
     AreaSelection result;
     SelectionFileContent content;
     try {
-        content = readSelectionFile(resolve(file, context_.options().baseFolder));
+        content = readSelectionFile(resolvedFile(file, context_.options().baseFolder));
     } catch (const std::runtime_error& fault) {
         context_.report(Error::SelectionFile, position, {inQuotes(file), fault.what()});
         return result;

@@ -7,6 +7,8 @@
 #include "language/expression_checker.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace kelx::language {
 
@@ -26,9 +28,13 @@ public:
     CheckedSettings check(const ast::RunDefinition& run);
     /// WEIGHT as a command: holds for the program wherever RUNDEF says nothing of weights.
     void setWeight(ExpressionPtr weight) { weight_ = std::move(weight); }
+    /// TABLESTYLE of a DEFINE: holds from here on, wherever RUNDEF names none.
+    CheckedSettings setStyle(const ast::StyleCommand& style, const CheckedSettings& current);
 
 private:
     RunSettings start() const;
+    void setStyles(const ast::RunDefinition& run, RunSettings& settings) const;
+    const Entity* areaBreak(const ast::Name& name);
     void checkDictionary(const ast::RunDefinition& run);
     AreaSelection selection(const ast::RunDefinition& run);
     AreaSelection fromFile(const std::string& file, Position position);
@@ -39,6 +45,7 @@ private:
     CheckerContext& context_;
     ExpressionChecker& expressions_;
     ExpressionPtr weight_;
+    std::optional<std::string> tableStyle_;
 };
 
 } // namespace kelx::language

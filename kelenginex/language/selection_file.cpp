@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/selection_file.h"
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
+#include "language/files.h"
+
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
@@ -15,23 +14,6 @@ using nlohmann::json;
 
 constexpr std::uintmax_t largest = 64u << 20;
 constexpr int deepest = 8; ///< the format itself needs four levels
-
-std::string contentOf(const std::filesystem::path& file) {
-    std::error_code fault;
-    const auto status = std::filesystem::status(file, fault);
-    if (fault || !std::filesystem::exists(status))
-        throw std::runtime_error("does not exist");
-    if (!std::filesystem::is_regular_file(status))
-        throw std::runtime_error("is not a file");
-    const std::uintmax_t size = std::filesystem::file_size(file, fault);
-    if (fault || size > largest)
-        throw std::runtime_error("is larger than any selection can be");
-    std::ifstream stream(file, std::ios::binary);
-    std::string content(std::istreambuf_iterator<char>(stream), {});
-    if (!stream.is_open() || stream.bad())
-        throw std::runtime_error("cannot be read");
-    return content;
-}
 
 json parse(const std::string& content) {
     const auto refuseDepth = [](int depth, json::parse_event_t, json&) {
@@ -68,7 +50,7 @@ SelectionFileContent::Group groupOf(const json& value) {
 } // namespace
 
 SelectionFileContent readSelectionFile(const std::filesystem::path& file) {
-    const json root = parse(contentOf(file));
+    const json root = parse(contentOf(file, largest, "is larger than any selection can be"));
     if (!root.is_object() || !root.contains("selections") || !root["selections"].is_array())
         throw std::runtime_error("has no list \"selections\"");
     SelectionFileContent content;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/table_checker.h"
 
+#include "language/output_clauses.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -9,44 +10,106 @@ namespace kelx::language {
 
 namespace {
 
-constexpr std::size_t mostTables = 10000;
-
-const Variable* automaticWeight(const Entity* entity) {
-    while (entity != nullptr && entity->weightVar == nullptr)
-        entity = entity->parent;
-    return entity == nullptr ? nullptr : entity->weightVar;
+TableKind kindOf(Keyword kind) {
+    switch (kind) {
+    case Keyword::Count:
+        return TableKind::Count;
+    case Keyword::Average:
+        return TableKind::Average;
+    case Keyword::Sum:
+        return TableKind::Sum;
+    case Keyword::Minimum:
+        return TableKind::Minimum;
+    case Keyword::Maximum:
+        return TableKind::Maximum;
+    case Keyword::Median:
+        return TableKind::Median;
+    case Keyword::Quantile:
+        return TableKind::Quantile;
+    case Keyword::Stats:
+        return TableKind::Stats;
+    case Keyword::Gini:
+        return TableKind::Gini;
+    case Keyword::Arealist:
+        return TableKind::AreaList;
+    case Keyword::View:
+        return TableKind::View;
+    case Keyword::Tabop:
+        return TableKind::Tabop;
+    case Keyword::Tablist:
+        return TableKind::Tablist;
+    default:
+        return TableKind::Frequency;
+    }
 }
 
-/// A count has one figure for each record, and so must its weight.
-bool weighsBelow(const TableCommand& command) {
-    const Entity* weighted = command.weight->entity;
-    return weighted != nullptr && weighted != command.countEntity &&
-           command.countEntity->isAncestorOf(*weighted);
+bool isMeasure(TableKind kind) {
+    return kind >= TableKind::Average && kind <= TableKind::Gini;
 }
 
 /// Sizes of lists multiplied, up to the limit.
 std::size_t productOf(const std::vector<std::vector<ExpressionPtr>>& lists) {
     std::size_t product = 1;
     for (const auto& list : lists)
-        product = std::min(mostTables + 1, product * list.size());
+        product = std::min(TableRegister::mostTables + 1, product * list.size());
     return product;
+}
+
+/// What tells areas apart; nobody wants its mean.
+bool isCode(const Variable& variable) {
+    constexpr const char* areaKey = "kelcoden"; // by which the quick tools know an area's key
+    return variable.type == ValueType::String || variable.entity->codeVar == &variable ||
+           lowerCase(variable.name) == areaKey;
+}
+
+std::vector<const Variable*> variablesOf(const std::vector<ExpressionPtr>& dimensions) {
+    std::vector<const Variable*> variables;
+    for (const ExpressionPtr& dimension : dimensions)
+        variables.push_back(dimension->variable);
+    return variables;
 }
 
 } // namespace
 
-void TableChecker::check(const ast::Table& table, const CheckedSettings& settings,
-                         BoundProgram& program) {
-    TableCommand command;
+void TableChecker::check(const ast::Table& table, const CheckedSettings& settings) {
+    Model model{{}, {}, table, settings, true};
+    TableCommand& command = model.command;
+    command.kind = kindOf(table.kind);
     command.position = table.position;
     command.settings = settings.settings;
     command.title = table.title;
     command.decimals = table.decimals;
+    command.sensitive = table.sensitive;
+    command.quantiles = table.quantiles.value_or(context_.options().defaultQuantiles);
     command.text =
         trimmed(context_.program().substr(table.span.begin, table.span.end - table.span.begin));
-    bool good = true;
+    command.name = table.kindWord; // for messages, until it has its own
+    if (!checkCommand(model))
+        tables_.expect(table);
+}
+
+bool TableChecker::checkCommand(Model& model) {
+    model.good = takeClauses(model);
+    sorted_ = false;
+    switch (model.command.kind) {
+    case TableKind::AreaList:
+    case TableKind::View:
+        return checkList(model);
+    case TableKind::Tabop:
+    case TableKind::Tablist:
+        return checkMade(model);
+    default:
+        return checkProduct(model);
+    }
+}
+
+bool TableChecker::takeClauses(Model& model) {
+    const ast::Table& table = model.table;
+    TableCommand& command = model.command;
+    bool good = table.complete;
     if (table.weight != nullptr) {
         command.weight = expressions_.number(*table.weight, "WEIGHT");
-        good = command.weight != nullptr;
+        good = command.weight != nullptr && good;
     }
     if (table.tally != nullptr) {
         command.tally = expressions_.number(*table.tally, "TALLY");
@@ -56,180 +119,198 @@ void TableChecker::check(const ast::Table& table, const CheckedSettings& setting
         command.filter = expressions_.condition(*table.filter, "FILTER");
         good = command.filter != nullptr && good;
     }
-    if (table.kind == Keyword::Count) {
-        command.kind = TableKind::Count;
-        if (table.entity)
-            command.countEntity = expressions_.entity(table.entity->name, table.entity->position);
-        good = command.countEntity != nullptr && good;
-    }
-    const std::vector<List> all = lists(table, good);
-    if (good)
-        addProduct(all, command, settings, table, program);
+    takeFiles(table, context_, command);
+    takeStyles(table, context_, command);
+    model.facts.ownWeight = command.weight != nullptr;
+    model.facts.isKept = table.outfile || table.save || table.outgraph;
+    model.facts.oneFigure = command.kind != TableKind::Stats && command.kind != TableKind::Quantile;
+    return good;
 }
 
-std::vector<TableChecker::List> TableChecker::lists(const ast::Table& table, bool& good) {
-    std::vector<List> result;
-    for (const std::vector<ast::Name>& names : table.dimensions)
-        result.push_back(variables(names, good));
-    if (table.kind == Keyword::Crosstabs && table.dimensions.size() < 2) {
+bool TableChecker::checkList(Model& model) {
+    TableCommand& command = model.command;
+    if (!lists_.check(model.table, command) || !model.good)
+        return false;
+    return placer_.place(command, model.settings) && addOne(command, model, 1, 1);
+}
+
+bool TableChecker::checkMade(Model& model) {
+    TableCommand& command = model.command;
+    const bool tabop = command.kind == TableKind::Tabop;
+    const bool good = tabop ? operations_.checkTabop(model.table, command, model.facts)
+                            : operations_.checkTablist(model.table, command, model.facts);
+    if (!good || !model.good)
+        return false;
+    tellUseless(model);
+    return addOne(command, model, 1, 1);
+}
+
+/// The figures come from other tables, each with conditions of its own.
+void TableChecker::tellUseless(const Model& model) {
+    const ast::Table& table = model.table;
+    const auto tell = [&](const char* clause, Position position) {
+        context_.report(Warning::NoEffect, position,
+                        {clause, table.kindWord, "the tables that it is made of have their own"});
+    };
+    if (table.weight != nullptr)
+        tell("WEIGHT", table.weightPosition);
+    if (table.tally != nullptr)
+        tell("TALLY", table.tallyPosition);
+    if (table.filter != nullptr)
+        tell("FILTER", table.filterPosition);
+}
+
+bool TableChecker::checkProduct(Model& model) {
+    const ast::Table& table = model.table;
+    if (table.kind == Keyword::Count) {
+        if (table.entity)
+            model.command.countEntity =
+                expressions_.entity(table.entity->name, table.entity->position);
+        return model.command.countEntity != nullptr && model.good && addProduct({}, model);
+    }
+    std::vector<List> lists(table.dimensions.size());
+    bool good = model.good;
+    if (startsWithArea(table)) {
+        good = areaMeasures(table, lists) && good;
+    } else {
+        if (isMeasure(model.command.kind))
+            good = measures(table, lists.front()) && good;
+        for (std::size_t i = 0; i < lists.size(); ++i)
+            good = variables(table.dimensions[i], lists[i]) && good;
+    }
+    if (table.kind == Keyword::Crosstabs && lists.size() < 2 && table.complete) {
         context_.report(Error::CrosstabsWithoutBy, table.position);
         good = false;
     }
-    return result;
+    return good && addProduct(lists, model);
 }
 
-TableChecker::List TableChecker::variables(const std::vector<ast::Name>& names, bool& good) {
-    List list;
+/// STATS DISTRICT.CODE BY PERSON.AGE, as tools write it that put the areas first, means the figures
+/// of the age by district.
+bool TableChecker::startsWithArea(const ast::Table& table) const {
+    if (table.kind != Keyword::Stats || table.measures.size() != 1 || table.dimensions.size() != 2)
+        return false;
+    const ast::NodePtr& node = table.measures.front().expression;
+    if (node == nullptr || node->kind != ast::NodeKind::Name)
+        return false;
+    const Variable* variable = nullptr;
+    if (node->name.entity.empty()) {
+        const auto& all = context_.names().variables(node->name.name);
+        variable = all.size() == 1 ? all.front() : nullptr;
+    } else if (const Entity* entity = context_.names().entity(node->name.entity)) {
+        variable = context_.names().variable(*entity, node->name.name);
+    }
+    return variable != nullptr && isCode(*variable);
+}
+
+bool TableChecker::areaMeasures(const ast::Table& table, std::vector<List>& lists) {
+    bool good = variables(table.dimensions[1], lists[0]);
+    for (const ExpressionPtr& measure : lists[0]) {
+        if (measure == nullptr || measure->type != ValueType::String)
+            continue;
+        context_.report(Error::NotANumber, measure->position, {table.kindWord, "a text"});
+        good = false;
+    }
+    lists[1].push_back(expressions_.variable(table.measures.front().expression->name));
+    return lists[1].front() != nullptr && good;
+}
+
+bool TableChecker::variables(const std::vector<ast::Name>& names, List& list) {
+    bool good = true;
     for (const ast::Name& name : names) {
         if (name.all) {
-            addAll(list, name, good);
+            good = addAll(list, name) && good;
             continue;
         }
         ExpressionPtr variable = expressions_.variable(name);
         good = variable != nullptr && good;
         list.push_back(std::move(variable));
     }
-    return list;
+    return good;
 }
 
-void TableChecker::addAll(List& list, const ast::Name& name, bool& good) {
+bool TableChecker::measures(const ast::Table& table, List& list) {
+    bool good = true;
+    for (const ast::Measure& measure : table.measures) {
+        if (measure.all) {
+            good = addAll(list, *measure.all) && good;
+            continue;
+        }
+        ExpressionPtr expression = expressions_.measure(*measure.expression, table.kindWord);
+        good = expression != nullptr && good;
+        list.push_back(std::move(expression));
+    }
+    return good;
+}
+
+bool TableChecker::addAll(List& list, const ast::Name& name) {
     const Entity* entity = expressions_.entity(name.entity, name.position);
-    if (entity == nullptr) {
-        good = false;
-        return;
-    }
-    if (entity->variables.empty()) {
+    if (entity == nullptr)
+        return false;
+    const std::vector<const Variable*>& all = context_.names().variablesOf(*entity);
+    if (all.empty()) {
         context_.report(Error::NoVariables, name.position, {entity->name});
-        good = false;
+        return false;
     }
-    for (const auto& variable : entity->variables) {
+    bool good = true;
+    for (const Variable* variable : all) {
         list.push_back(expressions_.variable(*variable, name.position));
         good = list.back() != nullptr && good;
     }
+    return good;
 }
 
 /// Counts up like an odometer: the last list turns fastest.
-void TableChecker::addProduct(const std::vector<List>& lists, const TableCommand& model,
-                              const CheckedSettings& settings, const ast::Table& table,
-                              BoundProgram& program) {
+bool TableChecker::addProduct(const std::vector<List>& lists, const Model& model) {
     const std::size_t count = productOf(lists);
-    if (count == 0)
-        return;
-    if (program.tables.size() + count > mostTables) {
-        context_.report(Error::TooManyTables, table.position, {std::to_string(mostTables)});
-        return;
-    }
+    if (count == 0 || !tables_.hasRoom(count, model.table.position))
+        return false;
+    const bool measure = isMeasure(model.command.kind);
     std::vector<std::size_t> turn(lists.size(), 0);
     for (std::size_t number = 1; number <= count; ++number) {
-        TableCommand command = model;
-        for (std::size_t i = 0; i < lists.size(); ++i)
-            command.dimensions.push_back(lists[i][turn[i]]);
-        if (!place(command, settings))
-            return;
-        command.name = nameFor(table, number, count);
-        program.tables.push_back(std::move(command));
+        TableCommand command = model.command;
+        for (std::size_t i = 0; i < lists.size(); ++i) {
+            if (measure && i == 0)
+                command.measure = lists[i][turn[i]];
+            else
+                command.dimensions.push_back(lists[i][turn[i]]);
+        }
+        if (!placer_.place(command, model.settings) ||
+            !addOne(std::move(command), model, number, count))
+            return false;
         for (std::size_t i = lists.size(); i-- > 0 && ++turn[i] == lists[i].size();)
             turn[i] = 0;
     }
+    return true;
 }
 
-/// Finds what the table counts, and settles weight and filters by it.
-bool TableChecker::place(TableCommand& command, const CheckedSettings& settings) {
-    command.unit = command.countEntity;
-    for (const ExpressionPtr& dimension : command.dimensions) {
-        if (!include(command, *dimension))
-            return false;
-    }
-    if (command.tally != nullptr && !include(command, *command.tally))
+bool TableChecker::addOne(TableCommand command, const Model& model, std::size_t number,
+                          std::size_t count) {
+    if (!tables_.hasRoom(1, model.table.position))
         return false;
-    if (!placeWeight(command))
-        return false;
-    const RunSettings& run = *settings.settings;
-    if (!checkFilter(command, command.filter, "filter") ||
-        !checkFilter(command, run.filter, "universal filter"))
-        return false;
-    if (!run.selection)
-        return true;
-    checkAreas(command, settings);
-    return checkFilter(command, run.selection->expression, "selection");
-}
-
-bool TableChecker::include(TableCommand& command, const Expression& part) {
-    if (lower(command.unit, part.entity))
-        return true;
-    context_.report(Error::Branches, part.position, {command.unit->name, part.entity->name});
-    return false;
-}
-
-/// A count of records is a count: only a weight that the program asks for applies to it.
-bool TableChecker::placeWeight(TableCommand& command) {
-    const RunSettings& run = *command.settings;
-    if (command.weight == nullptr && run.weightMode == WeightMode::Explicit)
-        command.weight = run.weight;
-    if (command.weight != nullptr) {
-        const bool own = command.weight != run.weight;
-        if (command.kind == TableKind::Count && weighsBelow(command)) {
-            context_.report(Error::WeightBelow, own ? command.weight->position : command.position,
-                            {command.weight->entity->name, command.countEntity->name});
+    TableFacts facts = model.facts;
+    if (command.operands.empty())
+        facts.dimensions = variablesOf(command.dimensions);
+    command.name = tables_.nameFor(model.table, number, count);
+    if (count > 1)
+        numberFiles(command, number);
+    if (model.table.sort) {
+        const bool taken = takeSort(command, facts, model);
+        sorted_ = sorted_ || taken;
+        if (number == count && !sorted_) {
+            sorts_.reportNoColumn(*model.table.sort, command);
             return false;
         }
-        if (lower(command.unit, command.weight->entity))
-            return true;
-        context_.report(Error::Branches, own ? command.weight->position : command.position,
-                        {command.unit->name, command.weight->entity->name});
-        return false;
     }
-    if (run.weightMode != WeightMode::Automatic || command.kind == TableKind::Count)
-        return true;
-    const Variable* variable = automaticWeight(command.unit);
-    if (variable == nullptr)
-        return true;
-    command.weight = expressions_.variable(*variable, command.position);
-    return command.weight != nullptr;
+    tables_.add(std::move(command), std::move(facts));
+    return true;
 }
 
-bool TableChecker::checkFilter(const TableCommand& command, const ExpressionPtr& filter,
-                               const std::string& what) {
-    if (filter == nullptr || filter->entity == nullptr ||
-        filter->entity->isAncestorOf(*command.unit))
-        return true;
-    const bool below = command.unit->isAncestorOf(*filter->entity);
-    const bool isNew = told_.emplace(filter.get(), command.unit).second;
-    if (isNew && below)
-        context_.report(Warning::FilterBelow, filter->position,
-                        {filter->entity->name, command.unit->name});
-    else if (isNew)
-        context_.report(Error::FilterBranch, filter->position,
-                        {what, filter->entity->name, command.unit->name});
-    return below;
-}
-
-void TableChecker::checkAreas(const TableCommand& command, const CheckedSettings& settings) {
-    const auto& areas = settings.settings->selection->areas;
-    const bool reachable = std::any_of(areas.begin(), areas.end(), [&](const auto& area) {
-        return area.entity->isAncestorOf(*command.unit);
-    });
-    if (areas.empty() || reachable || !told_.emplace(settings.settings.get(), command.unit).second)
-        return;
-    context_.report(Warning::SelectionBelow, settings.selectionPosition,
-                    {areas.front().entity->name, command.unit->name});
-}
-
-std::string TableChecker::nameFor(const ast::Table& table, std::size_t number, std::size_t count) {
-    if (table.name.empty())
-        return shortName(table.kindWord);
-    std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
-    if (!names_.insert(lowerCase(name)).second)
-        context_.report(Warning::TableNameAgain, table.position, {name});
-    return name;
-}
-
-std::string TableChecker::shortName(const std::string& kind) {
-    std::string name;
-    do {
-        name = kind + "_" + std::to_string(++numbered_[kind]);
-    } while (!names_.insert(lowerCase(name)).second);
-    return name;
+bool TableChecker::takeSort(TableCommand& command, const TableFacts& facts, const Model& model) {
+    TableFacts placed = facts;
+    if (command.operands.empty())
+        placed.areaBreak = command.settings->areaBreak;
+    return sorts_.take(*model.table.sort, placed, command);
 }
 
 } // namespace kelx::language

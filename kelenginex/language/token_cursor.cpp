@@ -33,7 +33,8 @@ bool TokenCursor::takeKeyword(Keyword keyword) {
 }
 
 bool TokenCursor::atClause() const {
-    return (placesOf(peek().keyword) & (isTableClause | isRunClause)) != 0;
+    const bool function = peek().is(Keyword::Missing) && peek(1).isSymbol("(");
+    return !function && (placesOf(peek().keyword) & clauses_) != 0;
 }
 
 bool TokenCursor::atCommand() const {
@@ -52,11 +53,6 @@ bool TokenCursor::startsCommandHere() const {
 
 void TokenCursor::skipToClause() {
     while (!atEnd() && !atClause() && !atCommand())
-        take();
-}
-
-void TokenCursor::skipClause() {
-    while (!atEnd() && !atClause() && !startsCommandHere())
         take();
 }
 

@@ -26,15 +26,18 @@ public:
     /// End of the last token taken, in the program.
     std::size_t lastEnd() const { return at_ == 0 ? 0 : tokens_[at_ - 1].end(); }
 
-    bool atClause() const;  ///< a word that begins a clause of a table or of RUNDEF
+    bool atClause() const;  ///< a word that begins a clause
     bool atCommand() const; ///< a word that begins a command where one is expected
     void skipToClause();    ///< to the next clause or command
-    // To the next clause or command past words that are not understood: there the name of a kind of
-    // table begins a command only at the start of a line.
-    void skipClause();
+    /// Of which commands the clauses are told from other words; those of tables and of RUNDEF
+    /// unless told otherwise.
+    void setClauses(unsigned places) { clauses_ = places; }
+    /// To the next command past words that are not understood: there the name of a kind of table
+    /// begins a command only at the start of a line.
     void skipToCommand();
 
-    void report(Error code, Position position, std::initializer_list<std::string> values = {}) {
+    template <typename Code>
+    void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
         messages_.add(makeMessage(code, position, values));
     }
     /// What was found at the cursor and what could stand there. `words` are spellings that the
@@ -47,6 +50,7 @@ private:
     const std::vector<Token>& tokens_;
     Messages& messages_;
     std::size_t at_ = 0;
+    unsigned clauses_ = isTableClause | isRunClause;
     std::size_t reportedAt_ = static_cast<std::size_t>(-1);
 };
 

@@ -16,6 +16,27 @@ std::string quoted(const std::string& text) {
     return result + '"';
 }
 
+/// A column whose values, where they repeat, are put into words once.
+class CsvColumn {
+public:
+    explicit CsvColumn(const Column& column) : column_(column) {
+        if (!column.numbers)
+            return;
+        for (const Value& value : *column.values)
+            texts_.push_back(quoted(toText(value)));
+    }
+    void write(std::size_t row, Buffered& out) const {
+        if (column_.numbers)
+            out << texts_[(*column_.numbers)[row]];
+        else
+            out << quoted(toText(column_.at(row)));
+    }
+
+private:
+    const Column& column_;
+    std::vector<std::string> texts_;
+};
+
 } // namespace
 
 void writeCsv(const Table& table, const TextSink& sink) {
@@ -25,9 +46,12 @@ void writeCsv(const Table& table, const TextSink& sink) {
     };
     for (std::size_t column = 0; column < table.fields.size(); ++column)
         out << quoted(table.fields[column].name) << endOf(column);
-    for (std::int64_t row = 0; row < table.rows(); ++row) {
-        for (std::size_t column = 0; column < table.fields.size(); ++column)
-            out << quoted(toText(table.at(row, column))) << endOf(column);
+    const std::vector<CsvColumn> columns(table.columns.begin(), table.columns.end());
+    for (std::size_t row = 0; row < static_cast<std::size_t>(table.rows()); ++row) {
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            columns[column].write(row, out);
+            out << endOf(column);
+        }
     }
     out.finish();
 }

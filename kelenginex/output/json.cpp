@@ -48,18 +48,16 @@ private:
 void writeVariables(const Table& table, Buffered& out) {
     out << "[";
     for (std::size_t i = 0; i < table.variables.size(); ++i) {
-        const catalog::Variable* variable = table.variables[i];
-        const Field& field = table.fields[i * 3];
         out << (i > 0 ? "," : "");
         JsonObject object(out);
-        object.member("name") << json(variable != nullptr ? variable->fullName() : field.name);
-        object.member("label") << json(field.label);
+        object.member("name") << json(table.variables[i].name);
+        object.member("label") << json(table.variables[i].label);
         object.end();
     }
     out << "]";
 }
 
-void writeFields(const Table& table, Buffered& out) {
+void writeFields(const Form& table, Buffered& out) {
     out << "[";
     for (std::size_t i = 0; i < table.fields.size(); ++i) {
         out << (i > 0 ? "," : "");
@@ -78,14 +76,14 @@ public:
     explicit JsonColumn(const Column& column) : column_(column) {
         if (!column.numbers)
             return;
-        for (const Value& value : column.values)
+        for (const Value& value : *column.values)
             texts_.push_back(json(value));
     }
     void write(std::size_t row, Buffered& out) const {
         if (column_.numbers)
             out << texts_[(*column_.numbers)[row]];
         else
-            out << json(column_.values[row]);
+            out << json(column_.at(row));
     }
 
 private:
@@ -93,7 +91,7 @@ private:
     std::vector<std::string> texts_;
 };
 
-void writeRows(const Table& table, Buffered& out) {
+void writeRows(const Form& table, Buffered& out) {
     const std::vector<JsonColumn> columns(table.columns.begin(), table.columns.end());
     const auto rows = static_cast<std::size_t>(table.rows());
     out << "[";
@@ -117,7 +115,7 @@ void writeJson(const Table& table, const TextSink& sink) {
     object.member("title") << orNull(table.title);
     object.member("kind") << json(table.kind);
     object.member("method") << json(methodName(table.method));
-    object.member("unit") << json(table.unit);
+    object.member("unit") << (table.unit.empty() ? "null" : json(table.unit));
     object.member("database") << json(table.database);
     object.member("area") << json(table.area);
     object.member("filter") << orNull(table.filter);
@@ -127,8 +125,8 @@ void writeJson(const Table& table, const TextSink& sink) {
     object.member("suppressed") << json(table.suppressed);
     object.member("decimals") << orNull(table.decimals);
     writeVariables(table, object.member("variables"));
-    writeFields(table, object.member("fields"));
-    writeRows(table, object.member("rows"));
+    writeFields(table.tripleForm(), object.member("fields"));
+    writeRows(table.tripleForm(), object.member("rows"));
     object.member("seconds") << json(table.seconds);
     object.end();
     out.finish();

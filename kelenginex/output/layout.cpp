@@ -1,32 +1,34 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a table says of itself, and its columns.
-#include "output/rows.h"
+#include "output/layout.h"
+
+#include "output/names.h"
 
 #include <algorithm>
 
 namespace kelx::output {
-namespace {
 
 using execution::Category;
 using execution::CategoryKind;
-using execution::Dimension;
-using execution::TableResult;
+using language::TableCommand;
+using language::TableKind;
 
-/// The values of a dimension's three columns, by place: valid categories, the total, MV, NA.
+namespace {
+
+/// The codes, labels and kinds of a dimension's places.
 struct Triple {
-    std::vector<Value> codes, labels, kinds;
+    Column::Values codes, labels, kinds;
 
-    explicit Triple(const Dimension& dimension) {
-        const auto mark = dimension.categories.end();
-        const auto firstMarker =
-            std::find_if(dimension.categories.begin(), mark,
-                         [](const Category& c) { return c.kind != CategoryKind::Valid; });
-        for (auto category = dimension.categories.begin(); category != firstMarker; ++category)
-            add(category->code, category->label, "");
-        add("0", "__tot__", "tot");
-        for (auto marker = firstMarker; marker != mark; ++marker) {
-            const bool missing = marker->kind == CategoryKind::Missing;
-            add("0", missing ? "__mv__" : "__na__", missing ? "mv" : "na");
+    Triple(const RowTable& table, std::size_t dimension) {
+        for (std::uint32_t place = 0; place < placesOf(table, dimension); ++place) {
+            const Category* category = categoryAt(table, dimension, place);
+            if (category == nullptr)
+                add("0", "__tot__", "tot");
+            else if (category->kind == CategoryKind::Valid)
+                add(category->code, category->label, "");
+            else if (category->kind == CategoryKind::Missing)
+                add("0", "__mv__", "mv");
+            else
+                add("0", "__na__", "na");
         }
     }
 
@@ -38,16 +40,166 @@ private:
     }
 };
 
+void addTriples(const RowTable& rows, Form& form) {
+    for (std::size_t d = 0; d < rows.dimensions.size(); ++d) {
+        const std::string& name = rows.dimensions[d].name;
+        const std::string& label = rows.dimensions[d].label;
+        form.fields.push_back({name, label, name});
+        form.fields.push_back({name + " label", label + " (label)", name});
+        form.fields.push_back({name + " kind", label + " (kind)", name});
+        Triple triple(rows, d);
+        form.columns.push_back(Column::of(std::move(triple.codes), rows.places[d]));
+        form.columns.push_back(Column::of(std::move(triple.labels), rows.places[d]));
+        form.columns.push_back(Column::of(std::move(triple.kinds), rows.places[d]));
+    }
+    form.triples = rows.dimensions.size();
+}
+
+/// "code. label" for each dimension.
+void addTexts(const RowTable& rows, Form& form) {
+    for (std::size_t d = 0; d < rows.dimensions.size(); ++d) {
+        const execution::Dimension& dimension = rows.dimensions[d];
+        form.fields.push_back({dimension.name, dimension.label, dimension.name});
+        Column::Values names;
+        for (std::uint32_t place = 0; place < placesOf(rows, d); ++place)
+            names.emplace_back(placeName(categoryAt(rows, d, place)));
+        form.columns.push_back(Column::of(std::move(names), rows.places[d]));
+    }
+}
+
+/// Name and label of each figure's field.
+std::vector<Field> figureFields(const RowTable& rows) {
+    const TableCommand& command = *rows.command;
+    switch (command.kind) {
+    case TableKind::Frequency:
+        return {{command.unit->name, headingOf(*command.unit), ""}};
+    case TableKind::Count:
+        return {{"Count", "Count", ""}};
+    case TableKind::Average: {
+        const TableVariable measure = variableOf(*command.measure);
+        return {{measure.name, measure.label, ""}};
+    }
+    case TableKind::Tabop:
+        if (rows.figures.size() == 1)
+            return {{command.name, command.name, ""}};
+        break;
+    default:
+        break;
+    }
+    std::vector<Field> fields;
+    for (const std::string& name : rows.figureNames)
+        fields.push_back({name, name, ""});
+    return fields;
+}
+
+void addFigures(const RowTable& rows, Form& form) {
+    for (Field& field : figureFields(rows))
+        form.fields.push_back(std::move(field));
+    for (const auto& figures : rows.figures)
+        form.columns.push_back(Column::of(figures));
+}
+
+/// Says in the first column what the only row is about.
+void addSubject(const std::string& field, const std::string& subject, Form& form) {
+    form.fields.push_back({field, field, ""});
+    form.columns.push_back(Column::of({Value(subject)}));
+}
+
+bool inTexts(const RowTable& rows) {
+    switch (rows.command->kind) {
+    case TableKind::Frequency:
+    case TableKind::Count:
+    case TableKind::Average:
+        return false;
+    case TableKind::Tabop:
+        return rows.dimensions.size() == 1;
+    default:
+        return true;
+    }
+}
+
+void addSubjectOf(const RowTable& rows, Table& table) {
+    const TableCommand& command = *rows.command;
+    if (command.kind == TableKind::Count)
+        addSubject("Entity", command.countEntity->name, table);
+    else if (command.kind == TableKind::Average)
+        addSubject("Variable", variableOf(*command.measure).name, table);
+    else if (command.kind == TableKind::Tabop)
+        addSubject("Table", command.name, table);
+}
+
+void addForms(const RowTable& rows, Table& table) {
+    if (rows.dimensions.empty())
+        addSubjectOf(rows, table);
+    else if (!inTexts(rows))
+        addTriples(rows, table);
+    else {
+        addTexts(rows, table);
+        table.inTriples.emplace();
+        addTriples(rows, *table.inTriples);
+        addFigures(rows, *table.inTriples);
+    }
+    addFigures(rows, table);
+}
+
+SortGuide guideOf(const RowTable& rows, const Table& table) {
+    SortGuide guide;
+    const std::size_t step = table.triples > 0 ? 3 : 1;
+    for (std::size_t d = 0; d < rows.dimensions.size(); ++d) {
+        addNames(rows.variables[d], d * step, guide);
+        guide.ordered.push_back(d * step);
+    }
+    guide.column = table.fields.size() - rows.figures.size();
+    guide.parts.push_back({rows.command->name, guide.column, rows.figures.size(), guide.column});
+    if (rows.command->measure)
+        addNames(variableOf(*rows.command->measure), guide.column, guide);
+    guide.isMarker = [&rows](std::size_t row) { return rows.isMarker(row); };
+    return guide;
+}
+
+} // namespace
+
 std::string headingOf(const catalog::Entity& entity) {
     return entity.label.empty() ? entity.name : entity.label;
 }
 
-void describe(const language::TableCommand& command, const catalog::Dictionary& dictionary,
-              Table& table) {
+TableVariable variableOf(const language::Expression& expression) {
+    using language::Operation;
+    if (expression.operation == Operation::VariableValue && expression.variable != nullptr) {
+        const catalog::Variable& variable = *expression.variable;
+        return {&variable, nullptr, variable.fullName(),
+                variable.label.empty() ? variable.name : variable.label};
+    }
+    if (expression.operation == Operation::CompoundCode && expression.codeEntity != nullptr)
+        return {nullptr, expression.codeEntity, expression.codeEntity->name + ".CMPCODE",
+                headingOf(*expression.codeEntity)};
+    return {nullptr, nullptr, expression.text, expression.text};
+}
+
+void addNames(const TableVariable& variable, std::size_t column, SortGuide& guide) {
+    guide.names.emplace_back(variable.name, column);
+    if (variable.variable == nullptr || variable.variable->entity == nullptr)
+        return;
+    const catalog::Entity& entity = *variable.variable->entity;
+    for (const std::string& name : {variable.variable->name, variable.variable->alias}) {
+        if (name.empty())
+            continue;
+        guide.names.emplace_back(name, column);
+        for (const std::string& owner : {entity.name, entity.alias})
+            guide.names.emplace_back(owner + "." + name, column);
+    }
+}
+
+Table described(const TableCommand& command, const catalog::Dictionary& dictionary) {
     const language::RunSettings& settings = *command.settings;
     const catalog::Entity* unit = command.unit != nullptr ? command.unit : command.countEntity;
+    Table table;
     table.name = command.name;
-    table.unit = unit->name;
+    table.kind = kindName(command.kind);
+    table.type = typeOf(command.kind);
+    table.method = methodOf(command.kind);
+    table.entity = command.countEntity;
+    table.unit = unit != nullptr ? unit->name : "";
     table.database =
         dictionary.label.empty() ? dictionary.file.filename().string() : dictionary.label;
     const bool selected = settings.selection && !settings.selection->label.empty();
@@ -63,58 +215,22 @@ void describe(const language::TableCommand& command, const catalog::Dictionary& 
     if (settings.filter)
         table.universalFilter =
             settings.filterLabel ? *settings.filterLabel : settings.filter->text;
-}
-
-void layCount(const TableResult& result, RowMaker& rows, Table& table) {
-    table.kind = "COUNT";
-    table.entity = result.command->countEntity;
-    table.fields = {{"Entity", "Entity", ""}, {"Count", "Count", ""}};
-    Column name;
-    name.values.emplace_back(table.entity != nullptr ? table.entity->name : table.unit);
-    table.columns.push_back(std::move(name));
-    table.columns.push_back({std::move(rows.figures()), nullptr});
-}
-
-void addColumns(const Dimension& dimension, Column::Numbers& places, Table& table) {
-    Triple triple(dimension);
-    const auto shared = std::make_shared<const Column::Numbers>(std::move(places));
-    table.columns.push_back({std::move(triple.codes), shared});
-    table.columns.push_back({std::move(triple.labels), shared});
-    table.columns.push_back({std::move(triple.kinds), shared});
-}
-
-void layFrequency(const TableResult& result, RowMaker& rows, Table& table) {
-    table.kind = "FREQUENCY";
-    table.method = 1;
-    table.dimension = static_cast<int>(result.dimensions.size());
-    for (std::size_t i = 0; i < result.dimensions.size(); ++i) {
-        const Dimension& dimension = result.dimensions[i];
-        const std::string& name = dimension.name;
-        table.variables.push_back(dimension.variable);
-        table.fields.push_back({name, dimension.label, name});
-        table.fields.push_back({name + " label", dimension.label + " (label)", name});
-        table.fields.push_back({name + " kind", dimension.label + " (kind)", name});
-        addColumns(dimension, rows.places()[i], table);
-    }
-    const catalog::Entity& unit = *result.command->unit;
-    table.fields.push_back({unit.name, headingOf(unit), ""});
-    table.columns.push_back({std::move(rows.figures()), nullptr});
-}
-
-} // namespace
-
-Table makeTable(const execution::TableResult& result, const catalog::Dictionary& dictionary,
-                execution::Progress& progress) {
-    const double start = progress.seconds();
-    Table table;
-    describe(*result.command, dictionary, table);
-    RowMaker rows(result, progress);
-    if (result.command->kind == language::TableKind::Count)
-        layCount(result, rows, table);
-    else
-        layFrequency(result, rows, table);
-    table.seconds = result.seconds + progress.seconds() - start;
     return table;
+}
+
+Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary) {
+    Laid laid;
+    Table& table = laid.table;
+    table = described(*rows.command, dictionary);
+    table.dimension = static_cast<int>(rows.dimensions.size());
+    if (rows.command->measure)
+        table.variables.push_back(variableOf(*rows.command->measure));
+    table.variables.insert(table.variables.end(), rows.variables.begin(), rows.variables.end());
+    addForms(rows, table);
+    table.suppressed = rows.suppressed();
+    table.seconds = rows.seconds;
+    laid.guide = guideOf(rows, table);
+    return laid;
 }
 
 } // namespace kelx::output

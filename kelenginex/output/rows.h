@@ -8,58 +8,49 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace kelx::output {
 
-/// In one dimension the places of a row are valid categories, then the total, then MV and NA. Rows
-/// are made in their final order, one dimension inside the other: first those of each category,
-/// then those of the total, whose cells are joined where they agree in the dimensions that follow.
-/// So nothing is kept but the joined cells on the way down, and each row once.
-class RowMaker {
-public:
-    /// Throws std::runtime_error where there are too many rows, and execution::Cancelled.
-    RowMaker(const execution::TableResult& result, execution::Progress& progress);
+/// Figures by place. In a dimension the places are valid categories, then the total, then MV and
+/// NA; rows are in the order of their places, one dimension inside the other.
+struct RowTable {
+    const language::TableCommand* command = nullptr;
+    std::vector<execution::Dimension> dimensions;
+    std::vector<TableVariable> variables;                 ///< of the dimensions
+    std::vector<std::uint32_t> valid;                     ///< valid categories by dimension
+    std::vector<std::shared_ptr<Column::Numbers>> places; ///< by dimension, of each row
+    std::vector<std::shared_ptr<Column::Figures>> figures;
+    std::vector<std::string> figureNames;
+    std::vector<std::uint64_t> records; ///< behind each row
+    std::vector<std::uint8_t> hidden;   ///< by row; empty: no row is suppressed
+    Figure none;                        ///< what stands where there is no row: 0 of a count
+    double seconds = 0;
 
-    /// Places by row, one list for each dimension.
-    std::vector<Column::Numbers>& places() { return places_; }
-    std::vector<Value>& figures() { return figures_; }
-
-private:
-    /// Joined cells: they agree with cell `first` in all dimensions that are still to be laid out.
-    struct Part {
-        std::uint32_t first = 0;
-        std::uint64_t records = 0;
-        execution::Sum sum;
-    };
-    using Parts = std::span<const Part>;
-    /// A stretch of the work, for the progress.
-    struct Stretch {
-        double begin = 0;
-        double end = 1;
-    };
-
-    void makeAll(const std::vector<Part>& cells);
-    void make(std::size_t dimension, Parts parts, bool onlyTotals, const Stretch& stretch);
-    void makeInside(std::size_t dimension, std::uint32_t place, Parts parts, bool onlyTotals,
-                    const Stretch& stretch);
-    Parts joined(std::size_t dimension, Parts parts);
-    void addRow(Parts parts, const Stretch& stretch);
-    std::uint32_t category(const Part& part, std::size_t dimension) const {
-        return result_.cells.categories(part.first)[dimension];
+    std::size_t rows() const { return figures.front()->size(); }
+    std::uint32_t place(std::size_t dimension, std::size_t row) const {
+        return (*places[dimension])[row];
     }
-    bool agreeFrom(std::size_t dimension, const Part& a, const Part& b) const;
-
-    const execution::TableResult& result_;
-    execution::Progress& progress_;
-    std::vector<std::uint32_t> valid_;      ///< number of valid categories by dimension
-    std::vector<std::uint32_t> place_;      ///< of the row that is being made
-    std::vector<std::vector<Part>> totals_; ///< joined cells by dimension
-    bool counting_ = false;                 ///< rows are only counted
-    std::size_t rows_ = 0;
-    std::vector<Column::Numbers> places_;
-    std::vector<Value> figures_;
+    bool isHidden(std::size_t row) const { return !hidden.empty() && hidden[row] != 0; }
+    bool isMarker(std::size_t row) const; ///< a total, MV or NA in some dimension
+    std::int64_t suppressed() const;
 };
+
+/// Totals count valid categories only; MV and NA rows stand where they occur; empty combinations
+/// are left out, but for the grand total. Memory grows with the rows that there are to be. Throws
+/// std::runtime_error where they would be more than execution::mostRows, and execution::Cancelled.
+RowTable makeRows(execution::TableResult result, execution::Progress& progress);
+
+/// The category of a place; null for the total.
+const execution::Category* categoryAt(const RowTable& table, std::size_t dimension,
+                                      std::uint32_t place);
+/// "1. Male", the code alone where it is its own label, "Total", "MV" or "NA".
+std::string placeName(const execution::Category* category);
+/// Places of a dimension, occurring or not.
+std::uint32_t placesOf(const RowTable& table, std::size_t dimension);
+/// How figures of a kind of table are called; one for each.
+std::vector<std::string> figureNames(const language::TableCommand& command, std::size_t figures);
 
 } // namespace kelx::output

@@ -1,21 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/run.h"
 
+#include "output/workshop.h"
+
 #include <utility>
 
 namespace kelx::output {
 
 TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
                       const execution::RunOptions& options, language::Messages& messages) {
-    TablesOfRun run;
-    run.tables.resize(program.tables.size());
-    const auto layOut = [&](std::size_t index, const execution::TableResult& result,
-                            execution::Progress& progress) {
-        run.tables[index] = makeTable(result, dictionary, progress);
+    Workshop workshop(program, dictionary);
+    const auto take = [&](std::size_t index, execution::TableResult result,
+                          execution::Progress& progress) {
+        workshop.take(index, std::move(result), progress);
     };
-    if (!execution::run(program, options, messages, layOut))
+    if (!execution::run(program, options, messages, take))
         return {{}, true};
-    return run;
+    execution::Progress silent({});
+    return {workshop.finish(silent), false};
 }
 
 } // namespace kelx::output

@@ -10,12 +10,13 @@
 namespace kelx::output {
 
 struct TablesOfRun {
-    std::vector<Table> tables; ///< in the program's order
+    std::vector<Table> tables; ///< those that are outputs, in the program's order
     bool cancelled = false;    ///< then there are no tables
 };
 
-/// Runs a program and lays out each table as soon as its figures are there; they are released then.
-/// Throws what execution::run() and makeTable() throw.
+/// Runs a program and lays out each table as soon as its figures are there. They are released then,
+/// but for those that other tables are made of. Throws what execution::run() throws, and
+/// std::runtime_error where a table cannot be laid out as its command asks.
 TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
                       const execution::RunOptions& options, language::Messages& messages);
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "catalog/model.h"
-#include "execution/progress.h"
 #include "execution/result.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -19,7 +19,8 @@
 namespace kelx::output {
 
 /// A blank cell is std::monostate.
-using Value = std::variant<std::monostate, std::int64_t, double, std::string>;
+using Value = execution::ListValue;
+using execution::Figure;
 
 /// Integers plain, doubles in shortest round-trip form in fixed notation with ".", blank empty.
 std::string toText(const Value& value);
@@ -28,56 +29,77 @@ struct Field {
     std::string name, label, group;
 };
 
-/// The values of a field: one a row, or, where few values repeat, each one once with the number of
-/// its value for every row. Fields may share those numbers.
+/// The values of a field, in one of three ways: figures by row; values by row; or, where few values
+/// repeat, each one once with the number of its value for every row. Columns share what is the
+/// same.
 struct Column {
     using Numbers = std::vector<std::uint32_t>;
-    std::vector<Value> values;
+    using Values = std::vector<Value>;
+    using Figures = std::vector<Figure>;
+    std::shared_ptr<const Values> values;
     std::shared_ptr<const Numbers> numbers; ///< null: values are by row
+    std::shared_ptr<const Figures> figures; ///< then there are no values
 
-    std::size_t rows() const { return numbers ? numbers->size() : values.size(); }
-    const Value& at(std::size_t row) const { return values[numbers ? (*numbers)[row] : row]; }
+    static Column of(Values byRow);
+    static Column of(Values each, std::shared_ptr<const Numbers> numbers);
+    static Column of(std::shared_ptr<const Figures> byRow);
+
+    std::size_t rows() const;
+    Value at(std::size_t row) const;
 };
 
-struct Table {
-    std::string name; ///< of the command
-    std::string kind; ///< "FREQUENCY", "COUNT"
-    int type = 0;     ///< eOutputType
-    int method = 0;   ///< eTableMethod
+/// Fields and rows.
+struct Form {
+    std::vector<Field> fields;
+    std::vector<Column> columns; ///< one for each field
+    /// So many dimensions stand first, each with the columns code, label and kind ("", "tot", "mv"
+    /// or "na").
+    std::size_t triples = 0;
+
+    std::int64_t rows() const {
+        return columns.empty() ? 0 : static_cast<std::int64_t>(columns.back().rows());
+    }
+    Value at(std::int64_t row, std::size_t column) const {
+        return columns[column].at(static_cast<std::size_t>(row));
+    }
+};
+
+/// What spans a table, is measured in it, or is listed.
+struct TableVariable {
+    const catalog::Variable* variable = nullptr; ///< null for an expression
+    const catalog::Entity* areas = nullptr;      ///< not null: the compound codes of these areas
+    std::string name;                            ///< ENTITY.VARIABLE or the expression's text
+    std::string label;
+};
+
+/// The form of its own is the dataset's.
+struct Table : Form {
+    std::string name;        ///< of the command
+    std::size_t command = 0; ///< its number in the program
+    std::string kind;        ///< "FREQUENCY", "COUNT", "AREALIST" and so on
+    int type = 0;            ///< eOutputType
+    int method = 0;          ///< eTableMethod
     int dimension = 0;
-    std::string unit;     ///< entity whose records are counted
+    std::string unit;     ///< entity whose records are counted; empty where there is no one such
     std::string database; ///< label of the database, else its file name
     std::string area;     ///< selection label, else "All Database"
     std::optional<std::string> title, filter, weight, tally, universalFilter;
     std::optional<int> decimals;
     std::int64_t suppressed = 0;
-    const catalog::Entity* entity = nullptr; ///< of COUNT
-    std::vector<const catalog::Variable*> variables;
-    std::vector<Field> fields;
-    std::vector<Column> columns; ///< one for each field
-    double seconds = 0;          ///< its share of the run
+    const catalog::Entity* entity = nullptr; ///< listed, or of COUNT
+    std::vector<TableVariable> variables;
+    std::optional<Form> inTriples; ///< not set: the dataset has triples, or there is no dimension
+    double seconds = 0;            ///< its share of the run
 
-    std::int64_t rows() const {
-        return columns.empty() ? 0 : static_cast<std::int64_t>(columns.back().rows());
-    }
-    const Value& at(std::int64_t row, std::size_t column) const {
-        return columns[column].at(static_cast<std::size_t>(row));
-    }
+    const Form& tripleForm() const { return inTriples ? *inTriples : *this; }
 };
-
-/// Lays out a result: for each dimension the triple code, label, kind, then the value. Totals count
-/// valid categories only; MV and NA rows stand where they occur; empty combinations are left out.
-/// Memory grows with the rows that there are to be. Throws std::runtime_error where they would be
-/// more than execution::mostRows, and execution::Cancelled.
-Table makeTable(const execution::TableResult& result, const catalog::Dictionary& dictionary,
-                execution::Progress& progress);
 
 /// Takes the parts of a text, one after the other.
 using TextSink = std::function<void(std::string_view part)>;
 
-/// One JSON object, UTF-8, one line.
+/// One JSON object, UTF-8, one line; dimensions in triples.
 void writeJson(const Table& table, const TextSink& sink);
-/// Header and rows as RFC 4180 CSV.
+/// Header and rows of the dataset as RFC 4180 CSV.
 void writeCsv(const Table& table, const TextSink& sink);
 /// A readable table: title, unit, weight and filter, then aligned columns; for two dimensions a
 /// cross table. Figures have the table's decimals, else at most six.

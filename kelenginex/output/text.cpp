@@ -93,7 +93,7 @@ void writeAligned(const Lines& lines, Buffered& out) {
 }
 
 /// "1. Male", the code alone where it is its own label, "Total", "MV" or "NA".
-std::string category(const Table& table, std::int64_t row, std::size_t dimension) {
+std::string category(const Form& table, std::int64_t row, std::size_t dimension) {
     const std::string code = toText(table.at(row, dimension * 3));
     const std::string label = toText(table.at(row, dimension * 3 + 1));
     const std::string kind = toText(table.at(row, dimension * 3 + 2));
@@ -104,33 +104,54 @@ std::string category(const Table& table, std::int64_t row, std::size_t dimension
     return safe(code == label ? code : code + ". " + label);
 }
 
-Line heading(const Table& table, std::size_t dimensions) {
+/// Columns behind the dimensions.
+std::size_t figuresFrom(const Form& form) {
+    return form.triples * 3;
+}
+
+Line heading(const Form& form) {
     Line line;
-    for (std::size_t d = 0; d < dimensions; ++d)
-        line.push_back(safe(table.fields[d * 3].label));
-    for (std::size_t f = dimensions * 3; f < table.fields.size(); ++f)
-        line.push_back(safe(table.fields[f].label));
+    for (std::size_t d = 0; d < form.triples; ++d)
+        line.push_back(safe(form.fields[d * 3].label));
+    for (std::size_t f = figuresFrom(form); f < form.fields.size(); ++f)
+        line.push_back(safe(form.fields[f].label.starts_with('$') ? form.fields[f].name
+                                                                  : form.fields[f].label));
     return line;
 }
 
-Line rowLine(const Table& table, std::size_t dimensions, std::int64_t row) {
+Line rowLine(const Table& table, const Form& form, std::int64_t row) {
     Line line;
-    for (std::size_t d = 0; d < dimensions; ++d)
-        line.push_back(category(table, row, d));
-    for (std::size_t f = dimensions * 3; f < table.fields.size(); ++f)
-        line.push_back(safe(figure(table, table.at(row, f))));
+    for (std::size_t d = 0; d < form.triples; ++d)
+        line.push_back(category(form, row, d));
+    for (std::size_t f = figuresFrom(form); f < form.fields.size(); ++f)
+        line.push_back(safe(figure(table, form.at(row, f))));
     return line;
+}
+
+/// Texts stand on the left, up to the first column of figures.
+std::size_t leftColumns(const Form& form) {
+    if (form.triples > 0)
+        return form.triples;
+    const auto isText = [](const Column& column) {
+        for (std::size_t row = 0; row < column.rows(); ++row) {
+            const Value value = column.at(row);
+            if (!std::holds_alternative<std::monostate>(value))
+                return std::holds_alternative<std::string>(value);
+        }
+        return false;
+    };
+    std::size_t columns = 0;
+    while (columns < form.columns.size() && isText(form.columns[columns]))
+        ++columns;
+    return columns;
 }
 
 void writeList(const Table& table, Buffered& out) {
-    const auto dimensions = static_cast<std::size_t>(table.dimension);
+    const Form& form = table.tripleForm();
     const auto at = [&](std::size_t i) {
-        return i == 0 ? heading(table, dimensions)
-                      : rowLine(table, dimensions, static_cast<std::int64_t>(i) - 1);
+        return i == 0 ? heading(form) : rowLine(table, form, static_cast<std::int64_t>(i) - 1);
     };
-    writeAligned(
-        {static_cast<std::size_t>(table.rows()) + 1, at, std::max<std::size_t>(dimensions, 1)},
-        out);
+    writeAligned({static_cast<std::size_t>(form.rows()) + 1, at, leftColumns(form)}, out);
 }
 
 /// The categories of a dimension that occur, in the order of their places: codes, the total, MV,
@@ -139,10 +160,10 @@ struct Axis {
     Line names;
     std::vector<std::size_t> places; ///< by the number of the value
 
-    Axis(const Table& table, std::size_t dimension) {
+    Axis(const Form& table, std::size_t dimension) {
         const Column& column = table.columns[dimension * 3];
         constexpr std::int64_t none = -1;
-        std::vector<std::int64_t> rows(column.values.size(), none); ///< where a value stands
+        std::vector<std::int64_t> rows(column.values->size(), none); ///< where a value stands
         for (std::size_t row = 0; row < column.rows(); ++row)
             rows[(*column.numbers)[row]] = static_cast<std::int64_t>(row);
         for (const std::int64_t row : rows) {
@@ -151,30 +172,33 @@ struct Axis {
                 names.push_back(category(table, row, dimension));
         }
     }
-    std::size_t at(const Table& table, std::size_t dimension, std::int64_t row) const {
+    std::size_t at(const Form& table, std::size_t dimension, std::int64_t row) const {
         return places[(*table.columns[dimension * 3].numbers)[static_cast<std::size_t>(row)]];
     }
 };
 
 void writeCross(const Table& table, const Axis& rows, const Axis& columns, Buffered& out) {
+    const Form& form = table.tripleForm();
     std::vector<Line> grid(rows.names.size() + 1, Line(columns.names.size() + 1, "-"));
-    grid[0] = {safe(table.fields[0].label + " by " + table.fields[3].label)};
+    grid[0] = {safe(form.fields[0].label + " by " + form.fields[3].label)};
     grid[0].insert(grid[0].end(), columns.names.begin(), columns.names.end());
     for (std::size_t r = 0; r < rows.names.size(); ++r)
         grid[r + 1][0] = rows.names[r];
-    for (std::int64_t row = 0; row < table.rows(); ++row)
-        grid[rows.at(table, 0, row) + 1][columns.at(table, 1, row) + 1] =
-            figure(table, table.at(row, 6));
+    for (std::int64_t row = 0; row < form.rows(); ++row)
+        grid[rows.at(form, 0, row) + 1][columns.at(form, 1, row) + 1] =
+            figure(table, form.at(row, 6));
     writeAligned({grid.size(), [&](std::size_t i) { return grid[i]; }, 1}, out);
 }
 
-/// Two dimensions make a cross table, unless that would be mostly empty and larger than memory.
+/// Two dimensions and one figure make a cross table, unless that would be mostly empty and larger
+/// than memory.
 void writeBody(const Table& table, Buffered& out) {
     constexpr std::size_t mostCrossed = 2'000'000;
-    if (table.dimension != 2)
+    const Form& form = table.tripleForm();
+    if (form.triples != 2 || form.fields.size() != 7)
         return writeList(table, out);
-    const Axis rows(table, 0);
-    const Axis columns(table, 1);
+    const Axis rows(form, 0);
+    const Axis columns(form, 1);
     if (rows.names.size() * columns.names.size() > mostCrossed)
         writeList(table, out);
     else
@@ -195,7 +219,8 @@ void writeText(const Table& table, const TextSink& sink) {
     out << safe(table.name) << " (" << table.kind << ")\n";
     writeLine(out, "Database", table.database);
     writeLine(out, "Area", table.area);
-    writeLine(out, "Unit of count", table.unit);
+    if (!table.unit.empty())
+        writeLine(out, "Unit of count", table.unit);
     writeLine(out, "Weight", table.weight);
     writeLine(out, "Tally", table.tally);
     writeLine(out, "Filter", table.filter);
@@ -203,7 +228,8 @@ void writeText(const Table& table, const TextSink& sink) {
     out << "\n";
     writeBody(table, out);
     if (table.suppressed > 0)
-        out << std::to_string(table.suppressed) << " cells are not shown, to protect persons.\n";
+        out << std::to_string(table.suppressed)
+            << (table.suppressed == 1 ? " cell is suppressed.\n" : " cells are suppressed.\n");
     out.finish();
 }
 

@@ -166,8 +166,8 @@ TEST_F(ImportTest, DescribesWhatItMade) {
     const tools::ImportReport::Level& person = report.levels[2];
     EXPECT_EQ(person.records, 4u);
     EXPECT_EQ(person.variables[0].blanks, 1u);
-    EXPECT_EQ(person.variables[1].outsideLabels, 1u);
-    EXPECT_EQ(person.variables[2].outsideLabels, 1u);
+    EXPECT_EQ(person.variables[1].outside, 1u);
+    EXPECT_EQ(person.variables[2].outside, 1u);
 }
 
 TEST_F(ImportTest, TellsBranchesAndAFileAsTheRoot) {

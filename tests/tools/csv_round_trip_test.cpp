@@ -129,7 +129,7 @@ TEST(CsvRoundTrip, WhatAnyDictionarySaysComesBackByteForByte) {
     const auto& age = report.levels[2].variables[0];
     EXPECT_EQ(age.name, "AGE");
     EXPECT_FALSE(age.coded);
-    EXPECT_EQ(age.outsideLabels, 0u);
+    EXPECT_EQ(age.outside, 0u);
 }
 
 TEST(CsvRoundTrip, TellsTheRecordsWrittenAndEndsWhenAsked) {

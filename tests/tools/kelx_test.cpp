@@ -63,7 +63,7 @@ int statusAfter(int signal, const std::vector<std::string>& arguments, const std
 
 TEST_F(KelxTest, HelpAndVersionAreEverywhere) {
     EXPECT_THAT(kelx("--version").out, StartsWith("kelx 0."));
-    for (const char* command : {"sample", "info", "run", "import", "convert"}) {
+    for (const char* command : {"sample", "info", "run", "check", "import", "convert"}) {
         const Outcome help = kelx(std::string(command) + " --help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_THAT(help.out, HasSubstr(command));
@@ -101,6 +101,46 @@ TEST_F(KelxTest, InfoTellsRecordsAndTypes) {
     EXPECT_EQ(info["entities"][4]["records"], 3000);
     EXPECT_EQ(info["entities"][3]["weight"], "WEIGHT");
     EXPECT_EQ(info["entities"][4]["variables"][2]["missing"], 99);
+}
+
+TEST_F(KelxTest, ChecksADatabase) {
+    const Outcome sound = kelx("check @/sample/sample.dicx");
+    EXPECT_EQ(sound.status, 0) << sound.err;
+    EXPECT_THAT(sound.out, testing::EndsWith(": 0 errors, 0 warnings\n"));
+
+    std::filesystem::copy(folder->path() / "sample", folder->path() / "damaged");
+    std::filesystem::remove(path("damaged/PERSON_AGE.kbf"));
+    folder->write("damaged/extra.kpt", "");
+    const Outcome damaged = kelx("check @/damaged/sample.kxdb");
+    EXPECT_EQ(damaged.status, 1);
+    EXPECT_THAT(damaged.out, HasSubstr("PERSON_AGE.kbf: error: PERSON.AGE: is not there\n"));
+    const json told = json::parse(kelx("check @/damaged/sample.kxdb --json").out);
+    EXPECT_EQ(told["errors"], 1);
+    EXPECT_EQ(told["warnings"], 1);
+    EXPECT_EQ(told["records"],
+              json::parse(kelx("check @/sample/sample.kxdb --json").out)["records"]);
+    ASSERT_EQ(told["findings"].size(), 2u);
+    EXPECT_EQ(told["findings"][0]["variable"], "AGE");
+    EXPECT_EQ(told["findings"][1]["check"], "Orphans");
+
+    folder->write("damaged/sample.kxdb", "x");
+    const Outcome unreadable = kelx("check @/damaged/sample.kxdb");
+    EXPECT_EQ(unreadable.status, 1);
+    EXPECT_THAT(unreadable.err, HasSubstr("sample.kxdb: "));
+}
+
+TEST_F(KelxTest, ChecksAProgramWithoutRunningIt) {
+    folder->write("bad.spc", "FREQ PERSON.SEX\nFREQ PERSON.NONSENSE\n");
+    const Outcome bad = kelx("check @/sample/sample.kxdb @/bad.spc");
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_EQ(bad.out, "");
+    EXPECT_THAT(bad.err, testing::StartsWith(path("bad.spc") + ":2:"));
+    const json told = json::parse(kelx("check @/sample/sample.kxdb @/bad.spc --json").out);
+    EXPECT_EQ(told["errors"], 1);
+    EXPECT_EQ(told["messages"][0]["line"], 2);
+    const Outcome good = kelx("check @/sample/sample.kxdb @/sample/population.spc");
+    EXPECT_EQ(good.status, 0) << good.err;
+    EXPECT_EQ(good.out + good.err, "");
 }
 
 TEST_F(KelxTest, RunsProgramsInEveryFormat) {

@@ -2,6 +2,7 @@
 // What the columns of a set of CSV files mean.
 #pragma once
 
+#include "catalog/model.h"
 #include "import/located_error.h"
 #include "storage/column.h"
 
@@ -22,6 +23,13 @@ struct CodeEntry {
     CodeMeaning meaning = CodeMeaning::Valid;
 };
 
+/// Numbers that become one code.
+struct Recode {
+    double lowest = 0;
+    double highest = 0;
+    double code = 0;
+};
+
 /// A column of a level's file.
 struct FieldPlan {
     std::string name; ///< in capitals
@@ -30,10 +38,14 @@ struct FieldPlan {
     storage::ValueType type = storage::ValueType::Integer;
     bool coded = false; ///< values without a label are worth a word
     int width = 0;      ///< characters of a text: exact for keys and codes, else the most; 0: any
+    bool loose = false; ///< no text needs to have exactly its width
+    int impliedDecimals = 0; ///< digits behind the point where a real is written without one
     std::vector<CodeEntry> codes;
+    std::vector<catalog::Range> ranges;
+    std::vector<Recode> recodes;
     Place place;
 
-    bool exactWidth() const { return width > 0 && (coded || role == FieldRole::Key); }
+    bool exactWidth() const { return width > 0 && !loose && (coded || role == FieldRole::Key); }
 };
 
 /// A level, that is an entity and its file.

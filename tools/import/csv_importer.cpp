@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import/csv_importer.h"
 
-#include "catalog/reader.h"
+#include "import/database_builder.h"
 #include "import/level_scan.h"
 #include "import/level_writer.h"
-#include "import/staging.h"
 #include "import/values.h"
 #include "storage/error.h"
 
 #include <algorithm>
 #include <limits>
-#include <set>
+#include <optional>
 
 namespace kelx::tools {
 
@@ -32,7 +31,7 @@ struct Level {
 class Importer {
 public:
     explicit Importer(const ImportRequest& request)
-        : request_(request), book_(readCodebook(request.codebook)) {}
+        : request_(request), book_(readCodebook(request.codebook)), faults_(request.tolerant) {}
 
     ImportReport run() {
         listLevels();
@@ -128,39 +127,29 @@ private:
         for (std::size_t above = level.parent; above != none; above = levels_[above].parent)
             if (!isRoot(levels_[above]))
                 position.chain.insert(position.chain.begin(), levels_[above].scan.get());
-        level.scan = std::make_unique<LevelScan>(level.file, *level.plan, book_, position, onRead_);
+        level.scan =
+            std::make_unique<LevelScan>(level.file, *level.plan, book_, position, faults_, onRead_);
     }
 
     void buildDictionary() {
-        dictionary_.name = request_.database.stem().string();
-        dictionary_.label = dictionary_.name;
-        dictionary_.key = request_.key;
-        dictionary_.root = std::make_unique<catalog::Entity>();
-        catalog::Entity& root = *dictionary_.root;
-        root.dictionary = &dictionary_;
-        root.name = root.label = rootName_;
-        if (const LevelPlan* plan = book_.find(rootName_); plan != nullptr && !plan->label.empty())
-            root.label = dictionary_.label = plan->label;
+        const LevelPlan* plan = book_.find(rootName_);
+        builder_.emplace(request_, rootName_, plan != nullptr ? plan->label : "");
         for (Level& level : levels_)
             addEntity(level);
     }
 
     void addEntity(Level& level) {
         if (isRoot(level)) {
-            level.entity = dictionary_.root.get();
+            level.entity = &builder_->root();
         } else {
-            auto entity = std::make_unique<catalog::Entity>();
-            entity->name = level.plan->name;
-            entity->label = level.plan->label.empty() ? level.plan->name : level.plan->label;
-            entity->fileName = dataFile(entity->name, ".kpt");
-            entity->selectable = level.plan->withRole(FieldRole::Key) != nullptr && hasBelow(level);
             catalog::Entity& parent =
-                level.parent == none ? *dictionary_.root : *levels_[level.parent].entity;
-            level.entity = parent.addChild(std::move(entity));
+                level.parent == none ? builder_->root() : *levels_[level.parent].entity;
+            const bool hasKey = level.plan->withRole(FieldRole::Key) != nullptr;
+            level.entity = &builder_->addEntity(parent, *level.plan, hasKey && hasBelow(level));
         }
         for (const ColumnSummary& column : level.scan->columns())
             if (column.field->role != FieldRole::ParentKey)
-                addVariable(*level.entity, column);
+                builder_->addVariable(*level.entity, *column.field, column.decimals);
     }
 
     bool hasBelow(const Level& level) const {
@@ -169,52 +158,11 @@ private:
         });
     }
 
-    void addVariable(catalog::Entity& entity, const ColumnSummary& column) {
-        const FieldPlan& field = *column.field;
-        auto made = std::make_unique<catalog::Variable>();
-        made->name = field.name;
-        made->label = field.label;
-        made->fileName = dataFile(entity.name + "_" + field.name, ".kbf");
-        made->type = field.type;
-        made->size = field.width;
-        if (field.type == ValueType::Real)
-            made->decimals = column.decimals;
-        for (const CodeEntry& entry : field.codes) {
-            if (!entry.label.empty())
-                made->valueLabels.emplace_back(entry.code, entry.label);
-            if (entry.meaning == CodeMeaning::Missing)
-                made->missing = parseReal(entry.code);
-            if (entry.meaning == CodeMeaning::NotApplicable)
-                made->notapp = parseReal(entry.code);
-        }
-        catalog::Variable* variable = entity.addVariable(std::move(made));
-        if (field.role == FieldRole::Key)
-            entity.codeVar = variable;
-        if (field.role == FieldRole::Label)
-            entity.labelVar = variable;
-        if (field.role == FieldRole::Weight)
-            entity.weightVar = variable;
-    }
-
-    /// A file name that no other one of this database has.
-    std::string dataFile(const std::string& stem, const std::string& extension) {
-        std::string name = stem + extension;
-        for (int n = 2; !files_.insert(name).second; ++n)
-            name = std::string(stem).append("_").append(std::to_string(n)).append(extension);
-        return name;
-    }
-
     void write() {
-        const std::string own = request_.database.filename().string();
-        std::vector<std::string> names(files_.begin(), files_.end());
-        names.push_back(own); // last: the database is there once its data are
-        Staging staging(request_.database, names, request_.overwrite);
-        dictionary_.file = staging.folder() / own;
-        dictionary_.dataFolder = staging.folder();
-        for (const Level& level : levels_)
-            writeLevel(*level.scan, book_, *level.entity, staging.folder(), request_.key, onRead_);
-        catalog::saveDictionary(dictionary_, dictionary_.file);
-        staging.publish();
+        builder_->write([&](const fs::path& folder) {
+            for (const Level& level : levels_)
+                writeLevel(*level.scan, book_, *level.entity, folder, request_.key, onRead_);
+        });
     }
 
     ImportReport report() const {
@@ -224,23 +172,28 @@ private:
             told.name = level.plan->name;
             told.records = level.scan->records();
             told.sorted = !level.scan->order().empty();
+            told.orphans = level.scan->orphans();
+            told.duplicates = level.scan->duplicates();
+            told.faultyRows = level.scan->faultyRows();
             for (const ColumnSummary& column : level.scan->columns())
                 if (column.field->role != FieldRole::ParentKey)
                     told.variables.push_back({column.field->name, column.field->type, column.blanks,
-                                              column.field->coded, column.outsideLabels});
+                                              column.field->coded, column.outside, column.faulty,
+                                              0});
         }
+        report.take(faults_);
         return report;
     }
 
     const ImportRequest& request_;
     Codebook book_;
+    Faults faults_;
     std::vector<Level> levels_;
     std::string rootName_;
     bool rootIsLevel_ = false;
-    std::set<std::string> files_;
     std::uint64_t bytesRead_ = 0, bytesToRead_ = 0;
     const BytesRead onRead_ = [this](std::uint64_t bytes) { noteBytes(bytes); };
-    catalog::Dictionary dictionary_;
+    std::optional<DatabaseBuilder> builder_;
 };
 
 } // namespace

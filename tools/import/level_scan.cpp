@@ -10,10 +10,8 @@ namespace kelx::tools {
 using storage::ValueType;
 
 LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-                     const BytesRead& onRead)
-    : csv_(file, onRead) {
-    if (!csv_.next())
-        csv_.fail(0, "the file has no header");
+                     Faults& faults, const BytesRead& onRead)
+    : csv_(file, onRead), faults_(faults), faulty_(csv_.fields().size(), 0) {
     bindColumns(plan);
     for (const FieldPlan& field : plan.fields)
         if (std::find(columns_.begin(), columns_.end(), &field) == columns_.end())
@@ -26,14 +24,14 @@ LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, c
 }
 
 void LevelFile::bindColumns(const LevelPlan& plan) {
-    for (std::size_t i = 0; i < csv_.fields(); ++i) {
-        const std::string name(csv_.field(i));
+    for (std::size_t i = 0; i < csv_.fields().size(); ++i) {
+        const std::string& name = csv_.fields()[i].name;
         const FieldPlan* field = plan.find(upperCase(name));
         if (field == nullptr)
-            csv_.fail(i, "unknown column " + inQuotes(name) +
-                             ": the codebook has no such field of " + plan.name);
+            fail(i, "unknown column " + inQuotes(name) + ": the codebook has no such field of " +
+                        plan.name);
         if (std::find(columns_.begin(), columns_.end(), field) != columns_.end())
-            csv_.fail(i, "the column " + field->name + " stands here twice");
+            fail(i, "the column " + field->name + " stands here twice");
         if (field->role == FieldRole::Key)
             keyColumn_ = i;
         columns_.push_back(field);
@@ -41,56 +39,32 @@ void LevelFile::bindColumns(const LevelPlan& plan) {
 }
 
 bool LevelFile::next() {
-    if (!csv_.next())
-        return false;
-    if (csv_.fields() != columns_.size())
-        csv_.fail(std::min(csv_.fields(), columns_.size()),
-                  "expected " + integerText(static_cast<std::int64_t>(columns_.size())) +
-                      " fields, found " + integerText(static_cast<std::int64_t>(csv_.fields())));
-    return true;
+    while (csv_.next()) {
+        const std::string fault = csv_.rowFault();
+        if (fault.empty())
+            return true;
+        faults_.meet(csv_.faultAt(csv_.faultyField(), fault));
+        ++faultyRows_;
+    }
+    return false;
 }
 
-CsvValue LevelFile::value(std::size_t column) const {
+TypedValue LevelFile::value(std::size_t column) const {
     const FieldPlan& field = *columns_[column];
-    CsvValue value;
-    value.text = csv_.field(column);
-    value.blank = value.text.empty();
-    if (value.blank)
+    TypedValue value;
+    const std::string problem = readValue(csv_.value(column), field, value);
+    if (problem.empty())
         return value;
-    const auto refuse = [&](const std::string& problem) {
-        csv_.fail(column, field.name + ": " + inQuotes(std::string(value.text)) + problem);
-    };
-    if (field.type == ValueType::Integer) {
-        const auto number = parseInteger(value.text);
-        if (!number)
-            refuse(parseReal(value.text) ? " is not a whole number that can be held"
-                                         : " is not a number");
-        value.integer = *number;
-    } else if (field.type == ValueType::Real) {
-        const auto number = parseReal(value.text);
-        if (!number)
-            refuse(" is not a number");
-        value.real = *number;
-    } else if (field.type == ValueType::Boolean) {
-        const auto truth = parseBoolean(value.text);
-        if (!truth)
-            refuse(" is neither 0 nor 1, false nor true, no nor yes");
-        value.integer = *truth ? 1 : 0;
-    } else if (field.width > 0) {
-        const std::size_t length = characterCount(value.text);
-        const auto width = static_cast<std::size_t>(field.width);
-        if (length > width || (field.exactWidth() && length != width))
-            refuse(" has " + std::to_string(length) +
-                   (length == 1 ? " character, not " : " characters, not ") +
-                   (field.exactWidth() ? "" : "at most ") + std::to_string(width));
-    }
-    return value;
+    faults_.meet(csv_.faultAt(column, field.name + ": " + inQuotes(text(column)) + problem));
+    ++faulty_[column];
+    return {};
 }
 
 LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-                     Position position, const BytesRead& onRead)
-    : plan_(plan), bookName_(book.file), file_(file), position_(std::move(position)) {
-    LevelFile level(file, plan, book, onRead);
+                     Position position, Faults& faults, const BytesRead& onRead)
+    : plan_(plan), bookName_(book.file), file_(file), position_(std::move(position)),
+      faults_(faults) {
+    LevelFile level(file, plan, book, faults, onRead);
     checkParentKeys(level);
     for (const FieldPlan* field : level.columns()) {
         ColumnSummary summary;
@@ -101,8 +75,11 @@ LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan, c
     while (level.next())
         readRow(level);
     if (position_.isRoot && records_ != 1)
-        throw LocatedError(level.csv().name(), {1, 1},
+        throw LocatedError(level.name(), {1, 1},
                            plan_.name + " is the root and must have one record");
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        columns_[i].faulty = level.faultyValues(i);
+    faultyRows_ = level.faultyRows();
     arrange();
 }
 
@@ -140,9 +117,13 @@ void LevelScan::checkParentKeys(const LevelFile& level) const {
 
 void LevelScan::readRow(const LevelFile& level) {
     if (position_.isRoot && records_ == 1)
-        level.csv().fail(0, plan_.name + " is the root and must have one record");
-    const std::uint64_t parent = parentOf(level);
-    noteKey(level, parent);
+        level.fail(0, plan_.name + " is the root and must have one record");
+    std::uint64_t parent = 0;
+    const std::uint64_t row = rows_++;
+    if (!place(level, parent)) {
+        leftOut_.push_back(row);
+        return;
+    }
     for (std::size_t i = 0; i < columns_.size(); ++i)
         if (columns_[i].field->role != FieldRole::ParentKey)
             noteValue(columns_[i], level, i);
@@ -150,27 +131,31 @@ void LevelScan::readRow(const LevelFile& level) {
     ++records_;
 }
 
-void LevelScan::noteValue(ColumnSummary& summary, const LevelFile& level, std::size_t column) {
-    const CsvValue value = level.value(column);
-    if (value.blank) {
-        ++summary.blanks;
-        return;
+/// False where the row has no parent or a key that is no key, and that is tolerated.
+bool LevelScan::place(const LevelFile& level, std::uint64_t& parent) {
+    std::uint64_t* count = &orphans_;
+    try {
+        parent = parentOf(level);
+        count = &duplicates_;
+        noteKey(level, parent);
+        return true;
+    } catch (const LocatedError& fault) {
+        faults_.meet(fault);
+        ++*count;
+        return false;
     }
-    if (summary.field->type == ValueType::Integer) {
-        summary.lowest = std::min(summary.lowest, value.integer);
-        summary.highest = std::max(summary.highest, value.integer);
-    } else if (summary.field->type == ValueType::Real) {
-        const std::size_t point = value.text.find('.');
-        const std::size_t digits =
-            point == std::string_view::npos ? 0 : value.text.size() - point - 1;
-        summary.decimals =
-            std::max(summary.decimals, static_cast<int>(std::min<std::size_t>(digits, 15)));
-    }
-    if (summary.field->coded && !hasLabel(summary, value, column))
-        ++summary.outsideLabels;
 }
 
-bool LevelScan::hasLabel(const ColumnSummary& summary, const CsvValue& value,
+void LevelScan::noteValue(ColumnSummary& summary, const LevelFile& level, std::size_t column) {
+    const TypedValue value = level.value(column);
+    summary.note(value);
+    if (value.blank)
+        ++summary.blanks;
+    else if (summary.field->coded && !hasLabel(summary, value, column))
+        ++summary.outside;
+}
+
+bool LevelScan::hasLabel(const ColumnSummary& summary, const TypedValue& value,
                          std::size_t column) const {
     const Labels& labels = labels_[column];
     switch (summary.field->type) {
@@ -186,23 +171,23 @@ bool LevelScan::hasLabel(const ColumnSummary& summary, const CsvValue& value,
 void LevelScan::noteKey(const LevelFile& level, std::uint64_t parent) {
     if (!level.keyColumn())
         return;
-    const CsvValue key = level.value(*level.keyColumn());
-    const CsvReader& csv = level.csv();
+    const TypedValue key = level.value(*level.keyColumn());
     if (key.blank)
-        csv.fail(*level.keyColumn(), "the key of " + plan_.name + " is blank");
+        level.fail(*level.keyColumn(), "the key of " + plan_.name + " is blank");
     const bool isText = plan_.withRole(FieldRole::Key)->type == ValueType::String;
     if (!keys_.add(parent, isText ? keyTexts_.numberOf(key.text) : key.integer))
-        csv.fail(*level.keyColumn(), "the key " + inQuotes(std::string(key.text)) +
-                                         " occurs twice" +
-                                         (position_.chain.empty() ? "" : " under one parent"));
+        level.fail(*level.keyColumn(), "the key " + inQuotes(std::string(key.text)) +
+                                           " occurs twice" +
+                                           (position_.chain.empty() ? "" : " under one parent"));
 }
 
 std::uint64_t LevelScan::parentOf(const LevelFile& level) {
     const auto& columns = level.parentKeys();
-    bool same = records_ > 0;
+    bool same = lastParentKnown_;
+    lastParentKnown_ = false;
     lastParentKey_.resize(columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const std::string_view text = level.csv().field(columns[i]);
+        const std::string text = level.text(columns[i]);
         if (same && lastParentKey_[i] == text)
             continue;
         lastParentKey_[i] = text;
@@ -210,6 +195,7 @@ std::uint64_t LevelScan::parentOf(const LevelFile& level) {
     }
     if (!same)
         lastParent_ = lookUpParent(level);
+    lastParentKnown_ = true;
     return lastParent_;
 }
 
@@ -219,10 +205,10 @@ std::uint64_t LevelScan::lookUpParent(const LevelFile& level) const {
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const std::size_t depth = position_.chain.size() - columns.size() + i;
         const LevelScan& ancestor = *position_.chain[depth];
-        const std::string text(level.csv().field(columns[i]));
+        const std::string text = level.text(columns[i]);
         if (text.empty())
-            level.csv().fail(columns[i],
-                             "the parent key " + level.columns()[columns[i]]->name + " is blank");
+            level.fail(columns[i],
+                       "the parent key " + level.columns()[columns[i]]->name + " is blank");
         const auto key = ancestor.keyNumber(text);
         std::optional<std::uint64_t> row;
         if (key && i == 0 && depth > 0)
@@ -230,8 +216,8 @@ std::uint64_t LevelScan::lookUpParent(const LevelFile& level) const {
         else if (key)
             row = ancestor.keys_.find(record, *key);
         if (!row)
-            level.csv().fail(columns[i], "no record of " + ancestor.plan().name + " has the key " +
-                                             inQuotes(text) + (i > 0 ? " there" : ""));
+            level.fail(columns[i], "no record of " + ancestor.plan().name + " has the key " +
+                                       inQuotes(text) + (i > 0 ? " there" : ""));
         record = ancestor.recordOfRow_.empty() ? *row : ancestor.recordOfRow_[*row];
     }
     return record;
@@ -255,9 +241,9 @@ std::optional<std::uint64_t> LevelScan::rowWithKey(const LevelFile& child, std::
     if (found == rowByKey_.end())
         return std::nullopt;
     if (found->second == ambiguous)
-        child.csv().fail(column, "several records of " + plan_.name + " have the key " +
-                                     inQuotes(std::string(child.csv().field(column))) +
-                                     "; the keys of the levels above are needed too");
+        child.fail(column, "several records of " + plan_.name + " have the key " +
+                               inQuotes(child.text(column)) +
+                               "; the keys of the levels above are needed too");
     return found->second;
 }
 

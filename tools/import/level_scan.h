@@ -3,8 +3,10 @@
 #pragma once
 
 #include "import/codebook.h"
-#include "import/csv_reader.h"
+#include "import/csv_source.h"
+#include "import/faults.h"
 #include "import/key_index.h"
+#include "import/typed_value.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -18,24 +20,23 @@
 
 namespace kelx::tools {
 
-/// A value of a file, checked against its field.
-struct CsvValue {
-    bool blank = true;
-    std::int64_t integer = 0; ///< also of booleans
-    double real = 0;
-    std::string_view text; ///< as written; valid until the next record
-};
-
 /// A level's file with its columns matched to its fields.
 class LevelFile {
 public:
     /// Reads the header. Throws LocatedError where columns and fields do not match.
     LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-              const BytesRead& onRead);
+              Faults& faults, const BytesRead& onRead);
 
     bool next(); ///< the next record, with as many fields as the header
-    CsvValue value(std::size_t column) const; ///< throws LocatedError where it does not fit
-    const CsvReader& csv() const { return csv_; }
+    /// A value that does not fit is a fault, and blank where that is tolerated.
+    TypedValue value(std::size_t column) const;
+    std::string text(std::size_t column) const { return std::string(csv_.value(column).text); }
+    [[noreturn]] void fail(std::size_t column, const std::string& text) const {
+        throw csv_.faultAt(column, text);
+    }
+    const std::string& name() const { return csv_.name(); }
+    std::uint64_t faultyValues(std::size_t column) const { return faulty_[column]; }
+    std::uint64_t faultyRows() const { return faultyRows_; }
     const std::vector<const FieldPlan*>& columns() const { return columns_; }
     /// Columns of the parent keys, in the order of the codebook, from the top down.
     const std::vector<std::size_t>& parentKeys() const { return parentKeys_; }
@@ -44,20 +45,13 @@ public:
 private:
     void bindColumns(const LevelPlan& plan);
 
-    CsvReader csv_;
+    CsvSource csv_;
+    Faults& faults_;
+    mutable std::vector<std::uint64_t> faulty_; ///< values of each column
+    std::uint64_t faultyRows_ = 0;
     std::vector<const FieldPlan*> columns_;
     std::vector<std::size_t> parentKeys_;
     std::optional<std::size_t> keyColumn_;
-};
-
-/// What the values of a column have in common.
-struct ColumnSummary {
-    const FieldPlan* field = nullptr;
-    std::uint64_t blanks = 0;
-    std::uint64_t outsideLabels = 0; ///< values that a coded field has no label for
-    std::int64_t lowest = std::numeric_limits<std::int64_t>::max();
-    std::int64_t highest = std::numeric_limits<std::int64_t>::min();
-    int decimals = 0; ///< the most that occur
 };
 
 /// A level after the first reading.
@@ -71,7 +65,7 @@ public:
     };
 
     LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-              Position position, const BytesRead& onRead);
+              Position position, Faults& faults, const BytesRead& onRead);
 
     const LevelPlan& plan() const { return plan_; }
     const std::filesystem::path& file() const { return file_; }
@@ -81,12 +75,18 @@ public:
     const std::vector<std::uint64_t>& childCounts() const { return childCounts_; }
     /// Row of the file for each record; empty where the rows lie in the right order already.
     const std::vector<std::uint64_t>& order() const { return order_; }
+    /// Rows that were left out for their faults, ascending.
+    const std::vector<std::uint64_t>& leftOut() const { return leftOut_; }
+    std::uint64_t orphans() const { return orphans_; }
+    std::uint64_t duplicates() const { return duplicates_; }
+    std::uint64_t faultyRows() const { return faultyRows_; }
 
 private:
     void readRow(const LevelFile& level);
     void noteValue(ColumnSummary& summary, const LevelFile& level, std::size_t column);
-    bool hasLabel(const ColumnSummary& summary, const CsvValue& value, std::size_t column) const;
+    bool hasLabel(const ColumnSummary& summary, const TypedValue& value, std::size_t column) const;
     void noteKey(const LevelFile& level, std::uint64_t parent);
+    bool place(const LevelFile& level, std::uint64_t& parent);
     std::uint64_t parentOf(const LevelFile& level);
     std::uint64_t lookUpParent(const LevelFile& level) const;
     std::optional<std::int64_t> keyNumber(std::string_view text) const;
@@ -101,7 +101,11 @@ private:
     const std::string bookName_;
     std::filesystem::path file_;
     Position position_;
+    Faults& faults_;
     std::uint64_t records_ = 0;
+    std::uint64_t rows_ = 0;
+    std::uint64_t orphans_ = 0, duplicates_ = 0, faultyRows_ = 0;
+    std::vector<std::uint64_t> leftOut_;
     std::vector<ColumnSummary> columns_;
     struct Labels {
         std::vector<std::int64_t> integers; ///< ascending
@@ -118,6 +122,7 @@ private:
     mutable std::unordered_map<std::int64_t, std::uint64_t> rowByKey_;
     std::vector<std::string> lastParentKey_;
     std::uint64_t lastParent_ = 0;
+    bool lastParentKnown_ = false;
 };
 
 } // namespace kelx::tools

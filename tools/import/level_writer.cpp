@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import/level_writer.h"
 
+#include "import/column_output.h"
 #include "storage/column_writer.h"
 #include "storage/error.h"
 #include "storage/pointer_file.h"
@@ -17,30 +18,6 @@ using storage::ColumnWriter;
 using storage::ValueType;
 namespace fs = std::filesystem;
 using Key = std::shared_ptr<const storage::Secret>;
-
-storage::ColumnPlan planFor(const ColumnSummary& summary, const Key& key) {
-    storage::ColumnPlan plan;
-    plan.type = summary.field->type;
-    plan.decimals = static_cast<std::uint8_t>(summary.decimals);
-    plan.key = key;
-    if (plan.type == ValueType::Integer) {
-        const bool any = summary.lowest <= summary.highest;
-        plan.lowest = any ? summary.lowest : 0;
-        plan.highest = any ? summary.highest : 0;
-    }
-    return plan;
-}
-
-void addValue(ColumnWriter& writer, ValueType type, const CsvValue& value) {
-    if (value.blank)
-        writer.addBlank();
-    else if (type == ValueType::Real)
-        writer.addReal(value.real);
-    else if (type == ValueType::String)
-        writer.addText(value.text);
-    else
-        writer.addInteger(value.integer);
-}
 
 /// A column as a whole, for reading in any order.
 class LoadedColumn {
@@ -134,12 +111,21 @@ void writeLevel(const LevelScan& scan, const Codebook& book, const catalog::Enti
     if (!entity.fileName.empty())
         writePointers(scan, folder / entity.fileName);
     std::vector<Target> targets = targetsOf(scan, entity, folder, key);
-    LevelFile level(scan.file(), scan.plan(), book, onRead);
+    Faults faults(true); // all were met in the first reading
+    LevelFile level(scan.file(), scan.plan(), book, faults, onRead);
+    std::uint64_t row = 0;
     std::uint64_t records = 0;
-    for (; level.next() && records < scan.records(); ++records)
+    auto leftOut = scan.leftOut().begin();
+    for (; level.next() && records <= scan.records(); ++row) {
+        if (leftOut != scan.leftOut().end() && *leftOut == row) {
+            ++leftOut;
+            continue;
+        }
+        ++records;
         for (const Target& target : targets)
             addValue(*target.writer, target.summary->field->type, level.value(target.column));
-    if (records != scan.records() || level.next())
+    }
+    if (records != scan.records() || leftOut != scan.leftOut().end())
         throw storage::FileError(scan.file(), "was changed while it was read");
     for (Target& target : targets) {
         target.writer->commit();

@@ -32,6 +32,7 @@ constexpr int misuse = 2;  ///< a fault of the command line
 void addSample(CLI::App& app, Action& action);
 void addInfo(CLI::App& app, Action& action);
 void addRun(CLI::App& app, Action& action);
+void addCheck(CLI::App& app, Action& action);
 void addImport(CLI::App& app, Action& action);
 void addConvert(CLI::App& app, Action& action);
 

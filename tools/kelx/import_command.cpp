@@ -49,11 +49,11 @@ void print(const tools::ImportReport& report) {
         std::cout << level.name << ": " << level.records << " records"
                   << (level.sorted ? ", put into the order of the level above" : "") << '\n';
         for (const auto& variable : level.variables) {
-            if (variable.blanks == 0 && variable.outsideLabels == 0)
+            if (variable.blanks == 0 && variable.outside == 0)
                 continue;
             std::cout << "    " << variable.name << ": " << variable.blanks << " blank";
             if (variable.coded)
-                std::cout << ", " << variable.outsideLabels << " without a label";
+                std::cout << ", " << variable.outside << " without a label";
             std::cout << '\n';
         }
     }
@@ -69,7 +69,7 @@ void printAsJson(const tools::ImportReport& report, const std::string& database)
                                  {"type", valueTypeName(variable.type)},
                                  {"blanks", variable.blanks},
                                  {"coded", variable.coded},
-                                 {"withoutLabel", variable.outsideLabels}});
+                                 {"withoutLabel", variable.outside}});
         }
         told["levels"].push_back({{"name", level.name},
                                   {"records", level.records},

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "catalog/reader.h"
 #include "commands.h"
 #include "interrupt.h"
 #include "language/compile.h"
+#include "output/files.h"
 #include "output/run.h"
+#include "output/saved_variables.h"
 #include "password.h"
+#include "program_text.h"
 #include "progress_bar.h"
-#include "storage/error.h"
 #include "table_printer.h"
 
 #include <CLI/CLI.hpp>
 
-#include <fstream>
-#include <iostream>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -28,25 +29,6 @@ struct RunRequest {
     TablePrinting printing;
     unsigned threads = 0;
 };
-
-std::string readFile(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::error_code ignored;
-    if (!stream || fs::is_directory(file, ignored))
-        throw storage::FileError(file, "cannot be opened");
-    std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
-    if (text.starts_with("\xef\xbb\xbf"))
-        text.erase(0, 3);
-    return text;
-}
-
-void print(const language::Messages& messages, const std::string& name) {
-    for (const language::Message& message : messages.forDisplay()) {
-        const bool isError = message.severity == language::Severity::Error;
-        std::cerr << name << ':' << message.position.line << ':' << message.position.column << ": "
-                  << (isError ? "error: " : "warning: ") << message.text << '\n';
-    }
-}
 
 output::TablesOfRun makeTables(const language::BoundProgram& program,
                                const catalog::Dictionary& dictionary, const RunRequest& request,
@@ -65,22 +47,49 @@ output::TablesOfRun makeTables(const language::BoundProgram& program,
     return made;
 }
 
+/// Variables that the program saves stand in the dictionary file from now on.
+void keepVariables(const language::BoundProgram& program, catalog::Dictionary& dictionary) {
+    if (output::joinSavedVariables(program, dictionary) == 0)
+        return;
+    catalog::saveDictionary(dictionary, dictionary.file);
+    for (const language::Definition& definition : program.definitions) {
+        if (definition.save)
+            std::cerr << definition.variable->fullName() << ": saved in "
+                      << definition.save->file.string() << '\n';
+    }
+}
+
+/// Those that the program itself asks for.
+void writeFiles(const std::vector<output::Table>& tables, const language::BoundProgram& program) {
+    std::vector<output::TableFile> files = output::csvFiles(tables, program);
+    for (output::TableFile& file : output::jsonFiles(tables, program))
+        files.push_back(std::move(file));
+    output::writeFiles(files);
+    for (const output::TableFile& file : files)
+        std::cerr << file.path.string() << ": written\n";
+}
+
 int run(const RunRequest& request) {
     const std::string name = request.program.empty() ? "-e" : request.program.string();
-    const std::string text = request.program.empty() ? request.text : readFile(request.program);
+    const std::string text = request.program.empty() ? request.text : readProgram(request.program);
     const auto dictionary = openDatabase(request.database, request.passwordFile);
     language::CompileOptions compileOptions;
     compileOptions.baseFolder = fs::absolute(request.database).parent_path();
     language::Messages messages;
     const auto program = language::compile(text, *dictionary, compileOptions, messages);
     if (messages.hasErrors()) {
-        print(messages, name);
+        printMessages(messages, name);
         return failure;
     }
+    output::requireCsv(program);
     const output::TablesOfRun made = makeTables(program, *dictionary, request, messages);
-    print(messages, name);
+    printMessages(messages, name);
+    if (messages.hasErrors())
+        return failure;
+    keepVariables(program, *dictionary);
+    writeFiles(made.tables, program);
     print(made.tables, request.printing);
-    return messages.hasErrors() ? failure : success;
+    return success;
 }
 
 int runWithinMemory(const RunRequest& request) {

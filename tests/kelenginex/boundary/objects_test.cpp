@@ -254,8 +254,6 @@ TEST(Functions, WorkWithoutADictionary) {
     EXPECT_GE(kel::measureTime([] {}), 0.0);
     EXPECT_THAT(test::thrownBy([] { kel::makeDefaultSession(nullptr); }),
                 HasSubstr("no open dictionary"));
-    EXPECT_THAT(test::thrownBy([] { kel::tools::databaseConsistency("x"); }),
-                HasSubstr("not supported yet"));
 }
 
 TEST_F(Objects, OutliveTheEngine) {

@@ -2,6 +2,7 @@
 #include "fixture.h"
 
 #include "catalog/names.h"
+#include "catalog/type_names.h"
 #include "language/message_table.h"
 
 namespace kelx::language {
@@ -142,6 +143,10 @@ std::string shape(const Expression& expression) {
         return show(expression.constant);
     case Operation::VariableValue:
         return expression.variable->fullName();
+    case Operation::RecordNumber:
+        return "record " + expression.codeEntity->name;
+    case Operation::TableFigure:
+        return "#" + std::to_string(expression.table);
     case Operation::CompoundCode:
         return "code " + expression.codeEntity->name;
     case Operation::Not:
@@ -156,18 +161,116 @@ std::string shape(const Expression& expression) {
             result += " " + show(interval);
         return result + ")";
     }
+    case Operation::Recode: {
+        std::string result = "RECODE " + shape(*expression.arguments[0]);
+        for (std::size_t i = 1; i < expression.arguments.size(); ++i) {
+            const bool otherwise = i > expression.intervals.size();
+            result += otherwise ? " else " : " (" + show(expression.intervals[i - 1]) + " = ";
+            result += shape(*expression.arguments[i]) + (otherwise ? "" : ")");
+        }
+        return result;
+    }
+    case Operation::Switch:
+        return "SWITCH" + arguments(expression);
+    case Operation::Number:
+        return "NUMBER " + expression.codeEntity->name;
+    case Operation::SampleRandom:
+        return "RANDOM" + arguments(expression);
+    case Operation::SampleSystematic:
+        return "SYSTEMATIC" + arguments(expression);
     default:
         return "(" + shape(*expression.arguments.at(0)) + " " + symbolOf(expression.operation) +
                " " + shape(*expression.arguments.at(1)) + ")";
     }
 }
 
+std::string shape(const Aggregate& aggregate) {
+    const char* const kinds[] = {"COUNT", "SUM", "AVERAGE", "MEDIAN", "MINIMUM", "MAXIMUM"};
+    std::string result =
+        kinds[static_cast<std::size_t>(aggregate.kind)] + (" " + aggregate.over->name);
+    if (aggregate.value != nullptr)
+        result += " of " + shape(*aggregate.value);
+    if (aggregate.weight != nullptr)
+        result += " weight " + shape(*aggregate.weight);
+    for (const ExpressionPtr& filter : aggregate.filters)
+        result += " filter " + shape(*filter);
+    return result;
+}
+
+std::string shape(const Definition& definition) {
+    std::string result =
+        definition.variable->fullName() + " " + catalog::typeName(definition.variable->type) + ": ";
+    if (definition.value != nullptr)
+        result += shape(*definition.value);
+    if (definition.numerator)
+        result += shape(*definition.numerator);
+    if (definition.denominator)
+        result += " / " + shape(*definition.denominator);
+    for (const ExpressionPtr& filter : definition.filters)
+        result += " where " + shape(*filter);
+    if (definition.otherwise)
+        result += " default " + show(*definition.otherwise);
+    return result;
+}
+
+std::string definitions(const BoundProgram& program) {
+    std::string result;
+    for (const Definition& definition : program.definitions)
+        result += shape(definition) + "\n";
+    return result;
+}
+
+namespace {
+
+const char* wordOf(TableKind kind) {
+    constexpr const char* words[] = {"",         "COUNT",  "AVERAGE",  "SUM",    "MIN",
+                                     "MAX",      "MEDIAN", "QUANTILE", "STATS",  "GINI",
+                                     "AREALIST", "VIEW",   "TABOP",    "TABLIST"};
+    return words[static_cast<std::size_t>(kind)];
+}
+
+/// What the table is about, as the language writes it.
+std::string subject(const TableCommand& table) {
+    std::string result;
+    if (table.measure != nullptr)
+        result += std::string(" ") + wordOf(table.kind) +
+                  (table.kind == TableKind::Quantile ? " " + std::to_string(table.quantiles) : "") +
+                  " " + shape(*table.measure);
+    for (std::size_t i = 0; i < table.dimensions.size(); ++i)
+        result += (i == 0 && table.measure == nullptr ? " " : " BY ") + shape(*table.dimensions[i]);
+    if (table.kind == TableKind::AreaList || table.kind == TableKind::View)
+        result += std::string(" ") + wordOf(table.kind);
+    for (const ListColumn& column : table.columns)
+        result += " " + (column.table ? "#" + std::to_string(*column.table)
+                                      : column.variable->variable->fullName());
+    if (table.kind == TableKind::Tablist)
+        result += " TABLIST";
+    if (table.operation != nullptr)
+        result += " TABOP " + shape(*table.operation) + " of";
+    for (const std::size_t operand : table.operands)
+        result += " #" + std::to_string(operand);
+    return result;
+}
+
+/// What the command does not say itself.
+std::string status(const TableCommand& table) {
+    return std::string(table.isHidden ? " hidden" : "") +
+           (table.isOutput || table.isHidden ? "" : " silent") + (table.isNeeded ? "" : " idle");
+}
+
+std::string order(const SortClause& sort) {
+    return " sort " + sort.column + (sort.element ? "/" + std::to_string(*sort.element) : "") +
+           (sort.descending ? " desc" : "") +
+           (sort.limit ? " limit " + std::to_string(*sort.limit) : "");
+}
+
+} // namespace
+
 std::string summary(const BoundProgram& program) {
     std::string result;
     for (const TableCommand& table : program.tables) {
-        result += table.name + " " + table.unit->name + ":";
-        for (std::size_t i = 0; i < table.dimensions.size(); ++i)
-            result += (i == 0 ? " " : " BY ") + shape(*table.dimensions[i]);
+        result += table.name + " " + (table.unit == nullptr ? "-" : table.unit->name) + ":";
+        result += subject(table);
         if (table.weight != nullptr)
             result += " weight " + shape(*table.weight);
         if (table.tally != nullptr)
@@ -180,6 +283,11 @@ std::string summary(const BoundProgram& program) {
             result += " title " + *table.title;
         if (table.decimals)
             result += " decimals " + std::to_string(*table.decimals);
+        if (table.sort)
+            result += order(*table.sort);
+        if (table.sensitive)
+            result += " sensitive " + std::to_string(*table.sensitive);
+        result += status(table);
         result += "\n";
     }
     return result;

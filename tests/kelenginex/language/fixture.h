@@ -43,6 +43,9 @@ std::string located(const Messages& messages);
 std::string told(const Messages& messages);
 /// An expression with all parentheses, (a OR (b AND c)).
 std::string shape(const Expression& expression);
+/// "PERSON.OLD BOOLEAN: (PERSON.AGE > 64)", "DISTRICT.N INTEGER: COUNT PERSON filter PERSON.WORKS".
+std::string shape(const Definition& definition);
+std::string definitions(const BoundProgram& program); ///< one line for each
 /// "FREQ_1 PERSON: PERSON.SEX BY PERSON.AGE weight HOUSEHOLD.WEIGHT", one line a table.
 std::string summary(const BoundProgram& program);
 

@@ -35,6 +35,110 @@ const std::vector<std::string>& pieces() {
     return all;
 }
 
+const std::vector<std::string>& definitionPieces() {
+    static const std::vector<std::string> all = {"DEFINE",
+                                                 "PERSON.X",
+                                                 "PERSON.Y",
+                                                 "HOUSEHOLD.X",
+                                                 "DISTRICT.A-B",
+                                                 "AS",
+                                                 "COUNT",
+                                                 "SUM",
+                                                 "MEDIAN",
+                                                 "MAX",
+                                                 "RECODE",
+                                                 "SWITCH",
+                                                 "CASE",
+                                                 "ASSIGN",
+                                                 "ELSE",
+                                                 "NUMBER",
+                                                 "SAMPLE",
+                                                 "RANDOM",
+                                                 "RATIO",
+                                                 "FRACTION",
+                                                 "NUM",
+                                                 "DENOM",
+                                                 "INDICATOR",
+                                                 "SYSTEMATIC",
+                                                 "PERSON",
+                                                 "DEATH",
+                                                 "HOUSEHOLD",
+                                                 "PERSON.AGE",
+                                                 "AGE",
+                                                 "GRP",
+                                                 "WORKS",
+                                                 "ROOMS",
+                                                 "CAUSE",
+                                                 "SEX2",
+                                                 "X",
+                                                 "Y",
+                                                 "(1 : 5)",
+                                                 "(1 = 2)",
+                                                 "(1:2 = \"a\")",
+                                                 "(LOWEST:9)",
+                                                 "(",
+                                                 ")",
+                                                 "TYPE",
+                                                 "REAL",
+                                                 "STRING",
+                                                 "BOOL",
+                                                 "INTEGER",
+                                                 "WEIGHT",
+                                                 "FILTER",
+                                                 "RANGE",
+                                                 "VARLABEL",
+                                                 "VALUELABELS",
+                                                 "\"text\"",
+                                                 "1",
+                                                 "-2.5",
+                                                 "DOC",
+                                                 "DEFAULT",
+                                                 "MISSING",
+                                                 "NOTAPP",
+                                                 "SENSITIVE",
+                                                 "LIKE",
+                                                 "SAVE",
+                                                 "OVERWRITE",
+                                                 "ALIAS",
+                                                 "GROUP",
+                                                 "DECIMALS",
+                                                 "TRUE",
+                                                 ">",
+                                                 "=",
+                                                 "+",
+                                                 "AND",
+                                                 "MISSING(AGE)",
+                                                 "RUNDEF",
+                                                 "FREQ",
+                                                 "TABLESTYLE",
+                                                 "\n",
+                                                 "CMPCODE(DISTRICT)",
+                                                 "99999999999"};
+    return all;
+}
+
+/// One to three changes: a byte, a piece gone, a piece from elsewhere.
+std::string mutated(std::string program, const std::vector<std::string>& words,
+                    std::mt19937& random) {
+    for (std::uint32_t i = 1 + random() % 3; i > 0; --i) {
+        const std::size_t at = random() % program.size();
+        switch (random() % 4) {
+        case 0:
+            program[at] = static_cast<char>(random() % 256);
+            break;
+        case 1:
+            program.erase(at, 1 + random() % 20);
+            break;
+        case 2:
+            program.insert(at, words[random() % words.size()]);
+            break;
+        default:
+            program.insert(at, program.substr(random() % program.size(), random() % 40));
+        }
+    }
+    return program;
+}
+
 /// Messages must stand in the program and be readable, whatever the program is.
 void expectSoundMessages(const Census& census, const std::string& program) {
     const auto lines = std::count(program.begin(), program.end(), '\n') +
@@ -143,26 +247,67 @@ TEST(Hostile, MutatedProgramsAreAnswered) {
     census.compile(good);
     ASSERT_EQ(told(census.messages), "");
     for (int round = 0; round < 20000; ++round) {
-        std::string program = good;
-        for (std::uint32_t i = 1 + random() % 3; i > 0; --i) {
-            const std::size_t at = random() % program.size();
-            switch (random() % 4) {
-            case 0:
-                program[at] = static_cast<char>(random() % 256);
-                break;
-            case 1:
-                program.erase(at, 1 + random() % 20);
-                break;
-            case 2:
-                program.insert(at, pieces()[random() % pieces().size()]);
-                break;
-            default:
-                program.insert(at, program.substr(random() % program.size(), random() % 40));
-            }
-        }
+        const std::string program = mutated(good, pieces(), random);
         census.compile(program);
         expectSoundMessages(census, program);
     }
+}
+
+TEST(Hostile, RandomDefinitionsAreAnswered) {
+    std::mt19937 random(20241121);
+    Census census;
+    std::size_t good = 0;
+    for (int round = 0; round < 20000; ++round) {
+        std::string program = "DEFINE PERSON.X AS ";
+        for (std::uint32_t i = random() % 25; i > 0; --i)
+            program += definitionPieces()[random() % definitionPieces().size()] + " ";
+        const BoundProgram bound = census.compile(program);
+        expectSoundMessages(census, program);
+        good += census.messages.hasErrors() ? 0 : bound.definitions.size();
+    }
+    EXPECT_GT(good, 10U) << "the pieces make no programs any more";
+}
+
+TEST(Hostile, MutatedDefinitionsAreAnswered) {
+    const std::string good =
+        "DEFINE\n  TABLESTYLE \"s\"\nDEFINE PERSON.X AS RECODE PERSON.AGE (LOWEST : 14 = 1)\n"
+        "(15 : 64 = AGE / 2) ELSE 9 TYPE real RANGE (1 : 5) (9) VARLABEL \"x\" VALUELABELS 1 "
+        "\"a\" 2 \"b\"\nDOC \"d\nd\" DEFAULT -1 MISSING 98 SENSITIVE 3 LIKE SEX2 ALIAS A GROUP g "
+        "h\n"
+        "DEFINE DISTRICT.A-B AS FRACTION NUM AGE (1:3)(5) DENOM CAUSE (1) FILTER ROOMS > 1\n"
+        "DEFINE PERSON.S AS SWITCH CASE X > 1 ASSIGN 2 ELSE 0 SAVE \"f.kbf\" OVERWRITE\n"
+        "RUNDEF AREABREAK DISTRICT FILTER A > 0\nFREQ S, A-B WEIGHT X\n";
+    std::mt19937 random(11);
+    Census census;
+    census.compile(good);
+    ASSERT_EQ(located(census.messages), "");
+    for (int round = 0; round < 20000; ++round) {
+        const std::string program = mutated(good, definitionPieces(), random);
+        census.compile(program);
+        expectSoundMessages(census, program);
+    }
+}
+
+TEST(Hostile, LargeDefinitionsTakeNoTime) {
+    Census census;
+    const int size = 1 << 20;
+    const auto start = std::chrono::steady_clock::now();
+    for (const char* text :
+         {"DEFINE ", "DEFINE PERSON.a-", "DEFINE PERSON.X AS X ", "DEFINE PERSON.X AS AGE ",
+          "VALUELABELS 1 \"a\" ", "(1 = 2) ", "CASE 1 = 1 ASSIGN ", "DOC \"", "GROUP a ",
+          "DEFINE TABLESTYLE \"s\" ", "DEFINE HOUSEHOLD.X AS RATIO AGE (1)\n"}) {
+        const std::string program =
+            "DEFINE PERSON.X AS RECODE AGE (1 = 1) " +
+            repeated(text, size / static_cast<int>(std::string(text).size()) - 100);
+        census.compile(program);
+    }
+    std::string many;
+    for (int i = 0; many.size() < 500000; ++i)
+        many += "DEFINE PERSON.a" + std::to_string(i) + " AS 1\n";
+    const BoundProgram program = census.compile(many + many);
+    EXPECT_EQ(located(census.messages), "");
+    EXPECT_GT(program.definitions.size(), 30000U);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
 
 } // namespace kelx::language

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "output/table.h"
+#include "output/layout.h"
 
 #include "small_country.h"
 
@@ -14,7 +14,8 @@ protected:
     output::Table of(const std::string& program) {
         last_ = runAll(country_.dictionary, program);
         execution::Progress silent({});
-        return output::makeTable(last_.result.tables.at(0), country_.dictionary, silent);
+        const output::RowTable rows = output::makeRows(last_.result.tables.at(0), silent);
+        return output::layRows(rows, country_.dictionary).table;
     }
     static std::vector<std::string> rows(const output::Table& table) {
         std::vector<std::string> result;

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/called_text.h"
+
+#include "language/lexer.h"
+#include "language/text.h"
+
+#include <algorithm>
+
+namespace kelx::language {
+
+namespace {
+
+bool isNameByte(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+bool isName(std::string_view text) {
+    return !text.empty() && (text[0] < '0' || text[0] > '9') &&
+           std::all_of(text.begin(), text.end(), isNameByte);
+}
+
+class Putter {
+public:
+    Putter(std::string_view program, const CallValues& values)
+        : program_(program), values_(values), used_(values.size(), false) {}
+
+    CalledText run() {
+        Messages unheard; // what is wrong with the text is told when it is read in earnest
+        tokens_ = tokenize(program_, {}, unheard);
+        for (at_ = 0; at_ < tokens_.size(); ++at_)
+            take(tokens_[at_]);
+        result_.text += program_.substr(copied_);
+        for (std::size_t i = 0; i < values_.size(); ++i) {
+            if (!used_[i])
+                result_.unused.push_back(values_[i].first);
+        }
+        return std::move(result_);
+    }
+
+private:
+    void take(const Token& token) {
+        if (token.is(Keyword::Execute))
+            inExecute_ = true;
+        else if (token.kind == TokenKind::Word)
+            inExecute_ = inExecute_ && tokens_[at_ + 1].isSymbol("=");
+        if (token.kind == TokenKind::Braced && inExecute_)
+            takeValue(token);
+        else if (token.kind == TokenKind::Braced || token.kind == TokenKind::Text ||
+                 token.kind == TokenKind::Label)
+            replaceWithin(token.begin, token.end(), token.position, true);
+    }
+
+    /// Braces around a name of ours stay: they are EXECUTE's.
+    void takeValue(const Token& token) {
+        const std::string_view inside = token.text.substr(1, token.text.size() - 2);
+        const std::string* value = isName(inside) ? find(inside) : nullptr;
+        if (value != nullptr)
+            replace(token.begin + 1, token.end() - 1, *value);
+        else
+            replaceWithin(token.begin + 1, token.end() - 1, token.position, false);
+    }
+
+    void replaceWithin(std::size_t begin, std::size_t end, Position position, bool tellUnknown) {
+        for (std::size_t open = program_.find('{', begin); open < end;
+             open = program_.find('{', open + 1)) {
+            const std::size_t close = program_.find('}', open);
+            if (close >= end)
+                return;
+            const std::string_view name = program_.substr(open + 1, close - open - 1);
+            if (!isName(name))
+                continue;
+            if (const std::string* value = find(name))
+                replace(open, close + 1, *value);
+            else if (tellUnknown)
+                result_.unknown.push_back({std::string(name), position});
+        }
+    }
+
+    const std::string* find(std::string_view name) {
+        for (std::size_t i = 0; i < values_.size(); ++i) {
+            if (lowerCase(values_[i].first) != lowerCase(name))
+                continue;
+            used_[i] = true;
+            return &values_[i].second;
+        }
+        return nullptr;
+    }
+
+    void replace(std::size_t begin, std::size_t end, std::string value) {
+        std::replace(value.begin(), value.end(), '\n', ' ');
+        std::replace(value.begin(), value.end(), '\r', ' ');
+        result_.text += program_.substr(copied_, begin - copied_);
+        result_.text += value;
+        copied_ = end;
+    }
+
+    std::string_view program_;
+    const CallValues& values_;
+    std::vector<bool> used_;
+    std::vector<Token> tokens_;
+    std::size_t at_ = 0;
+    bool inExecute_ = false; ///< what follows may be values of an EXECUTE
+    CalledText result_;
+    std::size_t copied_ = 0; ///< of the program, already in the result
+};
+
+} // namespace
+
+CalledText putValues(std::string_view program, const CallValues& values) {
+    return Putter(program, values).run();
+}
+
+} // namespace kelx::language

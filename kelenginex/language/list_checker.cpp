@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/list_checker.h"
+
+#include "language/text.h"
+
+#include <algorithm>
+
+namespace kelx::language {
+
+bool ListChecker::check(const ast::Table& table, TableCommand& command) {
+    if (table.entity)
+        command.countEntity = expressions_.entity(table.entity->name, table.entity->position);
+    if (command.countEntity == nullptr)
+        return false;
+    const Entity& entity = *command.countEntity;
+    bool good = checkAreaData(entity, table.entity->position);
+    for (const ast::Name& name : table.names)
+        good = addColumn(name, command) && good;
+    if (table.names.empty() && command.kind == TableKind::View) {
+        for (const Variable* variable : context_.names().variablesOf(entity))
+            good = addVariable(*variable, table.entity->position, command) && good;
+    }
+    if (good)
+        tellUseless(table, command);
+    command.weight = command.tally = nullptr;
+    return good;
+}
+
+/// Codes and labels are shown without being named.
+bool ListChecker::checkAreaData(const Entity& entity, Position position) {
+    bool good = true;
+    for (const Entity* level = &entity; level != nullptr; level = level->parent) {
+        if (level->codeVar != nullptr)
+            good = context_.checkData(*level->codeVar, position) && good;
+    }
+    if (entity.labelVar != nullptr)
+        good = context_.checkData(*entity.labelVar, position) && good;
+    return good;
+}
+
+std::vector<const Variable*> ListChecker::inReach(const std::string& name,
+                                                  const Entity& entity) const {
+    std::vector<const Variable*> result;
+    for (const Variable* variable : context_.names().variables(name)) {
+        if (variable->entity->isAncestorOf(entity))
+            result.push_back(variable);
+    }
+    return result;
+}
+
+bool ListChecker::addColumn(const ast::Name& name, TableCommand& command) {
+    const Entity& entity = *command.countEntity;
+    if (name.all)
+        return addVariables(name, command);
+    if (!name.entity.empty()) {
+        const ExpressionPtr variable = expressions_.variable(name);
+        return variable != nullptr && addVariable(*variable->variable, name.position, command);
+    }
+    const std::vector<const Variable*> variables = inReach(name.name, entity);
+    const std::optional<std::size_t> table = tables_.find(name.name);
+    if (variables.empty() && table)
+        return addTable(*table, name.position, command);
+    if (variables.size() == 1) {
+        if (table)
+            context_.report(Warning::ColumnTwice, name.position, {inQuotes(name.name)});
+        return addVariable(*variables.front(), name.position, command);
+    }
+    if (!tables_.isExpected(name.name))
+        reportUnknown(name, command);
+    return false;
+}
+
+/// A name of a table may have been meant as well as one of a variable.
+void ListChecker::reportUnknown(const ast::Name& name, TableCommand& command) {
+    const bool isVariable = !context_.names().variables(name.name).empty() ||
+                            context_.names().entity(name.name) != nullptr;
+    const std::string near = nearest(name.name, tables_.names());
+    if (!isVariable && !near.empty())
+        context_.report(Error::UnknownTable, name.position,
+                        {inQuotes(name.name), didYouMean(near)});
+    else if (const ExpressionPtr variable = expressions_.variable(name)) // tells what is wrong
+        addVariable(*variable->variable, name.position, command);
+}
+
+bool ListChecker::addVariables(const ast::Name& name, TableCommand& command) {
+    const Entity* entity = expressions_.entity(name.entity, name.position);
+    if (entity == nullptr)
+        return false;
+    bool good = true;
+    for (const Variable* variable : context_.names().variablesOf(*entity))
+        good = good && addVariable(*variable, name.position, command);
+    return good;
+}
+
+bool ListChecker::addVariable(const Variable& variable, Position position, TableCommand& command) {
+    const Entity& entity = *command.countEntity;
+    ExpressionPtr expression = expressions_.variable(variable, position);
+    if (expression == nullptr)
+        return false;
+    if (variable.entity->isAncestorOf(entity)) {
+        command.columns.push_back({std::move(expression), std::nullopt, position});
+        return true;
+    }
+    if (entity.isAncestorOf(*variable.entity))
+        context_.report(Error::ColumnBelow, position,
+                        {variable.fullName(), variable.entity->name, entity.name});
+    else
+        context_.report(Error::Branches, position, {entity.name, variable.entity->name});
+    return false;
+}
+
+/// Why the table has no part for each row; nothing where it has.
+std::optional<std::string> ListChecker::unfit(std::size_t number, const Entity& entity) const {
+    const TableCommand& table = tables_.table(number);
+    if (table.kind == TableKind::Tabop || table.kind == TableKind::Tablist)
+        return "it is made of other tables; take those";
+    if (table.kind == TableKind::AreaList || table.kind == TableKind::View)
+        return "it is a list itself";
+    if (table.dimensions.size() > 1)
+        return "it has more than one variable";
+    if (!entity.isAncestorOf(*table.unit))
+        return "it counts " + table.unit->name + ", which does not lie in " + entity.name;
+    return std::nullopt;
+}
+
+bool ListChecker::addTable(std::size_t number, Position position, TableCommand& command) {
+    const Entity& entity = *command.countEntity;
+    if (const std::optional<std::string> reason = unfit(number, entity)) {
+        context_.report(Error::TableColumn, position, {tables_.table(number).name, *reason});
+        return false;
+    }
+    TableCommand hidden = tables_.table(number);
+    TableFacts facts = tables_.facts(number);
+    hidden.dimensions.insert(hidden.dimensions.begin(),
+                             ExpressionChecker::recordNumber(entity, position));
+    if (hidden.kind == TableKind::Count)
+        hidden.kind = TableKind::Frequency;
+    hidden.isHidden = true;
+    hidden.isOutput = false;
+    hidden.isNeeded = true;
+    hidden.sort.reset();
+    hidden.outfile.reset();
+    hidden.jsonFiles.clear();
+    if (command.sensitive.value_or(0) > hidden.sensitive.value_or(0))
+        hidden.sensitive = command.sensitive;
+    if (!takeWeights(command, facts, hidden) || !tables_.hasRoom(1, position))
+        return false;
+    tables_.useAsColumn(number);
+    const std::size_t at = tables_.size();
+    tables_.add(std::move(hidden), std::move(facts));
+    command.columns.push_back({nullptr, at, position});
+    return true;
+}
+
+bool ListChecker::takeWeights(const TableCommand& list, const TableFacts& facts,
+                              TableCommand& hidden) {
+    if (list.weight != nullptr && !facts.ownWeight) {
+        if (!placer_.include(hidden, *list.weight))
+            return false;
+        hidden.weight = list.weight;
+    }
+    if (list.tally != nullptr && hidden.tally == nullptr) {
+        if (!placer_.include(hidden, *list.tally))
+            return false;
+        hidden.tally = list.tally;
+    }
+    return true;
+}
+
+void ListChecker::tellUseless(const ast::Table& table, const TableCommand& command) {
+    const bool hasTables = std::any_of(command.columns.begin(), command.columns.end(),
+                                       [](const ListColumn& c) { return c.table.has_value(); });
+    const std::string reason = "it lists variables, and no table";
+    if (table.weight != nullptr && !hasTables)
+        context_.report(Warning::NoEffect, table.weightPosition,
+                        {"WEIGHT", table.kindWord, reason});
+    if (table.tally != nullptr && !hasTables)
+        context_.report(Warning::NoEffect, table.tallyPosition, {"TALLY", table.kindWord, reason});
+}
+
+} // namespace kelx::language

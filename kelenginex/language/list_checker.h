@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+// Checks the columns of AREALIST and VIEW: variables, and tables that each row has its part of.
+#pragma once
+
+#include "language/ast.h"
+#include "language/checker_context.h"
+#include "language/expression_checker.h"
+#include "language/table_placer.h"
+#include "language/table_register.h"
+
+#include <optional>
+#include <string>
+
+namespace kelx::language {
+
+class ListChecker {
+public:
+    ListChecker(CheckerContext& context, ExpressionChecker& expressions, TablePlacer& placer,
+                TableRegister& tables)
+        : context_(context), expressions_(expressions), placer_(placer), tables_(tables) {}
+
+    /// Fills entity and columns; tables that are columns are added before the list. Weight and
+    /// tally of the command go to those of them that have none of their own. False where a fault
+    /// was reported.
+    bool check(const ast::Table& table, TableCommand& command);
+
+private:
+    bool checkAreaData(const Entity& entity, Position position);
+    bool addColumn(const ast::Name& name, TableCommand& command);
+    bool addVariables(const ast::Name& name, TableCommand& command);
+    bool addVariable(const Variable& variable, Position position, TableCommand& command);
+    bool addTable(std::size_t number, Position position, TableCommand& command);
+    std::optional<std::string> unfit(std::size_t number, const Entity& entity) const;
+    bool takeWeights(const TableCommand& list, const TableFacts& facts, TableCommand& hidden);
+    /// Variables of that name in the rows' entity or above it.
+    std::vector<const Variable*> inReach(const std::string& name, const Entity& entity) const;
+    void reportUnknown(const ast::Name& name, TableCommand& command);
+    void tellUseless(const ast::Table& table, const TableCommand& command);
+
+    CheckerContext& context_;
+    ExpressionChecker& expressions_;
+    TablePlacer& placer_;
+    TableRegister& tables_;
+};
+
+} // namespace kelx::language

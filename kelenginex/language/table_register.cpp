@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "language/table_register.h"
+
+#include "language/text.h"
+
+namespace kelx::language {
+
+std::string TableRegister::nameFor(const ast::Table& table, std::size_t number, std::size_t count) {
+    if (table.name.empty())
+        return shortName(table.kindWord);
+    std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
+    if (!names_.insert(lowerCase(name)).second)
+        context_.report(Warning::TableNameAgain, table.position, {name});
+    return name;
+}
+
+std::string TableRegister::shortName(const std::string& kind) {
+    std::string name;
+    do {
+        name = kind + "_" + std::to_string(++numbered_[kind]);
+    } while (!names_.insert(lowerCase(name)).second);
+    return name;
+}
+
+bool TableRegister::hasRoom(std::size_t count, Position position) {
+    if (program_.tables.size() + count <= mostTables)
+        return true;
+    context_.report(Error::TooManyTables, position, {std::to_string(mostTables)});
+    return false;
+}
+
+void TableRegister::add(TableCommand command, TableFacts facts) {
+    if (!command.isHidden) {
+        names_.insert(lowerCase(command.name));
+        byName_[lowerCase(command.name)] = program_.tables.size();
+    }
+    if (command.settings->areaBreak != nullptr && command.kind != TableKind::Count)
+        facts.areaBreak = command.settings->areaBreak;
+    program_.tables.push_back(std::move(command));
+    facts_.push_back(std::move(facts));
+}
+
+void TableRegister::expect(const ast::Table& table) {
+    expected_.insert(lowerCase(table.name.empty() ? table.kindWord : table.name));
+}
+
+std::optional<std::size_t> TableRegister::find(const std::string& name) const {
+    const auto found = byName_.find(lowerCase(name));
+    return found == byName_.end() ? std::nullopt : std::optional(found->second);
+}
+
+/// The tables of a list have a number behind the name.
+bool TableRegister::isExpected(const std::string& name) const {
+    const std::string key = lowerCase(name);
+    return expected_.contains(key) || expected_.contains(key.substr(0, key.rfind('_')));
+}
+
+std::vector<std::string> TableRegister::names() const {
+    std::vector<std::string> names;
+    for (const auto& [key, number] : byName_)
+        names.push_back(program_.tables[number].name);
+    return names;
+}
+
+std::optional<std::size_t> TableRegister::findOrReport(const ast::Name& name) {
+    std::optional<std::size_t> found;
+    if (name.entity.empty())
+        found = find(name.name);
+    if (found || (name.entity.empty() && isExpected(name.name)))
+        return found;
+    const std::string written = name.entity.empty() ? name.name : name.entity + "." + name.name;
+    context_.report(
+        Error::UnknownTable, name.position,
+        {inQuotes(written), context_.wantsHints() ? didYouMean(nearest(name.name, names())) : ""});
+    return std::nullopt;
+}
+
+void TableRegister::useAsOperand(std::size_t number) {
+    facts_[number].isOperand = true;
+    settle(number);
+}
+
+/// A table that another one uses is made for its sake only, unless a file or the configuration
+/// wants it.
+void TableRegister::settle(std::size_t number) {
+    TableCommand& table = program_.tables[number];
+    const TableFacts& facts = facts_[number];
+    table.isOutput = facts.isKept || context_.options().showIntermediate;
+    table.isNeeded = table.isOutput || facts.isOperand;
+}
+
+} // namespace kelx::language

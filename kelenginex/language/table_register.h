@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+// The tables of a program by their names, and what a table needs to know that is made of others.
+#pragma once
+
+#include "language/ast.h"
+#include "language/checker_context.h"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace kelx::language {
+
+/// What a table is beside its command.
+struct TableFacts {
+    std::vector<const Variable*> dimensions;
+    const Entity* areaBreak = nullptr; ///< in force: one more dimension before the others
+    bool oneFigure = true;             ///< in each cell
+    bool isKept = false;               ///< has OUTFILE, OUTGRAPH or SAVE
+    bool isOperand = false;
+    bool ownWeight = false; ///< by a clause
+
+    std::size_t dimension() const { return dimensions.size() + (areaBreak != nullptr ? 1 : 0); }
+};
+
+class TableRegister {
+public:
+    static constexpr std::size_t mostTables = 10000;
+
+    TableRegister(CheckerContext& context, BoundProgram& program)
+        : context_(context), program_(program) {}
+
+    /// The name of table `number` of the `count` that a command makes; a second table of a name is
+    /// reported.
+    std::string nameFor(const ast::Table& table, std::size_t number, std::size_t count);
+    /// False where there would be too many, which is reported.
+    bool hasRoom(std::size_t count, Position position);
+    void add(TableCommand command, TableFacts facts);
+    /// The tables of a command with a fault: their use is no further fault.
+    void expect(const ast::Table& table);
+
+    /// By name, in any case, the last one where there are several.
+    std::optional<std::size_t> find(const std::string& name) const;
+    bool isExpected(const std::string& name) const;
+    std::vector<std::string> names() const; ///< as written
+    /// Reported where there is none.
+    std::optional<std::size_t> findOrReport(const ast::Name& name);
+
+    std::size_t size() const { return facts_.size(); }
+    const TableCommand& table(std::size_t number) const { return program_.tables[number]; }
+    const TableFacts& facts(std::size_t number) const { return facts_[number]; }
+    void useAsColumn(std::size_t number) { settle(number); }
+    void useAsOperand(std::size_t number);
+
+private:
+    std::string shortName(const std::string& kind);
+    void settle(std::size_t number);
+
+    CheckerContext& context_;
+    BoundProgram& program_;
+    std::vector<TableFacts> facts_;             ///< of each table of the program
+    std::map<std::string, std::size_t> byName_; ///< in lower case
+    std::set<std::string> names_;               ///< given, in lower case
+    std::set<std::string> expected_;            ///< in lower case
+    std::map<std::string, int> numbered_;       ///< of each kind
+};
+
+} // namespace kelx::language

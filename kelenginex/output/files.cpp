@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "output/files.h"
+
+#include "storage/atomic_file.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace kelx::output {
+namespace {
+
+void addFile(const std::filesystem::path& path, TableFile::Form form, const Table& table,
+             std::vector<TableFile>& files) {
+    const auto known = std::find_if(files.begin(), files.end(),
+                                    [&](const TableFile& file) { return file.path == path; });
+    if (known == files.end())
+        files.push_back({path, form, {&table}});
+    else
+        known->tables.push_back(&table);
+}
+
+void writeJsonFile(const TableFile& file, const TextSink& sink) {
+    const bool several = file.tables.size() > 1;
+    const char* separator = several ? "[\n" : "";
+    for (const Table* table : file.tables) {
+        sink(separator);
+        writeJson(*table, sink);
+        separator = ",\n";
+    }
+    sink(several ? "\n]\n" : "\n");
+}
+
+void writeCsvFile(const TableFile& file, const TextSink& sink) {
+    const bool several = file.tables.size() > 1; // rows alone do not tell which table they are of
+    const char* separator = "";
+    for (const Table* table : file.tables) {
+        if (several)
+            sink(separator + table->name + "\r\n");
+        writeCsv(*table, sink);
+        separator = "\r\n";
+    }
+}
+
+} // namespace
+
+std::vector<TableFile> jsonFiles(const std::vector<Table>& tables,
+                                 const language::BoundProgram& program) {
+    std::vector<TableFile> files;
+    for (const Table& table : tables) {
+        for (const std::string& path : program.tables.at(table.command).jsonFiles)
+            addFile(path, TableFile::Form::Json, table, files);
+    }
+    return files;
+}
+
+void requireCsv(const language::BoundProgram& program) {
+    using Format = language::OutputFile::Format;
+    for (const language::TableCommand& command : program.tables) {
+        if (!command.isOutput || !command.outfile || command.outfile->format == Format::Csv)
+            continue;
+        const char* name = command.outfile->format == Format::Xlsx ? "XLSX" : "PDF";
+        throw std::runtime_error("line " + std::to_string(command.position.line) + ": " + name +
+                                 " files are written by the workbench only; " +
+                                 command.outfile->path + " can be had as CSV or JSON here");
+    }
+}
+
+std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
+                                const language::BoundProgram& program) {
+    requireCsv(program);
+    std::vector<TableFile> files;
+    for (const Table& table : tables) {
+        if (const auto& outfile = program.tables.at(table.command).outfile)
+            addFile(outfile->path, TableFile::Form::Csv, table, files);
+    }
+    return files;
+}
+
+void writeFiles(const std::vector<TableFile>& files) {
+    std::vector<std::unique_ptr<storage::AtomicFile>> written;
+    for (const TableFile& file : files) {
+        written.push_back(std::make_unique<storage::AtomicFile>(file.path));
+        const auto sink = [&](std::string_view part) { written.back()->write(part); };
+        if (file.form == TableFile::Form::Json)
+            writeJsonFile(file, sink);
+        else
+            writeCsvFile(file, sink);
+        written.back()->flush();
+    }
+    for (const auto& file : written)
+        file->commit();
+}
+
+} // namespace kelx::output

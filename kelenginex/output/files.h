@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+// Files that a program asks its tables to be written to.
+#pragma once
+
+#include "output/table.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace kelx::output {
+
+/// A file and what it is to hold.
+struct TableFile {
+    enum class Form { Json, Csv };
+    std::filesystem::path path;
+    Form form = Form::Json;
+    std::vector<const Table*> tables; ///< of one command that makes several, all go to its file
+};
+
+/// Those of SAVE and OUTFILE JSON, which the engine itself writes.
+std::vector<TableFile> jsonFiles(const std::vector<Table>& tables,
+                                 const language::BoundProgram& program);
+/// Those of OUTFILE in CSV. Throws std::runtime_error where a table asks for a format that only the
+/// workbench writes.
+std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
+                                const language::BoundProgram& program);
+/// The same, before there are tables.
+void requireCsv(const language::BoundProgram& program);
+
+/// Each file is complete before the first one takes its name. One table in JSON is an object,
+/// several are an array; several in CSV stand each after a line with its name. Throws
+/// storage::FileError.
+void writeFiles(const std::vector<TableFile>& files);
+
+} // namespace kelx::output

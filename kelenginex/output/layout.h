@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+// From rows to a table with its fields, and what a table says of itself.
+#pragma once
+
+#include "output/rows.h"
+#include "output/sorting.h"
+#include "output/table.h"
+
+namespace kelx::output {
+
+/// Name, area, filter and the like. The unit stays empty where the command has none.
+Table described(const language::TableCommand& command, const catalog::Dictionary& dictionary);
+
+/// Label, else name.
+std::string headingOf(const catalog::Entity& entity);
+/// Name and label of what is measured or listed.
+TableVariable variableOf(const language::Expression& expression);
+/// All names that a command may call a variable by.
+void addNames(const TableVariable& variable, std::size_t column, SortGuide& guide);
+
+/// Frequencies, counts, measures and what TABOP made.
+Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary);
+/// An area list or a view. The tables of its columns are found by their numbers.
+using FindRows = std::function<const RowTable&(std::size_t table)>;
+Laid layList(const language::TableCommand& command, execution::ListResult list,
+             const FindRows& tables, const catalog::Dictionary& dictionary,
+             execution::Progress& progress);
+/// Tables side by side.
+Laid layTablist(const language::TableCommand& command, const FindRows& tables,
+                const catalog::Dictionary& dictionary, execution::Progress& progress);
+
+/// TABOP: the figures of tables worked out row by row. Throws std::runtime_error where they are of
+/// different shapes.
+RowTable operated(const language::TableCommand& command, const FindRows& tables,
+                  execution::Progress& progress);
+
+} // namespace kelx::output
