@@ -75,7 +75,7 @@ bool ClauseReader::readDecimals(std::optional<int>& into) {
     return true;
 }
 
-std::optional<int> ClauseReader::readWhole(const std::string& clause, int least, int most) {
+std::optional<int> ClauseReader::readCount(const std::string& clause, int least, int most) {
     const Token& token = cursor_.peek();
     if (token.kind != TokenKind::Number) {
         cursor_.unexpected("the number of " + clause);

@@ -41,7 +41,7 @@ public:
     bool readText(std::optional<std::string>& into, const char* what);
     bool readDecimals(std::optional<int>& into);
     /// A whole number from least to most; nothing where a fault was reported.
-    std::optional<int> readWhole(const std::string& clause, int least, int most);
+    std::optional<int> readCount(const std::string& clause, int least, int most);
 
 private:
     TokenCursor cursor_;

@@ -76,7 +76,7 @@ bool parseSort(ClauseReader& clauses, Position position, ast::Table& table) {
     constexpr std::size_t mostNumbers = 2;
     constexpr int mostRows = 2'000'000'000;
     while (cursor.peek().kind == TokenKind::Number && sort.numbers.size() < mostNumbers) {
-        const std::optional<int> number = clauses.readWhole("SORT", 0, mostRows);
+        const std::optional<int> number = clauses.readCount("SORT", 0, mostRows);
         if (!number)
             return false;
         sort.numbers.push_back(*number);

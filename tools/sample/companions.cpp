@@ -53,6 +53,114 @@ CROSSTABS PROVINCE.CODE BY PERSON.BIRTHPLACE
 FREQ EMIGRANT.DESTINATION BY EMIGRANT.SEX
 )";
 
+const char* const incomeProgram = R"(// What working people earn, and how unequally.
+RUNDEF Income
+    TITLE "Income from work"
+    FILTER PERSON.ACTIVITY = 1
+
+AVERAGE PERSON.INCOME, PERSON.AGE BY PERSON.OCCUPATION
+    DECIMALS 1
+MEDIAN PERSON.INCOME BY PERSON.SEX
+SUM PERSON.INCOME BY PROVINCE.CODE
+    SORT DESC PERSON.INCOME
+MINIMUM PERSON.INCOME BY PERSON.SEX
+MAXIMUM PERSON.INCOME BY PERSON.SEX
+TABLE EARNINGS AS STATS OF PERSON.INCOME BY PERSON.EDUCATION
+    SENSITIVE 5
+QUANTILE 10 OF PERSON.INCOME
+GINI PERSON.INCOME BY PROVINCE.CODE
+    DECIMALS 3
+
+// The same for each province.
+RUNDEF IncomeOfProvinces
+    FILTER PERSON.ACTIVITY = 1
+    AREABREAK PROVINCE
+
+MEDIAN PERSON.INCOME BY PERSON.SEX
+)";
+
+const char* const variablesProgram = R"(// Variables that are made for the run.
+RUNDEF Variables
+    NOWEIGHT
+
+DEFINE PERSON.AGEGROUP AS RECODE PERSON.AGE (0 : 14 = 1) (15 : 64 = 2) (65 : 98 = 3)
+    VARLABEL "Age group"
+    VALUELABELS 1 "Children" 2 "Adults" 3 "Older people"
+DEFINE PERSON.WORKS AS PERSON.ACTIVITY = 1
+    VARLABEL "Works"
+DEFINE PERSON.ROLE AS SWITCH
+    CASE PERSON.RELATION = 1 ASSIGN 1
+    CASE PERSON.RELATION IN (2 : 3) ASSIGN 2
+    ELSE 3
+    VALUELABELS 1 "Head" 2 "Family" 3 "Others"
+DEFINE PERSON.PLACE AS NUMBER HOUSEHOLD
+    VARLABEL "Place in the household"
+DEFINE PERSON.LOT AS SAMPLE RANDOM 10
+DEFINE PERSON.TENTH AS SAMPLE SYSTEMATIC 10
+DEFINE HOUSEHOLD.WORKERS AS COUNT PERSON
+    FILTER PERSON.WORKS
+    VARLABEL "Working members"
+DEFINE HOUSEHOLD.EARNED AS SUM PERSON.INCOME
+DEFINE HOUSEHOLD.OLDEST AS MAXIMUM PERSON.AGE
+DEFINE HOUSEHOLD.YOUNGEST AS MINIMUM PERSON.AGE
+DEFINE HOUSEHOLD.MEANAGE AS AVERAGE PERSON.AGE
+DEFINE HOUSEHOLD.MIDAGE AS MEDIAN PERSON.AGE
+
+FREQ PERSON.AGEGROUP, PERSON.ROLE BY PERSON.SEX
+FREQ PERSON.PLACE, PERSON.LOT, PERSON.TENTH
+CROSSTABS HOUSEHOLD.WORKERS BY HOUSEHOLD.TYPE
+STATS HOUSEHOLD.EARNED, HOUSEHOLD.OLDEST, HOUSEHOLD.YOUNGEST
+AVERAGE HOUSEHOLD.MEANAGE, HOUSEHOLD.MIDAGE BY HOUSEHOLD.TYPE
+)";
+
+const char* const districtsProgram = R"(// The districts side by side.
+RUNDEF Districts
+
+DEFINE DISTRICT.HOUSEHOLDS AS COUNT HOUSEHOLD
+    VARLABEL "Households"
+DEFINE DISTRICT.YOUNG AS RATIO PERSON.AGE (0 : 14)
+    VARLABEL "Share of children"
+DEFINE DISTRICT.LEFT AS FRACTION NUM EMIGRANT.SEX (1 : 2) DENOM PERSON.SEX (1 : 2)
+    VARLABEL "Emigrants for each resident"
+DEFINE DISTRICT.EARNINGS AS INDICATOR NUM PERSON.INCOME DENOM HOUSEHOLD.ROOMS
+    VARLABEL "Income for each room"
+
+TABLE BYSEX AS FREQUENCY PERSON.SEX
+TABLE INCOME AS MEDIAN PERSON.INCOME
+AREALIST DISTRICT, DISTRICT.HOUSEHOLDS, DISTRICT.YOUNG, DISTRICT.LEFT, DISTRICT.EARNINGS, BYSEX, INCOME
+    SORT DESC DISTRICT.HOUSEHOLDS 20
+
+VIEW DISTRICT, DISTRICT.NAME, PROVINCE.NAME
+
+TABLE EVERYBODY AS FREQUENCY PERSON.EDUCATION
+TABLE WOMEN AS FREQUENCY PERSON.EDUCATION
+    FILTER PERSON.SEX = 2
+TABLE SHARE AS TABOP OF WOMEN / EVERYBODY * 100
+    TITLE "Women of 100 persons, by years of schooling"
+    DECIMALS 1
+
+TABLE SCHOOLING AS FREQUENCY PERSON.EDUCATION BY PERSON.SEX
+TABLE AGES AS AVERAGE PERSON.AGE BY PERSON.EDUCATION
+TABLE PROFILE AS TABLIST SCHOOLING, AGES
+)";
+
+const char* const profileProgram =
+    R"(// Called by profiles.spc, with the code of a province and a title.
+RUNDEF Profile
+    SELECTION INLINE PROVINCE "{province}"
+    SELECTIONLABEL {title}
+
+FREQ PERSON.SEX
+    TITLE "{title}: population by sex"
+AVERAGE PERSON.AGE
+    TITLE "{title}: average age"
+)";
+
+const char* const profilesProgram = R"(// The same tables for two provinces.
+EXECUTE "profile.spc" province = {01}, title = {First province}
+EXECUTE "profile.spc" province = {02}, title = {Second province}
+)";
+
 std::string selectionText(const Country& country) {
     const std::string capital = country.provinces.front().code + country.districts.front().code;
     return json{{"label", "The capital, " + country.districts.front().name},
@@ -101,11 +209,11 @@ std::string projectText(const fs::path& folder) {
 
 std::vector<std::pair<std::string, std::string>> sampleCompanions(const Country& country,
                                                                   const fs::path& folder) {
-    return {{"population.spc", populationProgram},
-            {"housing.spc", housingProgram},
-            {"capital.spc", capitalProgram},
-            {"provinces.spc", provincesProgram},
-            {"capital_sel.json", selectionText(country)},
+    return {{"population.spc", populationProgram},   {"housing.spc", housingProgram},
+            {"capital.spc", capitalProgram},         {"provinces.spc", provincesProgram},
+            {"income.spc", incomeProgram},           {"variables.spc", variablesProgram},
+            {"districts.spc", districtsProgram},     {"profile.spc", profileProgram},
+            {"profiles.spc", profilesProgram},       {"capital_sel.json", selectionText(country)},
             {"sample.prj.json", projectText(folder)}};
 }
 

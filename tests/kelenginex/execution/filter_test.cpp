@@ -70,6 +70,17 @@ TEST_F(Filters, selectAreasByCompoundCode) {
     EXPECT_EQ(count("PERSON", "SELECTION PROVINCE.NAME <> \"South\""), 5);
 }
 
+TEST_F(Filters, selectAsTheAssistantWrites) {
+    const std::string men =
+        "\n\tselection\n\t(province == \"01\" or \nprovince == \"03\") and person.sex == 1\n";
+    EXPECT_EQ(count("PERSON", men + "\tdecimals 2\n"), 2);
+    EXPECT_EQ(count("HOUSEHOLD", men), 2); // those in which one of them lives
+    const std::string areas = "\n\tselection\n\tprovince == \"01\" or \nprovince == \"02\"";
+    EXPECT_EQ(count("PERSON", areas + "\tdecimals 2\n"), 6);
+    EXPECT_EQ(count("HOUSEHOLD", areas), 3);
+    EXPECT_EQ(count("PERSON", areas + " or \n\tdecimals 2\n"), 6); // a row without its code
+}
+
 TEST_F(Filters, selectionsOfLowerAreasHoldNothingAbove) {
     EXPECT_EQ(count("PROVINCE", "SELECTION INLINE HOUSEHOLD \"021\""), 0);
 }

@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
              "PERSON.G STRING: RECODE PERSON.GRP ('a':'f' = 'low') ('x':'x' = 'high')\n"},
         Made{"DEFINE PERSON.G AS RECODE AGE (0:14 = AGE) (15:30 = AGE / 2) TYPE REAL DEFAULT 7",
              "PERSON.G REAL: RECODE PERSON.AGE (0:14 = PERSON.AGE) (15:30 = (PERSON.AGE / 2))"
-             " else real 7 default real 7\n"},
+             " default real 7\n"},
         Made{"DEFINE PERSON.G AS RECODE AGE (-5:14 = 1) ELSE 0 TYPE BOOL",
              "PERSON.G BOOLEAN: RECODE PERSON.AGE (-5:14 = TRUE) else FALSE\n"},
         Made{"DEFINE PERSON.G AS RECODE WORKS (1 = TRUE) ELSE FALSE",
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
         Made{"DEFINE PERSON.S AS SWITCH CASE AGE > 60 ASSIGN 2 CASE WORKS ASSIGN 1 ELSE ROOMS",
              "PERSON.S INTEGER: SWITCH((PERSON.AGE > 60), 2, PERSON.WORKS, 1, HOUSEHOLD.ROOMS)\n"},
         Made{"DEFINE PERSON.S AS SWITCH CASE AGE > 60 ASSIGN \"old\" DEFAULT \"none\"",
-             "PERSON.S STRING: SWITCH((PERSON.AGE > 60), 'old', 'none') default 'none'\n"},
+             "PERSON.S STRING: SWITCH((PERSON.AGE > 60), 'old') default 'none'\n"},
         Made{"DEFINE PERSON.N AS NUMBER HOUSEHOLD", "PERSON.N INTEGER: NUMBER HOUSEHOLD\n"},
         Made{"DEFINE PERSON.N AS SAMPLE RANDOM 100", "PERSON.N INTEGER: RANDOM(100)\n"},
         Made{"DEFINE PERSON.N AS SAMPLE SYSTEMATIC 10", "PERSON.N BOOLEAN: SYSTEMATIC(10)\n"},
@@ -135,6 +135,17 @@ TEST(DefinedNames, HoldFromThereOn) {
     for (const TableCommand& table : program.tables)
         read.push_back(table.dimensions[0]->variable);
     EXPECT_EQ(read, expected);
+}
+
+TEST(DefinedNames, HoldAfterACalledProgram) {
+    Census census;
+    census.write("sub/ages.spc", "DEFINE PERSON.OLD AS PERSON.AGE > {limit} SAVE \"old.kbf\"");
+    const BoundProgram program =
+        census.compile("EXECUTE \"sub/ages.spc\" limit = {64}\nRUNDEF NOWEIGHT FREQ OLD");
+    EXPECT_EQ(told(census.messages), "");
+    EXPECT_EQ(definitions(program), "PERSON.OLD BOOLEAN: (PERSON.AGE > 64)\n");
+    EXPECT_EQ(summary(program), "FREQ_1 PERSON: PERSON.OLD\n");
+    EXPECT_EQ(program.definitions[0].save->fileName, "sub/old.kbf");
 }
 
 TEST(DefinedNames, AreFoundAndSuggested) {
@@ -298,6 +309,12 @@ TEST(DefinedVariables, AreUsedWhereATableReachesThem) {
     EXPECT_EQ(used("RUNDEF SELECTION A > 3 FREQ SEX2"), "A");
     EXPECT_EQ(used("RUNDEF WEIGHT A FREQ SEX2"), "A");
     EXPECT_EQ(used("RUNDEF FILTER A > 3"), "");
+    EXPECT_EQ(used("AVERAGE A BY SEX2"), "A");
+    EXPECT_EQ(used("VIEW PERSON, D"), "D");
+    EXPECT_EQ(used("AREALIST DISTRICT, DISTRICT.E"), "DE");
+    EXPECT_EQ(used("TABLE T FREQ PERSON.B\nAREALIST DISTRICT, T SORT T"), "AB");
+    EXPECT_EQ(used("TABLE T FREQ PERSON.B TABLE U FREQ PERSON.B FILTER D = 1 TABOP T / U"), "ABD");
+    EXPECT_EQ(used("QUANTILE HOUSEHOLD.C"), "ABC");
     EXPECT_EQ(used("RUNDEF FILTER D > 3\nDEFINE DISTRICT.X AS COUNT PERSON RUNDEF FREQ X"), "DX");
 }
 

@@ -86,8 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
             "RUNDEF \nNOWEIGHT \nFILTER DISTRICT.POP-2020 > 3\nSELECTION PROVINCE == \"01\"\n\n"
             "DEFINE DISTRICT.Count_PERSON as count PERSON\nvarlabel \"PERSON - People\"\n"
             "DEFINE DISTRICT.Count_HOUSEHOLD as count HOUSEHOLD\nvarlabel \"HOUSEHOLD\"\n"
-            "FREQ DISTRICT.Count_PERSON, DISTRICT.Count_HOUSEHOLD FILTER "
-            "DISTRICT.Count_PERSON > 1\nTITLE \"Count of\"\n",
+            "AREALIST  DISTRICT, DISTRICT.Count_PERSON, DISTRICT.Count_HOUSEHOLD\nSORT DESC "
+            "DISTRICT.Count_PERSON 0 \n\nTITLE \"Count of\"\n",
             "DISTRICT.Count_PERSON INTEGER: COUNT PERSON filter (DISTRICT.POP-2020 > 3)"
             " filter (code PROVINCE = '01')\n"
             "DISTRICT.Count_HOUSEHOLD INTEGER: COUNT HOUSEHOLD"
