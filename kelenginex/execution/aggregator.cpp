@@ -120,13 +120,12 @@ const std::uint32_t* Aggregator::offsetsOf(const AggregatePiece& piece) {
     return offsets_.data();
 }
 
-Aggregator::Bytes Aggregator::countBytes(const AggregatePiece& piece, std::uint8_t most,
-                                         std::uint8_t* out, const GoOn& goOn) {
+Aggregator::Bytes Aggregator::countBytes(const AggregatePiece& piece, std::uint8_t* out,
+                                         const GoOn& goOn) {
     const std::size_t step = std::min(stepRecords_, mostCounted);
     const std::uint32_t* offsets = offsetsOf(piece);
     std::uint64_t below = piece.below.begin;
-    std::uint64_t found = 0;
-    for (std::size_t group = 0; group < piece.groups && found <= most;) {
+    for (std::size_t group = 0; group < piece.groups;) {
         const auto within = [&](std::size_t limit, std::uint32_t offset) {
             return limit < static_cast<std::uint32_t>(offset - offsets[group]);
         };
@@ -140,16 +139,14 @@ Aggregator::Bytes Aggregator::countBytes(const AggregatePiece& piece, std::uint8
             std::fill(out + group, out + end, std::uint8_t{0});
         } else {
             frames_.move(below, count);
-            found = std::max(
-                found, kernels().countRuns(findMask(), offsets + group, end - group, out + group));
+            if (!kernels().countRuns(findMask(), offsets + group, end - group, out + group))
+                return Bytes::Refused;
         }
         below += count;
         group = end;
         if (!goOn())
             return Bytes::Ended;
     }
-    if (found > most)
-        return Bytes::Refused;
     progress_.add(piece.below.end - piece.below.begin);
     return Bytes::Written;
 }

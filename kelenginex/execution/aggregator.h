@@ -25,9 +25,8 @@ public:
 
     enum class Bytes { Written, Refused, Ended };
     /// Counts the records of a whole block's groups straight into bytes; refused where that cannot
-    /// be done, or where a count is above most. Only for counts without weight.
-    Bytes countBytes(const AggregatePiece& piece, std::uint8_t most, std::uint8_t* out,
-                     const GoOn& goOn);
+    /// be done, or where a count is above mostInRun. Only for counts without weight.
+    Bytes countBytes(const AggregatePiece& piece, std::uint8_t* out, const GoOn& goOn);
     bool countsPlainly() const;
 
 private:

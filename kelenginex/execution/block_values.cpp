@@ -175,11 +175,15 @@ void ValueRule::addStates(const Vector& values, std::size_t count, BlockValues& 
     to.states.resize(begin + count, state::valid);
     if (values.allValid)
         return;
+    const std::size_t step = values.constant ? 0 : 1;
+    std::uint8_t* out = to.states.data() + begin;
+    std::uint8_t any = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        const std::uint8_t one = values.stateAt(i);
-        to.states[begin + i] = state::combined(one, one);
-        to.allValid = to.allValid && one == state::valid;
+        const std::uint8_t one = values.states[i * step];
+        out[i] = state::combined(one, one);
+        any |= one;
     }
+    to.allValid = to.allValid && any == state::valid;
 }
 
 void ValueRule::addIntegers(const Vector& values, std::size_t count, BlockValues& to) {
@@ -227,7 +231,10 @@ void ValueRule::addReals(const Vector& values, std::size_t count, BlockValues& t
     const double* in =
         values.type == ValueType::String ? parsed(values, count, parsed_) : view_.reals(values);
     convertAll(values, in, count, out, [](double v) { return v; });
-    for (std::size_t i = 0; i < count; ++i) {
+    bool finite = true;
+    for (std::size_t i = 0; i < count; ++i)
+        finite &= out[i] - out[i] == 0;
+    for (std::size_t i = 0; i < count && !finite; ++i) {
         if (!std::isfinite(out[i]))
             markMissing(to, begin + i);
     }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "execution/block_values.h"
+#include "execution/kernels.h"
 #include "storage/memory_column.h"
 
 #include <cstddef>
@@ -33,7 +34,7 @@ public:
     /// has none. Either putBytes() or put() follows.
     virtual std::uint8_t* bytes(std::size_t /*block*/) { return nullptr; }
     virtual void putBytes(std::size_t /*block*/) {}
-    static constexpr std::uint8_t mostByte = 253;
+    static constexpr std::uint8_t mostByte = mostInRun;
 
     /// Called once, after all blocks were put. True where join() must be called for each block.
     virtual bool settle() = 0;

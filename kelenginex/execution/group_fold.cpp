@@ -112,6 +112,25 @@ struct WholeAverage {
     }
 };
 
+struct PlainAverage {
+    using Result = double;
+    Sum sum;
+    std::int64_t records = 0;
+    void add(double value, double) {
+        sum.add(value);
+        ++records;
+    }
+    void join(const PlainAverage& later) {
+        sum.add(later.sum);
+        records += later.records;
+    }
+    std::optional<Result> result() const {
+        if (records == 0)
+            return std::nullopt;
+        return sum.value() / static_cast<double>(records);
+    }
+};
+
 struct RealAverage {
     using Result = double;
     Sum sum, weights;
@@ -227,8 +246,10 @@ std::unique_ptr<GroupFold> makeFold(const FoldKind& kind, std::size_t groups) {
     case Kind::Sum:
         return makeSum(kind, groups);
     case Kind::Average:
-        if (kind.weighted || kind.values == ValueType::Real)
+        if (kind.weighted)
             return ofValues<RealAverageFold>(kind, groups);
+        if (kind.values == ValueType::Real)
+            return std::make_unique<StateFold<PlainAverage, double>>(groups);
         return std::make_unique<StateFold<WholeAverage, std::int64_t>>(groups);
     case Kind::Minimum:
         return ofValues<MinimumFold>(kind, groups);

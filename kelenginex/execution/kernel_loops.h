@@ -343,56 +343,48 @@ void packBits(const Byte* mask, std::size_t count, Byte* bits) {
         bits[i / 8] = (Byte)(bits[i / 8] | (mask[i] & 1U) << (i % 8));
 }
 
-std::uint64_t countBits(const Byte* bits, std::size_t begin, std::size_t end) {
-    constexpr std::size_t most = 56; // what eight bytes hold from any bit of the first on
-    std::uint64_t count = 0;
-    for (; begin < end; begin += most) {
-        const std::size_t length = end - begin < most ? end - begin : most;
-        std::uint64_t eight;
-        __builtin_memcpy(&eight, bits + begin / 8, 8);
-        eight = eight >> (begin % 8) & (((std::uint64_t)1 << length) - 1);
-        count += (std::uint64_t)__builtin_popcountll(eight);
-    }
-    return count;
+/// What eight bytes hold of a run that begins at any bit of the first.
+constexpr std::size_t mostAtOnce = 56;
+std::uint64_t countBits(const Byte* bits, std::size_t begin, std::size_t length) {
+    std::uint64_t eight;
+    __builtin_memcpy(&eight, bits + begin / 8, 8);
+    eight = eight >> (begin % 8) & (((std::uint64_t)1 << length) - 1);
+    return (std::uint64_t)__builtin_popcountll(eight);
 }
 
-/// A run that is longer than the bits.
-std::uint64_t countLong(const Byte* mask, std::size_t length) {
+/// Runs that are too long for that.
+Byte countLong(const Byte* mask, std::size_t length, bool& fits) {
     std::uint64_t count = 0;
     for (std::size_t i = 0; i < length; ++i)
         count += mask[i] & 1U;
-    return count;
+    fits = fits && count <= mostInRun;
+    return (Byte)count;
 }
 
-std::uint64_t countRuns(const Byte* mask, const std::uint32_t* offsets, std::size_t runs,
-                        Byte* out) {
+bool countRuns(const Byte* mask, const std::uint32_t* offsets, std::size_t runs, Byte* out) {
     Byte bits[mostBits / 8 + 16];
-    const std::size_t first = offsets[0];
-    const std::size_t all = offsets[runs] - first;
-    std::uint64_t most = 0;
+    bool fits = true;
     std::size_t run = 0;
     while (run < runs) {
-        const std::size_t begin = offsets[run] - first;
-        const std::size_t held = all - begin < mostBits ? all - begin : mostBits;
-        packBits(mask + begin, held, bits);
-        const std::size_t start = run;
-        std::size_t from = 0;
+        const std::uint32_t first = offsets[run];
+        const Byte* part = mask + (offsets[run] - offsets[0]);
+        const std::size_t all = offsets[runs] - first;
+        const std::size_t held = all < mostBits ? all : mostBits;
+        packBits(part, held, bits);
+        std::size_t begin = 0;
         for (; run < runs; ++run) {
-            const std::size_t to = offsets[run + 1] - first - begin;
-            if (to > held)
+            const std::size_t end = offsets[run + 1] - first;
+            const std::size_t length = end - begin;
+            if (length > mostAtOnce)
+                out[run] = countLong(part + begin, length, fits);
+            else if (end <= held)
+                out[run] = (Byte)countBits(bits, begin, length);
+            else
                 break;
-            const std::uint64_t count = countBits(bits, from, to);
-            most = count > most ? count : most;
-            out[run] = (Byte)(count < 255 ? count : 255);
-            from = to;
-        }
-        if (run == start) {
-            const std::uint64_t count = countLong(mask + begin, offsets[run + 1] - offsets[run]);
-            most = count > most ? count : most;
-            out[run++] = (Byte)(count < 255 ? count : 255);
+            begin = end;
         }
     }
-    return most;
+    return fits;
 }
 
 template <bool Add, bool Times, class Code, class Index>

@@ -13,6 +13,9 @@ namespace kelx::execution {
 /// Bytes that may be written past the end of a buffer that expand() fills.
 constexpr std::size_t expandSlack = 64;
 
+/// What countRuns() counts to.
+constexpr std::uint8_t mostInRun = 253;
+
 /// Sums that a cell of a small table has.
 constexpr std::size_t sumLanes = 4;
 
@@ -82,9 +85,9 @@ struct Kernels {
     void (*expandReal)(const double* values, const std::uint32_t* ends, std::size_t runs,
                        double* out);
     /// out[i] = number of set bytes of the mask (0 or 0xff) from offsets[i] to offsets[i + 1],
-    /// where the mask begins at offsets[0]; 0xff for more than 254. Tells the most in a run.
-    std::uint64_t (*countRuns)(const std::uint8_t* mask, const std::uint32_t* offsets,
-                               std::size_t runs, std::uint8_t* out);
+    /// where the mask begins at offsets[0]. False where one is above mostInRun.
+    bool (*countRuns)(const std::uint8_t* mask, const std::uint32_t* offsets, std::size_t runs,
+                      std::uint8_t* out);
     /// The bin of each value; never descending with ascending values.
     void (*binReals)(const double* values, std::size_t count, const BinScale& scale,
                      std::uint16_t* bins);

@@ -189,8 +189,7 @@ public:
 private:
     Aggregator::Bytes countBytes(const AggregatePiece& piece, const GoOn& goOn) {
         ColumnBuilder& builder = shared_.making().builder;
-        const auto done = aggregators_[0]->countBytes(piece, ColumnBuilder::mostByte,
-                                                      builder.bytes(piece.block), goOn);
+        const auto done = aggregators_[0]->countBytes(piece, builder.bytes(piece.block), goOn);
         if (done == Aggregator::Bytes::Written)
             builder.putBytes(piece.block);
         return done;

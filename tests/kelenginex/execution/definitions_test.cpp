@@ -1,4 +1,4 @@
-// SPDX-License-Identifier: Apache-2.0
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Variables made by expressions, RECODE, SWITCH, NUMBER and SAMPLE. Expected values by hand.
 #include "define_fixture.h"
 

@@ -1,4 +1,4 @@
-// SPDX-License-Identifier: Apache-2.0
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SAVE: what is written, what comes back from the files, and what is left when it cannot be.
 #include "define_fixture.h"
 

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/staged_files.h"
+#include "storage_fixture.h"
+
+#include <fstream>
+#include <sys/stat.h>
+
+namespace kelx::testing {
+
+using StagedFilesTest = StorageTest;
+using ::testing::UnorderedElementsAre;
+
+namespace {
+
+void write(const std::filesystem::path& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+std::string read(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+} // namespace
+
+TEST_F(StagedFilesTest, AppearTogether) {
+    write(path("a"), "old a");
+    ::chmod(path("a").c_str(), 0640);
+    {
+        StagedFiles files;
+        write(files.stage(path("a")), "new a");
+        write(files.stage(path("b")), "new b");
+        EXPECT_EQ(read(path("a")), "old a");
+        EXPECT_FALSE(std::filesystem::exists(path("b")));
+        files.publish();
+    }
+    EXPECT_EQ(read(path("a")), "new a");
+    EXPECT_EQ(read(path("b")), "new b");
+    struct stat mode {};
+    ::stat(path("a").c_str(), &mode);
+    EXPECT_EQ(mode.st_mode & 0777, 0640u);
+    EXPECT_THAT(names(), UnorderedElementsAre("a", "b"));
+}
+
+TEST_F(StagedFilesTest, GoAwayUnpublished) {
+    write(path("a"), "old");
+    {
+        StagedFiles files;
+        write(files.stage(path("a")), "new");
+        write(files.stage(path("b")), "new");
+    }
+    EXPECT_EQ(read(path("a")), "old");
+    EXPECT_THAT(names(), UnorderedElementsAre("a"));
+}
+
+TEST_F(StagedFilesTest, OneThatCannotHaveItsNameGivesTheOthersBack) {
+    write(path("a"), "old a");
+    {
+        StagedFiles files;
+        write(files.stage(path("a")), "new a");
+        write(files.stage(path("b")), "new b");
+        write(files.stage(path("c")), "new c");
+        std::filesystem::create_directories(path("c") / "inside");
+        EXPECT_THROW(files.publish(), FileError);
+        EXPECT_EQ(read(path("a")), "old a");
+        EXPECT_FALSE(std::filesystem::exists(path("b")));
+    }
+    EXPECT_EQ(read(path("a")), "old a");
+    EXPECT_THAT(names(), UnorderedElementsAre("a", "c"));
+}
+
+TEST_F(StagedFilesTest, ALinkIsFollowed) {
+    write(path("real"), "old");
+    std::filesystem::create_symlink(path("real"), path("link"));
+    StagedFiles files;
+    write(files.stage(path("link")), "new");
+    files.publish();
+    EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
+    EXPECT_EQ(read(path("real")), "new");
+}
+
+} // namespace kelx::testing
