@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The engine beside the limit: eight questions, each answered by both in turn.
 //   limit DICTIONARY [--rounds N] [--only QUESTION] [--print]
+//   limit --programs
 #include "catalog/reader.h"
 #include "limit.h"
 
@@ -21,8 +22,9 @@ using namespace kelx::bench;
 struct Options {
     std::string dictionary;
     int rounds = 30;
-    std::size_t only = 0; ///< question, from 1; 0: all
-    bool print = false;   ///< the kernels' answers instead of times
+    std::size_t only = 0;  ///< question, from 1; 0: all
+    bool print = false;    ///< the kernels' answers instead of times
+    bool programs = false; ///< the questions themselves
 };
 
 template <class Number>
@@ -36,6 +38,8 @@ std::optional<Options> read(int argc, char** argv) {
         const std::string argument = argv[i];
         if (argument == "--print") {
             options.print = true;
+        } else if (argument == "--programs") {
+            options.programs = true;
         } else if (argument == "--rounds" && i + 1 < argc) {
             readNumber(argv[++i], options.rounds);
         } else if (argument == "--only" && i + 1 < argc) {
@@ -44,7 +48,7 @@ std::optional<Options> read(int argc, char** argv) {
             options.dictionary = argument;
         }
     }
-    if (options.dictionary.empty() || options.rounds < 1)
+    if ((options.dictionary.empty() && !options.programs) || options.rounds < 1)
         return std::nullopt;
     return options;
 }
@@ -135,10 +139,16 @@ void printAnswers(const Census& census) {
 int main(int argc, char** argv) {
     const auto options = read(argc, argv);
     if (!options) {
-        std::fputs("limit DICTIONARY [--rounds N] [--only QUESTION] [--print]\n", stderr);
+        std::fputs("limit DICTIONARY [--rounds N] [--only QUESTION] [--print]\nlimit --programs\n",
+                   stderr);
         return 2;
     }
     try {
+        if (options->programs) {
+            for (const Question& question : questions())
+                std::printf("RUNDEF bench NOWEIGHT\n%s\n\n", question.program);
+            return 0;
+        }
         if (__builtin_cpu_supports("avx2") == 0 || __builtin_cpu_supports("bmi2") == 0)
             throw std::runtime_error("the kernels need a processor with AVX2 and BMI2");
         const auto dictionary = catalog::readDictionary(options->dictionary, {});

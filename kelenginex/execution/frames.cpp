@@ -41,8 +41,9 @@ Frame Frames::frame(const Entity& entity) {
     Link& to = link(entity, *base_);
     if (to.frameSerial != serial_) {
         to.frameSerial = serial_;
-        to.frame.begin = to.path.above(frame_.begin);
-        const std::uint64_t last = to.path.above(frame_.begin + frame_.count - 1);
+        const std::uint64_t before = to.frame.begin + std::max<std::size_t>(to.frame.count, 1) - 1;
+        to.frame.begin = to.path.above(frame_.begin, before);
+        const std::uint64_t last = to.path.above(frame_.begin + frame_.count - 1, to.frame.begin);
         to.frame.count = static_cast<std::size_t>(last - to.frame.begin + 1);
     }
     return to.frame;

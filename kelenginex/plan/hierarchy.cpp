@@ -34,6 +34,17 @@ std::uint64_t DescentPath::above(std::uint64_t record) const {
     return record;
 }
 
+std::uint64_t DescentPath::above(std::uint64_t record, std::uint64_t guess) const {
+    if (files_.empty())
+        return record;
+    const std::uint64_t end = files_.front()->parents();
+    for (std::uint64_t upper = guess; upper < end && upper < guess + 2; ++upper) {
+        if (first(upper) <= record && record < first(upper + 1))
+            return upper;
+    }
+    return above(record);
+}
+
 RecordRanges DescentPath::descend(const RecordRanges& ranges) const {
     RecordRanges result;
     result.reserve(ranges.size());

@@ -33,6 +33,8 @@ public:
     std::uint64_t first(std::uint64_t record) const;
     /// The record above a record.
     std::uint64_t above(std::uint64_t record) const;
+    /// The same, sooner found where it is the guess or the next one.
+    std::uint64_t above(std::uint64_t record, std::uint64_t guess) const;
     RecordRanges descend(const RecordRanges& ranges) const;
     std::size_t length() const { return files_.size(); }
     /// The pointer file of a path of length 1.

@@ -66,7 +66,7 @@ public:
     template <class Number>
     Number get() {
         static_assert(std::is_arithmetic_v<Number>);
-        Number number;
+        Number number{};
         const std::string_view bytes = take(sizeof number);
         bytes.copy(reinterpret_cast<char*>(&number), sizeof number);
         return number;
