@@ -149,12 +149,13 @@ TEST_F(FlatCsvTest, CountsWhatItTolerates) {
                              "1,3,2,99\n" // the same person again
                              "2,5,1\n"    // too short
                              "2,5,,40\n"  // an age of nobody
+                             "2,5,3,41\n"
                              "3,1,1,7\n"
                              "1,6,9,8\n"); // the first house again
-    EXPECT_THAT(values(*db, "HOUSE", "H"), ElementsAre("1", "3", "1"));
-    EXPECT_THAT(values(*db, "HOUSE", "ROOMS"), ElementsAre("3", "1", "6"));
-    EXPECT_THAT(values(*db, "PERSON", "AGE"), ElementsAre("30", "31", "7", "8"));
-    EXPECT_THAT(children(*db, "PERSON"), ElementsAre(2, 1, 1));
+    EXPECT_THAT(values(*db, "HOUSE", "H"), ElementsAre("1", "2", "3", "1"));
+    EXPECT_THAT(values(*db, "HOUSE", "ROOMS"), ElementsAre("3", "5", "1", "6"));
+    EXPECT_THAT(values(*db, "PERSON", "AGE"), ElementsAre("30", "31", "41", "7", "8"));
+    EXPECT_THAT(children(*db, "PERSON"), ElementsAre(2, 1, 1, 1));
     EXPECT_EQ(report.levels[0].duplicates, 1u);
     EXPECT_EQ(report.levels[0].variables[1].conflicts, 1u);
     EXPECT_EQ(report.levels[1].duplicates, 2u);
@@ -168,7 +169,7 @@ TEST_F(FlatCsvTest, CountsWhatItTolerates) {
                            "flat.csv:4:5: error: a second row for the same record of PERSON",
                            testing::StartsWith("flat.csv:5:6: error: expected 4 fields"),
                            "flat.csv:6:5: error: the key of PERSON is blank",
-                           testing::StartsWith("flat.csv:8:1: error: the key \"1\" of HOUSE")));
+                           testing::StartsWith("flat.csv:9:1: error: the key \"1\" of HOUSE")));
 }
 
 TEST_F(FlatCsvTest, RefusesWishesThatCannotBe) {

@@ -103,6 +103,31 @@ TEST_F(FlatTextTest, RefusesWithThePlace) {
     EXPECT_EQ(report.faults, 3u);
 }
 
+// What follows a line that is left out must not go under the record before it.
+TEST_F(FlatTextTest, LinesUnderALostRecordAreOrphans) {
+    typedLayout();
+    request.tolerant = true;
+    const auto db = importText("H01001\n"
+                               "P30\n"
+                               "H01\n" // no number
+                               "P31\n"
+                               "E2001\n"
+                               "H01002\n"
+                               "P32\n"
+                               "H01001 again\n" // a double number stays, with its persons
+                               "P33\n"
+                               "H  003\n" // no district
+                               "P34\n");
+    EXPECT_THAT(values(*db, "HOUSEHOLD", "NUMBER"), ElementsAre("1", "2", "1"));
+    EXPECT_THAT(values(*db, "PERSON", "AGE"), ElementsAre("30", "32", "33"));
+    EXPECT_THAT(children(*db, "PERSON"), ElementsAre(1, 1, 1));
+    EXPECT_EQ(db->findEntity("EMIGRANT")->records(), 0u);
+    EXPECT_EQ(report.levels[0].duplicates, 2u);
+    EXPECT_EQ(report.levels[1].duplicates, 1u);
+    EXPECT_EQ(report.levels[2].orphans, 2u);
+    EXPECT_EQ(report.levels[3].orphans, 1u);
+}
+
 // Without record types every line is a record of the lowest level; fields without a start follow
 // each other by their numbers, and types that are not given are found.
 TEST_F(FlatTextTest, ReadsLinesThatAreAllAlike) {
