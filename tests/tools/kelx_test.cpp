@@ -281,6 +281,31 @@ TEST_F(KelxTest, ImportsAndConverts) {
     EXPECT_TRUE(TemporaryFolder::contents(folder->path() / "bad").empty());
 }
 
+TEST_F(KelxTest, ImportsAFlatFile) {
+    folder->write("flat.csv", "house,age\n1,30\n1,x1\n2\n2,7\n");
+    const std::string import =
+        "import @/flat/db.kxdb --flat @/flat.csv --levels House:house,Person";
+    const Outcome refused = kelx(import);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, path("flat.csv") + ":4:2: error: expected 2 fields, found 1\n");
+    EXPECT_FALSE(std::filesystem::exists(folder->path() / "flat"));
+    const Outcome tolerant = kelx(import + " --tolerant");
+    EXPECT_EQ(tolerant.status, 0);
+    EXPECT_EQ(tolerant.err, refused.err);
+    EXPECT_EQ(tolerant.out, "HOUSE: 2 records\n"
+                            "PERSON: 3 records, 1 rows that cannot be read left out\n");
+    EXPECT_EQ(kelx("check @/flat/db.kxdb").status, 0);
+    const json info = json::parse(kelx("info @/flat/db.kxdb --json").out);
+    EXPECT_EQ(info["entities"][2]["records"], 3);
+
+    folder->write("bad.sav", "no such file");
+    const Outcome bad = kelx("import @/bad/db.kxdb --flat @/bad.sav");
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_THAT(bad.err, HasSubstr("bad.sav: cannot be read: the reader says: "));
+    EXPECT_EQ(kelx(import + " --level A=@/a.csv").status, 2);
+    EXPECT_EQ(kelx("import @/x.kxdb --levels A").status, 2);
+}
+
 TEST_F(KelxTest, ConvertsTheDictionary) {
     EXPECT_EQ(kelx("convert @/sample/sample.kxdb @/sample/copy.dicx").status, 0);
     EXPECT_THAT(kelx("info @/sample/copy.dicx").out, HasSubstr("PERSON: 3000 records"));
@@ -298,9 +323,12 @@ TEST_F(KelxTest, ReportsAsJson) {
     ASSERT_EQ(import.status, 0) << import.err;
     EXPECT_EQ(import.err, "");
     json expected = json::parse(R"({"levels": [{"name": "A", "records": 3, "sorted": false,
-        "variables": [
-            {"name": "K", "type": "integer", "blanks": 0, "coded": false, "withoutLabel": 0},
-            {"name": "S", "type": "integer", "blanks": 1, "coded": true, "withoutLabel": 1}]}]})");
+        "orphans": 0, "duplicates": 0, "faultyRows": 0, "variables": [
+            {"name": "K", "type": "integer", "blanks": 0, "coded": false, "outside": 0,
+             "faulty": 0, "conflicts": 0},
+            {"name": "S", "type": "integer", "blanks": 1, "coded": true, "outside": 1,
+             "faulty": 0, "conflicts": 0}]}],
+        "notes": [], "faults": 0, "firstFaults": []})");
     expected["database"] = path("told/told.KXDB");
     EXPECT_EQ(json::parse(import.out), expected);
 

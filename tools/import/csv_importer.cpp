@@ -15,7 +15,6 @@ namespace kelx::tools {
 
 namespace {
 
-using storage::ValueType;
 namespace fs = std::filesystem;
 
 constexpr std::size_t none = std::numeric_limits<std::size_t>::max();

@@ -211,14 +211,15 @@ private:
     }
 
     void checkShape(const std::vector<std::size_t>& shape) const {
-        for (std::size_t i = 0; i < shape.size(); ++i) {
+        for (std::size_t i = 1; i < shape.size(); ++i) {
+            const FlatLevel& above = layout_.plan.levels[shape[i - 1]];
             const FlatLevel& level = layout_.plan.levels[shape[i]];
-            if (i > 0 && level.parent != shape[i - 1])
-                fail(level.plan.name + " and " + layout_.plan.levels[shape[i - 1]].plan.name +
+            if (level.parent != shape[i - 1])
+                fail(level.plan.name + " and " + above.plan.name +
                      " stand in the same lines, so one must lie under the other");
-            if (i + 1 < shape.size() && !level.key)
-                fail(level.plan.name + " needs a code variable (refCode) in the text, since " +
-                     layout_.plan.levels[shape[i + 1]].plan.name + " stands in the same lines");
+            if (!above.key)
+                fail(above.plan.name + " needs a code variable (refCode) in the text, since " +
+                     level.plan.name + " stands in the same lines");
         }
     }
 

@@ -3,6 +3,8 @@
 
 #include "import/values.h"
 
+#include <algorithm>
+#include <map>
 #include <set>
 
 namespace kelx::tools {
@@ -33,11 +35,13 @@ std::string shownText(const SourceValue& value) {
 std::vector<std::string> makeNames(std::vector<SourceField>& fields) {
     std::vector<std::string> notes;
     std::set<std::string> taken;
+    std::map<std::string, int> lastNumber;
     for (SourceField& field : fields) {
         const std::string usable = usableName(field.name);
         field.plan.name = usable;
-        for (int n = 2; !taken.insert(field.plan.name).second; ++n)
-            field.plan.name = usable + "_" + std::to_string(n);
+        while (!taken.insert(field.plan.name).second)
+            field.plan.name =
+                usable + "_" + std::to_string(++lastNumber.try_emplace(usable, 1).first->second);
         if (field.plan.name != upperCase(field.name))
             notes.push_back(inQuotes(field.name) + " is named " + field.plan.name);
     }

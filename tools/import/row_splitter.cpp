@@ -14,12 +14,14 @@ RowSplitter::RowSplitter(RowSource& source, const FlatPlan& plan, Faults& faults
 bool RowSplitter::refuse(std::uint64_t& counter, std::size_t field, const std::string& text) {
     faults_.meet(source_.faultAt(field, text));
     ++counter;
+    wasRefused_ = true;
     return false;
 }
 
 bool RowSplitter::next() {
     while (source_.next()) {
         ++rowsRead_;
+        wasRefused_ = false;
         const std::string fault = source_.rowFault();
         if (!fault.empty())
             refuse(faultyRows_, source_.fields().size(), fault);
@@ -31,20 +33,33 @@ bool RowSplitter::next() {
 
 bool RowSplitter::split() {
     const std::vector<std::size_t>& chain = levels();
+    firstNew_ = chain.size();
+    depth_ = 0;
     const std::size_t above = plan_.levels[chain[0]].parent;
-    if (above != noLevel && !states_[above].open)
+    if (above != noLevel && !states_[above].current) {
+        markCurrent();
         return refuse(states_[chain[0]].orphans, 0,
                       "a record of " + plan_.levels[chain[0]].plan.name + " before any of " +
                           plan_.levels[above].plan.name + ", under which it would lie");
-    firstNew_ = depth_ = chain.size();
+    }
+    depth_ = chain.size();
     for (std::size_t place = 0; place < depth_; ++place)
         if (!splitLevel(place))
-            return false;
-    if (firstNew_ < depth_)
-        return true;
+            depth_ = place; // what has begun above stays, or the rows that follow would go astray
+    markCurrent();
+    if (depth_ == 0 || firstNew_ < depth_)
+        return depth_ > 0;
     const std::size_t lowest = chain[depth_ - 1];
+    if (wasRefused_)
+        return false;
     return refuse(states_[lowest].duplicates, plan_.levels[lowest].key.value_or(0),
                   "a second row for the same record of " + plan_.levels[lowest].plan.name);
+}
+
+/// Rows of other kinds lie under this one's records, and under none of the levels that it misses.
+void RowSplitter::markCurrent() {
+    for (std::size_t place = 0; place < levels().size(); ++place)
+        states_[levels()[place]].current = place < depth_;
 }
 
 bool RowSplitter::splitLevel(std::size_t place) {
@@ -104,7 +119,7 @@ bool RowSplitter::begin(std::size_t place, const std::string& key) {
     const FlatLevel& level = plan_.levels[number];
     State& state = states_[number];
     if (level.key && !state.keysOfParent.insert(key).second) {
-        const bool isLast = place + 1 == levels().size();
+        const bool isLast = level.below.empty();
         refuse(state.duplicates, *level.key,
                "the key " + inQuotes(key) + " of " + level.plan.name + " was there before" +
                    (level.parent == noLevel ? "" : " under the same record above") +
@@ -121,7 +136,7 @@ bool RowSplitter::begin(std::size_t place, const std::string& key) {
 }
 
 void RowSplitter::close(std::size_t level) {
-    states_[level].open = false;
+    states_[level].open = states_[level].current = false;
     states_[level].keysOfParent.clear();
 }
 

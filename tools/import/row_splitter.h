@@ -35,12 +35,14 @@ public:
 private:
     struct State {
         bool open = false;
+        bool current = false; ///< rows of other kinds may lie under it
         std::string key;
         std::unordered_set<std::string> keysOfParent;
         std::uint64_t orphans = 0, duplicates = 0;
     };
 
     bool split();
+    void markCurrent();
     bool splitLevel(std::size_t place);
     void readKey(const SourceValue& key, bool isInteger);
     bool keyIsBlank(std::size_t place);
@@ -54,6 +56,7 @@ private:
     Faults& faults_;
     std::vector<State> states_;
     bool levelsKnown_;
+    bool wasRefused_ = false;
     std::size_t firstNew_ = 0, depth_ = 0;
     std::uint64_t faultyRows_ = 0, rowsRead_ = 0;
     std::string keyText_;

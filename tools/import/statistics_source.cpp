@@ -15,7 +15,8 @@ namespace {
 using storage::ValueType;
 namespace fs = std::filesystem;
 
-constexpr std::size_t mostLabels = 10'000'000;
+constexpr std::size_t mostLabels = 2'000'000; ///< of the file, and again of all variables
+constexpr std::size_t mostDescription = std::size_t{256} << 20;
 constexpr std::size_t mostMissingRanges = 32;
 constexpr std::uint64_t bytesPerCpuSecond = 1u << 20;
 
@@ -87,6 +88,9 @@ void StatisticsSource::readFrame() {
 
 void StatisticsSource::takeFrame() {
     PayloadReader payload(frame_.payload);
+    if (frame_.kind != FrameKind::Rows &&
+        (descriptionBytes_ += frame_.payload.size()) > mostDescription)
+        throw StreamFault("more names and labels than any file has");
     switch (frame_.kind) {
     case FrameKind::Size:
         expectedRows_ = payload.get<std::int64_t>();
@@ -280,6 +284,7 @@ void StatisticsSource::settleMissing(std::size_t field) {
 }
 
 void StatisticsSource::settleCodes() {
+    std::size_t codes = 0;
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         FieldPlan& plan = fields_[i].plan;
         const Described& variable = described_[i];
@@ -290,6 +295,8 @@ void StatisticsSource::settleCodes() {
                 addCode(plan, variable, labelled);
         addSpecial(plan, variable.missingCode, CodeMeaning::Missing);
         addSpecial(plan, variable.notapp, CodeMeaning::NotApplicable);
+        if ((codes += plan.codes.size()) > mostLabels)
+            throw storage::FileError(file_, "has more labels than can be held");
     }
 }
 

@@ -82,7 +82,7 @@ private:
     std::vector<SourceField> fields_;
     std::vector<Described> described_;
     std::map<std::string, std::vector<Labelled>> labels_;
-    std::size_t labelCount_ = 0;
+    std::size_t labelCount_ = 0, descriptionBytes_ = 0;
     std::vector<SourceValue> values_;
     std::vector<std::string> notes_;
 };
