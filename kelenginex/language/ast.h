@@ -205,6 +205,7 @@ struct Table {
     std::string name;     ///< empty for the short form
     Position position;
     std::vector<Measure> measures; ///< of AVERAGE to GINI
+    bool hasOf = false;            ///< OF stands before what the table is about
     /// The list of FREQ and CROSSTABS, empty for other kinds, then one for each BY.
     std::vector<std::vector<Name>> dimensions;
     std::optional<Name> entity; ///< of COUNT, AREALIST and VIEW

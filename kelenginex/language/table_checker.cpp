@@ -189,7 +189,8 @@ bool TableChecker::checkProduct(Model& model) {
 /// STATS DISTRICT.CODE BY PERSON.AGE, as tools write it that put the areas first, means the figures
 /// of the age by district.
 bool TableChecker::startsWithArea(const ast::Table& table) const {
-    if (table.kind != Keyword::Stats || table.measures.size() != 1 || table.dimensions.size() != 2)
+    if (table.kind != Keyword::Stats || table.hasOf || table.measures.size() != 1 ||
+        table.dimensions.size() != 2)
         return false;
     const ast::NodePtr& node = table.measures.front().expression;
     if (node == nullptr || node->kind != ast::NodeKind::Name)

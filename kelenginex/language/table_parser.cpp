@@ -98,7 +98,8 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
     if (table.kind == Keyword::Quantile)
         parseQuantiles(table);
     const Token& subject = cursor_.peek();
-    hasSubject_ = cursor_.takeKeyword(Keyword::Of) || !cursor_.atClause();
+    table.hasOf = cursor_.takeKeyword(Keyword::Of);
+    hasSubject_ = table.hasOf || !cursor_.atClause();
     if (hasSubject_ && !parseSubject(table)) {
         table.complete = false;
         cursor_.skipToClause();
