@@ -8,6 +8,7 @@
 #include <numeric>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 namespace kelx::output {
 namespace {
@@ -64,6 +65,17 @@ std::size_t columnOf(const Laid& laid, const language::SortClause& clause) {
     if (const auto field = findField(laid.table, clause.column, &Field::label))
         return *field;
     throwNoColumn(laid.table, clause);
+}
+
+/// A single number behind a table that has not so many columns is the limit.
+language::SortClause understood(const Laid& laid, language::SortClause clause) {
+    const bool single = clause.element && !clause.limit;
+    for (const SortGuide::Part& part : laid.guide.parts) {
+        if (single && catalog::sameName(part.name, clause.column) &&
+            static_cast<std::size_t>(std::max(*clause.element, 1)) > part.columns)
+            clause.limit = std::exchange(clause.element, std::nullopt);
+    }
+    return clause;
 }
 
 /// -1, 0 or 1; numbers come before texts.
@@ -196,7 +208,8 @@ private:
 
 } // namespace
 
-void sortRows(Laid& laid, const language::SortClause& clause, execution::Progress& progress) {
+void sortRows(Laid& laid, const language::SortClause& asked, execution::Progress& progress) {
+    const language::SortClause clause = understood(laid, asked);
     const std::size_t column = columnOf(laid, clause);
     const Order order = orderOf(laid, column, clause, progress);
     Reordering reordering(order);
