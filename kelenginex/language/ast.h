@@ -196,6 +196,8 @@ struct OutFile {
     Position position, formatPosition;
 };
 
+constexpr int leastQuantiles = 2, mostQuantiles = 1000; ///< parts
+
 /// A table, with or without the word TABLE.
 struct Table {
     Keyword kind = Keyword::Frequency;

@@ -135,7 +135,7 @@ struct Definition {
     ExpressionPtr value; ///< of the variable's entity or above
     std::optional<Aggregate> numerator, denominator;
     std::vector<ExpressionPtr> filters; ///< of a `value`: where one fails, `otherwise` stands
-    std::optional<Constant> otherwise;  ///< DEFAULT; nothing: MV
+    std::optional<Constant> otherwise;  ///< DEFAULT, also where nothing is chosen; none: MV
     std::optional<SaveClause> save;
     Position position;
     std::string text;  ///< the command as written

@@ -15,9 +15,8 @@ namespace {
 class Checker {
 public:
     explicit Checker(CheckerContext& context)
-        : context_(context), expressions_(context), runs_(context, expressions_),
-          definitions_(context, expressions_), tables_(context, expressions_, bound_),
-          calls_(context), settings_(runs_.defaults()) {}
+        : expressions_(context), runs_(context, expressions_), definitions_(context, expressions_),
+          tables_(context, expressions_, bound_), calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
@@ -46,7 +45,6 @@ private:
         calls_.call(command, [this](const ast::Program& program) { takeAll(program); });
     }
 
-    CheckerContext& context_;
     ExpressionChecker expressions_;
     RunChecker runs_;
     DefinitionChecker definitions_;

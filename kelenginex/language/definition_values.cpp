@@ -201,7 +201,7 @@ Built DefinitionValues::switchOver() {
     return built;
 }
 
-/// The values and, behind them, what stands where none is chosen.
+/// The values and, behind them, that of ELSE.
 bool DefinitionValues::addValues(Expression& to, std::vector<Built> values) {
     if (definition_.otherwise != nullptr)
         values.push_back(expressions_.check(*definition_.otherwise));
@@ -212,21 +212,7 @@ bool DefinitionValues::addValues(Expression& to, std::vector<Built> values) {
         return false;
     for (Built& value : values)
         good = expressions_.append(to, std::move(value)) && good;
-    if (good && definition_.otherwise == nullptr && definition_.defaultValue)
-        addDefault(to);
     return good;
-}
-
-/// DEFAULT as the value where no other is chosen.
-void DefinitionValues::addDefault(Expression& to) const {
-    const ast::Literal& literal = *definition_.defaultValue;
-    const bool real = isNumeric(to.type) && definition_.type == ValueType::Real;
-    const ValueType type = real ? ValueType::Real : to.type;
-    std::optional<Constant> constant = constantFor(literal, type);
-    if (!constant)
-        return;
-    to.type = type;
-    to.arguments.push_back(makeConstant(std::move(*constant), type, literal.position));
 }
 
 bool DefinitionValues::unify(Expression& to, std::vector<Built>& values) {

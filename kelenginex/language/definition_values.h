@@ -35,7 +35,6 @@ private:
     Built number();
     Built sample();
     bool addValues(Expression& to, std::vector<Built> values);
-    void addDefault(Expression& to) const;
     bool unify(Expression& to, std::vector<Built>& values);
     Built toText(Built number) const;
 

@@ -80,7 +80,8 @@ void TableChecker::check(const ast::Table& table, const CheckedSettings& setting
     command.title = table.title;
     command.decimals = table.decimals;
     command.sensitive = table.sensitive;
-    command.quantiles = table.quantiles.value_or(context_.options().defaultQuantiles);
+    command.quantiles = table.quantiles.value_or(
+        std::clamp(context_.options().defaultQuantiles, ast::leastQuantiles, ast::mostQuantiles));
     command.text =
         trimmed(context_.program().substr(table.span.begin, table.span.end - table.span.begin));
     command.name = table.kindWord; // for messages, until it has its own

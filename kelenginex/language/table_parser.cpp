@@ -115,11 +115,11 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
 
 /// The number may also begin the expression that is measured.
 void TableParser::parseQuantiles(ast::Table& table) {
-    constexpr int most = 1000;
     const Token& next = cursor_.peek(1);
     const bool subject = next.kind == TokenKind::Word || next.isSymbol("(");
     if (cursor_.peek().kind == TokenKind::Number && subject && !isOperator(next))
-        table.quantiles = clauses_.readCount(table.kindWord, 2, most);
+        table.quantiles =
+            clauses_.readCount(table.kindWord, ast::leastQuantiles, ast::mostQuantiles);
 }
 
 bool TableParser::parseSubject(ast::Table& table) {
@@ -173,12 +173,14 @@ bool TableParser::parseMeasures(std::vector<ast::Measure>& measures) {
     return true;
 }
 
-/// The entity, then the columns; the comma between them may be left out.
+/// The entity, then the columns; the comma between them may be left out. A word before a text is a
+/// clause that is misspelt.
 bool TableParser::parseList(ast::Table& table) {
     if (!parseEntity(table, expectedBy(table.kind)))
         return false;
-    const bool columns = cursor_.takeSymbol(",") || (cursor_.peek().kind == TokenKind::Word &&
-                                                     !cursor_.atClause() && !cursor_.atCommand());
+    const bool atName = cursor_.peek().kind == TokenKind::Word && !cursor_.atClause() &&
+                        !cursor_.atCommand() && cursor_.peek(1).kind != TokenKind::Text;
+    const bool columns = cursor_.takeSymbol(",") || atName;
     if (!columns)
         return true;
     do {

@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
              "PERSON.G STRING: RECODE PERSON.GRP ('a':'f' = 'low') ('x':'x' = 'high')\n"},
         Made{"DEFINE PERSON.G AS RECODE AGE (0:14 = AGE) (15:30 = AGE / 2) TYPE REAL DEFAULT 7",
              "PERSON.G REAL: RECODE PERSON.AGE (0:14 = PERSON.AGE) (15:30 = (PERSON.AGE / 2))"
-             " else real 7 default real 7\n"},
+             " default real 7\n"},
         Made{"DEFINE PERSON.G AS RECODE AGE (-5:14 = 1) ELSE 0 TYPE BOOL",
              "PERSON.G BOOLEAN: RECODE PERSON.AGE (-5:14 = TRUE) else FALSE\n"},
         Made{"DEFINE PERSON.G AS RECODE WORKS (1 = TRUE) ELSE FALSE",
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
         Made{"DEFINE PERSON.S AS SWITCH CASE AGE > 60 ASSIGN 2 CASE WORKS ASSIGN 1 ELSE ROOMS",
              "PERSON.S INTEGER: SWITCH((PERSON.AGE > 60), 2, PERSON.WORKS, 1, HOUSEHOLD.ROOMS)\n"},
         Made{"DEFINE PERSON.S AS SWITCH CASE AGE > 60 ASSIGN \"old\" DEFAULT \"none\"",
-             "PERSON.S STRING: SWITCH((PERSON.AGE > 60), 'old', 'none') default 'none'\n"},
+             "PERSON.S STRING: SWITCH((PERSON.AGE > 60), 'old') default 'none'\n"},
         Made{"DEFINE PERSON.N AS NUMBER HOUSEHOLD", "PERSON.N INTEGER: NUMBER HOUSEHOLD\n"},
         Made{"DEFINE PERSON.N AS SAMPLE RANDOM 100", "PERSON.N INTEGER: RANDOM(100)\n"},
         Made{"DEFINE PERSON.N AS SAMPLE SYSTEMATIC 10", "PERSON.N BOOLEAN: SYSTEMATIC(10)\n"},

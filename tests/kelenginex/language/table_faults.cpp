@@ -106,6 +106,9 @@ const std::vector<Fault>& tableFaults() {
         {"FREQ SEX2 OUTFILE xml \"a\" UNICODE",
          "KEL_W_OUTFILE_TYPE 1:19 XML is not written; the file will be CSV.\nKEL_W_OUTFILE_FORMAT "
          "1:27 Files are written in UTF-8, not in UNICODE.\n"},
+        {"VIEW PERSON\n  TITEL \"x\"",
+         "KEL_E_UNEXPECTED 2:3 Found \"TITEL\", but expected a clause of the table, such as BY or "
+         "TITLE, or a new command. Did you mean TITLE?\n"},
     };
     return faults;
 }
