@@ -99,10 +99,7 @@ void EngineQuestion::run(unsigned threads) {
 
 Answer EngineQuestion::answer() const {
     Answer answer;
-    for (std::size_t i = 0; i < last_.tables.size(); ++i) {
-        const Table& table = last_.tables[i];
-        if (!program_.tables[i].isOutput || table.columns.empty())
-            continue;
+    for (const Table& table : last_.tables) {
         if (table.type == 1)
             addAreaList(table, answer);
         else if (table.method > 1)

@@ -54,6 +54,8 @@ public:
             makers_.push_back(makeTableMaker(table, *pass.unit, options));
         for (std::size_t i = 0; i < workers; ++i)
             workers_.push_back(std::make_unique<Worker>(pass, makers_, step, progress));
+        ordered_ = std::any_of(makers_.begin(), makers_.end(),
+                               [](const auto& maker) { return maker->inOrder(); });
     }
 
     void run(const TableSink& sink) {
@@ -100,21 +102,30 @@ private:
         return result;
     }
 
+    /// The caller's thread works too: one start less, and the callback is asked in between.
     void runThreads() {
         std::vector<std::thread> threads;
         threads.reserve(workers_.size());
         running_ = workers_.size();
-        for (const auto& worker : workers_) {
+        for (std::size_t i = 1; i < workers_.size(); ++i) {
             try {
-                threads.emplace_back([this, &worker] { threadMain(*worker); });
+                threads.emplace_back([this, i] { workAlong(*workers_[i], mayGoOn()); });
             } catch (...) { // those that run must end before anything is told
                 stop(std::current_exception());
                 ended();
             }
         }
+        workAlong(*workers_[0], [this] {
+            pollForThreads();
+            return !stop_.load(std::memory_order_relaxed);
+        });
         waitForThreads();
         for (std::thread& thread : threads)
             thread.join();
+    }
+
+    GoOn mayGoOn() {
+        return [this] { return !stop_.load(std::memory_order_relaxed); };
     }
 
     void waitForThreads() {
@@ -137,9 +148,9 @@ private:
         }
     }
 
-    void threadMain(Worker& worker) {
+    void workAlong(Worker& worker, const GoOn& goOn) {
         try {
-            workOn(worker, [this] { return !stop_.load(std::memory_order_relaxed); });
+            workOn(worker, goOn);
         } catch (...) {
             stop(std::current_exception());
         }
@@ -165,23 +176,34 @@ private:
             const std::size_t chunk = next_.fetch_add(1);
             if (chunk >= chunks_.size())
                 break;
-            if (!worker.work(chunks_[chunk], goOn) || !mergeInTurn(worker, chunk, goOn))
+            if (!worker.work(chunks_[chunk], goOn))
+                return;
+            if (ordered_ && !mergeInTurn(worker, chunk, goOn))
                 return;
         }
-        const std::scoped_lock lock(merging_);
+        std::unique_lock lock(merging_, std::defer_lock);
+        while (!lock.try_lock_for(Progress::interval / 2)) {
+            if (!goOn())
+                return;
+        }
         merge(worker, false, goOn);
     }
 
     /// Waits for the chunks before; false where the run is stopped meanwhile. The caller's thread
     /// needs the lock for its callback, so it is not held during the work.
     bool mergeInTurn(Worker& worker, std::size_t chunk, const GoOn& goOn) {
-        {
-            std::unique_lock lock(mutex_);
-            changed_.wait(lock, [&] { return merged_ == chunk || stop_; });
+        std::unique_lock lock(mutex_);
+        while (merged_ != chunk && !stop_) {
+            changed_.wait_for(lock, Progress::interval / 2);
+            lock.unlock();
+            if (!goOn())
+                return false;
+            lock.lock();
         }
+        lock.unlock();
         if (stop_ || !merge(worker, true, goOn))
             return false;
-        const std::scoped_lock lock(mutex_);
+        lock.lock();
         ++merged_;
         changed_.notify_all();
         return true;
@@ -203,8 +225,9 @@ private:
     std::vector<std::unique_ptr<Worker>> workers_;
     std::atomic<std::size_t> next_{0};
     std::atomic<bool> stop_{false};
-    std::mutex merging_; ///< of what is taken in any order
-    std::mutex mutex_;   ///< of what follows
+    bool ordered_ = false;     ///< some tables are merged chunk by chunk
+    std::timed_mutex merging_; ///< of what is taken in any order
+    std::mutex mutex_;         ///< of what follows
     std::condition_variable changed_;
     std::size_t merged_ = 0;
     std::size_t running_ = 0;
