@@ -27,6 +27,7 @@ using storage::ValueType;
 
 /// Doubles tell all whole numbers apart up to here.
 constexpr double mostExact = 0x1p53;
+constexpr std::int64_t mostShown = std::int64_t{1} << 53;
 
 /// Codes that have a meaning, whether they occur or not.
 std::vector<double> namedCodes(const catalog::Variable& variable) {
@@ -66,9 +67,10 @@ double freeText(const catalog::Variable& variable, const Column& column) {
         if (const auto number = catalog::parseNumber(column.text(i)))
             taken.insert(*number);
     }
-    for (double code = 9; code < mostExact; code = code * 10 + 9) {
-        if (taken.count(code) == 0)
-            return code;
+    for (std::int64_t code = 9; code < mostShown; code = code * 10 + 9) {
+        const auto number = static_cast<double>(code);
+        if (taken.count(number) == 0)
+            return number;
     }
     failForCode(variable);
 }

@@ -239,7 +239,8 @@ protected:
                     region_.push_back(a < 10 ? 0 : 2);
                     age_.push_back(below(40) == 0 ? std::nullopt
                                                   : std::optional<std::int64_t>(below(100)));
-                    income_.push_back(below(30) == 0 ? blankReal : below(100000) / 8.0 - 1000);
+                    income_.push_back(
+                        below(30) == 0 ? blankReal : static_cast<double>(below(100000)) / 8 - 1000);
                     weight_.push_back(static_cast<double>(*weights.back()));
                 }
             }

@@ -170,8 +170,9 @@ TEST_F(Definitions, codesForNoValueLieInNoRange) {
 class Recoding : public Definitions {
 protected:
     using Row = std::pair<language::Interval, Constant>;
-    static Row row(std::optional<Constant> low, std::optional<Constant> high, Constant code) {
-        return {{std::move(low), std::move(high)}, std::move(code)};
+    static Row row(std::optional<Constant> low, std::optional<Constant> high,
+                   const Constant& code) {
+        return {{std::move(low), std::move(high)}, code};
     }
     static ExpressionPtr recode(Part operand, const std::vector<Row>& rows,
                                 std::optional<Constant> rest = {},
@@ -372,7 +373,7 @@ TEST_F(Many, columnsAreAsNarrowAsTheirValues) {
             expected.push_back(value ? std::to_string(*value) : ".");
         program.make();
         EXPECT_EQ(DefineProgram::valuesOf(*definition.variable), expected);
-        if (one.low > 0x1p53)
+        if (one.low > (std::int64_t{1} << 53))
             continue; // codes for NA are doubles
         auto& other =
             program.add("PERSON", "NA", ValueType::Integer, ExpressionPtr(variable(withNa)));
