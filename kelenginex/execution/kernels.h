@@ -42,6 +42,13 @@ struct BinScale {
     double missing = 0, notApplicable = 0; ///< no values; NaN for none
 };
 
+/// Bins whose values are to be picked: 1 where a bin is, and the first and the last that are.
+struct WantedBins {
+    const std::uint8_t* wanted = nullptr;
+    std::uint16_t first = 0;
+    std::uint16_t last = 0;
+};
+
 struct Kernels {
     CodeKernels<std::uint8_t> code8;
     CodeKernels<std::uint16_t> code16;
@@ -93,7 +100,7 @@ struct Kernels {
                      std::uint16_t* bins);
     /// Keeps values whose bin is wanted, in order; gives the number kept. Room for all is needed.
     std::size_t (*pickBins)(const double* values, const std::uint16_t* bins, std::size_t count,
-                            const std::uint8_t* wanted, double* out);
+                            const WantedBins& wanted, double* out);
 
     template <class Code>
     const CodeKernels<Code>& of() const {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/ranks.h"
 
-#include "execution/kernels.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -32,8 +30,8 @@ bool narrow(std::vector<double>& values, std::vector<std::uint64_t>& ranks, cons
     const BinChoice choice(counts, ranks);
     if (!goOn())
         return false;
-    const std::size_t kept = kernels().pickBins(values.data(), bin.data(), values.size(),
-                                                choice.wanted().data(), values.data());
+    const std::size_t kept =
+        kernels().pickBins(values.data(), bin.data(), values.size(), choice.bins(), values.data());
     const bool less = kept < values.size();
     values.resize(kept);
     ranks = choice.ranks();
@@ -41,6 +39,15 @@ bool narrow(std::vector<double>& values, std::vector<std::uint64_t>& ranks, cons
 }
 
 } // namespace
+
+WantedBins wantedBins(const std::vector<std::uint8_t>& wanted) {
+    const auto first = std::find(wanted.begin(), wanted.end(), 1);
+    const auto last = std::find(wanted.rbegin(), wanted.rend(), 1);
+    if (first == wanted.end())
+        return {wanted.data(), 0, 0};
+    return {wanted.data(), static_cast<std::uint16_t>(first - wanted.begin()),
+            static_cast<std::uint16_t>(wanted.rend() - last - 1)};
+}
 
 BinChoice::BinChoice(std::span<const std::uint64_t> counts, const std::vector<std::uint64_t>& ranks)
     : wanted_(counts.size() + 1) {

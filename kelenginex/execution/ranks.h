@@ -3,6 +3,7 @@
 #pragma once
 
 #include "execution/cells.h"
+#include "execution/kernels.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,6 +11,9 @@
 #include <vector>
 
 namespace kelx::execution {
+
+/// Points at what is given.
+WantedBins wantedBins(const std::vector<std::uint8_t>& wanted);
 
 /// Picks the bins in which wanted ranks lie. Values are counted by bins that ascend with them.
 class BinChoice {
@@ -19,6 +23,7 @@ public:
 
     /// 1 for bins whose values are needed; one more element stands for no bin.
     const std::vector<std::uint8_t>& wanted() const { return wanted_; }
+    WantedBins bins() const { return wantedBins(wanted_); }
     /// The ranks among the values of the wanted bins.
     const std::vector<std::uint64_t>& ranks() const { return ranks_; }
 

@@ -128,6 +128,7 @@ void RowQuantiles::choose(LargeRow& row, const GoOn& goOn) {
     row.ranks = ranksOf(row.row);
     const BinChoice choice(counts, row.ranks);
     row.wanted = choice.wanted();
+    row.bounds = wantedBins(row.wanted);
     row.picked = choice.ranks();
 }
 
@@ -189,7 +190,7 @@ void RowQuantiles::pickPlain(const ValuePiece& piece) {
             for (std::size_t i = cellBegins_[piece.cell]; i < cellBegins_[piece.cell + 1]; ++i) {
                 LargeRow& row = *large_[cellRows_[i]];
                 const std::size_t kept =
-                    kernels().pickBins(values, bin.data(), count, row.wanted.data(), picked.data());
+                    kernels().pickBins(values, bin.data(), count, row.bounds, picked.data());
                 const std::scoped_lock lock(row.mutex);
                 row.values.insert(row.values.end(), picked.begin(),
                                   picked.begin() + static_cast<std::ptrdiff_t>(kept));

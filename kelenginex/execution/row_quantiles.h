@@ -18,7 +18,9 @@ constexpr std::size_t binnedAtOnce = 4096;
 struct WeightedValue {
     double value = 0;
     double weight = 0;
-    auto operator<=>(const WeightedValue&) const = default;
+    bool operator<(const WeightedValue& other) const {
+        return value != other.value ? value < other.value : weight < other.weight;
+    }
 };
 
 class RowQuantiles {
@@ -34,6 +36,7 @@ private:
         std::vector<std::uint64_t> ranks;                ///< wanted, without weights
         std::vector<std::uint64_t> picked;               ///< the same among the values picked
         std::vector<std::uint8_t> wanted;                ///< bins
+        WantedBins bounds;                               ///< points at them
         std::vector<double> targets;                     ///< running weights, where weighted
         std::vector<std::size_t> bins;                   ///< where they are reached
         std::vector<std::pair<std::size_t, Sum>> before; ///< weight before each wanted bin

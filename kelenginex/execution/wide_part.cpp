@@ -82,7 +82,7 @@ void WidePart::findRecords(Frames& frames, const std::uint8_t* mask) {
     const std::size_t count = frames.baseFrame().count;
     all_ = mask == nullptr;
     records_.clear();
-    if (!all_) {
+    if (mask != nullptr) {
         records_.resize(count);
         std::size_t kept = 0;
         for (std::size_t i = 0; i < count; ++i) {
