@@ -97,11 +97,11 @@ public:
         return household;
     }
 
-    std::size_t count = 0;
     static constexpr std::size_t enough = 1024;
     static constexpr std::size_t room = 4096;
-    alignas(64) Byte types[room + 32];
-    alignas(64) double weights[room + 32];
+    alignas(64) double weights[room + 32] = {};
+    alignas(64) Byte types[room + 32] = {};
+    std::size_t count = 0;
 
 private:
     /// Small households are written as one stretch of eight, whose rest the next one overwrites.

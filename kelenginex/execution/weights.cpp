@@ -12,7 +12,6 @@ namespace kelx::execution {
 namespace {
 
 using language::Constant;
-using language::Expression;
 using language::ExpressionPtr;
 using language::Operation;
 
