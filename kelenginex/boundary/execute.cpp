@@ -85,6 +85,7 @@ BoundProgram TKelExecute::Data::compile(const ExecuteCall& call, Messages& messa
     auto& model = *KelBoundaryAccess::state(*dictionary).dictionary;
     auto options = kelx::boundary::compileOptions(model);
     options.baseFolder = call.file.parent_path();
+    options.programFile = call.file;
     Messages found;
     BoundProgram program;
     try {

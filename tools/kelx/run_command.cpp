@@ -68,6 +68,7 @@ int run(const RunRequest& request) {
     const auto dictionary = openDatabase(request.database, request.passwordFile);
     language::CompileOptions compileOptions;
     compileOptions.baseFolder = fs::absolute(request.database).parent_path();
+    compileOptions.programFile = request.program;
     language::Messages messages;
     const auto program = language::compile(text, *dictionary, compileOptions, messages);
     if (messages.hasErrors()) {
