@@ -5,6 +5,7 @@
 #include "boundary/memory.h"
 #include "boundary/program_run.h"
 #include "language/message_table.h"
+#include "output/saved_variables.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -32,11 +33,6 @@ void addFault(const std::string& text, const ExecuteCall& call, Messages& messag
         kelx::language::makeMessage(kelx::language::Error::ProgramFile, call.position);
     message.text = text;
     messages.add(std::move(message));
-}
-
-bool savesVariables(const BoundProgram& program) {
-    return std::any_of(program.definitions.begin(), program.definitions.end(),
-                       [](const auto& definition) { return definition.save.has_value(); });
 }
 
 } // namespace
@@ -75,7 +71,7 @@ void TKelExecute::Data::checkAll(const Calls& calls, Messages& messages) {
             for (const Message& message : found.all()) {
                 messages.add(message);
             }
-        } else if (savesVariables(program)) {
+        } else if (kelx::output::savesVariables(program)) {
             return;
         }
     }
@@ -85,6 +81,7 @@ BoundProgram TKelExecute::Data::compile(const ExecuteCall& call, Messages& messa
     auto& model = *KelBoundaryAccess::state(*dictionary).dictionary;
     auto options = kelx::boundary::compileOptions(model);
     options.baseFolder = call.file.parent_path();
+    options.programFile = call.file;
     Messages found;
     BoundProgram program;
     try {

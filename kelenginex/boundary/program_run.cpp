@@ -79,14 +79,17 @@ ProgramRun runProgram(const language::BoundProgram& program, DictionaryState& st
         options.progress = std::move(progress);
     }
     ProgramRun run;
-    auto made = output::runTables(program, *state.dictionary, options, messages);
+    const auto writeFiles = [&](const std::vector<output::Table>& tables,
+                                storage::StagedFiles& files, execution::Progress& more) {
+        output::stageFiles(output::jsonFiles(tables, program), files, [&] { more.checkNow(); });
+    };
+    auto made = output::runTables(program, *state.dictionary, options, messages, writeFiles);
     run.cancelled = made.cancelled;
     if (made.cancelled || messages.hasErrors()) {
         return run;
     }
     output::joinSavedVariables(program, *state.dictionary);
     state.refresh();
-    output::writeFiles(output::jsonFiles(made.tables, program));
     for (output::Table& table : made.tables) {
         const auto& command = program.tables[table.command];
         run.outputs.push_back(makeOutput(std::move(table), command, state));

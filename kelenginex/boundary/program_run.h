@@ -29,8 +29,9 @@ void report(const language::Messages& messages, TKelSpcErrorsListener* listener)
 /// Throws "2 errors found"; where the configuration wants it, "1 warning found".
 void throwUnlessFree(const language::Messages& messages);
 
-/// Runs a program that is free of errors, with progress where the configuration wants it. Then what
-/// it saves joins the dictionary, and its JSON files are written. A cancelled run has no outputs.
+/// Runs a program that is free of errors, with progress where the configuration wants it. What
+/// it saves and its JSON files appear together; then the variables join the dictionary. A cancelled
+/// run has no outputs.
 struct ProgramRun {
     Outputs outputs;
     bool cancelled = false;

@@ -100,6 +100,42 @@ void describeFromData(Dictionary& dictionary) {
     }
 }
 
+fs::path realFile(const fs::path& file) {
+    std::error_code ignored;
+    const fs::path real = fs::weakly_canonical(file, ignored);
+    return ignored ? file.lexically_normal() : real;
+}
+
+FileOwners::FileOwners(const Dictionary& dictionary) {
+    add(dictionary.file, "the dictionary");
+    for (const Entity* entity : dictionary.entities()) {
+        if (!entity->fileName.empty()) {
+            add(entity->filePath(), entity->name);
+        }
+        for (const auto& variable : entity->variables) {
+            if (variable->fileName.empty()) {
+                continue;
+            }
+            add(variable->filePath(), variable->fullName());
+            if (sameName(variable->filePath().extension().string(), ".bin")) {
+                add(variable->filePath().concat(".desc"), variable->fullName());
+            }
+        }
+    }
+}
+
+const std::vector<std::string>& FileOwners::of(const fs::path& realFile) const {
+    static const std::vector<std::string> none;
+    const auto found = owners_.find(realFile);
+    return found == owners_.end() ? none : found->second;
+}
+
+void FileOwners::add(const fs::path& file, const std::string& owner) {
+    if (!file.empty()) {
+        owners_[realFile(file)].push_back(owner);
+    }
+}
+
 FileNameMove::FileNameMove(Dictionary& dictionary, const fs::path& newFolder) {
     if (dictionary.dataFolder.empty() ||
         (dictionary.dataFolder / "").lexically_normal() == (newFolder / "").lexically_normal()) {

@@ -6,6 +6,7 @@
 #include "catalog/model.h"
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +20,22 @@ bool findsAnyFile(const Dictionary& dictionary);
 /// description beside a file wins over the dictionary, and is written where there is none. Throws
 /// storage::FileError where a .bin file contradicts what is said of it.
 void describeFromData(Dictionary& dictionary);
+
+/// A file with its links followed, as far as it is there.
+std::filesystem::path realFile(const std::filesystem::path& file);
+
+/// Whose the files of a dictionary are.
+class FileOwners {
+public:
+    explicit FileOwners(const Dictionary& dictionary);
+    /// The full names of the variables, the names of the entities, or "the dictionary", that have
+    /// a real file for their own; mostly one, and none for any other file.
+    const std::vector<std::string>& of(const std::filesystem::path& realFile) const;
+
+private:
+    void add(const std::filesystem::path& file, const std::string& owner);
+    std::map<std::filesystem::path, std::vector<std::string>> owners_;
+};
 
 /// Rewrites the relative file names of a dictionary for another data folder; takes that back when
 /// it goes out of scope, unless keep() was called.

@@ -81,8 +81,9 @@ void askForDataFolder(Dictionary& dictionary, const Questions& questions) {
     dictionary.dataFolder = absoluteFile(folder);
 }
 
-void write(const Dictionary& dictionary, const fs::path& file) {
-    if (sameName(file.extension().string(), ".dicx")) {
+/// The form is that of the name which the file is to have.
+void write(const Dictionary& dictionary, const fs::path& file, const fs::path& name) {
+    if (sameName(name.extension().string(), ".dicx")) {
         storage::AtomicFile output(file);
         output.write(writeDicx(dictionary));
         output.commit();
@@ -92,6 +93,21 @@ void write(const Dictionary& dictionary, const fs::path& file) {
 }
 
 } // namespace
+
+std::unique_ptr<Dictionary> readAgain(const Dictionary& earlier) {
+    const fs::path& file = earlier.file;
+    std::unique_ptr<Dictionary> dictionary;
+    if (isDicx(file)) {
+        dictionary = parseDicx(readText(file), file);
+    } else {
+        const storage::KxdbContent content = storage::readKxdbAgain(file, earlier.key);
+        dictionary = parsePayload(content.payload, file);
+        dictionary->key = content.key;
+    }
+    dictionary->dataFolder = earlier.dataFolder;
+    describeFromData(*dictionary);
+    return dictionary;
+}
 
 std::unique_ptr<Dictionary> readDictionary(const fs::path& file, const Questions& questions) {
     if (file.empty()) {
@@ -107,11 +123,16 @@ std::unique_ptr<Dictionary> readDictionary(const fs::path& file, const Questions
 void saveDictionary(Dictionary& dictionary, const fs::path& file) {
     const fs::path path = absoluteFile(file);
     FileNameMove move(dictionary, path.parent_path());
-    write(dictionary, path);
+    write(dictionary, path, path);
     move.keep();
     dictionary.file = path;
     dictionary.dataFolder = path.parent_path();
     dictionary.dirty = false;
+}
+
+void stageDictionary(const Dictionary& dictionary, storage::StagedFiles& files) {
+    files.write(dictionary.file,
+                [&](const fs::path& staged) { write(dictionary, staged, dictionary.file); });
 }
 
 } // namespace kelx::catalog

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalog/model.h"
+#include "storage/staged_files.h"
 
 #include <filesystem>
 #include <functional>
@@ -22,9 +23,15 @@ struct Questions {
 /// user. Where no data file at all is found, asks once for the data folder.
 std::unique_ptr<Dictionary> readDictionary(const std::filesystem::path& file,
                                            const Questions& questions);
+/// The same dictionary as its file holds it by now, without asking: a password that was given holds
+/// good. Throws storage::FileError.
+std::unique_ptr<Dictionary> readAgain(const Dictionary& earlier);
 /// Writes the form that the extension tells, .kxdb where it tells none; atomically. File names
 /// that are relative are rewritten where the folder changes, so that they go on to mean the same.
 void saveDictionary(Dictionary& dictionary, const std::filesystem::path& file);
+
+/// Writes a dictionary to its own file, staged; it is then as saved. It must stay in its folder.
+void stageDictionary(const Dictionary& dictionary, storage::StagedFiles& files);
 
 // The two forms by themselves.
 std::unique_ptr<Dictionary> parseDicx(const std::string& xml, const std::filesystem::path& file);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/column_builder.h"
 
+#include "execution/block_codes.h"
+#include "execution/text_builder.h"
 #include "storage/block_stats.h"
 #include "storage/coding.h"
 #include "storage/column_format.h"
@@ -10,6 +12,7 @@
 #include <bit>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace kelx::execution {
 namespace {
@@ -18,17 +21,6 @@ using storage::MemoryColumn;
 using storage::Physical;
 using storage::recordsPerBlock;
 using storage::Zone;
-
-/// In the codes of a block NA stands beside the blank, until all codes are known.
-template <class Code>
-constexpr Code blankOf = std::numeric_limits<Code>::max();
-template <class Code>
-constexpr Code naOf = std::numeric_limits<Code>::max() - 1;
-
-/// Memory that is not touched before it is written, by the thread that writes it.
-MemoryColumn::Values untouched(std::uint64_t bytes) {
-    return MemoryColumn::Values(new std::byte[static_cast<std::size_t>(bytes)]);
-}
 
 class RealBuilder : public ColumnBuilder {
 public:
@@ -49,7 +41,7 @@ public:
         zones_[block] = storage::measureBlock(Physical::Real64, out, values.size());
     }
 
-    bool settle() override { return false; }
+    std::size_t nextStep() override { return 0; }
 
     std::shared_ptr<const storage::Column> take(std::uint8_t decimals) override {
         info_.decimals = decimals;
@@ -117,21 +109,6 @@ Piece measured(const BlockValues& values, const std::string& name) {
     return piece;
 }
 
-template <class Code>
-void encode(const BlockValues& values, std::int64_t base, Code* codes) {
-    const std::int64_t* in = values.integers.data();
-    for (std::size_t i = 0; i < values.size(); ++i)
-        codes[i] = static_cast<Code>(storage::codeOf(in[i], base));
-    if (values.allValid)
-        return;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const std::uint8_t state = values.states[i];
-        codes[i] = state == state::valid                ? codes[i]
-                   : state == state::blankNotApplicable ? naOf<Code>
-                                                        : blankOf<Code>;
-    }
-}
-
 /// Whole numbers and truth values. Most blocks are bytes that stay where they are written.
 class CodeBuilder : public ColumnBuilder {
 public:
@@ -158,7 +135,9 @@ public:
         pieces_[block].highest = static_cast<std::int64_t>(zone.maxCode);
     }
 
-    bool settle() override {
+    std::size_t nextStep() override {
+        if (std::exchange(settled_, true))
+            return 0;
         Piece all;
         for (const Piece& piece : pieces_)
             include(piece, all);
@@ -168,10 +147,10 @@ public:
         const bool inPlace =
             std::all_of(pieces_.begin(), pieces_.end(), [&](const Piece& p) { return !p.codes; });
         if (wide_ || !inPlace || all.hasNa)
-            return true;
+            return blocks();
         for (std::size_t block = 0; block < pieces_.size(); ++block)
             findZone(block);
-        return false;
+        return 0;
     }
 
     void join(std::size_t block) override {
@@ -255,113 +234,7 @@ private:
     std::vector<Piece> pieces_;
     std::vector<Zone> zones_;
     MemoryColumn::Values bytes_, wide_;
-};
-
-/// Texts: codes into the block's own sorted texts, and then into those of all blocks.
-class TextBuilder : public ColumnBuilder {
-public:
-    explicit TextBuilder(std::uint64_t records)
-        : ColumnBuilder(ValueType::String, records), pieces_(blocks()), zones_(blocks()) {}
-
-    void put(std::size_t block, BlockValues& values) override {
-        values.texts->sort();
-        TextPiece& piece = pieces_[block];
-        piece.texts.assign(values.texts->sorted().begin(), values.texts->sorted().end());
-        piece.hasNa =
-            std::count(values.states.begin(), values.states.end(), state::blankNotApplicable) > 0;
-        for (std::size_t i = 0; i < values.size(); ++i)
-            if (values.states[i] == state::valid)
-                values.integers[i] =
-                    values.texts->ranks()[static_cast<std::size_t>(values.integers[i])];
-        piece.physical = storage::physicalFor(piece.texts.size());
-        piece.codes = untouched(values.size() * storage::physicalSize(piece.physical));
-        storage::withCode(piece.physical, [&]<class Code>(Code) {
-            encode(values, 0, reinterpret_cast<Code*>(piece.codes.get()));
-        });
-    }
-
-    bool settle() override {
-        bool hasNa = false;
-        std::size_t mostLoose = std::size_t{1} << 20; // before those that are equal are joined
-        for (const TextPiece& piece : pieces_) {
-            texts_.insert(texts_.end(), piece.texts.begin(), piece.texts.end());
-            hasNa = hasNa || piece.hasNa;
-            if (texts_.size() < mostLoose)
-                continue;
-            sortTexts();
-            mostLoose = std::max(mostLoose, texts_.size() * 2);
-        }
-        sortTexts();
-        const std::uint64_t codes = texts_.size() + (hasNa ? 1 : 0);
-        info_.physical = storage::physicalFor(codes == 0 ? 0 : codes - 1);
-        if (hasNa)
-            info_.naCode = texts_.size();
-        values_ = untouched(info_.records * storage::physicalSize(info_.physical));
-        return true;
-    }
-
-    void join(std::size_t block) override {
-        TextPiece& piece = pieces_[block];
-        const std::vector<std::uint64_t> places = placesOf(piece.texts);
-        storage::withCode(piece.physical, [&]<class From>(From) {
-            storage::withCode(info_.physical, [&]<class To>(To) {
-                recode(places, reinterpret_cast<const From*>(piece.codes.get()), size(block),
-                       reinterpret_cast<To*>(values_.get()) + block * recordsPerBlock);
-            });
-        });
-        zones_[block] = storage::measureBlock(
-            info_.physical,
-            values_.get() + block * recordsPerBlock * storage::physicalSize(info_.physical),
-            size(block));
-        piece = {};
-    }
-
-    std::shared_ptr<const storage::Column> take(std::uint8_t) override {
-        return std::make_shared<const MemoryColumn>(info_, std::move(values_), std::move(zones_),
-                                                    std::move(texts_));
-    }
-
-private:
-    struct TextPiece {
-        std::vector<std::string> texts; ///< ascending
-        Physical physical = Physical::Code8;
-        bool hasNa = false;
-        MemoryColumn::Values codes;
-    };
-    void sortTexts() {
-        std::sort(texts_.begin(), texts_.end());
-        texts_.erase(std::unique(texts_.begin(), texts_.end()), texts_.end());
-    }
-
-    /// Where the texts of a block are among all.
-    std::vector<std::uint64_t> placesOf(const std::vector<std::string>& texts) const {
-        std::vector<std::uint64_t> places;
-        places.reserve(texts.size());
-        auto at = texts_.begin();
-        for (const std::string& text : texts) {
-            at = std::lower_bound(at, texts_.end(), text);
-            places.push_back(static_cast<std::uint64_t>(at - texts_.begin()));
-        }
-        return places;
-    }
-
-    template <class From, class To>
-    void recode(const std::vector<std::uint64_t>& places, const From* from, std::size_t count,
-                To* to) const {
-        for (std::size_t i = 0; i < count; ++i) {
-            if (from[i] == blankOf<From>)
-                to[i] = blankOf<To>;
-            else if (from[i] == naOf<From>)
-                to[i] = static_cast<To>(*info_.naCode);
-            else
-                to[i] = static_cast<To>(places[static_cast<std::size_t>(from[i])]);
-        }
-    }
-
-    std::vector<TextPiece> pieces_;
-    std::vector<Zone> zones_;
-    std::vector<std::string> texts_;
-    MemoryColumn::Values values_;
+    bool settled_ = false;
 };
 
 } // namespace
@@ -371,7 +244,7 @@ std::unique_ptr<ColumnBuilder> ColumnBuilder::create(ValueType type, std::uint64
     if (type == ValueType::Real)
         return std::make_unique<RealBuilder>(records);
     if (type == ValueType::String)
-        return std::make_unique<TextBuilder>(records);
+        return makeTextBuilder(records);
     return std::make_unique<CodeBuilder>(type, records, name);
 }
 

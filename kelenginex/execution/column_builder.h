@@ -36,9 +36,11 @@ public:
     virtual void putBytes(std::size_t /*block*/) {}
     static constexpr std::uint8_t mostByte = mostInRun;
 
-    /// Called once, after all blocks were put. True where join() must be called for each block.
-    virtual bool settle() = 0;
-    virtual void join(std::size_t /*block*/) {}
+    /// After all blocks were put: begins the next step of joining them, which has so many parts,
+    /// each for one call of join() in any thread. 0 where nothing is left to do; else it is called
+    /// again when the step is done.
+    virtual std::size_t nextStep() = 0;
+    virtual void join(std::size_t /*part*/) {}
     /// The column; called once, at the end.
     virtual std::shared_ptr<const storage::Column> take(std::uint8_t decimals) = 0;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Makes the variables that a program defines, and saves those that are to be kept.
+// Makes the variables that a program defines.
 #pragma once
 
 #include "execution/progress.h"
@@ -13,9 +13,5 @@ namespace kelx::execution {
 /// supported.
 void makeVariables(const language::BoundProgram& program, const RunOptions& options, double share,
                    Progress& progress);
-
-/// Writes the columns of the definitions that are to be saved; all or, where one cannot be
-/// written, none stand under their names. Called after the tables. Throws storage::FileError.
-void saveVariables(const language::BoundProgram& program, Progress& progress);
 
 } // namespace kelx::execution

@@ -17,11 +17,15 @@ bool Progress::poll() {
     const auto now = Clock::now();
     if (!callback_ || cancelled_ || now - last_ < interval)
         return cancelled_;
+    return tell(now, share());
+}
+
+double Progress::share() const {
     const double part =
         units_ == 0
             ? 0
             : std::min(1.0, static_cast<double>(done_.load()) / static_cast<double>(units_));
-    return tell(now, from_ + (to_ - from_) * part);
+    return from_ + (to_ - from_) * part;
 }
 
 bool Progress::tell(Clock::time_point now, double share) {
@@ -40,9 +44,14 @@ void Progress::checkNow() {
         throw Cancelled();
 }
 
-void Progress::finish() {
-    if (cancelled_ || (callback_ && tell(Clock::now(), 1)))
+void Progress::askLast() {
+    if (cancelled_ || (callback_ && tell(Clock::now(), atLastQuestion)))
         throw Cancelled();
+}
+
+void Progress::finish() {
+    if (callback_)
+        tell(Clock::now(), 1);
 }
 
 } // namespace kelx::execution

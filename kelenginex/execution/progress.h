@@ -37,7 +37,12 @@ public:
             checkNow();
     }
     void checkNow();
-    /// Tells that all is done. Throws Cancelled, as the answer may come now.
+    /// Asks whatever the clock says; the last question, before what cannot be undone. Throws
+    /// Cancelled.
+    void askLast();
+    /// All is never told to be done while it can be stopped.
+    static constexpr double atLastQuestion = 0.99;
+    /// Tells that all is done, which no answer changes any more.
     void finish();
     bool cancelled() const { return cancelled_; }
     double seconds() const { return std::chrono::duration<double>(Clock::now() - start_).count(); }
@@ -47,6 +52,7 @@ private:
     static constexpr unsigned patience = 512;
 
     bool tell(Clock::time_point now, double share);
+    double share() const; ///< done of the whole
 
     ProgressCallback callback_;
     Clock::time_point start_;

@@ -3,6 +3,7 @@
 
 #include "execution/definitions.h"
 #include "execution/pass_runner.h"
+#include "execution/saved_variables.h"
 #include "plan/plan.h"
 
 #include <algorithm>
@@ -23,27 +24,58 @@ double shareOfVariables(const language::BoundProgram& program) {
     return any ? 0.5 : 0;
 }
 
+/// Where the stages behind the variables end.
+class Stages {
+public:
+    Stages(double making, const plan::Plan& plan, const SavedVariables& saved)
+        : making_(making), all_(workPerSaved * static_cast<double>(saved.records()) + 1) {
+        for (const plan::Pass& pass : plan.passes)
+            all_ += workOf(pass);
+    }
+    double shareAt(double work) const {
+        return making_ + (beforeEnd - making_) * std::min(work / all_, 1.0);
+    }
+    static constexpr double beforeEnd = 0.98;
+
+private:
+    static constexpr double workPerSaved = 2; ///< a value is read, and written
+    double making_;
+    double all_;
+};
+
+void runPasses(const plan::Plan& plan, const RunOptions& options, const TableSink& sink,
+               const Stages& stages, Progress& progress) {
+    double done = 0;
+    for (const plan::Pass& pass : plan.passes) {
+        const double begin = stages.shareAt(done);
+        done += workOf(pass);
+        runPass(pass, options, sink, {begin, stages.shareAt(done)}, progress);
+    }
+}
+
 } // namespace
 
 bool run(const language::BoundProgram& program, const RunOptions& options,
-         language::Messages& messages, const TableSink& sink) {
+         language::Messages& messages, const TableSink& sink, const RunEnd& end) {
     Progress progress(options.progress);
     try {
         progress.checkNow();
+        const SavedVariables saved(program);
         const double making = shareOfVariables(program);
         makeVariables(program, options, making, progress);
         const plan::Plan plan = plan::makePlan(program, messages);
-        double all = 0;
-        for (const plan::Pass& pass : plan.passes)
-            all += workOf(pass);
-        double done = 0;
-        const auto shareAt = [&](double work) { return making + (1 - making) * work / all; };
-        for (const plan::Pass& pass : plan.passes) {
-            const double begin = shareAt(done);
-            done += workOf(pass);
-            runPass(pass, options, sink, {begin, shareAt(done)}, progress);
-        }
-        saveVariables(program, progress);
+        const Stages stages(making, plan, saved);
+        runPasses(plan, options, sink, stages, progress);
+        storage::StagedFiles files;
+        progress.begin(Stages::beforeEnd, saved.records());
+        saved.write(files, messages, progress);
+        progress.begin(Progress::atLastQuestion, sinkUnits);
+        if (end)
+            end(files, progress);
+        saved.checkFiles();
+        progress.askLast();
+        files.publish();
+        saved.settle();
         progress.finish();
     } catch (const Cancelled&) {
         return false;

@@ -4,6 +4,7 @@
 
 #include "execution/result.h"
 #include "language/messages.h"
+#include "storage/staged_files.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,7 +22,8 @@ struct RunOptions {
     unsigned threads = 0; ///< 0: one for each core
     std::size_t blockRecords =
         65536; ///< records a step works on at most; figures never depend on it
-    /// Called on the calling thread, at least every 100 ms; the last call of a whole run says 100.
+    /// Called on the calling thread, at least every 100 ms; the last call of a whole run
+    /// says 100, and its answer is no longer heard.
     ProgressCallback progress;
 };
 
@@ -30,12 +32,18 @@ struct RunOptions {
 using TableSink = std::function<void(std::size_t index, TableResult table, Progress& progress)>;
 constexpr std::uint64_t sinkUnits = 1'000'000;
 
+/// Called on the calling thread after the last table, when the variables that the program saves
+/// are described as they are to be: more files to appear with theirs. The stage of the progress is
+/// its own, in parts of `sinkUnits`.
+using RunEnd = std::function<void(storage::StagedFiles& files, Progress& progress)>;
+
 /// The program must be free of errors and outlive the tables. Warnings go to messages. Each table
-/// is given away before the next one is finished. False where the run was cancelled: then tables
-/// that were given away do not count. Throws storage::FileError where data cannot be read, and
-/// std::runtime_error where a table grows too large.
+/// is given away before the next one is finished. All files appear at the end, or none. False where
+/// the run was cancelled: then tables that were given away do not count, and nothing was written.
+/// Throws storage::FileError where data cannot be read or written, and std::runtime_error where a
+/// table grows too large; then nothing was written either.
 bool run(const language::BoundProgram& program, const RunOptions& options,
-         language::Messages& messages, const TableSink& sink);
+         language::Messages& messages, const TableSink& sink, const RunEnd& end = {});
 
 struct RunResult {
     std::vector<TableResult> tables;

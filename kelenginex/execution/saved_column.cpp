@@ -60,19 +60,28 @@ double aboveAll(const catalog::Variable& variable, double lowest, double highest
     failForCode(variable);
 }
 
-double freeText(const catalog::Variable& variable, const Column& column) {
+double freeText(const catalog::Variable& variable, const Column& column,
+                const storage::Pulse& pulse) {
     const std::vector<double> named = namedCodes(variable);
     std::set<double> taken(named.begin(), named.end());
-    for (std::uint64_t i = 0; i < column.textCount(); ++i) {
+    storage::forEachStep(column.textCount(), pulse, [&](std::uint64_t i) {
         if (const auto number = catalog::parseNumber(column.text(i)))
             taken.insert(*number);
-    }
+    });
     for (std::int64_t code = 9; code < mostShown; code = code * 10 + 9) {
         const auto number = static_cast<double>(code);
         if (taken.count(number) == 0)
             return number;
     }
     failForCode(variable);
+}
+
+/// A code that the variable names itself will do where no truth value and not MV has it.
+double codeBesideTruth(const catalog::Variable& variable) {
+    const auto& own = variable.notapp;
+    const bool isFree = own && *own == std::round(*own) && std::fabs(*own) <= mostExact &&
+                        *own != 0 && *own != 1 && own != variable.missing;
+    return isFree ? *own : aboveAll(variable, 0, 1);
 }
 
 /// Codes are given in 64 bits, so that there is room for one more.
@@ -85,12 +94,12 @@ public:
         if (info_.physical == Physical::Real64)
             return;
         info_.physical = Physical::Code64;
+        if (info_.type == ValueType::Boolean)
+            info_.type = ValueType::Integer;
         if (info_.type == ValueType::Integer)
             placeNumber(static_cast<std::int64_t>(*code));
-        else if (info_.type == ValueType::String)
-            placeText(catalog::numberText(*code));
         else
-            na_ = storage::blankCode(Physical::Code64);
+            placeText(catalog::numberText(*code));
     }
 
     storage::Zone zone(std::size_t block) const override {
@@ -134,8 +143,13 @@ private:
 
     void placeText(std::string text) {
         text_ = std::move(text);
-        while (na_ < column_->textCount() && column_->text(na_) < text_)
-            ++na_;
+        for (std::uint64_t end = column_->textCount(); na_ < end;) {
+            const std::uint64_t middle = na_ + (end - na_) / 2;
+            if (column_->text(middle) < text_)
+                na_ = middle + 1;
+            else
+                end = middle;
+        }
         findBounds(0, column_->textCount());
     }
 
@@ -183,13 +197,16 @@ private:
 
 } // namespace
 
-std::optional<double> freeCodeForNa(const catalog::Variable& variable) {
+std::optional<double> freeCodeForNa(const catalog::Variable& variable,
+                                    const storage::Pulse& pulse) {
     const auto column = variable.column();
     const ColumnInfo& info = column->info();
-    if (!info.naCode || info.type == ValueType::Boolean)
+    if (!info.naCode)
         return std::nullopt;
+    if (info.type == ValueType::Boolean)
+        return codeBesideTruth(variable);
     if (info.type == ValueType::String)
-        return freeText(variable, *column);
+        return freeText(variable, *column, pulse);
     if (info.type == ValueType::Real)
         return aboveAll(variable, info.minReal, info.maxReal);
     const std::uint64_t last = *info.naCode == 0 ? 0 : *info.naCode - 1;

@@ -268,10 +268,9 @@ void makeVariable(const Definition& definition, const RunOptions& options, doubl
         workOnValue(making, end);
     else
         workOnAggregates(making, end);
-    if (builder->settle())
+    while (const std::size_t parts = builder->nextStep())
         shareOut(
-            builder->blocks(), options.threads, [&](std::size_t block) { builder->join(block); },
-            progress);
+            parts, options.threads, [&](std::size_t part) { builder->join(part); }, progress);
     variable.setColumn(builder->take(
         static_cast<std::uint8_t>(std::clamp(variable.decimals.value_or(0), 0, 255))));
 }

@@ -193,7 +193,7 @@ struct OutFile {
     std::string type, format; ///< in lower case; empty where not given
     std::string file;
     bool overwrite = false;
-    Position position, formatPosition;
+    Position position, filePosition, formatPosition;
 };
 
 constexpr int leastQuantiles = 2, mostQuantiles = 1000; ///< parts

@@ -15,13 +15,15 @@ namespace {
 class Checker {
 public:
     explicit Checker(CheckerContext& context)
-        : expressions_(context), runs_(context, expressions_), definitions_(context, expressions_),
-          tables_(context, expressions_, bound_), calls_(context), settings_(runs_.defaults()) {}
+        : context_(context), expressions_(context), runs_(context, expressions_),
+          definitions_(context, expressions_), tables_(context, expressions_, bound_),
+          calls_(context), settings_(runs_.defaults()) {}
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
         bound_.lastSettings = settings_.settings;
         markUsed(bound_);
+        context_.files().report(context_);
         return std::move(bound_);
     }
 
@@ -45,6 +47,7 @@ private:
         calls_.call(command, [this](const ast::Program& program) { takeAll(program); });
     }
 
+    CheckerContext& context_;
     ExpressionChecker expressions_;
     RunChecker runs_;
     DefinitionChecker definitions_;

@@ -6,6 +6,7 @@
 #include "language/compile.h"
 #include "language/message_table.h"
 #include "language/names.h"
+#include "language/target_files.h"
 
 #include <initializer_list>
 #include <set>
@@ -21,13 +22,14 @@ public:
     CheckerContext(std::string_view program, const catalog::Dictionary& dictionary, Names& names,
                    const CompileOptions& options, Messages& messages)
         : program_(program), dictionary_(dictionary), names_(names), options_(options),
-          messages_(messages) {}
+          messages_(messages), files_(dictionary) {}
 
     const catalog::Dictionary& dictionary() const { return dictionary_; }
     const Names& names() const { return names_; }
     const CompileOptions& options() const { return options_; }
     Messages& messages() { return messages_; }
     std::string_view program() const { return program_; }
+    TargetFiles& files() { return files_; }
 
     /// The text that is checked, and the folder that it names files from.
     struct Place {
@@ -66,6 +68,7 @@ private:
     Names& names_;
     CompileOptions options_;
     Messages& messages_;
+    TargetFiles files_;
     std::set<std::string> expected_;
     std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;

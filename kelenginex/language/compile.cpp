@@ -11,6 +11,8 @@ BoundProgram compile(const std::string& program, catalog::Dictionary& dictionary
                      const CompileOptions& options, Messages& messages) {
     Names names(dictionary);
     CheckerContext context(program, dictionary, names, options, messages);
+    if (!options.programFile.empty())
+        context.files().read(options.programFile);
     ast::Program commands;
     if (isReadable(program, messages))
         commands = parse(tokenize(program, names.oddNames(), messages), messages);

@@ -12,10 +12,11 @@ namespace kelx::language {
 
 /// What a compilation takes from its setting.
 struct CompileOptions {
-    bool autoWeight = true;           ///< weight variables apply unless a program says otherwise
-    std::filesystem::path baseFolder; ///< relative file names of the program resolve against it
-    bool showIntermediate = false;    ///< tables that others are made of are outputs too
-    int defaultQuantiles = 4;         ///< parts of QUANTILE without a number
+    bool autoWeight = true;            ///< weight variables apply unless a program says otherwise
+    std::filesystem::path baseFolder;  ///< relative file names of the program resolve against it
+    std::filesystem::path programFile; ///< where the program stands; empty for a mere text
+    bool showIntermediate = false;     ///< tables that others are made of are outputs too
+    int defaultQuantiles = 4;          ///< parts of QUANTILE without a number
 };
 
 /// Lexes, parses and checks a program (UTF-8). Faults go to messages; where there are errors the

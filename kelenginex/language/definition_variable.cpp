@@ -200,11 +200,13 @@ std::optional<SaveClause> DefinitionVariable::save(const ast::Definition& ast, V
     clause.position = ast.save->position;
     clause.fileName = nameFor(clause.file, context_.dictionary().dataFolder);
     std::error_code ignored;
-    if (!saved_.insert(clause.file.string()).second) {
+    if (!saved_.insert(catalog::realFile(clause.file)).second) {
         context_.report(Error::SaveTwice, clause.position, {clause.file.string()});
         return std::nullopt;
     }
-    if (!clause.overwrite && fs::exists(clause.file, ignored)) {
+    if (!context_.files().checkSave(clause.file, variable.fullName(), clause.position, context_))
+        return std::nullopt;
+    if (!clause.overwrite && fs::exists(fs::symlink_status(clause.file, ignored))) {
         context_.report(Error::SaveExists, clause.position, {clause.file.string()});
         return std::nullopt;
     }

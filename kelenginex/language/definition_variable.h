@@ -5,6 +5,7 @@
 #include "language/ast.h"
 #include "language/expression_checker.h"
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <set>
@@ -33,7 +34,7 @@ private:
 
     CheckerContext& context_;
     ExpressionChecker& expressions_;
-    std::set<std::string> saved_; ///< files of the program
+    std::set<std::filesystem::path> saved_; ///< real files of the program
 };
 
 /// Width that values of the expression may need on screen and in text files.

@@ -178,6 +178,8 @@ const std::vector<MessageEntry> table = {
           "Tables side by side have the same rows."),
     error(Error::SortColumn, "KEL_E_SORT_COLUMN", "%1 has no column %2 to be sorted by.%3",
           "SORT names a variable of the table, the table itself, or one of its columns."),
+    error(Error::TargetFile, "KEL_E_TARGET_FILE", "%1 cannot be written to: %2.",
+          "A program writes over no file that the database or the run itself lives on."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -218,6 +220,9 @@ const std::vector<MessageEntry> table = {
     warning(Warning::OutfileFormat, "KEL_W_OUTFILE_FORMAT",
             "Files are written in UTF-8, not in %1.",
             "UTF-8 holds every character; spreadsheets and editors read it."),
+    warning(Warning::SavedAsNumbers, "KEL_W_SAVED_AS_NUMBERS",
+            "%1 is saved as the numbers 1 and 0, and %2 where it is not applicable.",
+            "A file of truth values has no room for what is not applicable."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

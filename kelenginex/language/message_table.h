@@ -75,6 +75,7 @@ enum class Error : int {
     TableShapes,
     TablistTable,
     SortColumn,
+    TargetFile,
 };
 
 /// Codes of warnings; the same rule.
@@ -94,6 +95,7 @@ enum class Warning : int {
     SortCrosstab,
     OutfileType,
     OutfileFormat,
+    SavedAsNumbers,
 };
 
 /// A line of the table.

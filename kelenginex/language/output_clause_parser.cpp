@@ -94,6 +94,7 @@ bool parseOutfile(ClauseReader& clauses, ast::Table& table) {
     else if (cursor.peek().kind == TokenKind::Word)
         cursor.unexpected("a type of file, such as XLS or CSV, or a file name in quotes",
                           {types.begin(), types.end()});
+    out.filePosition = cursor.peek().position;
     if (!readFile(cursor, out.file, "the name of the file in quotes"))
         return false;
     out.formatPosition = cursor.peek().position;

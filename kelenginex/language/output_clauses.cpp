@@ -71,6 +71,16 @@ void takeFiles(const ast::Table& table, CheckerContext& context, TableCommand& c
         command.jsonFiles.push_back(file.string());
 }
 
+void noteFiles(const ast::Table& table, const TableCommand& command, CheckerContext& context) {
+    if (command.outfile)
+        context.files().written(command.outfile->path, table.outfile->filePosition);
+    bool ofOutfile = table.outfile && !command.outfile; // JSON, which comes first
+    for (const std::string& file : command.jsonFiles) {
+        context.files().written(file, ofOutfile ? table.outfile->filePosition : table.savePosition);
+        ofOutfile = false;
+    }
+}
+
 void takeStyles(const ast::Table& table, const CheckerContext& context, TableCommand& command) {
     const RunSettings& run = *command.settings;
     command.tableStyle = styleOf(table.tableStyle, run.tableStyle, context);

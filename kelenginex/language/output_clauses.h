@@ -11,6 +11,8 @@ namespace kelx::language {
 
 /// OUTFILE and SAVE, into absolute paths.
 void takeFiles(const ast::Table& table, CheckerContext& context, TableCommand& command);
+/// Tells the context where the table is written to, for the end of the program.
+void noteFiles(const ast::Table& table, const TableCommand& command, CheckerContext& context);
 /// Own styles, else those of the run.
 void takeStyles(const ast::Table& table, const CheckerContext& context, TableCommand& command);
 /// Of several tables that one command makes, each has JSON files of its own.

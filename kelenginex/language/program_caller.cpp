@@ -17,13 +17,6 @@ constexpr std::size_t deepest = 20;
 constexpr std::size_t mostCalls = 10000;
 constexpr std::size_t mostBytes = 64u << 20;
 
-/// Links to one file are one file.
-std::filesystem::path realFile(const std::filesystem::path& file) {
-    std::error_code missing;
-    const std::filesystem::path real = std::filesystem::canonical(file, missing);
-    return missing ? file : real;
-}
-
 } // namespace
 
 bool ProgramCaller::mayCall(const ast::Execute& command, const std::filesystem::path& file) {
@@ -53,6 +46,7 @@ bool ProgramCaller::read(const ast::Execute& command, const std::filesystem::pat
         return false;
     }
     bytes_ += text.size();
+    context_.files().read(file);
     return true;
 }
 
@@ -85,7 +79,7 @@ CalledText ProgramCaller::putValues(const ast::Execute& command, const std::stri
 void ProgramCaller::call(const ast::Execute& command,
                          const std::function<void(const ast::Program&)>& take) {
     const std::filesystem::path named = resolvedFile(command.file, context_.options().baseFolder);
-    const std::filesystem::path file = realFile(named);
+    const std::filesystem::path file = catalog::realFile(named);
     std::string text;
     if (!mayCall(command, file) || !read(command, named, text))
         return;

@@ -108,8 +108,10 @@ AreaSelection RunChecker::selection(const ast::RunDefinition& run) {
 AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
     AreaSelection result;
     SelectionFileContent content;
+    const auto path = resolvedFile(file, context_.options().baseFolder);
+    context_.files().read(path);
     try {
-        content = readSelectionFile(resolvedFile(file, context_.options().baseFolder));
+        content = readSelectionFile(path);
     } catch (const std::runtime_error& fault) {
         context_.report(Error::SelectionFile, position, {inQuotes(file), fault.what()});
         return result;

@@ -296,6 +296,7 @@ bool TableChecker::addOne(TableCommand command, const Model& model, std::size_t 
     command.name = tables_.nameFor(model.table, number, count);
     if (count > 1)
         numberFiles(command, number);
+    noteFiles(model.table, command, context_);
     if (model.table.sort) {
         const bool taken = takeSort(command, facts, model);
         sorted_ = sorted_ || taken;

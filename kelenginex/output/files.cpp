@@ -76,19 +76,23 @@ std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
     return files;
 }
 
-void writeFiles(const std::vector<TableFile>& files) {
-    std::vector<std::unique_ptr<storage::AtomicFile>> written;
+void stageFiles(const std::vector<TableFile>& files, storage::StagedFiles& staged,
+                const storage::Pulse& pulse) {
     for (const TableFile& file : files) {
-        written.push_back(std::make_unique<storage::AtomicFile>(file.path));
-        const auto sink = [&](std::string_view part) { written.back()->write(part); };
-        if (file.form == TableFile::Form::Json)
-            writeJsonFile(file, sink);
-        else
-            writeCsvFile(file, sink);
-        written.back()->flush();
+        staged.write(file.path, [&](const std::filesystem::path& name) {
+            storage::AtomicFile written(name);
+            const auto sink = [&](std::string_view part) {
+                written.write(part);
+                if (pulse)
+                    pulse();
+            };
+            if (file.form == TableFile::Form::Json)
+                writeJsonFile(file, sink);
+            else
+                writeCsvFile(file, sink);
+            written.commit();
+        });
     }
-    for (const auto& file : written)
-        file->commit();
 }
 
 } // namespace kelx::output

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "output/table.h"
+#include "storage/pulse.h"
+#include "storage/staged_files.h"
 
 #include <filesystem>
 #include <vector>
@@ -27,9 +29,9 @@ std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
 /// The same, before there are tables.
 void requireCsv(const language::BoundProgram& program);
 
-/// Each file is complete before the first one takes its name. One table in JSON is an object,
-/// several are an array; several in CSV stand each after a line with its name. Throws
-/// storage::FileError.
-void writeFiles(const std::vector<TableFile>& files);
+/// Stages each file. One table in JSON is an object, several are an array; several in CSV stand
+/// each after a line with its name. Throws storage::FileError, and what the pulse throws.
+void stageFiles(const std::vector<TableFile>& files, storage::StagedFiles& staged,
+                const storage::Pulse& pulse);
 
 } // namespace kelx::output

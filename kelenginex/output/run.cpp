@@ -8,16 +8,22 @@
 namespace kelx::output {
 
 TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
-                      const execution::RunOptions& options, language::Messages& messages) {
+                      const execution::RunOptions& options, language::Messages& messages,
+                      const TablesEnd& end) {
     Workshop workshop(program, dictionary);
     const auto take = [&](std::size_t index, execution::TableResult result,
                           execution::Progress& progress) {
         workshop.take(index, std::move(result), progress);
     };
-    if (!execution::run(program, options, messages, take))
+    std::vector<Table> tables;
+    const auto finish = [&](storage::StagedFiles& files, execution::Progress& progress) {
+        tables = workshop.finish(progress);
+        if (end)
+            end(tables, files, progress);
+    };
+    if (!execution::run(program, options, messages, take, finish))
         return {{}, true};
-    execution::Progress silent({});
-    return {workshop.finish(silent), false};
+    return {std::move(tables), false};
 }
 
 } // namespace kelx::output

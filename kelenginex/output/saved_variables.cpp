@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/saved_variables.h"
 
+#include "catalog/data_files.h"
 #include "catalog/names.h"
+#include "storage/error.h"
 
 #include <algorithm>
 #include <memory>
@@ -19,16 +21,44 @@ catalog::Variable& placeFor(const std::string& name, catalog::Entity& entity) {
                : *entity.addVariable(std::make_unique<catalog::Variable>());
 }
 
+/// Of the dictionary that is joined, which need not be the program's own.
+catalog::Entity& entityFor(const catalog::Variable& made, const catalog::Dictionary& dictionary) {
+    catalog::Entity* entity = dictionary.findEntity(made.entity->name);
+    if (entity == nullptr)
+        throw storage::FileError(dictionary.file,
+                                 "has no entity " + made.entity->name + " any more");
+    return *entity;
+}
+
+void requireOwn(const language::Definition& definition, const catalog::Dictionary& dictionary,
+                const catalog::FileOwners& owners) {
+    const std::string name = definition.variable->fullName();
+    for (const std::string& owner : owners.of(catalog::realFile(definition.save->file))) {
+        if (!catalog::sameName(owner, name))
+            throw storage::FileError(dictionary.file, "by now has the data of " + owner + " in " +
+                                                          definition.save->file.string());
+    }
+}
+
 } // namespace
+
+bool savesVariables(const language::BoundProgram& program) {
+    return std::any_of(program.definitions.begin(), program.definitions.end(),
+                       [](const auto& definition) { return definition.save.has_value(); });
+}
 
 std::size_t joinSavedVariables(const language::BoundProgram& program,
                                catalog::Dictionary& dictionary) {
+    if (!savesVariables(program))
+        return 0;
+    const catalog::FileOwners owners(dictionary);
     std::size_t joined = 0;
     for (const language::Definition& definition : program.definitions) {
         if (!definition.save)
             continue;
         const catalog::Variable& made = *definition.variable;
-        catalog::Variable& variable = placeFor(made.name, *made.entity);
+        requireOwn(definition, dictionary, owners);
+        catalog::Variable& variable = placeFor(made.name, entityFor(made, dictionary));
         variable.copyDescription(made);
         variable.fileName = definition.save->fileName;
         variable.define = false;

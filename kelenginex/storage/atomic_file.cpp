@@ -13,15 +13,6 @@ namespace {
 
 constexpr std::size_t bufferSize = 256 * 1024;
 
-/// A link is followed, so that what it points to is replaced and not the link itself.
-std::filesystem::path targetOf(const std::filesystem::path& file) {
-    std::error_code ignored;
-    if (!std::filesystem::is_symlink(file, ignored))
-        return file;
-    const auto target = std::filesystem::weakly_canonical(file, ignored);
-    return ignored ? file : target;
-}
-
 } // namespace
 
 AtomicFile::AtomicFile(const std::filesystem::path& file) : file_(targetOf(file)) {

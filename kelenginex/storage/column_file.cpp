@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "storage/column_file.h"
 
+#include <algorithm>
 #include <sodium.h>
 
 namespace kelx::storage {
@@ -44,25 +45,42 @@ void ColumnFileBuilder::beginSection(std::uint64_t& offset) {
 }
 
 void ColumnFileBuilder::addTexts(const std::vector<std::string_view>& sorted) {
-    std::size_t length = (sorted.size() + 1) * sizeof(std::uint64_t);
-    for (const auto& text : sorted)
-        length += text.size();
-    std::vector<std::byte> bytes(length);
-    std::byte* place = bytes.data() + (sorted.size() + 1) * sizeof(std::uint64_t);
+    addTexts(sorted.size(), [&](std::uint64_t i) { return sorted[static_cast<std::size_t>(i)]; },
+             {});
+}
+
+void ColumnFileBuilder::addTexts(std::uint64_t count,
+                                 const std::function<std::string_view(std::uint64_t)>& sorted,
+                                 const Pulse& pulse) {
+    const auto offsets = static_cast<std::size_t>(count + 1) * sizeof(std::uint64_t);
+    std::uint64_t length = 0;
+    forEachStep(count, pulse, [&](std::uint64_t i) { length += sorted(i).size(); });
+    std::vector<std::byte> bytes(offsets + static_cast<std::size_t>(length));
+    std::byte* place = bytes.data() + offsets;
     std::uint64_t end = 0;
-    for (std::size_t i = 0; i < sorted.size(); ++i) {
-        if (!sorted[i].empty())
-            std::memcpy(place + end, sorted[i].data(), sorted[i].size());
-        end += sorted[i].size();
-        store(bytes.data(), i + 1, end);
-    }
+    forEachStep(count, pulse, [&](std::uint64_t i) {
+        const std::string_view text = sorted(i);
+        if (!text.empty())
+            std::memcpy(place + end, text.data(), text.size());
+        end += text.size();
+        store(bytes.data(), static_cast<std::size_t>(i) + 1, end);
+    });
     if (key_ != nullptr)
         bytes = key_->seal(bytes, sealContext(header_, Section::Texts, 0));
     beginSection(header_.textsOffset);
-    out_.write(bytes);
-    header_.textCount = sorted.size();
+    writeInParts(bytes, pulse);
+    header_.textCount = count;
     header_.textsLength = bytes.size();
     header_.textsHash = hash64(bytes);
+}
+
+void ColumnFileBuilder::writeInParts(std::span<const std::byte> bytes, const Pulse& pulse) {
+    constexpr std::size_t part = std::size_t{4} << 20;
+    for (; !bytes.empty(); bytes = bytes.subspan(std::min(part, bytes.size()))) {
+        out_.write(bytes.first(std::min(part, bytes.size())));
+        if (pulse)
+            pulse();
+    }
 }
 
 void ColumnFileBuilder::addZones() {

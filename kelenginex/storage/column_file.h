@@ -5,7 +5,9 @@
 #include "storage/atomic_file.h"
 #include "storage/block_stats.h"
 #include "storage/column_format.h"
+#include "storage/pulse.h"
 
+#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -27,11 +29,14 @@ public:
     void addBlock(const void* values, std::size_t count);
     /// The sorted texts of a text column; may be called once, after the blocks.
     void addTexts(const std::vector<std::string_view>& sorted);
+    void addTexts(std::uint64_t count, const std::function<std::string_view(std::uint64_t)>& sorted,
+                  const Pulse& pulse);
     /// Zones, header and renaming.
     void commit();
 
 private:
     void beginSection(std::uint64_t& offset);
+    void writeInParts(std::span<const std::byte> bytes, const Pulse& pulse);
     void addZones();
 
     AtomicFile out_;

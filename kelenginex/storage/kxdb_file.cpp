@@ -5,6 +5,7 @@
 #include "storage/mapped_file.h"
 
 #include <algorithm>
+#include <functional>
 #include <zstd.h>
 
 namespace kelx::storage {
@@ -98,7 +99,11 @@ std::shared_ptr<const Secret> deriveKey(const KxdbHeader& header, const Password
 
 } // namespace
 
-KxdbContent readKxdb(const std::filesystem::path& file, const PasswordPrompt& prompt) {
+namespace {
+
+using FindKey = std::function<std::shared_ptr<const Secret>(const KxdbHeader& header)>;
+
+KxdbContent readWith(const std::filesystem::path& file, const FindKey& findKey) {
     const MappedFile map(file);
     const auto header = readHeader<KxdbHeader>(map, dictionaryMagic, "dictionary file");
     checkKxdb(header, file);
@@ -110,7 +115,7 @@ KxdbContent readKxdb(const std::filesystem::path& file, const PasswordPrompt& pr
     if ((header.flags & 1u) != 0) {
         if (stored.size() < Secret::overhead)
             throw FileError(file, "is damaged: its content is too short");
-        content.key = deriveKey(header, prompt, file);
+        content.key = findKey(header);
         opened.resize(stored.size() - Secret::overhead);
         if (!content.key->open(stored, contextOf(header), opened))
             throw std::runtime_error("Wrong password.");
@@ -118,6 +123,28 @@ KxdbContent readKxdb(const std::filesystem::path& file, const PasswordPrompt& pr
     }
     content.payload = decompress(stored, header.payloadLength, file);
     return content;
+}
+
+bool isRecipeOf(const KxdbHeader& header, const Secret& key) {
+    const KeyRecipe& recipe = key.recipe();
+    return recipe.salt == header.salt && recipe.operations == header.operations &&
+           recipe.memory == header.memory;
+}
+
+} // namespace
+
+KxdbContent readKxdb(const std::filesystem::path& file, const PasswordPrompt& prompt) {
+    return readWith(file,
+                    [&](const KxdbHeader& header) { return deriveKey(header, prompt, file); });
+}
+
+KxdbContent readKxdbAgain(const std::filesystem::path& file,
+                          const std::shared_ptr<const Secret>& key) {
+    return readWith(file, [&](const KxdbHeader& header) {
+        if (key == nullptr || !isRecipeOf(header, *key))
+            throw FileError(file, "has got another password meanwhile");
+        return key;
+    });
 }
 
 void writeKxdb(const std::filesystem::path& file, const KxdbContent& content) {

@@ -25,6 +25,10 @@ using PasswordPrompt = std::function<std::string()>;
 /// Throws FileError on damage and std::runtime_error "Wrong password." on a wrong one. The prompt
 /// is called at most once, and only for a protected file.
 KxdbContent readKxdb(const std::filesystem::path& file, const PasswordPrompt& prompt);
+/// The same with a key that was derived before, null for none. Throws FileError where the file is
+/// protected otherwise.
+KxdbContent readKxdbAgain(const std::filesystem::path& file,
+                          const std::shared_ptr<const Secret>& key);
 /// Writes atomically; protected where content.key is set.
 void writeKxdb(const std::filesystem::path& file, const KxdbContent& content);
 

@@ -34,6 +34,14 @@ void failWithErrno(const std::filesystem::path& file, const std::string& what) {
     throw FileError(file, what + ": " + std::generic_category().message(errno));
 }
 
+std::filesystem::path targetOf(const std::filesystem::path& file) {
+    std::error_code ignored;
+    if (!std::filesystem::is_symlink(file, ignored))
+        return file;
+    const auto target = std::filesystem::weakly_canonical(file, ignored);
+    return ignored ? file : target;
+}
+
 TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {
     for (int attempt = 0; attempt < 100; ++attempt) {
         TemporaryFile created{folderOf(file) / randomName(), -1};

@@ -13,6 +13,10 @@ namespace kelx::storage {
 /// Throws a FileError with the system's own words for errno.
 [[noreturn]] void failWithErrno(const std::filesystem::path& file, const std::string& what);
 
+/// Where a file really is to be written: a link is followed, so that what it points to is replaced
+/// and not the link itself.
+std::filesystem::path targetOf(const std::filesystem::path& file);
+
 /// A new, empty file with a name of its own in the folder of file.
 struct TemporaryFile {
     std::filesystem::path name;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "storage/column.h"
+#include "storage/pulse.h"
 
 #include <filesystem>
 #include <memory>
@@ -35,8 +36,9 @@ std::shared_ptr<const Column> openRawColumn(const std::filesystem::path& file,
 std::optional<RawLayout> readRawDescription(const std::filesystem::path& binFile);
 void writeRawDescription(const std::filesystem::path& binFile, const RawLayout& layout,
                          std::uint64_t records);
-/// Writes a column as a .bin file, atomically. Throws FileError where a value does not fit.
+/// Writes a column as a .bin file, atomically, with a pulse for each block. Throws FileError where
+/// a value does not fit.
 void writeRawColumn(const std::filesystem::path& file, const Column& column,
-                    const RawLayout& layout);
+                    const RawLayout& layout, const Pulse& pulse = {});
 
 } // namespace kelx::storage

@@ -237,7 +237,7 @@ void encodeBlock(const Column& column, const void* values, std::size_t count, Ra
 } // namespace
 
 void writeRawColumn(const std::filesystem::path& file, const Column& column,
-                    const RawLayout& layout) {
+                    const RawLayout& layout, const Pulse& pulse) {
     checkRawLayout(layout, file);
     AtomicFile out(file);
     RawEncoder encoder(out, layout, file);
@@ -247,6 +247,8 @@ void writeRawColumn(const std::filesystem::path& file, const Column& column,
         const auto count =
             static_cast<std::size_t>(std::min<std::uint64_t>(records - begin, recordsPerBlock));
         encodeBlock(column, column.read(begin, count, scratch), count, encoder);
+        if (pulse)
+            pulse();
     }
     encoder.finish();
     out.commit();

@@ -4,9 +4,10 @@
 #include "storage/error.h"
 #include "storage/posix_io.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <string>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace kelx::storage {
@@ -14,14 +15,6 @@ namespace kelx::storage {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path targetOf(const fs::path& file) {
-    std::error_code ignored;
-    if (!fs::is_symlink(file, ignored))
-        return file;
-    const auto target = fs::weakly_canonical(file, ignored);
-    return ignored ? file : target;
-}
 
 void remove(fs::path& file) {
     if (!file.empty())
@@ -50,40 +43,61 @@ fs::path StagedFiles::stage(const fs::path& file) {
     return created.name;
 }
 
+void StagedFiles::write(const fs::path& file, const std::function<void(const fs::path&)>& writer) {
+    const fs::path staged = stage(file);
+    try {
+        writer(staged);
+    } catch (const FileError& error) {
+        const std::string problem = error.what();
+        const std::string prefix = staged.string() + ": ";
+        if (problem.starts_with(prefix))
+            throw FileError(file, problem.substr(prefix.size()));
+        throw;
+    }
+}
+
 void StagedFiles::add(const fs::path& staged, const fs::path& file) {
-    entries_.push_back({staged, targetOf(file), {}, false});
+    entries_.push_back({staged, targetOf(file), {}, false, false});
 }
 
 void StagedFiles::publish() {
+    try {
+        publishAll();
+    } catch (...) {
+        takeBack();
+        throw;
+    }
+}
+
+void StagedFiles::publishAll() {
     for (Entry& entry : entries_) {
         keepOld(entry);
-        if (::rename(entry.staged.c_str(), entry.file.c_str()) != 0) {
-            const int why = errno;
-            takeBack();
-            errno = why;
+        if (::rename(entry.staged.c_str(), entry.file.c_str()) != 0)
             failWithErrno(entry.file, "cannot be written");
-        }
         entry.published = true;
     }
     for (const Entry& entry : entries_)
         syncFolderOf(entry.file);
 }
 
-/// A file system without second names keeps nothing: a file is replaced there for good.
 void StagedFiles::keepOld(Entry& entry) {
     const fs::path name = fs::path(entry.staged).concat(".old");
     if (::link(entry.file.c_str(), name.c_str()) == 0)
         entry.backup = name;
+    else
+        entry.isNew = errno == ENOENT;
 }
 
+/// Where two have had one name, the first one knows what stood there before.
 void StagedFiles::takeBack() {
-    for (Entry& entry : entries_) {
-        if (!entry.published)
+    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+        if (!entry->published)
             continue;
-        if (entry.backup.empty())
-            ::unlink(entry.file.c_str());
-        else if (::rename(entry.backup.c_str(), entry.file.c_str()) == 0)
-            entry.backup.clear();
+        if (entry->isNew)
+            ::unlink(entry->file.c_str());
+        else if (!entry->backup.empty() &&
+                 ::rename(entry->backup.c_str(), entry->file.c_str()) == 0)
+            entry->backup.clear();
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 namespace kelx::storage {
@@ -19,19 +20,25 @@ public:
     /// Where to write a file whose parts are complete and synced when they stand there. A link is
     /// followed; the file keeps the mode of one that it replaces.
     std::filesystem::path stage(const std::filesystem::path& file);
+    /// Stages a file and has it written; what goes wrong is told of the name that it is to have.
+    void write(const std::filesystem::path& file,
+               const std::function<void(const std::filesystem::path& staged)>& writer);
     /// A file whose staged name another writer has chosen.
     void add(const std::filesystem::path& staged, const std::filesystem::path& file);
-    /// Gives all their names. Where one cannot have it, those that had their names before stand
-    /// as they were.
+    /// Gives all their names, in the order of their staging. Where one cannot have it, those that
+    /// had their names before stand as they were; on a file system without second names for a file
+    /// they stand as they are now, but are never lost.
     void publish();
 
 private:
     struct Entry {
         std::filesystem::path staged, file;
         std::filesystem::path backup; ///< a second name of the file that was replaced
+        bool isNew = false;           ///< there was no such file
         bool published = false;
     };
     static void keepOld(Entry& entry);
+    void publishAll();
     void takeBack();
     std::vector<Entry> entries_;
 };

@@ -246,6 +246,55 @@ TEST_F(KelxTest, WritesTheFilesOfAProgram) {
     EXPECT_EQ(kelx("run @/kept/sample.kxdb -e 'FREQ PERSON.ADULT'").status, 0);
 }
 
+TEST_F(KelxTest, RunsAtOnceLoseNoVariableOfEachOther) {
+    ASSERT_EQ(kelx("sample @/shared --persons 1000").status, 0);
+    std::vector<pid_t> runs;
+    for (int i = 1; i <= 8; ++i) {
+        const std::string n = std::to_string(i);
+        runs.push_back(
+            start({"run", path("shared/sample.kxdb"), "-e",
+                   "DEFINE PERSON.X" + n + " AS PERSON.AGE + " + n + " SAVE \"X" + n + "\""},
+                  path("err" + n)));
+    }
+    for (const pid_t run : runs) {
+        int status = 0;
+        ::waitpid(run, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    const Outcome all =
+        kelx("run @/shared/sample.kxdb --format csv -e 'SUM PERSON.X1 SUM PERSON.X2 "
+             "SUM PERSON.X3 SUM PERSON.X4 SUM PERSON.X5 SUM PERSON.X6 "
+             "SUM PERSON.X7 SUM PERSON.X8'");
+    EXPECT_EQ(all.status, 0) << all.err;
+}
+
+TEST_F(KelxTest, ARunThatCannotWriteItsTablesChangesNothing) {
+    ASSERT_EQ(kelx("sample @/whole --persons 1000").status, 0);
+    folder->write("plain", "a file\n");
+    const auto before = TemporaryFolder::contents(folder->path() / "whole");
+    const Outcome out =
+        kelx("run @/whole/sample.kxdb --out @/plain/tables -e 'DEFINE PERSON.ADULT AS PERSON.AGE "
+             ">= 18 SAVE \"adult\" FREQ PERSON.ADULT OUTFILE \"a.csv\"'");
+    EXPECT_EQ(out.status, 1);
+    EXPECT_THAT(out.err, HasSubstr("the folder cannot be made"));
+    EXPECT_EQ(TemporaryFolder::contents(folder->path() / "whole"), before);
+}
+
+TEST_F(KelxTest, ASignalWhileVariablesAreSavedLeavesNothing) {
+    ASSERT_EQ(kelx("sample @/long --persons 100000").status, 0);
+    const auto base = folder->path() / "long";
+    const auto before = TemporaryFolder::contents(base);
+    std::string program;
+    for (int i = 0; i < 100; ++i)
+        program += "DEFINE PERSON.S" + std::to_string(i) + " AS PERSON.AGE + " + std::to_string(i) +
+                   " SAVE \"s" + std::to_string(i) + "\"\n";
+    EXPECT_EQ(statusAfter(SIGINT, {"run", (base / "sample.kxdb").string(), "-e", program},
+                          path("err"), [&] { return hasStaging(base); }),
+              128 + SIGINT);
+    EXPECT_EQ(folder->read("err"), "kelx: interrupted; nothing was written\n");
+    EXPECT_EQ(TemporaryFolder::contents(base), before);
+}
+
 TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {
     const Outcome refused =
         kelx("run @/sample/sample.kxdb -e 'COUNT PERSON FREQ PERSON.SEX OUTFILE PDF \"x.pdf\"'");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "catalog/reader.h"
 #include "commands.h"
+#include "execution/progress.h"
 #include "interrupt.h"
 #include "language/compile.h"
 #include "output/files.h"
@@ -9,12 +10,14 @@
 #include "password.h"
 #include "program_text.h"
 #include "progress_bar.h"
+#include "storage/folder_lock.h"
 #include "table_printer.h"
 
 #include <CLI/CLI.hpp>
 
 #include <memory>
 #include <new>
+#include <optional>
 #include <stdexcept>
 
 namespace kelx::tool {
@@ -30,10 +33,42 @@ struct RunRequest {
     unsigned threads = 0;
 };
 
+/// The program's own files, those that the user asks for, and the dictionary with the variables
+/// that the program saves: all are to appear together.
+class FilesOfRun {
+public:
+    FilesOfRun(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
+               const TablePrinting& printing)
+        : program_(program), dictionary_(dictionary), printing_(printing) {}
+
+    void stage(const std::vector<output::Table>& tables, storage::StagedFiles& files,
+               const storage::Pulse& pulse) {
+        output::stageFiles(output::csvFiles(tables, program_), files, pulse);
+        output::stageFiles(output::jsonFiles(tables, program_), files, pulse);
+        stageFiles(tables, printing_, files, pulse);
+        if (output::savesVariables(program_))
+            stageDictionary(files, pulse);
+    }
+
+private:
+    /// Others may have saved variables since it was read, and must wait until it is written.
+    void stageDictionary(storage::StagedFiles& files, const storage::Pulse& pulse) {
+        lock_.emplace(dictionary_.file, pulse);
+        const auto current = catalog::readAgain(dictionary_);
+        output::joinSavedVariables(program_, *current);
+        catalog::stageDictionary(*current, files);
+    }
+
+    const language::BoundProgram& program_;
+    const catalog::Dictionary& dictionary_;
+    const TablePrinting& printing_;
+    std::optional<storage::FolderLock> lock_;
+};
+
 output::TablesOfRun makeTables(const language::BoundProgram& program,
                                const catalog::Dictionary& dictionary, const RunRequest& request,
                                language::Messages& messages) {
-    const InterruptWatch watch;
+    const InterruptWatch watch; // to the end of all writing
     ProgressBar bar;
     execution::RunOptions options;
     options.threads = request.threads;
@@ -42,24 +77,16 @@ output::TablesOfRun makeTables(const language::BoundProgram& program,
             bar.show(static_cast<std::uint64_t>(percent), 100);
         return watch.asked();
     };
-    output::TablesOfRun made = output::runTables(program, dictionary, options, messages);
-    watch.check();
+    FilesOfRun outcome(program, dictionary, request.printing);
+    output::TablesOfRun made =
+        output::runTables(program, dictionary, options, messages,
+                          [&](const std::vector<output::Table>& tables, storage::StagedFiles& files,
+                              execution::Progress& progress) {
+                              outcome.stage(tables, files, [&] { progress.checkNow(); });
+                          });
+    if (made.cancelled)
+        watch.check();
     return made;
-}
-
-/// Variables that the program saves stand in the dictionary file from now on.
-void keepVariables(const language::BoundProgram& program, catalog::Dictionary& dictionary) {
-    if (output::joinSavedVariables(program, dictionary) == 0)
-        return;
-    catalog::saveDictionary(dictionary, dictionary.file);
-}
-
-/// Those that the program itself asks for.
-void writeFiles(const std::vector<output::Table>& tables, const language::BoundProgram& program) {
-    std::vector<output::TableFile> files = output::csvFiles(tables, program);
-    for (output::TableFile& file : output::jsonFiles(tables, program))
-        files.push_back(std::move(file));
-    output::writeFiles(files);
 }
 
 int run(const RunRequest& request) {
@@ -68,6 +95,7 @@ int run(const RunRequest& request) {
     const auto dictionary = openDatabase(request.database, request.passwordFile);
     language::CompileOptions compileOptions;
     compileOptions.baseFolder = fs::absolute(request.database).parent_path();
+    compileOptions.programFile = request.program;
     language::Messages messages;
     const auto program = language::compile(text, *dictionary, compileOptions, messages);
     if (messages.hasErrors()) {
@@ -79,8 +107,6 @@ int run(const RunRequest& request) {
     printMessages(messages, name);
     if (messages.hasErrors())
         return failure;
-    keepVariables(program, *dictionary);
-    writeFiles(made.tables, program);
     print(made.tables, request.printing);
     return success;
 }

@@ -81,22 +81,19 @@ std::string fileNameOf(const output::Table& table, std::set<std::string>& taken)
     return name;
 }
 
-void writeAll(const std::vector<output::Table>& tables, const TablePrinting& printing) {
-    std::error_code fault;
-    fs::create_directories(printing.folder, fault);
-    if (fault)
-        throw storage::FileError(printing.folder, "the folder cannot be made: " + fault.message());
+std::vector<fs::path> filesOf(const std::vector<output::Table>& tables,
+                              const TablePrinting& printing) {
     std::set<std::string> taken;
+    std::vector<fs::path> files;
     const std::string extension = printing.format == "text" ? ".txt" : "." + printing.format;
-    for (const output::Table& table : tables) {
-        const fs::path file = printing.folder / (fileNameOf(table, taken) + extension);
-        storage::AtomicFile out(file);
-        show(table, printing, [&](std::string_view part) { out.write(part); });
-        if (printing.format == "json")
-            out.write("\n");
-        out.commit();
+    for (const output::Table& table : tables)
+        files.push_back(printing.folder / (fileNameOf(table, taken) + extension));
+    return files;
+}
+
+void printNames(const std::vector<output::Table>& tables, const TablePrinting& printing) {
+    for (const fs::path& file : filesOf(tables, printing))
         std::cout << file.string() << '\n';
-    }
 }
 
 /// Rows of CSV have no place for them.
@@ -107,8 +104,31 @@ void tellTimes(const std::vector<output::Table>& tables) {
 
 } // namespace
 
+void stageFiles(const std::vector<output::Table>& tables, const TablePrinting& printing,
+                storage::StagedFiles& files, const storage::Pulse& pulse) {
+    if (printing.folder.empty())
+        return;
+    std::error_code fault;
+    fs::create_directories(printing.folder, fault);
+    if (fault)
+        throw storage::FileError(printing.folder, "the folder cannot be made: " + fault.message());
+    const std::vector<fs::path> names = filesOf(tables, printing);
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        files.write(names[i], [&](const fs::path& staged) {
+            storage::AtomicFile out(staged);
+            show(tables[i], printing, [&](std::string_view part) {
+                out.write(part);
+                pulse();
+            });
+            if (printing.format == "json")
+                out.write("\n");
+            out.commit();
+        });
+    }
+}
+
 void print(const std::vector<output::Table>& tables, const TablePrinting& printing) {
-    printing.folder.empty() ? printAll(tables, printing) : writeAll(tables, printing);
+    printing.folder.empty() ? printAll(tables, printing) : printNames(tables, printing);
     if (printing.time && printing.format == "csv")
         tellTimes(tables);
 }

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "output/table.h"
+#include "storage/pulse.h"
+#include "storage/staged_files.h"
 
 #include <filesystem>
 #include <string>
@@ -16,7 +18,11 @@ struct TablePrinting {
     bool time = false;
 };
 
-/// Throws storage::FileError where a file cannot be written.
+/// The files that go into a folder, if there is one. Throws storage::FileError, and what the pulse
+/// throws.
+void stageFiles(const std::vector<output::Table>& tables, const TablePrinting& printing,
+                storage::StagedFiles& files, const storage::Pulse& pulse);
+/// The tables, or where a folder has them now, the names of their files.
 void print(const std::vector<output::Table>& tables, const TablePrinting& printing);
 
 } // namespace kelx::tool

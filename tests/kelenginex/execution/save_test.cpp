@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <map>
+#include <stdexcept>
+#include <thread>
 
 namespace kelx::test {
 namespace {
@@ -20,12 +23,12 @@ protected:
         std::ifstream in(file, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    std::vector<std::string> files() const {
-        std::vector<std::string> names;
+    /// All files of the database, with what they hold.
+    std::map<std::string, std::string> files() const {
+        std::map<std::string, std::string> all;
         for (const auto& entry : fs::directory_iterator(folder()))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
+            all[entry.path().filename().string()] = contents(entry.path());
+        return all;
     }
 
     std::shared_ptr<catalog::Variable> add(ValueType type, const std::string& file,
@@ -41,8 +44,8 @@ protected:
     void run(const execution::ProgressCallback& callback = {}) {
         execution::RunOptions options;
         options.progress = callback;
-        language::Messages messages;
-        cancelled_ = execution::run(program_.bound, options, messages).cancelled;
+        messages_ = {};
+        cancelled_ = execution::run(program_.bound, options, messages_).cancelled;
     }
     std::string errorOf() {
         try {
@@ -59,6 +62,7 @@ protected:
 
     SmallCountry country_;
     DefineProgram program_{country_.dictionary};
+    language::Messages messages_;
     bool cancelled_ = false;
 };
 
@@ -111,8 +115,12 @@ TEST_F(Saving, notApplicableGetsACodeThatIsFree) {
         EXPECT_EQ(real->notapp, 71);
         EXPECT_EQ(reopened(*text), listed("34 . 9 7 7 70 . 15"));
         EXPECT_EQ(text->notapp, 9);
-        EXPECT_EQ(reopened(*truth), listed("1 . . 1 1 1 . 1"));
-        EXPECT_FALSE(truth->notapp);
+        EXPECT_EQ(reopened(*truth), listed("1 . 2 1 1 1 . 1"));
+        EXPECT_EQ(truth->notapp, 2);
+        EXPECT_EQ(truth->type, ValueType::Integer);
+        ASSERT_EQ(messages_.all().size(), 1U);
+        EXPECT_EQ(messages_.all()[0].text, "PERSON.NEW is saved as the numbers 1 and 0, and 2 "
+                                           "where it is not applicable.");
         EXPECT_EQ(reopened(*labelled), listed("34 120 121 7 7 70 120 15"));
         EXPECT_EQ(labelled->notapp, 121);
         EXPECT_EQ(reopened(*coded), listed("34 . -8 7 7 70 . 15"));
@@ -167,8 +175,68 @@ TEST_F(Saving, oneThatFailsLeavesAllAsTheyWere) {
     add(ValueType::String, "c.bin", constant(std::string("x ")));
     EXPECT_NE(errorOf().find("c.bin: record 1"), std::string::npos);
     expectUntouched();
-    run([&](int, int, int percent) { return percent == 100; });
-    EXPECT_TRUE(cancelled_);
+}
+
+TEST_F(Saving, aStopAtAnyCallLeavesAllAsTheyWere) {
+    std::ofstream(folder() / "old.kbf") << "old";
+    add(ValueType::String, "t.kbf",
+        variable(*country_.dictionary.findEntity("PERSON")->findVariable("NAME")));
+    addAge(ValueType::Integer, "old.kbf", true);
+    addAge(ValueType::Integer, "raw.bin");
+    const auto before = files();
+    int stopAt = 0;
+    std::vector<int> told;
+    do {
+        ++stopAt;
+        told.clear();
+        run([&](int, int, int percent) {
+            std::this_thread::sleep_for(execution::Progress::interval); // each question is asked
+            told.push_back(percent);
+            return static_cast<int>(told.size()) == stopAt;
+        });
+        if (cancelled_) {
+            EXPECT_EQ(static_cast<int>(told.size()), stopAt);
+            EXPECT_LT(told.back(), 100);
+            ASSERT_EQ(files(), before) << stopAt;
+        }
+    } while (cancelled_ && stopAt < 1000);
+    // Only the answer to the last call, when all is done, is not heard.
+    EXPECT_GT(stopAt, 5);
+    EXPECT_EQ(static_cast<int>(told.size()), stopAt);
+    EXPECT_EQ(told.back(), 100);
+    EXPECT_EQ(files().size(), before.size() + 3);
+    EXPECT_NE(contents(folder() / "old.kbf"), "old");
+}
+
+TEST_F(Saving, moreFilesAppearWithTheVariablesOrNoneDoes) {
+    const auto made = addAge(ValueType::Integer, "new.kbf");
+    const auto before = files();
+    const auto end = [&](storage::StagedFiles& staged, execution::Progress&) {
+        EXPECT_EQ(made->fileName, "new.kbf");
+        EXPECT_EQ(made->notapp, 71);
+        staged.write(folder() / "more.csv", [](const fs::path& file) { std::ofstream(file) << 1; });
+        EXPECT_FALSE(fs::exists(folder() / "new.kbf"));
+    };
+    const auto runTo = [&](const execution::RunEnd& last) {
+        execution::run(program_.bound, {}, messages_, {}, last);
+    };
+    EXPECT_THROW(runTo([&](storage::StagedFiles& staged, execution::Progress& progress) {
+                     end(staged, progress);
+                     throw std::runtime_error("full");
+                 }),
+                 std::runtime_error);
+    EXPECT_EQ(files(), before);
+    // Another process comes first.
+    EXPECT_THROW(runTo([&](storage::StagedFiles&, execution::Progress&) {
+                     std::ofstream(folder() / "new.kbf") << "theirs";
+                 }),
+                 storage::FileError);
+    EXPECT_EQ(contents(folder() / "new.kbf"), "theirs");
+    fs::remove(folder() / "new.kbf");
+    made->notapp.reset();
+    runTo(end);
+    EXPECT_EQ(contents(folder() / "more.csv"), "1");
+    EXPECT_EQ(reopened(*made), listed("34 . 71 7 7 70 . 15"));
 }
 
 TEST_F(Saving, protectedDatabasesSealTheirColumns) {

@@ -240,11 +240,12 @@ TEST(DefinedVariables, HaveWhatTheClausesTell) {
 
 TEST(DefinedVariables, GoIntoTheFilesThatSaveNames) {
     Census census;
+    census.write("sub/there", "");
     const BoundProgram program =
         census.compile("DEFINE PERSON.A AS AGE SAVE \"sub\\a.bin\"\n"
                        "DEFINE PERSON.B AS AGE SAVE \"b\" OVERWRITE TYPE REAL\n"
                        "DEFINE PERSON.C AS AGE SAVE \"../c.kbf\"\n"
-                       "DEFINE PERSON.D AS AGE SAVE \"PERSON_AGE.kbf\" OVERWRITE\n"
+                       "DEFINE PERSON.AGE AS AGE + 1 SAVE \"PERSON_AGE.kbf\" OVERWRITE\n"
                        "DEFINE PERSON.E AS AGE");
     ASSERT_EQ(told(census.messages), "");
     const std::filesystem::path folder = census.options.baseFolder;
@@ -267,7 +268,7 @@ TEST(DefinedVariables, GoIntoTheFilesThatSaveNames) {
 TEST(DefinedVariables, TakeNoFilesOfOthers) {
     Census census;
     census.write("there.kbf", "x");
-    census.compile("DEFINE PERSON.A AS AGE SAVE \"PERSON_AGE.kbf\"\n"
+    census.compile("DEFINE PERSON.AGE AS AGE SAVE \"PERSON_AGE.kbf\"\n"
                    "DEFINE PERSON.B AS AGE SAVE \"there\"\n"
                    "DEFINE PERSON.C AS AGE SAVE \"c.kbf\"\n"
                    "DEFINE PERSON.D AS AGE SAVE \"x/../c.kbf\" OVERWRITE\n"
@@ -275,13 +276,36 @@ TEST(DefinedVariables, TakeNoFilesOfOthers) {
     const std::string folder = census.options.baseFolder.string();
     const std::string replace = ". Write OVERWRITE behind it to replace it.\n";
     EXPECT_EQ(told(census.messages),
-              "KEL_E_SAVE_EXISTS 1:29 There is already a file " + folder + "/PERSON_AGE.kbf" +
+              "KEL_E_SAVE_EXISTS 1:31 There is already a file " + folder + "/PERSON_AGE.kbf" +
                   replace + "KEL_E_SAVE_EXISTS 2:29 There is already a file " + folder +
                   "/there.kbf" + replace +
                   "KEL_E_SAVE_TWICE 4:29 The program saves two variables as " + folder +
                   "/c.kbf.\n"
                   "KEL_E_UNEXPECTED 5:29 Found an empty text, but expected the name of a file in "
                   "quotes.\n");
+}
+
+TEST(DefinedVariables, ReplaceNoDataOfOthers) {
+    Census census;
+    namespace fs = std::filesystem;
+    const fs::path folder = census.options.baseFolder;
+    census.write("orphan.kbf", "x");
+    fs::create_symlink(folder / "PERSON_AGE.kbf", folder / "link.kbf");
+    census.variable("PERSON", "LOST").fileName = "lost.bin";
+    census.compile("DEFINE PERSON.A AS AGE SAVE \"PERSON_SEX2.kbf\" OVERWRITE\n"
+                   "DEFINE PERSON.B AS AGE SAVE \"link\" OVERWRITE\n"
+                   "DEFINE PERSON.C AS AGE SAVE \"lost.bin\"\n"
+                   "DEFINE PERSON.D AS AGE SAVE \"orphan\" OVERWRITE\n"
+                   "DEFINE PERSON.E AS AGE SAVE \"no/such\"");
+    const std::string there = folder.string() + "/";
+    const std::string cannot = " cannot be written to: ";
+    EXPECT_EQ(told(census.messages),
+              "KEL_E_TARGET_FILE 1:29 " + there + "PERSON_SEX2.kbf" + cannot +
+                  "it holds the data of PERSON.SEX2.\nKEL_E_TARGET_FILE 2:29 " + there +
+                  "link.kbf" + cannot + "it holds the data of PERSON.AGE.\n" +
+                  "KEL_E_TARGET_FILE 3:29 " + there + "lost.bin" + cannot +
+                  "it holds the data of PERSON.LOST.\nKEL_E_TARGET_FILE 5:29 " + there +
+                  "no/such.kbf" + cannot + "there is no folder " + there + "no.\n");
 }
 
 TEST(DefinedVariables, AreUsedWhereATableReachesThem) {

@@ -4,6 +4,7 @@
 #include "fixture.h"
 #include "language/text.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kelx::language {
@@ -169,6 +170,7 @@ TEST(Tables, ProtectTheFewAsTheMostCarefulOfTheirParts) {
 TEST(Files, GoWhereTheProgramIs) {
     Census census;
     const std::filesystem::path folder = census.dictionary.dataFolder;
+    census.write("a/there", "");
     census.write("sub/called.spc", "FREQ SEX2 OUTFILE \"..\\x.csv\" TABLESTYLE \"t.json\"");
     const BoundProgram program = census.compile(
         "FREQ SEX2 OUTFILE xls \"a\\b.xlsx\" utf8 overwrite\nFREQ SEX2 OUTFILE \"c.PDF\" unicode\n"
@@ -195,6 +197,49 @@ TEST(Files, GoWhereTheProgramIs) {
     EXPECT_EQ(out(5).format, OutputFile::Format::Csv);
     EXPECT_EQ(out(6).path, (folder / "x.csv").string());
     EXPECT_EQ(program.tables[6].tableStyle, (folder / "sub/t.json").string());
+}
+
+/// The places of targets that are refused.
+std::string refused(Census& census, const std::string& program) {
+    census.compile(program);
+    return located(census.messages);
+}
+
+TEST(Files, LeaveTheDatabaseAndTheRunAlone) {
+    Census census;
+    namespace fs = std::filesystem;
+    const fs::path folder = census.options.baseFolder;
+    for (const char* name : {"x.kxdb", "PERSON_SEX2.kbf", "NEW.KBF", "p.spc", "a.dicx", "b.Bin",
+                             "b.bin.desc", "c.kpt", "no/such.csv", "."}) {
+        EXPECT_EQ(refused(census, std::string("FREQ SEX2 OUTFILE csv \"") + name + '"'),
+                  "KEL_E_TARGET_FILE 1:23\n")
+            << name;
+        EXPECT_EQ(refused(census, std::string("FREQ SEX2 SAVE \"") + name + '"').substr(0, 17),
+                  std::string(name) == "." ? "" : "KEL_E_TARGET_FILE")
+            << name;
+    }
+    fs::create_symlink(folder / "PERSON_SEX2.kbf", folder / "link.csv");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE \"link.csv\""), "KEL_E_TARGET_FILE 1:19\n");
+    census.variable("PERSON", "GRP").fileName = "group.dat";
+    EXPECT_EQ(refused(census, "FREQ SEX2\nOUTFILE \"group.dat\""), "KEL_E_TARGET_FILE 2:9\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2, AGE OUTFILE \"x.kxdb\""), "KEL_E_TARGET_FILE 1:24\n");
+}
+
+TEST(Files, ThatTheRunReadsAreNotWritten) {
+    Census census;
+    census.write("s_sel.json", R"({"label": "l", "areas": []})");
+    census.write("sub/called.txt", "FREQ SEX2 OUTFILE \"../s_sel.json\"");
+    census.compile("FREQ SEX2 SAVE \"s_sel.json\"\nFREQ SEX2 OUTFILE csv \"sub/called.txt\"\n"
+                   "FREQ SEX2 SAVE \"other.json\"\n"
+                   "RUNDEF r SELECTION \"s_sel.json\"\nEXECUTE \"sub/called.txt\"");
+    const std::string all = told(census.messages);
+    EXPECT_THAT(all, testing::HasSubstr("KEL_E_TARGET_FILE 1:16 "));
+    EXPECT_THAT(all, testing::HasSubstr("KEL_E_TARGET_FILE 2:23 "));
+    EXPECT_THAT(all, testing::HasSubstr("KEL_E_TARGET_FILE 5:"));
+    EXPECT_THAT(all, testing::HasSubstr("cannot be written to: the run reads it."));
+    EXPECT_THAT(all, testing::Not(testing::HasSubstr("other.json")));
+    census.options.programFile = census.write("main.txt", "");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE csv \"main.txt\""), "KEL_E_TARGET_FILE 1:23\n");
 }
 
 TEST(Files, OfOtherKindsAreToldToBeCsv) {

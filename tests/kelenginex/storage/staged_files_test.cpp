@@ -69,6 +69,30 @@ TEST_F(StagedFilesTest, OneThatCannotHaveItsNameGivesTheOthersBack) {
     EXPECT_THAT(names(), UnorderedElementsAre("a", "c"));
 }
 
+TEST_F(StagedFilesTest, AFileWithoutASecondNameIsNotLost) {
+    write(path("a"), "old a");
+    StagedFiles files;
+    const auto staged = files.stage(path("a"));
+    write(staged, "new a");
+    write(staged.string() + ".old", "in the way"); // so that the old file cannot be kept
+    write(files.stage(path("c")), "new c");
+    std::filesystem::create_directories(path("c") / "inside");
+    EXPECT_THROW(files.publish(), FileError);
+    EXPECT_EQ(read(path("a")), "new a");
+}
+
+TEST_F(StagedFilesTest, FaultsNameTheFileThatIsMeant) {
+    StagedFiles files;
+    try {
+        files.write(path("a"), [](const std::filesystem::path& staged) {
+            throw FileError(staged, "is full");
+        });
+        FAIL() << "no fault";
+    } catch (const FileError& fault) {
+        EXPECT_EQ(fault.what(), path("a").string() + ": is full");
+    }
+}
+
 TEST_F(StagedFilesTest, ALinkIsFollowed) {
     write(path("real"), "old");
     std::filesystem::create_symlink(path("real"), path("link"));
