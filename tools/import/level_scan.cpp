@@ -149,6 +149,9 @@ bool LevelScan::place(const LevelFile& level, std::uint64_t& parent) {
 void LevelScan::noteValue(ColumnSummary& summary, const LevelFile& level, std::size_t column) {
     const TypedValue value = level.value(column);
     summary.note(value);
+    if (!summary.fits()) // not to be tolerated: there is no telling which of them are wrong
+        level.fail(column, summary.field->name + ": " + inQuotes(level.text(column)) +
+                               " lies too far from the other values to be held");
     if (value.blank)
         ++summary.blanks;
     else if (summary.field->coded && !hasLabel(summary, value, column))
