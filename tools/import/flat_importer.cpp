@@ -78,7 +78,7 @@ private:
             };
         } else {
             open_ = [this](const BytesRead& onRead) {
-                return std::make_unique<CsvSource>(request_.data, onRead);
+                return std::make_unique<CsvSource>(request_.data, onRead, request_.separator);
             };
         }
     }
