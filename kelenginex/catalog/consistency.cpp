@@ -135,11 +135,20 @@ private:
         } else {
             try {
                 check.column = openColumn(entity, variable);
+                checkWeight(check);
             } catch (const storage::FileError& fault) {
                 check.find(FindingSeverity::Error, "File", reasonOf(fault));
             }
         }
         return check;
+    }
+
+    static void checkWeight(VariableCheck& check) {
+        const Variable& variable = *check.variable;
+        if (variable.entity->weightVar == &variable &&
+            check.column->info().type == storage::ValueType::String) {
+            check.find(FindingSeverity::Error, "Weight", "holds texts and cannot be a weight");
+        }
     }
 
     static std::shared_ptr<const storage::Column> openColumn(const EntityCheck& entity,
@@ -179,6 +188,11 @@ private:
         }
         for (VariableCheck& variable : variables) {
             checkRecords(check, numbers, variable);
+        }
+        const Entity& entity = *check.entity;
+        if (check.records && entity.fileName.empty() && entity.parent != nullptr &&
+            entity.parent->parent == nullptr) {
+            check.pointers = storage::PointerFile::single(*check.records); // one family
         }
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Checks a database against its dictionary, file by file.
+// Checks a database against its dictionary, file by file. A blank is a value as any other, but a
+// code must not be blank.
 #pragma once
 
 #include "catalog/model.h"

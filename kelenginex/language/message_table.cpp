@@ -108,6 +108,9 @@ const std::vector<MessageEntry> table = {
         "The weight is about %1, but COUNT counts %2, which has many of them: take a weight of %2 "
         "or of what lies above it.",
         "A count of records is weighted by what each record has, not by what lies below it."),
+    error(Error::WeightIsText, "KEL_E_WEIGHT_IS_TEXT",
+          "%1, the automatic weight, holds texts: name another WEIGHT, or write NOWEIGHT.",
+          "The dictionary names a variable as weight that is no number."),
     error(Error::SelfReference, "KEL_E_SELF_REFERENCE",
           "%1 is used to make itself, but there is no such variable yet.",
           "DEFINE may use the variable that it redefines, but not one that it makes anew."),

@@ -49,6 +49,7 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
+    WeightIsText,
     SelfReference,
     BelowEntity,
     NotBelow,

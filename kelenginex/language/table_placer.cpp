@@ -108,7 +108,10 @@ bool TablePlacer::placeWeight(TableCommand& command) {
     if (variable == nullptr)
         return true;
     command.weight = expressions_.variable(*variable, command.position);
-    return command.weight != nullptr;
+    if (command.weight == nullptr || command.weight->type != ValueType::String)
+        return command.weight != nullptr;
+    context_.report(Error::WeightIsText, command.position, {variable->fullName()});
+    return false;
 }
 
 bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& filter,

@@ -299,6 +299,51 @@ TEST_F(ImportTest, KeepsWhatIsThere) {
     EXPECT_THAT(values(*import(), "TOWN", "NAME"), ElementsAre("Other", "Place"));
 }
 
+TEST_F(ImportTest, ReplacesWhatBelongsToTheReplacedDatabaseOnly) {
+    const auto faultOf = [&] {
+        const auto before = TemporaryFolder::contents(folder.path() / "out");
+        std::string fault = "no fault";
+        try {
+            tools::importCsv(request);
+        } catch (const std::exception& error) {
+            fault = error.what();
+        }
+        EXPECT_EQ(TemporaryFolder::contents(folder.path() / "out"), before);
+        const std::string prefix = (folder.path() / "out").string() + "/";
+        for (std::size_t at; (at = fault.find(prefix)) != std::string::npos;)
+            fault.erase(at, prefix.size());
+        return fault;
+    };
+    import();
+    request.overwrite = true;
+    request.database = folder.path() / "out" / "other.kxdb";
+    EXPECT_EQ(faultOf(),
+              "HOME.kpt: exists already and does not belong to the database to be replaced");
+    request.database = folder.path() / "out" / "db.kxdb";
+    folder.write("out/more.kxdb", "rubbish");
+    EXPECT_THAT(faultOf(), testing::StartsWith("HOME.kpt: may belong to another database in the "
+                                               "folder and cannot be replaced: more.kxdb: "));
+    std::filesystem::remove(folder.path() / "out" / "more.kxdb");
+    const auto dictionary = catalog::readDictionary(request.database, {});
+    catalog::saveDictionary(*dictionary, folder.path() / "out" / "copy.dicx");
+    EXPECT_EQ(faultOf(),
+              "HOME.kpt: belongs to copy.dicx too and cannot be replaced; take another folder");
+    std::filesystem::remove(folder.path() / "out" / "copy.dicx");
+
+    folder.write("codebook.csv", "level,field,type,code,label,is_missing\n"
+                                 "town,code,key text(2),,Town code,\n"
+                                 "town,title,label,,,\n");
+    folder.write("town.csv", "code,title\n01,One\n");
+    request.levels.resize(1);
+    folder.write("out/notes.kbf", "mine");
+    EXPECT_THAT(values(*import(), "TOWN", "TITLE"), ElementsAre("One"));
+    std::vector<std::string> left;
+    for (const auto& [file, text] : TemporaryFolder::contents(folder.path() / "out"))
+        left.push_back(file);
+    EXPECT_THAT(left,
+                ElementsAre("TOWN.kpt", "TOWN_CODE.kbf", "TOWN_TITLE.kbf", "db.kxdb", "notes.kbf"));
+}
+
 TEST_F(ImportTest, TellsTheBytesReadAndEndsWhenAsked) {
     const std::uint64_t bytes =
         2 * (std::strlen(towns) + std::strlen(homes) + std::strlen(persons));

@@ -65,6 +65,60 @@ TEST_F(FlatCsvTest, KeepsEveryValueThatATypeMustHold) {
     EXPECT_THAT(values(*db, "R", "F"), ElementsAre("5", "+5"));
 }
 
+// Values that a narrower type would merge stay apart, and the report says why.
+TEST_F(FlatCsvTest, NumbersThatCannotBeHeldAreTexts) {
+    request.levels = "H:h,R";
+    auto db = importOf("h,a,b,c,d,e\n"
+                       "12345678901234567890,9007199254740993,0.5,-9223372036854775808,1,1e3\n"
+                       "12345678901234567890,9007199254740992,1,9223372036854775807,2,2\n"
+                       "12345678901234567891,0.5,1,3,1e400,5\n");
+    EXPECT_THAT(values(*db, "H", "H"), ElementsAre("12345678901234567890", "12345678901234567891"));
+    EXPECT_THAT(values(*db, "R", "A"), ElementsAre("9007199254740993", "9007199254740992", "0.5"));
+    EXPECT_THAT(values(*db, "R", "B"), ElementsAre("0.5", "1", "1"));
+    EXPECT_THAT(values(*db, "R", "C"),
+                ElementsAre("-9223372036854775808", "9223372036854775807", "3"));
+    EXPECT_THAT(values(*db, "R", "D"), ElementsAre("1", "2", "1e400"));
+    EXPECT_EQ(db->findEntity("R")->findVariable("E")->type, ValueType::Real);
+    EXPECT_THAT(
+        report.notes,
+        ElementsAre(
+            "H is STRING: \"12345678901234567890\" in line 2, column 1 is a whole number "
+            "beyond 64 bits",
+            "A is STRING: \"9007199254740993\" in line 2, column 22 cannot be told from its "
+            "neighbours beside numbers that are not whole",
+            "C is STRING: \"9223372036854775807\" in line 3, column 41 lies too far from "
+            "the other values",
+            "D is STRING: \"1e400\" in line 4, column 30 is beyond the numbers that can be "
+            "held"));
+
+    db = importOf("h,a,b,c\n0.5,1,7,x\n0.50,nan,8,1\n0.5000,\"3,5\",09,y\n1,4,10,z\n");
+    EXPECT_THAT(values(*db, "H", "H"), ElementsAre("0.5", "0.50", "0.5000", "1"));
+    EXPECT_THAT(report.notes,
+                ElementsAre("H is STRING: \"0.5\" in line 2, column 1 is a key that is no whole "
+                            "number",
+                            "B is STRING: \"09\" in line 4, column 14 has zeros in front"));
+    db = importOf("h,a\n1,1\n2,2\n3,3\n4,\"3,5\"\n5,nan\n");
+    EXPECT_THAT(report.notes, ElementsAre("A is STRING: \"3,5\" in line 5, column 3 is no number"));
+    request.levels = "R";
+    request.codebook = folder.write("book.csv", "level,field,type,code,label,is_missing\n"
+                                                "R,a,integer,,,\n");
+    std::filesystem::remove_all(folder / "out");
+    request.tolerant = true;
+    EXPECT_EQ(faultOf("a\n-9223372036854775808\n9223372036854775807\n"),
+              "flat.csv:3:1: error: A: \"9223372036854775807\" lies too far from the other values "
+              "to be held");
+}
+
+TEST_F(FlatCsvTest, AWeightIsANumber) {
+    request.weight = "note";
+    EXPECT_EQ(faultOf(census),
+              "flat.csv:2:24: error: NOTE cannot be the weight: \"a\" is no number");
+    request.weight = "size";
+    request.codebook = folder.write("book.csv", "level,field,type,code,label,is_missing\n"
+                                                "person,size,text,,,\n");
+    EXPECT_EQ(faultOf(census), "SIZE cannot be the weight, since it holds texts.");
+}
+
 TEST_F(FlatCsvTest, LevelsMayBeGiven) {
     request.places = {{"sex", "HOUSEHOLD"}};
     EXPECT_EQ(faultOf(census), "flat.csv:3:17: error: SEX is \"2\" here, but \"1\" in line 2 for "

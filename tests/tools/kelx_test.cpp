@@ -342,10 +342,32 @@ TEST_F(KelxTest, ImportsAFlatFile) {
     EXPECT_EQ(tolerant.status, 0);
     EXPECT_EQ(tolerant.err, refused.err);
     EXPECT_EQ(tolerant.out, "HOUSE: 2 records\n"
-                            "PERSON: 3 records, 1 rows that cannot be read left out\n");
+                            "    HOUSE: INTEGER\n"
+                            "PERSON: 3 records, 1 rows that cannot be read left out\n"
+                            "    AGE: STRING\n"
+                            "AGE is STRING: \"x1\" in line 3, column 3 is no number\n");
     EXPECT_EQ(kelx("check @/flat/db.kxdb").status, 0);
     const json info = json::parse(kelx("info @/flat/db.kxdb --json").out);
     EXPECT_EQ(info["entities"][2]["records"], 3);
+
+    folder->write("semi.csv", "house;age\n1;30\n1;\n");
+    const std::string semi =
+        "import @/semi/db.kxdb --flat @/semi.csv --levels House:house,Person:no";
+    EXPECT_EQ(kelx(semi).err, path("semi.csv") +
+                                  ":1:1: error: the header is the one field \"house;age\"; its "
+                                  "fields seem to be separated by semicolons: --separator \";\"\n");
+    EXPECT_EQ(kelx(semi + " --separator ';'").err,
+              "kelx: error: There is no field \"no\" in the file, which has HOUSE, AGE.\n");
+    EXPECT_EQ(kelx(semi + " --separator x").status, 2);
+    EXPECT_EQ(
+        kelx("import @/semi/db.kxdb --flat @/semi.csv --separator ';' --levels H:house,P").out,
+        "H: 1 records\n    HOUSE: INTEGER\nP: 2 records\n    AGE: INTEGER, 1 blank\n");
+    folder->write("tab.csv", "K\tS\n1\t2\n");
+    folder->write("tab_book.csv", "level,field,type,code,label,is_missing\nA,K,key integer,,,\n"
+                                  "A,S,integer,,,\n");
+    const std::string tab = "import @/tab/db.kxdb --codebook @/tab_book.csv --level A=@/tab.csv";
+    EXPECT_THAT(kelx(tab).err, HasSubstr("separated by tabs: --separator tab"));
+    EXPECT_EQ(kelx(tab + " --separator tab").out, "A: 1 records\n    K: INTEGER\n    S: INTEGER\n");
 
     folder->write("bad.sav", "no such file");
     const Outcome bad = kelx("import @/bad/db.kxdb --flat @/bad.sav");
@@ -353,6 +375,9 @@ TEST_F(KelxTest, ImportsAFlatFile) {
     EXPECT_THAT(bad.err, HasSubstr("bad.sav: cannot be read: the reader says: "));
     EXPECT_EQ(kelx(import + " --level A=@/a.csv").status, 2);
     EXPECT_EQ(kelx("import @/x.kxdb --levels A").status, 2);
+    const Outcome empty = kelx("import @/x.kxdb --flat @/flat.csv --levels \"\"");
+    EXPECT_EQ(empty.status, 2);
+    EXPECT_THAT(empty.err, HasSubstr("--levels: must not be empty"));
 }
 
 TEST_F(KelxTest, ConvertsTheDictionary) {

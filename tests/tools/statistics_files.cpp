@@ -71,7 +71,9 @@ void writeValue(readstat_writer_t* writer, const readstat_variable_t* added,
 }
 
 void begin(const std::string& extension, readstat_writer_t* writer, std::ofstream& stream,
-           long rows) {
+           long rows, bool packed) {
+    if (packed)
+        require(readstat_writer_set_compression(writer, READSTAT_COMPRESS_ROWS));
     if (extension == ".zsav")
         require(readstat_writer_set_compression(writer, READSTAT_COMPRESS_BINARY));
     if (extension == ".dta")
@@ -85,7 +87,8 @@ void begin(const std::string& extension, readstat_writer_t* writer, std::ofstrea
 } // namespace
 
 void writeStatistics(const std::filesystem::path& file,
-                     const std::vector<StatisticsVariable>& variables, const std::string& weight) {
+                     const std::vector<StatisticsVariable>& variables, const std::string& weight,
+                     bool packed) {
     const std::string extension = file.extension().string();
     std::ofstream stream(file, std::ios::binary);
     const Writer writer = makeWriter();
@@ -97,7 +100,7 @@ void writeStatistics(const std::filesystem::path& file,
     }
     const StatisticsVariable& first = variables.front();
     const std::size_t rows = first.isText ? first.texts.size() : first.numbers.size();
-    begin(extension, writer.get(), stream, static_cast<long>(rows));
+    begin(extension, writer.get(), stream, static_cast<long>(rows), packed);
     for (std::size_t row = 0; row < rows; ++row) {
         require(readstat_begin_row(writer.get()));
         for (std::size_t i = 0; i < variables.size(); ++i)

@@ -21,9 +21,10 @@ struct StatisticsVariable {
 };
 
 /// The extension tells the kind: .sav, .zsav, .dta, .sas7bdat. The weight is a variable's name.
+/// A .sav can be packed, value by value.
 void writeStatistics(const std::filesystem::path& file,
                      const std::vector<StatisticsVariable>& variables,
-                     const std::string& weight = "");
+                     const std::string& weight = "", bool packed = false);
 /// A .sas7bcat with one set of labels.
 void writeFormats(const std::filesystem::path& file, const std::string& set,
                   const std::vector<std::pair<double, std::string>>& labels);

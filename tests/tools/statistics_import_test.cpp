@@ -4,6 +4,7 @@
 #include "import/statistics_stream.h"
 #include "statistics_files.h"
 
+#include <cmath>
 #include <random>
 #include <sys/stat.h>
 
@@ -119,6 +120,89 @@ TEST_F(StatisticsTest, MissingValuesBecomeCodes) {
                                           "INCOME holds dates or times as the package's numbers"));
 }
 
+// Whoever wrote the file may not have known how many cases would come.
+TEST_F(StatisticsTest, TheNumberOfCasesMayBeUnknown) {
+    constexpr std::size_t casesAt = 80;
+    for (const auto& [name, packed] :
+         {std::pair("p.sav", false), std::pair("p.sav", true), std::pair("p.zsav", false)}) {
+        SCOPED_TRACE(std::string(name) + (packed ? " packed" : ""));
+        request.data = folder / name;
+        request.overwrite = true;
+        request.tolerant = false;
+        kelx::test::writeStatistics(request.data, persons(), "", packed);
+        std::string bytes = folder.read(name);
+        ASSERT_EQ(bytes.substr(casesAt, 4), std::string("\4\0\0\0", 4));
+        folder.write(name, bytes.replace(casesAt, 4, "\xff\xff\xff\xff"));
+        EXPECT_THAT(values(*import(), "PERSON", "AGE"), ElementsAre("30", "28", "7", "-"));
+        std::filesystem::remove_all(folder / "out");
+
+        folder.write(name, bytes.replace(casesAt, 4, std::string("\2\0\0\0", 4)));
+        EXPECT_EQ(fault(), std::string(name) + ":4:1: error: the file says that it has 2 rows, but "
+                                               "it has 4");
+        request.tolerant = true;
+        EXPECT_THAT(values(*import(), "PERSON", "AGE"), ElementsAre("30", "28", "7", "-"));
+        EXPECT_THAT(report.firstFaults, ElementsAre(HasSubstr("says that it has 2 rows")));
+        std::filesystem::remove_all(folder / "out");
+    }
+    request.tolerant = false;
+    write("p.sav", persons());
+    std::string cut = folder.read("p.sav").replace(casesAt, 4, "\xff\xff\xff\xff");
+    cut.resize(cut.size() - 3);
+    folder.write("p.sav", cut);
+    EXPECT_EQ(fault(), "p.sav: cannot be read: its last row is not complete");
+}
+
+TEST_F(StatisticsTest, TextsHaveTheEncodingThatIsGiven) {
+    auto variables = persons();
+    variables[0].texts = {"A\xf1il", "A\xf1il", "\xc9", "\xc9"};
+    variables[3].labels = {{1, "M\xe4nnlich"}, {2, "Weiblich"}};
+    for (const char* name : {"p.sav", "p.zsav", "p.dta"}) {
+        SCOPED_TRACE(name);
+        write(name, variables);
+        std::string bytes = folder.read(name);
+        if (std::string(name) != "p.dta") { // the record that tells an encoding
+            const std::string record("\7\0\0\0\3\0\0\0\4\0\0\0\10\0\0\0", 16);
+            const std::size_t at = bytes.find(record);
+            ASSERT_NE(at, std::string::npos);
+            if (std::string(name) == "p.sav") // whose data have no offsets
+                folder.write(name, bytes.erase(at, 48));
+        }
+        request.overwrite = true;
+        request.encoding = "windows-1252";
+        const auto db = import();
+        EXPECT_THAT(values(*db, "ZONE", "ZONE"), ElementsAre("Añil", "É"));
+        EXPECT_THAT(variable(*db, "SEX").valueLabels,
+                    ElementsAre(Pair("1", "Männlich"), Pair("2", "Weiblich")));
+        std::filesystem::remove_all(folder / "out");
+        request.encoding.clear();
+        EXPECT_THAT(fault(), HasSubstr("--encoding NAME tells how"));
+        request.encoding = "NOPE-99";
+        EXPECT_EQ(fault(), "There is no encoding \"NOPE-99\".");
+        request.encoding = "";
+    }
+    request.encoding = "EUC-JP";
+    write("p.sav", variables);
+    EXPECT_EQ(fault(), "p.sav: cannot be read: a text is not written in EUC-JP");
+    request.data = folder.write("flat.csv", "zone,house\n1,1\n");
+    EXPECT_EQ(fault(), "Only files of statistics packages have an encoding to be given; other "
+                       "texts are UTF-8.");
+}
+
+TEST_F(StatisticsTest, MissingRangesMayHaveNoEnd) {
+    auto variables = persons();
+    variables[2].missing = {{97, HUGE_VAL}};
+    variables[2].numbers = {30, 98, 97, {}};
+    variables[4].missing = {{-HUGE_VAL, -1}};
+    write("p.sav", variables);
+    const auto db = import();
+    EXPECT_EQ(variable(*db, "AGE").missing, 97);
+    EXPECT_EQ(variable(*db, "INCOME").missing, -1);
+    EXPECT_THAT(values(*db, "PERSON", "AGE"), ElementsAre("30", "97", "97", "-"));
+    EXPECT_THAT(report.notes,
+                ElementsAre("AGE: the missing values 97 and above became the missing code 97",
+                            "INCOME: the missing values -1 and below became the missing code -1"));
+}
+
 TEST_F(StatisticsTest, LabelsOfSasComeFromAFileOfTheirOwn) {
     auto variables = persons();
     variables[3].format = "SEXFMT";
@@ -205,6 +289,11 @@ TEST_F(StatisticsTest, AHelperThatFailsIsAFault) {
     EXPECT_THROW(tools::StatisticsSource(
                      {request.data, {}, "", request.helper, std::chrono::seconds(1)}, {}),
                  std::runtime_error);
+    // One that has nothing more to say, but does not go.
+    useScript("exec >&-; exec sleep 60");
+    EXPECT_THROW(tools::StatisticsSource(
+                     {request.data, {}, "", request.helper, std::chrono::seconds(1)}, {}),
+                 std::runtime_error);
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(30));
 }
 
@@ -254,6 +343,8 @@ TEST_F(StatisticsTest, AHelperThatLiesIsAFault) {
              {number + row + frame(FrameKind::End, std::uint64_t{2}), "another number of rows"},
              {number + row + end + "x", "more than it should"},
              {number + frame(FrameKind::Weight, 7U), "a weight that is no variable"},
+             {variableFrame(0, true, "A") + frame(FrameKind::Weight, 0U),
+              "a weight that is a text"},
              {number + frame(FrameKind::Rows, 9U, std::uint8_t{1}, 5.0), "ends too early"},
              {number + frame(FrameKind::Rows, 1U, std::uint8_t{1}, 5.0, 1), "more than they"},
              {number + frame(FrameKind::Rows, 1U, std::uint8_t{9}, 5.0), "unknown kind"},

@@ -20,6 +20,8 @@ using catalog::Variable;
 using storage::ValueType;
 namespace fs = std::filesystem;
 
+constexpr int widestText = 4000; ///< of a type in a codebook
+
 /// "(n)" where all texts of a column have n characters.
 std::string commonWidth(const Variable& variable) {
     const auto column = variable.column();
@@ -30,7 +32,16 @@ std::string commonWidth(const Variable& variable) {
             return {};
         width = length;
     }
-    return width.value_or(0) == 0 ? std::string() : "(" + std::to_string(*width) + ")";
+    return width.value_or(0) == 0 || *width > widestText ? std::string()
+                                                         : "(" + std::to_string(*width) + ")";
+}
+
+std::size_t longestText(const Variable& variable) {
+    const auto column = variable.column();
+    std::size_t longest = 0;
+    for (std::uint64_t i = 0; i < column->textCount(); ++i)
+        longest = std::max(longest, characterCount(column->text(i)));
+    return longest;
 }
 
 bool isSpecial(const Variable& variable, const std::string& code) {
@@ -60,8 +71,10 @@ std::string typeText(const Variable& variable) {
     const Entity& entity = *variable.entity;
     const ValueType type = variable.column()->info().type;
     const bool isText = type == ValueType::String;
-    if (&variable == entity.codeVar)
-        return isText ? "key text" + commonWidth(variable) : "key integer";
+    if (&variable == entity.codeVar) // keys are whole numbers or texts
+        return isText                    ? "key text" + commonWidth(variable)
+               : type == ValueType::Real ? "key text"
+                                         : "key integer";
     if (&variable == entity.weightVar && !isText)
         return type == ValueType::Integer ? "weight integer" : "weight";
     if (&variable == entity.labelVar && isText)
@@ -70,7 +83,10 @@ std::string typeText(const Variable& variable) {
     if (isText && coded)
         return "code text" + commonWidth(variable);
     if (isText)
-        return variable.size > 0 ? "text(" + std::to_string(variable.size) + ")" : "text";
+        return variable.size > 0 && variable.size <= widestText &&
+                       longestText(variable) <= static_cast<std::size_t>(variable.size)
+                   ? "text(" + std::to_string(variable.size) + ")"
+                   : "text";
     if (type == ValueType::Real)
         return coded ? "code real" : "real";
     if (type == ValueType::Boolean)

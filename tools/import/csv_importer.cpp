@@ -126,8 +126,8 @@ private:
         for (std::size_t above = level.parent; above != none; above = levels_[above].parent)
             if (!isRoot(levels_[above]))
                 position.chain.insert(position.chain.begin(), levels_[above].scan.get());
-        level.scan =
-            std::make_unique<LevelScan>(level.file, *level.plan, book_, position, faults_, onRead_);
+        level.scan = std::make_unique<LevelScan>(level.file, *level.plan, book_, position, faults_,
+                                                 onRead_, request_.separator);
     }
 
     void buildDictionary() {

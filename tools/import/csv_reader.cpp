@@ -16,8 +16,9 @@ constexpr std::size_t chunk = 1u << 18;
 
 } // namespace
 
-CsvReader::CsvReader(const std::filesystem::path& file, BytesRead onRead)
-    : stream_(file, std::ios::binary), name_(file.string()), onRead_(std::move(onRead)) {
+CsvReader::CsvReader(const std::filesystem::path& file, BytesRead onRead, char separator)
+    : stream_(file, std::ios::binary), name_(file.string()), onRead_(std::move(onRead)),
+      separator_(separator) {
     std::error_code ignored;
     if (!stream_ || std::filesystem::is_directory(file, ignored))
         throw storage::FileError(file, "cannot be opened");
@@ -77,14 +78,14 @@ CsvReader::Split CsvReader::split(bool atEnd) {
             if (!splitQuoted(at, begin, atEnd))
                 return Split::NeedsMore;
         } else {
-            while (at < buffer_.size() && buffer_[at] != ',' && buffer_[at] != '\n' &&
+            while (at < buffer_.size() && buffer_[at] != separator_ && buffer_[at] != '\n' &&
                    buffer_[at] != '"' && buffer_[at] != '\r')
                 ++at;
             fields_.push_back({begin, begin, at - begin, false});
         }
         if (at + 1 >= buffer_.size() && !atEnd)
             return Split::NeedsMore;
-        if (at < buffer_.size() && buffer_[at] == ',') {
+        if (at < buffer_.size() && buffer_[at] == separator_) {
             ++at;
             continue;
         }

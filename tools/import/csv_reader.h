@@ -15,15 +15,16 @@
 
 namespace kelx::tools {
 
-/// A byte order mark is skipped, lines end with LF or CRLF, empty lines are no records. Memory is
-/// bounded by the longest record.
+/// Fields end with commas or another separator. A byte order mark is skipped, lines end with LF or
+/// CRLF, empty lines are no records. Memory is bounded by the longest record.
 class CsvReader {
 public:
     /// No record may be longer, which also finds a quote that nobody closed.
     static constexpr std::size_t longestRecord = 16u << 20;
 
     /// Throws storage::FileError where the file cannot be opened.
-    explicit CsvReader(const std::filesystem::path& file, BytesRead onRead = {});
+    explicit CsvReader(const std::filesystem::path& file, BytesRead onRead = {},
+                       char separator = ',');
 
     /// The next record; false at the end. Throws LocatedError on bytes that are no UTF-8, stray
     /// quotes and an open quote at the end.
@@ -54,6 +55,7 @@ private:
     std::ifstream stream_;
     std::string name_;
     BytesRead onRead_;
+    char separator_;
     std::string buffer_;
     std::size_t recordBegin_ = 0;  ///< of the current record, in buffer_
     std::size_t recordEnd_ = 0;    ///< behind its line end

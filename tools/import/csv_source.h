@@ -7,13 +7,16 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 
 namespace kelx::tools {
 
 class CsvSource : public RowSource {
 public:
-    /// Reads the header.
-    CsvSource(const std::filesystem::path& file, const BytesRead& onRead);
+    /// Reads the header. Without a separator given it is the comma, unless the header looks as if
+    /// that were another one: then throws LocatedError.
+    CsvSource(const std::filesystem::path& file, const BytesRead& onRead,
+              std::optional<char> separator = {});
 
     const std::string& name() const override { return csv_.name(); }
     const std::vector<SourceField>& fields() const override { return fields_; }
@@ -27,6 +30,8 @@ public:
     std::size_t faultyField() const { return std::min(csv_.fields(), fields_.size()); }
 
 private:
+    void checkSeparator() const;
+
     CsvReader csv_;
     std::vector<SourceField> fields_;
     std::vector<std::string> notes_;

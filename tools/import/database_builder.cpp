@@ -2,8 +2,11 @@
 #include "import/database_builder.h"
 
 #include "catalog/reader.h"
+#include "import/replacement.h"
 #include "import/staging.h"
 #include "import/values.h"
+
+#include <optional>
 
 namespace kelx::tools {
 
@@ -73,6 +76,9 @@ std::string DatabaseBuilder::dataFile(const std::string& stem, const std::string
 void DatabaseBuilder::write(const std::function<void(const fs::path& folder)>& writeData) {
     const std::string own = target_.database.filename().string();
     std::vector<std::string> names(files_.begin(), files_.end());
+    std::optional<Replacement> replaced;
+    if (target_.overwrite)
+        replaced.emplace(target_.database, names, target_.questions);
     names.push_back(own); // last: the database is there once its data are
     Staging staging(target_.database, names, target_.overwrite);
     dictionary_.file = staging.folder() / own;
@@ -80,6 +86,8 @@ void DatabaseBuilder::write(const std::function<void(const fs::path& folder)>& w
     writeData(staging.folder());
     catalog::saveDictionary(dictionary_, dictionary_.file);
     staging.publish();
+    if (replaced)
+        replaced->removeLeftovers();
 }
 
 } // namespace kelx::tools

@@ -6,6 +6,7 @@
 #include "import/dicx_layout.h"
 #include "import/flat_writer.h"
 #include "import/statistics_source.h"
+#include "import/text_encoding.h"
 #include "import/values.h"
 
 #include <algorithm>
@@ -25,6 +26,7 @@ public:
         : request_(request), faults_(request.tolerant) {}
 
     ImportReport run() {
+        checkEncoding();
         std::error_code fault;
         const std::uintmax_t bytes = fs::file_size(request_.data, fault);
         bytesToRead_ = fault ? 0 : 2 * bytes;
@@ -34,7 +36,10 @@ public:
         planLevels(fields);
         FlatScan scan(*source, std::move(fields), plan_, faults_);
         scan.run();
+        checkWeights(scan, *source);
         report_.notes = layout_ ? layout_->notes : source->notes();
+        for (std::string& note : scan.notes())
+            report_.notes.push_back(std::move(note));
         build(scan);
         builder_->write([&](const fs::path& folder) { write(scan, folder); });
         report_.take(faults_);
@@ -46,6 +51,16 @@ private:
         bytesRead_ += bytes;
         if (request_.progress)
             request_.progress(bytesRead_, bytesToRead_);
+    }
+
+    void checkEncoding() const {
+        if (request_.encoding.empty())
+            return;
+        if (!request_.layout.empty() || !isStatisticsFile(request_.data))
+            throw std::runtime_error("Only files of statistics packages have an encoding to be "
+                                     "given; other texts are UTF-8.");
+        if (!isEncoding(request_.encoding))
+            throw std::runtime_error("There is no encoding " + inQuotes(request_.encoding) + ".");
     }
 
     void chooseSource() {
@@ -63,7 +78,7 @@ private:
             };
         } else {
             open_ = [this](const BytesRead& onRead) {
-                return std::make_unique<CsvSource>(request_.data, onRead);
+                return std::make_unique<CsvSource>(request_.data, onRead, request_.separator);
             };
         }
     }
@@ -164,6 +179,20 @@ private:
             if (weight.plan.role != FieldRole::Value && weight.plan.role != FieldRole::Weight)
                 throw std::runtime_error("A key or a label cannot be the weight.");
             weight.plan.role = FieldRole::Weight;
+        }
+    }
+
+    static void checkWeights(const FlatScan& scan, const RowSource& source) {
+        for (std::size_t i = 0; i < scan.fields().size(); ++i) {
+            const FieldPlan& plan = scan.fields()[i].plan;
+            if (plan.role != FieldRole::Weight || plan.type != ValueType::String)
+                continue;
+            const auto& culprit = scan.culprit(i);
+            if (culprit)
+                throw LocatedError(source.name(), culprit->place,
+                                   plan.name + " cannot be the weight: " + inQuotes(culprit->text) +
+                                       " " + culprit->why);
+            throw std::runtime_error(plan.name + " cannot be the weight, since it holds texts.");
         }
     }
 

@@ -21,6 +21,17 @@ std::vector<std::string> splitAt(const std::string& text, char sign) {
     return parts;
 }
 
+/// The first of them, for messages.
+std::string namesOf(const std::vector<SourceField>& fields) {
+    constexpr std::size_t shown = 20;
+    std::string names;
+    for (std::size_t i = 0; i < std::min(shown, fields.size()); ++i)
+        names += (i > 0 ? ", " : "") + fields[i].plan.name;
+    if (fields.size() > shown)
+        names += " and " + std::to_string(fields.size() - shown) + " more";
+    return names.empty() ? "none" : names;
+}
+
 LevelWish parseLevel(const std::string& text) {
     const std::vector<std::string> parts = splitAt(text, ':');
     if (parts.size() > 3 || !isName(parts[0]))
@@ -61,7 +72,8 @@ std::size_t fieldNamed(const std::vector<SourceField>& fields, const std::string
         return field.plan.name == wanted || upperCase(field.name) == wanted;
     });
     if (found == fields.end())
-        throw std::runtime_error("There is no field " + inQuotes(name) + " in the file.");
+        throw std::runtime_error("There is no field " + inQuotes(name) +
+                                 " in the file, which has " + namesOf(fields) + ".");
     return static_cast<std::size_t>(found - fields.begin());
 }
 

@@ -45,6 +45,8 @@ void FlatScan::run() {
             watch(field, chain, splitter.firstNew(), splitter.depth());
     }
     rowsRead_ = splitter.rowsRead();
+    if (const std::string fault = source_.endFault(); !fault.empty())
+        faults_.meet(source_.faultAt(0, fault));
     settle();
 }
 
@@ -87,7 +89,7 @@ void FlatScan::noteValue(std::size_t field, const SourceValue& value) {
     Watch& watch = watches_[field];
     const SourceField& described = fields_[field];
     if (!described.typeKnown) {
-        watch.guess.note(value, described);
+        watch.guess.note(source_, field, described);
         const bool isText = value.kind == SourceValue::Kind::Text;
         if (described.numeric && isText && !parseReal(value.text))
             faults_.meet(source_.faultAt(field, described.plan.name + ": " +
@@ -98,10 +100,32 @@ void FlatScan::noteValue(std::size_t field, const SourceValue& value) {
     TypedValue typed;
     const std::string problem = readValue(value, described.plan, typed);
     if (problem.empty())
-        watch.summary.note(typed);
+        noteTyped(field, typed);
     else
         faults_.meet(source_.faultAt(field, described.plan.name + ": " +
                                                 inQuotes(shownText(value)) + problem));
+}
+
+/// Not to be tolerated: there is no telling which of the values are wrong.
+void FlatScan::noteTyped(std::size_t field, const TypedValue& value) {
+    ColumnSummary& summary = watches_[field].summary;
+    summary.note(value);
+    if (!summary.fits())
+        throw source_.faultAt(field, fields_[field].plan.name + ": " +
+                                         inQuotes(shownText(source_.value(field))) +
+                                         " lies too far from the other values to be held");
+}
+
+std::vector<std::string> FlatScan::notes() const {
+    std::vector<std::string> notes;
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        const auto& culprit = this->culprit(i);
+        if (culprit && watches_[i].guess.isMostlyNumbers())
+            notes.push_back(fields_[i].plan.name + " is STRING: " + inQuotes(culprit->text) +
+                            " in line " + std::to_string(culprit->place.line) + ", column " +
+                            std::to_string(culprit->place.column) + " " + culprit->why);
+    }
+    return notes;
 }
 
 void FlatScan::settle() {

@@ -25,6 +25,12 @@ public:
     /// The source's fields with their types, labels and codes.
     const std::vector<SourceField>& fields() const { return fields_; }
     const ColumnSummary& summary(std::size_t field) const { return watches_[field].summary; }
+    /// What made a field a text whose type was not known; null for another one.
+    const std::optional<TypeGuess::Culprit>& culprit(std::size_t field) const {
+        return watches_[field].guess.culprit();
+    }
+    /// Fields that are texts although most of their values are numbers.
+    std::vector<std::string> notes() const;
     std::uint64_t rowsRead() const { return rowsRead_; }
     std::uint64_t conflicts(std::size_t field) const { return watches_[field].conflicts; }
 
@@ -47,6 +53,7 @@ private:
                std::size_t depth);
     void noteConflict(std::size_t field, std::size_t level, const SourceValue& value);
     void noteValue(std::size_t field, const SourceValue& value);
+    void noteTyped(std::size_t field, const TypedValue& value);
     void settle();
 
     RowSource& source_;

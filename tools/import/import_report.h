@@ -2,6 +2,7 @@
 // What all imports are asked for and what they tell.
 #pragma once
 
+#include "catalog/reader.h"
 #include "import/faults.h"
 #include "import/progress.h"
 #include "storage/column.h"
@@ -10,6 +11,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,9 +23,11 @@ struct ImportTarget {
     /// The entity above all; where empty, what the codebook says, else DATABASE.
     std::string root;
     std::shared_ptr<const storage::Secret> key; ///< protects the database
-    bool overwrite = false;
-    bool tolerant = false; ///< faults of values and records are counted instead of refused
-    Progress progress;     ///< bytes read, of twice the bytes of all files; may be empty
+    bool overwrite = false;                     ///< replace a database, and what only that one has
+    catalog::Questions questions;               ///< about the replaced database
+    std::optional<char> separator; ///< of CSV files with data; where not given, the comma
+    bool tolerant = false;         ///< faults of values and records are counted instead of refused
+    Progress progress;             ///< bytes read, of twice the bytes of all files; may be empty
 };
 
 struct ImportReport {

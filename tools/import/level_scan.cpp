@@ -10,8 +10,8 @@ namespace kelx::tools {
 using storage::ValueType;
 
 LevelFile::LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-                     Faults& faults, const BytesRead& onRead)
-    : csv_(file, onRead), faults_(faults), faulty_(csv_.fields().size(), 0) {
+                     Faults& faults, const BytesRead& onRead, std::optional<char> separator)
+    : csv_(file, onRead, separator), faults_(faults), faulty_(csv_.fields().size(), 0) {
     bindColumns(plan);
     for (const FieldPlan& field : plan.fields)
         if (std::find(columns_.begin(), columns_.end(), &field) == columns_.end())
@@ -61,10 +61,11 @@ TypedValue LevelFile::value(std::size_t column) const {
 }
 
 LevelScan::LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-                     Position position, Faults& faults, const BytesRead& onRead)
-    : plan_(plan), bookName_(book.file), file_(file), position_(std::move(position)),
-      faults_(faults) {
-    LevelFile level(file, plan, book, faults, onRead);
+                     Position position, Faults& faults, const BytesRead& onRead,
+                     std::optional<char> separator)
+    : plan_(plan), bookName_(book.file), file_(file), separator_(separator),
+      position_(std::move(position)), faults_(faults) {
+    LevelFile level(file, plan, book, faults, onRead, separator);
     checkParentKeys(level);
     for (const FieldPlan* field : level.columns()) {
         ColumnSummary summary;
@@ -149,6 +150,9 @@ bool LevelScan::place(const LevelFile& level, std::uint64_t& parent) {
 void LevelScan::noteValue(ColumnSummary& summary, const LevelFile& level, std::size_t column) {
     const TypedValue value = level.value(column);
     summary.note(value);
+    if (!summary.fits()) // not to be tolerated: there is no telling which of them are wrong
+        level.fail(column, summary.field->name + ": " + inQuotes(level.text(column)) +
+                               " lies too far from the other values to be held");
     if (value.blank)
         ++summary.blanks;
     else if (summary.field->coded && !hasLabel(summary, value, column))

@@ -25,7 +25,7 @@ class LevelFile {
 public:
     /// Reads the header. Throws LocatedError where columns and fields do not match.
     LevelFile(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-              Faults& faults, const BytesRead& onRead);
+              Faults& faults, const BytesRead& onRead, std::optional<char> separator);
 
     bool next(); ///< the next record, with as many fields as the header
     /// A value that does not fit is a fault, and blank where that is tolerated.
@@ -65,10 +65,12 @@ public:
     };
 
     LevelScan(const std::filesystem::path& file, const LevelPlan& plan, const Codebook& book,
-              Position position, Faults& faults, const BytesRead& onRead);
+              Position position, Faults& faults, const BytesRead& onRead,
+              std::optional<char> separator = {});
 
     const LevelPlan& plan() const { return plan_; }
     const std::filesystem::path& file() const { return file_; }
+    std::optional<char> separator() const { return separator_; }
     std::uint64_t records() const { return records_; }
     const std::vector<ColumnSummary>& columns() const { return columns_; }
     /// Number of records under each record of the level above (or under the root).
@@ -100,6 +102,7 @@ private:
     const LevelPlan& plan_;
     const std::string bookName_;
     std::filesystem::path file_;
+    std::optional<char> separator_;
     Position position_;
     Faults& faults_;
     std::uint64_t records_ = 0;

@@ -112,7 +112,7 @@ void writeLevel(const LevelScan& scan, const Codebook& book, const catalog::Enti
         writePointers(scan, folder / entity.fileName);
     std::vector<Target> targets = targetsOf(scan, entity, folder, key);
     Faults faults(true); // all were met in the first reading
-    LevelFile level(scan.file(), scan.plan(), book, faults, onRead);
+    LevelFile level(scan.file(), scan.plan(), book, faults, onRead, scan.separator());
     std::uint64_t row = 0;
     std::uint64_t records = 0;
     auto leftOut = scan.leftOut().begin();

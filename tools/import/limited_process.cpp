@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import/limited_process.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -12,6 +13,7 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace kelx::tools {
@@ -19,6 +21,7 @@ namespace kelx::tools {
 namespace {
 
 constexpr int notStarted = 127;
+constexpr std::chrono::milliseconds shortestPause{1}, longestPause{20};
 
 void limit(__rlimit_resource resource, std::uint64_t soft, std::uint64_t hard) {
     const rlimit value{soft, hard};
@@ -125,13 +128,30 @@ void LimitedProcess::read(std::span<char> bytes) {
     }
 }
 
+/// Its status. One that has closed its output may still go on, but not for ever.
+int LimitedProcess::waitForEnd() {
+    const auto deadline = std::chrono::steady_clock::now() + limits_.silence;
+    int status = 0;
+    for (auto pause = shortestPause;; pause = std::min(2 * pause, longestPause)) {
+        const pid_t ended = ::waitpid(process_, &status, WNOHANG);
+        if (ended == process_)
+            break;
+        if (ended < 0 && errno != EINTR)
+            throw std::system_error(errno, std::generic_category(), "waitpid");
+        if (std::chrono::steady_clock::now() >= deadline) {
+            stop();
+            throw std::runtime_error("its reader took too long to end");
+        }
+        std::this_thread::sleep_for(pause);
+    }
+    process_ = -1;
+    return status;
+}
+
 std::string LimitedProcess::end() {
     if (process_ < 0)
         return "its reader has ended";
-    int status = 0;
-    while (::waitpid(process_, &status, 0) < 0 && errno == EINTR) {
-    }
-    process_ = -1;
+    const int status = waitForEnd();
     if (WIFEXITED(status)) {
         const int code = WEXITSTATUS(status);
         if (code == notStarted)

@@ -38,6 +38,7 @@ public:
 private:
     void waitForOutput();
     std::string end(); ///< waits for its end and tells of it; empty for a good one
+    int waitForEnd();
     void stop();
 
     ProcessLimits limits_;

@@ -57,6 +57,9 @@ public:
     /// A fault of the current row that makes it useless; empty for none.
     virtual std::string rowFault() const { return {}; }
 
+    /// A fault of the file as a whole, known behind its last row; empty for none.
+    virtual std::string endFault() const { return {}; }
+
     /// What the source changed on its own, for the report.
     virtual std::vector<std::string> notes() const { return {}; }
 

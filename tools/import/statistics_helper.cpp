@@ -2,12 +2,16 @@
 // kelx-statistics FORMAT FILE ENCODING FORMATS: writes what a file of a statistics package holds to
 // standard output, as frames. A process of its own, since a damaged file may bring the library
 // down that reads it; whoever starts it bounds its memory and time.
+#include "import/sav_file.h"
 #include "import/statistics_stream.h"
+#include "import/text_encoding.h"
 
 #include <readstat.h>
 
 #include <cstdlib>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unistd.h>
@@ -18,6 +22,7 @@ namespace {
 using namespace kelx::tools;
 
 constexpr std::size_t fullFrame = 1u << 16;
+constexpr const char* anyBytes = "ISO-8859-1";
 
 void writeFully(std::string_view bytes) {
     while (!bytes.empty()) {
@@ -32,8 +37,10 @@ void writeFrame(FrameKind kind, std::string_view payload) {
     writeFully(encodeFrame(kind, payload));
 }
 
-std::string_view textOf(const char* text) {
-    return text == nullptr ? std::string_view() : std::string_view(text);
+void tellFault(std::string_view text) {
+    PayloadWriter payload;
+    payload.putText(text);
+    writeFrame(FrameKind::Fault, payload.bytes());
 }
 
 /// What the callbacks of one parse share.
@@ -41,7 +48,14 @@ class Parse {
 public:
     explicit Parse(bool isSas) : isSas_(isSas) {}
 
+    /// Texts come as they stand in the file.
+    void convertFrom(const std::string& encoding) { converter_.emplace(encoding); }
+    /// The library does not know the number of rows, but the file does.
+    void askForSize(const SavFile& file) { sized_ = &file; }
+
     void size(std::int64_t rows) {
+        if (sized_ != nullptr)
+            rows = sized_->cases();
         PayloadWriter payload;
         payload.put(rows);
         writeFrame(FrameKind::Size, payload.bytes());
@@ -53,11 +67,11 @@ public:
         const bool isText =
             readstat_variable_get_type_class(variable) == READSTAT_TYPE_CLASS_STRING;
         payload.put(static_cast<std::uint8_t>(isText));
-        const std::string_view format = textOf(readstat_variable_get_format(variable));
+        const std::string format(textOf(readstat_variable_get_format(variable)));
         payload.putText(textOf(readstat_variable_get_name(variable)));
         payload.putText(textOf(readstat_variable_get_label(variable)));
         payload.putText(format);
-        payload.putText(setName(textOf(labelSet), format));
+        payload.putText(setName(std::string(textOf(labelSet)), format));
         putMissing(payload, variable, isText);
         writeFrame(FrameKind::Variable, payload.bytes());
     }
@@ -103,30 +117,37 @@ public:
         return true;
     }
 
-    void end() {
+    void end(bool withinRow) {
         flush();
-        if (nextVariable_ != 0) {
-            fault("its last row is not complete");
-            return;
-        }
+        if (nextVariable_ != 0 || withinRow)
+            return tellFault("its last row is not complete");
+        if (rows_ == std::numeric_limits<int>::max())
+            return tellFault("it has more rows than can be read");
         PayloadWriter payload;
         payload.put(rows_);
         writeFrame(FrameKind::End, payload.bytes());
     }
 
-    static void fault(std::string_view text) {
-        PayloadWriter payload;
-        payload.putText(text);
-        writeFrame(FrameKind::Fault, payload.bytes());
-    }
+    std::uint64_t rows() const { return rows_; }
 
 private:
+    std::string_view textOf(const char* text) {
+        if (text == nullptr || !converter_)
+            return text == nullptr ? std::string_view() : std::string_view(text);
+        try {
+            return converter_->convert(text);
+        } catch (const std::runtime_error& fault) {
+            tellFault(fault.what()); // the library is no place to throw through
+            std::exit(0);
+        }
+    }
+
     /// SAS names the labels of a variable by its format: "SEXFMT2." means the set SEXFMT.
-    std::string setName(std::string_view set, std::string_view format) const {
+    std::string setName(const std::string& set, const std::string& format) const {
         if (!isSas_)
-            return std::string(set);
+            return set;
         const std::size_t end = format.find_last_not_of("0123456789.");
-        return std::string(format.substr(0, end == std::string_view::npos ? 0 : end + 1));
+        return format.substr(0, end == std::string::npos ? 0 : end + 1);
     }
 
     static void putMissing(PayloadWriter& payload, const readstat_variable_t* variable,
@@ -167,6 +188,8 @@ private:
     }
 
     bool isSas_;
+    std::optional<TextConverter> converter_;
+    const SavFile* sized_ = nullptr;
     std::uint32_t variables_ = 0;
     int nextVariable_ = 0;
     std::uint64_t rows_ = 0;
@@ -216,19 +239,60 @@ Parser makeParser(const std::string& encoding) {
     return parser;
 }
 
+Parser makeDataParser(const std::string& encoding) {
+    Parser parser = makeParser(encoding);
+    readstat_set_metadata_handler(parser.get(), onMetadata);
+    readstat_set_variable_handler(parser.get(), onVariable);
+    readstat_set_fweight_handler(parser.get(), onWeight);
+    readstat_set_value_handler(parser.get(), onValue);
+    return parser;
+}
+
 bool failed(readstat_error_t error) {
     if (error == READSTAT_OK)
         return false;
-    Parse::fault(std::string("the reader says: ") + readstat_error_message(error));
+    const bool isText =
+        error == READSTAT_ERROR_CONVERT || error == READSTAT_ERROR_CONVERT_BAD_STRING ||
+        error == READSTAT_ERROR_CONVERT_SHORT_STRING || error == READSTAT_ERROR_UNSUPPORTED_CHARSET;
+    tellFault(std::string("the reader says: ") + readstat_error_message(error) +
+              (isText ? "; --encoding NAME tells how its texts are written" : ""));
     return true;
 }
 
+bool isSav(std::string_view format) {
+    return format == ".SAV" || format == ".ZSAV";
+}
+
 ParseFile parserFor(std::string_view format) {
-    if (format == ".SAV" || format == ".ZSAV")
+    if (isSav(format))
         return readstat_parse_sav;
     if (format == ".DTA")
         return readstat_parse_dta;
     return format == ".SAS7BDAT" ? readstat_parse_sas7bdat : nullptr;
+}
+
+/// False where the file cannot be read.
+bool parseFormats(const std::string& file, const std::string& encoding, Parse& parse) {
+    const Parser formats = makeParser(encoding);
+    return !failed(readstat_parse_sas7bcat(formats.get(), file.c_str(), &parse));
+}
+
+/// The library converts texts of such a file only where a record in it speaks of encodings, so
+/// with an encoding given it is told of one that leaves every byte as it is.
+void parseSav(const std::string& file, const std::string& encoding, Parse& parse) {
+    SavFile sav;
+    const Parser parser = makeDataParser(encoding.empty() ? "" : anyBytes);
+    if (!encoding.empty()) {
+        readstat_set_handler_character_encoding(parser.get(), anyBytes);
+        parse.convertFrom(encoding);
+    }
+    sav.serve(parser.get());
+    parse.askForSize(sav);
+    if (failed(readstat_parse_sav(parser.get(), file.c_str(), &parse)))
+        return;
+    const bool allRead =
+        sav.cases() >= 0 && parse.rows() == static_cast<std::uint64_t>(sav.cases());
+    parse.end(sav.endsWithinRow() && !allRead);
 }
 
 } // namespace
@@ -240,17 +304,14 @@ int main(int argc, char** argv) {
         return 2;
     const std::string& encoding = arguments[3];
     Parse parse(arguments[1] == ".SAS7BDAT");
-    if (!arguments[4].empty()) {
-        const Parser formats = makeParser(encoding);
-        if (failed(readstat_parse_sas7bcat(formats.get(), arguments[4].c_str(), &parse)))
-            return 0;
+    if (!arguments[4].empty() && !parseFormats(arguments[4], encoding, parse))
+        return 0;
+    if (isSav(arguments[1])) {
+        parseSav(arguments[2], encoding, parse);
+        return 0;
     }
-    const Parser parser = makeParser(encoding);
-    readstat_set_metadata_handler(parser.get(), onMetadata);
-    readstat_set_variable_handler(parser.get(), onVariable);
-    readstat_set_fweight_handler(parser.get(), onWeight);
-    readstat_set_value_handler(parser.get(), onValue);
+    const Parser parser = makeDataParser(encoding);
     if (!failed(parseFile(parser.get(), arguments[2].c_str(), &parse)))
-        parse.end();
+        parse.end(false);
     return 0;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import/statistics_source.h"
 
+#include "import/limited_process.h"
 #include "import/values.h"
 #include "storage/error.h"
 
@@ -19,6 +20,7 @@ constexpr std::size_t mostLabels = 2'000'000; ///< of the file, and again of all
 constexpr std::size_t mostDescription = std::size_t{256} << 20;
 constexpr std::size_t mostMissingRanges = 32;
 constexpr std::uint64_t bytesPerCpuSecond = 1u << 20;
+constexpr double beyondAll = 1e300;
 
 std::vector<std::string> argumentsFor(const StatisticsFile& file) {
     return {upperCase(file.data.extension().string()), file.data.string(), file.encoding,
@@ -55,13 +57,41 @@ bool isDateFormat(const std::string& format) {
                        [&](const char* start) { return upper.starts_with(start); });
 }
 
+/// What the helper writes.
+class HelperOutput : public FrameBytes {
+public:
+    explicit HelperOutput(const StatisticsFile& file)
+        : process_(file.helper, argumentsFor(file), limitsFor(file)) {}
+    void read(std::span<char> bytes) override { process_.read(bytes); }
+    void finish() override { process_.finish(); }
+
+private:
+    LimitedProcess process_;
+};
+
+/// Missing values in words; a bound that no number passes means none.
+std::string rangeText(double lowest, double highest) {
+    const bool fromAny = !(lowest > -beyondAll);
+    const bool toAny = !(highest < beyondAll);
+    if (fromAny && toAny)
+        return "of all kinds";
+    if (fromAny)
+        return numberText(highest) + " and below";
+    if (toAny)
+        return numberText(lowest) + " and above";
+    return numberText(lowest) + (lowest == highest ? "" : " to " + numberText(highest));
+}
+
 } // namespace
 
 StatisticsSource::StatisticsSource(const StatisticsFile& file, const BytesRead& onRead)
-    : name_(file.data.string()), file_(file.data), onRead_(onRead),
-      process_(checked(file).helper, argumentsFor(file), limitsFor(file)) {
+    : StatisticsSource(file.data, std::make_unique<HelperOutput>(checked(file)), onRead) {}
+
+StatisticsSource::StatisticsSource(const fs::path& file, std::unique_ptr<FrameBytes> frames,
+                                   const BytesRead& onRead)
+    : name_(file.string()), file_(file), onRead_(onRead), frames_(std::move(frames)) {
     std::error_code fault;
-    const std::uintmax_t bytes = fs::file_size(file.data, fault);
+    const std::uintmax_t bytes = fs::file_size(file, fault);
     bytes_ = fault ? 0 : bytes;
     while (!ended_ && rowsLeft_ == 0)
         readFrame();
@@ -74,7 +104,7 @@ StatisticsSource::StatisticsSource(const StatisticsFile& file, const BytesRead& 
 
 void StatisticsSource::readFrame() {
     try {
-        decodeFrame([this](std::span<char> bytes) { process_.read(bytes); }, frame_);
+        decodeFrame([this](std::span<char> bytes) { frames_->read(bytes); }, frame_);
         takeFrame();
     } catch (const StreamFault& fault) {
         throw storage::FileError(file_,
@@ -105,6 +135,8 @@ void StatisticsSource::takeFrame() {
         const auto index = payload.get<std::uint32_t>();
         if (index >= fields_.size())
             throw StreamFault("a weight that is no variable");
+        if (described_[index].isText)
+            throw StreamFault("a weight that is a text");
         fields_[index].plan.role = FieldRole::Weight;
         break;
     }
@@ -178,7 +210,14 @@ void StatisticsSource::finish(PayloadReader& payload) {
     ended_ = true;
     if (payload.get<std::uint64_t>() != row_)
         throw StreamFault("another number of rows than it says");
-    process_.finish();
+    frames_->finish();
+}
+
+std::string StatisticsSource::endFault() const {
+    if (expectedRows_ < 0 || static_cast<std::uint64_t>(expectedRows_) == row_)
+        return {};
+    return "the file says that it has " + std::to_string(expectedRows_) + " rows, but it has " +
+           std::to_string(row_);
 }
 
 bool StatisticsSource::next() {
@@ -254,8 +293,9 @@ bool StatisticsSource::meansNotApplicable(const Described& variable, double code
 void StatisticsSource::settleMissing(std::size_t field) {
     Described& variable = described_[field];
     for (const MissingRange& range : variable.missing) {
-        const double code =
-            std::isfinite(range.highest) && range.highest < 1e300 ? range.highest : range.lowest;
+        const double code = std::isfinite(range.highest) && range.highest < beyondAll
+                                ? range.highest
+                                : range.lowest;
         const bool single = range.lowest == range.highest;
         if (single && !variable.notapp && meansNotApplicable(variable, code))
             variable.notapp = code;
@@ -272,8 +312,7 @@ void StatisticsSource::settleMissing(std::size_t field) {
         if (single && (range.lowest == variable.missingCode || range.lowest == variable.notapp))
             continue;
         fields_[field].plan.recodes.push_back({range.lowest, range.highest, *variable.missingCode});
-        others += (others.empty() ? "" : ", ") + numberText(range.lowest) +
-                  (single ? "" : " to " + numberText(range.highest));
+        others += (others.empty() ? "" : ", ") + rangeText(range.lowest, range.highest);
     }
     if (variable.notapp) // within a range of missing values, it stays what it is
         fields_[field].plan.recodes.insert(fields_[field].plan.recodes.begin(),

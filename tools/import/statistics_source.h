@@ -2,12 +2,13 @@
 // A file of a statistics package, read by a helper process.
 #pragma once
 
-#include "import/limited_process.h"
 #include "import/row_source.h"
 #include "import/statistics_stream.h"
 
+#include <chrono>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,12 +28,16 @@ struct StatisticsFile {
 class StatisticsSource : public RowSource {
 public:
     StatisticsSource(const StatisticsFile& file, const BytesRead& onRead);
+    /// What a helper says of the file.
+    StatisticsSource(const std::filesystem::path& file, std::unique_ptr<FrameBytes> frames,
+                     const BytesRead& onRead);
 
     const std::string& name() const override { return name_; }
     const std::vector<SourceField>& fields() const override { return fields_; }
     bool next() override;
     SourceValue value(std::size_t field) const override { return values_[field]; }
     Place place(std::size_t field) const override { return {row_, field + 1}; }
+    std::string endFault() const override;
     std::vector<std::string> notes() const override;
 
 private:
@@ -73,7 +78,7 @@ private:
     BytesRead onRead_;
     std::uint64_t bytes_ = 0, told_ = 0;
     std::int64_t expectedRows_ = -1;
-    LimitedProcess process_;
+    std::unique_ptr<FrameBytes> frames_;
     Frame frame_;
     std::optional<PayloadReader> rows_;
     std::uint32_t rowsLeft_ = 0;

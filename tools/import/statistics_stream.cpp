@@ -33,7 +33,7 @@ std::string_view PayloadReader::getText(std::size_t longest) {
         throw StreamFault("a text that is too long");
     const std::string_view text = take(length);
     if (!storage::isUtf8(text))
-        throw StreamFault("a text that is no UTF-8");
+        throw StreamFault("a text that is no UTF-8; --encoding NAME tells how texts are written");
     if (text.find('\0') != std::string_view::npos)
         throw StreamFault("a text with a zero byte");
     return text;

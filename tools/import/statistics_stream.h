@@ -86,6 +86,16 @@ struct Frame {
     std::string payload;
 };
 
+/// Where the bytes of the frames come from.
+class FrameBytes {
+public:
+    virtual ~FrameBytes() = default;
+    /// Fills the span. Throws std::runtime_error where it cannot.
+    virtual void read(std::span<char> bytes) = 0;
+    /// Nothing is to come any more. Throws std::runtime_error where that is not so.
+    virtual void finish() = 0;
+};
+
 /// Header and payload in one.
 std::string encodeFrame(FrameKind kind, std::string_view payload);
 /// Reads a whole frame through a function that fills a span or throws. Throws StreamFault.

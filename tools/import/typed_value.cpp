@@ -117,4 +117,10 @@ void ColumnSummary::note(const TypedValue& value) {
     }
 }
 
+bool ColumnSummary::fits() const {
+    return lowest > highest ||
+           static_cast<std::uint64_t>(highest) - static_cast<std::uint64_t>(lowest) <
+               std::numeric_limits<std::uint64_t>::max();
+}
+
 } // namespace kelx::tools

@@ -33,6 +33,7 @@ struct ColumnSummary {
     int decimals = 0; ///< the most that occur
 
     void note(const TypedValue& value); ///< lowest, highest and decimals
+    bool fits() const;                  ///< a column can hold all whole numbers and a blank
 };
 
 } // namespace kelx::tools

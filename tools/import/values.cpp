@@ -30,6 +30,13 @@ std::optional<double> parseReal(std::string_view text) {
     return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
+bool isBeyondReals(std::string_view text) {
+    double value = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, fault] = std::from_chars(text.data(), end, value);
+    return fault == std::errc::result_out_of_range && stop == end;
+}
+
 std::optional<bool> parseBoolean(std::string_view text) {
     const std::string upper = upperCase(text);
     if (upper == "1" || upper == "TRUE" || upper == "YES")

@@ -13,7 +13,8 @@
 namespace kelx::tools {
 
 std::optional<std::int64_t> parseInteger(std::string_view text);
-std::optional<double> parseReal(std::string_view text);  ///< finite numbers only
+std::optional<double> parseReal(std::string_view text); ///< finite numbers only
+bool isBeyondReals(std::string_view text);              ///< a number, but one that no real can hold
 std::optional<bool> parseBoolean(std::string_view text); ///< 0, 1, false, true, no, yes
 std::string integerText(std::int64_t value);
 using storage::characterCount;

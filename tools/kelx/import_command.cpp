@@ -26,7 +26,7 @@ struct ImportOptions {
     std::vector<std::string> levels, under, places;
     bool password = false;
     bool json = false;
-    std::string passwordFile;
+    std::string passwordFile, separator;
 };
 
 /// NAME=VALUE in its two halves.
@@ -35,6 +35,19 @@ std::pair<std::string, std::string> halves(const std::string& option, const std:
     if (sign == std::string::npos || sign == 0 || sign + 1 == text.size())
         throw CLI::ValidationError(option, "\"" + text + "\" is not of the form NAME=VALUE");
     return {text.substr(0, sign), text.substr(sign + 1)};
+}
+
+std::string notEmpty(const std::string& text) {
+    return text.empty() ? "must not be empty" : "";
+}
+
+std::optional<char> separator(const std::string& text) {
+    if (text.empty() || text == "tab" || text == "\t")
+        return text.empty() ? std::nullopt : std::optional('\t');
+    if (text.size() == 1 &&
+        std::string_view(",;|:!#$%&*/<=>?@^~ ").find(text[0]) != std::string_view::npos)
+        return text[0];
+    throw CLI::ValidationError("--separator", "\"" + text + "\" cannot separate fields");
 }
 
 std::string newPassword(const ImportOptions& options) {
@@ -73,6 +86,11 @@ int import(ImportOptions& options) {
     tools::ImportTarget& target = options.target;
     if (options.password || !options.passwordFile.empty())
         target.key = storage::Secret::derive(newPassword(options), storage::Secret::newRecipe());
+    target.questions.password = [&](const std::string& name) {
+        return options.passwordFile.empty()
+                   ? passwordFromTerminal("Password of the " + name + " to be replaced: ")
+                   : passwordFromFile(options.passwordFile);
+    };
     try {
         const tools::ImportReport report = importWatched(options);
         printReport(report, target.database, options.json);
@@ -96,7 +114,13 @@ void addSourceOptions(CLI::App& command, ImportOptions& options) {
         ->needs(levels)
         ->take_all();
     command.add_option("--codebook", options.files.codebook, "What the columns of CSV files mean")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check(notEmpty, "");
+    command
+        .add_option("--separator", options.separator,
+                    "What stands between the fields of CSV files: one sign, or \"tab\" (default "
+                    "\",\")")
+        ->type_name("SIGN");
     CLI::Option* flat =
         command
             .add_option("--flat", options.flat.data,
@@ -106,7 +130,10 @@ void addSourceOptions(CLI::App& command, ImportOptions& options) {
             ->excludes(levels);
     const auto addFlat = [&](const std::string& name, auto& value, const char* help,
                              const char* type) {
-        return command.add_option(name, value, help)->type_name(type)->needs(flat);
+        return command.add_option(name, value, help)
+            ->type_name(type)
+            ->needs(flat)
+            ->check(notEmpty, "");
     };
     addFlat("--levels", options.flat.levels,
             "Its levels from the top down, each with the field that is its key and that of its "
@@ -141,12 +168,14 @@ void addTargetOptions(CLI::App& command, ImportOptions& options) {
                     "Protect it with the password in the file's first line")
         ->type_name("FILE")
         ->excludes(password);
-    command.add_flag("--overwrite", target.overwrite, "Replace files that exist");
+    command.add_flag("--overwrite", target.overwrite,
+                     "Replace a database that exists, with its files");
     command.add_flag("--json", options.json, "Report as JSON");
 }
 
 void check(ImportOptions& options) {
     requireExtension("database", options.target.database, {".kxdb"});
+    options.target.separator = separator(options.separator);
     for (const std::string& level : options.levels)
         options.files.levels.emplace_back(halves("--level", level));
     for (const std::string& pair : options.under)

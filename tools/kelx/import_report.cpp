@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "import_report.h"
 
+#include "catalog/type_names.h"
 #include "commands.h"
 #include "json_print.h"
 
@@ -29,11 +30,9 @@ void print(const ImportReport::Level& level) {
     tell(level.faultyRows, "rows that cannot be read left out");
     std::cout << '\n';
     for (const auto& variable : level.variables) {
-        if (variable.blanks + variable.outside + variable.faulty + variable.conflicts == 0)
-            continue;
-        std::cout << "    " << variable.name << ": " << variable.blanks << " blank";
-        if (variable.coded)
-            std::cout << ", " << variable.outside << " outside labels and ranges";
+        std::cout << "    " << variable.name << ": " << catalog::typeName(variable.type);
+        tell(variable.blanks, "blank");
+        tell(variable.outside, "outside labels and ranges");
         tell(variable.faulty, "of them because they do not fit the type");
         tell(variable.conflicts, "rows that contradict their record's first one");
         std::cout << '\n';

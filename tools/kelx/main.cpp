@@ -27,6 +27,14 @@ int run(const Action& action) {
     return failure;
 }
 
+/// The word that stands where a command should; empty where one does.
+std::string unknownCommand(const CLI::App& app) {
+    const std::vector<std::string> words = app.remaining();
+    return app.get_subcommands().empty() && !words.empty() && !words.front().starts_with('-')
+               ? words.front()
+               : std::string();
+}
+
 /// A full disk behind standard output may show only now.
 int withOutput(int status) {
     std::cout.flush();
@@ -50,6 +58,11 @@ int main(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& fault) {
+        if (const std::string word = unknownCommand(app); !word.empty()) {
+            std::cerr << "\"" << word << "\" is no command of kelx.\n"
+                      << "Run with --help for more information.\n";
+            return misuse;
+        }
         return withOutput(app.exit(fault) == 0 ? success : misuse);
     }
     return withOutput(run(action));

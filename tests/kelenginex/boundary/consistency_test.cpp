@@ -159,6 +159,24 @@ TEST_F(ConsistencyTest, TellsCodesThatAreBlankOrDouble) {
                                    "5, under record 2 of PROVINCE"));
 }
 
+// A level right under the root may do without a pointer file, and is one family then.
+TEST_F(ConsistencyTest, ChecksCodesAndWeightsOfAnyLevel) {
+    const auto dictionary = catalog::readDictionary(folder / "sample.kxdb", {});
+    catalog::Entity* province = dictionary->findEntity("PROVINCE");
+    fs::remove(province->filePath());
+    province->fileName.clear();
+    province->weightVar = province->findVariable("PROVNAME");
+    catalog::saveDictionary(*dictionary, folder / "sample.kxdb");
+    const std::string weight =
+        "Error|PROVINCE|PROVNAME|provname.kbf|Weight|holds texts and cannot be a weight";
+    EXPECT_THAT(findings(), ElementsAre(weight));
+    rewriteTexts("prov.kbf", {"07", "07"});
+    EXPECT_THAT(findings(),
+                ElementsAre("Error|PROVINCE|PROV|prov.kbf|Codes|1 code stands twice under its "
+                            "parent: \"07\" in record 2, under record 1 of COUNTRY",
+                            weight));
+}
+
 TEST_F(ConsistencyTest, TellsValuesOutsideLabelsAndRanges) {
     rewrite("sex.kbf", {8, 7, 9, -1, 6}); // 8: not applicable, 9: missing
     EXPECT_THAT(findings(),

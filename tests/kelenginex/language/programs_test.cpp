@@ -119,6 +119,15 @@ TEST(Weights, FollowTheNearestWeightVariable) {
               "FREQ_1 PERSON: HOUSEHOLD.ROOMS weight PERSON.WEIGHT2\n");
     census.entity("PERSON").weightVar = &census.variable("PERSON", "WEIGHT2");
     EXPECT_EQ(weights("FREQ PERSON.SEX"), "FREQ_1 PERSON: PERSON.SEX weight PERSON.WEIGHT2\n");
+    census.entity("PERSON").weightVar = &census.variable("PERSON", "GRP");
+    EXPECT_EQ(weights("FREQ PERSON.SEX WEIGHT PERSON.WEIGHT2"),
+              "FREQ_1 PERSON: PERSON.SEX weight PERSON.WEIGHT2\n");
+    census.compile("COUNT PERSON\n FREQ PERSON.SEX");
+    EXPECT_EQ(
+        told(census.messages),
+        "KEL_E_WEIGHT_IS_TEXT 2:2 PERSON.GRP, the automatic weight, holds texts: name another "
+        "WEIGHT, or write NOWEIGHT.\n");
+    census.entity("PERSON").weightVar = &census.variable("PERSON", "WEIGHT2");
     census.options.autoWeight = false;
     EXPECT_EQ(weights("FREQ PERSON.SEX RUNDEF AUTOWEIGHT FREQ PERSON.SEX"),
               "FREQ_1 PERSON: PERSON.SEX\n"
