@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace kelx::language {
 
@@ -60,13 +61,15 @@ void ListChecker::takeTables(const std::vector<ast::Name>& names) {
     }
     ahead_.clear();
     for (const auto& [name, count] : times)
-        ahead_[name] = {tables_.findAll(name, count), 0};
+        ahead_[name] = {tables_.findAll(name, count), 0, false};
 }
 
 /// The next table of that name; nothing where it is not clear which one, which is told.
 std::optional<std::size_t> ListChecker::nextTable(const ast::Name& name) {
-    auto& [tables, taken] = ahead_[lowerCase(name.name)];
+    auto& [tables, taken, told] = ahead_[lowerCase(name.name)];
     if (taken == tables.size()) {
+        if (std::exchange(told, true))
+            return std::nullopt;
         context_.report(Error::TableColumn, name.position,
                         {inQuotes(name.name), "several tables have this name, and not as many as "
                                               "the list names"});
@@ -185,7 +188,7 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
 /// Columns of different tables do not go by one name.
 void ListChecker::distinguish(std::size_t number, std::string& name) {
     std::set<std::size_t> others;
-    const auto& [tables, taken] = ahead_[lowerCase(name)];
+    const auto& [tables, taken, told] = ahead_[lowerCase(name)];
     for (std::size_t i = 0; i < taken; ++i) {
         if (tables[i] != number)
             others.insert(tables[i]);

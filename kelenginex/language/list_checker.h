@@ -51,6 +51,7 @@ private:
     struct Ahead {
         std::vector<std::size_t> tables;
         std::size_t taken = 0;
+        bool told = false; ///< that it is not clear which ones
     };
     std::map<std::string, Ahead> ahead_;
 };

@@ -347,8 +347,8 @@ const std::vector<Fault> faults = {
     {"DEFINE PERSON.X AS RECODE AGE (5 : 1 = 2)",
      "KEL_W_EMPTY_INTERVAL 1:32 The interval 5 : 1 holds no value: its lower end is above its "
      "upper end.\n"},
-    {"DEFINE DISTRICT.X AS SUM PERSON.AGE > 3",
-     "KEL_E_NOT_A_NUMBER 1:26 SUM takes a number, but this is a condition.\n"},
+    {"DEFINE DISTRICT.X AS SUM PERSON.GRP",
+     "KEL_E_NOT_A_NUMBER 1:26 SUM takes a number, but this is a text.\n"},
     {"DEFINE DISTRICT.X AS RATIO GRP (1:3)", "KEL_E_COMPARE_TYPES 1:33 a text cannot be compared "
                                              "with a number. Put the number in quotes.\n"},
     {"RUNDEF SELECTION PROVINCE = \"01\" OR",
