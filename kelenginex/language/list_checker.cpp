@@ -4,7 +4,6 @@
 #include "language/text.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace kelx::language {
@@ -187,16 +186,12 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
 
 /// Columns of different tables do not go by one name.
 void ListChecker::distinguish(std::size_t number, std::string& name) {
-    std::set<std::size_t> others;
     const auto& [tables, taken, told] = ahead_[lowerCase(name)];
-    for (std::size_t i = 0; i < taken; ++i) {
-        if (tables[i] != number)
-            others.insert(tables[i]);
-    }
-    if (tables.size() > 1)
-        tables_.forgive(number);
-    if (!others.empty())
-        name += "_" + std::to_string(others.size() + 1);
+    if (tables.size() < 2 || tables.front() == tables.back())
+        return;
+    tables_.forgive(number);
+    if (taken > 1)
+        name += "_" + std::to_string(taken);
 }
 
 bool ListChecker::takeWeights(const TableCommand& list, const TableFacts& facts,

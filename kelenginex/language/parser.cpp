@@ -125,17 +125,19 @@ void Parser::parseRunName(ast::RunDefinition& run) {
 
 /// How many more words belong to the name; none where one of them may be a misspelt clause.
 std::size_t Parser::runNameWords() const {
-    std::size_t words = 0;
-    for (;; ++words) {
+    constexpr std::size_t most = 20;
+    const std::vector<std::string> others = wordsFor(isRunClause | startsCommand);
+    for (std::size_t words = 0; words < most; ++words) {
         const Token& token = cursor_.peek(words);
         const unsigned places = placesOf(token.keyword);
         if (token.kind == TokenKind::End || token.firstOnLine ||
             (places & (isRunClause | startsCommand)) != 0)
             return words;
         const bool word = token.kind == TokenKind::Word || token.kind == TokenKind::Number;
-        if (!word || !nearest(token.text, wordsFor(isRunClause | startsCommand)).empty())
-            return 0;
+        if (!word || !nearest(token.text, others).empty())
+            break;
     }
+    return 0;
 }
 
 bool Parser::parseRunClause(ast::RunDefinition& run) {
