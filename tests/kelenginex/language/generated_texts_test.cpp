@@ -227,7 +227,7 @@ TEST(GeneratedRuns, TakeLabelsAsTyped) {
           Label{"\"Big \"\"new\"\" cities\"", "Big \"new\" cities"},
           Label{"Title of the count // a note", "Title of the count"},
           Label{"\"One\" // a note", "One"}, Label{"\"One\"/* a note */", "One"}}) {
-        for (const std::string& end : {"", "\n\tdecimals 2\n", "  \r\n"}) {
+        for (const char* end : {"", "\n\tdecimals 2\n", "  \r\n"}) {
             const BoundProgram program =
                 census.compile(std::string("rundef\n\tfilterlabel ") + label.written + end);
             EXPECT_EQ(told(census.messages), "") << label.written << end;
@@ -241,7 +241,7 @@ TEST(GeneratedRuns, TakeNamesAsTyped) {
     Census census;
     for (const Label& name :
          {Label{"my-program\n", "my-program"}, Label{"my program\n", "my program"},
-          Label{"2020-census\n", "2020-census"}, Label{"census 2020 a-b", "census 2020 a-b"},
+          Label{"2020-census\n", "2020-census"}, Label{"census 2020 of all", "census 2020 of all"},
           Label{"my program decimals 2", "my program"}, Label{"\nDECIMALS 2", ""}}) {
         const BoundProgram program = census.compile(std::string("rundef ") + name.written);
         EXPECT_EQ(told(census.messages), "") << name.written;
@@ -273,10 +273,10 @@ TEST(GeneratedDefinitions, TakeNamesAsTyped) {
 
 TEST(GeneratedCalls, TakeNamesAsTyped) {
     Census census;
-    census.write("p.spc", "FREQ {my-name} TITLE \"{my-name} {2-b}\"");
+    census.write("p.spc", "FREQ {my-name} TITLE \"{my-name} {b-2}\"");
     const BoundProgram program =
-        census.compile("execute \"p.spc\" my-name = {SEX2}, 2-b={x y} , c-3 = {}\n");
-    EXPECT_EQ(located(census.messages), "KEL_W_UNUSED_VALUE 1:53\n");
+        census.compile("execute \"p.spc\" my-name = {SEX2}, b-2={x y} , c-3 = {}\n");
+    EXPECT_EQ(located(census.messages), "KEL_W_UNUSED_VALUE 1:47\n");
     EXPECT_EQ(summary(program),
               "FREQ_1 PERSON: PERSON.SEX2 weight HOUSEHOLD.WEIGHT title SEX2 x y\n");
 }
