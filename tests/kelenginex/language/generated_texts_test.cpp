@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(
                   "table my-sum as tabop \n\tof A-B_1 / 2-a-b_1\n\n",
                   "a-b_1 PERSON: PERSON.SEX silent\n"
                   "a-b_2 PERSON: PERSON.AGE\n"
-                  "my-sum: TABOP ((#0 / 2) - #0)\n"},
+                  "my-sum -: TABOP ((#0 / 2) - #0) of #0\n"},
         Generated{"table tN1 gini HOUSEHOLD.RENT\n\tweight HOUSEHOLD.WEIGHT\n\ttally 2\n\n"
                   "table tN2 minimum PERSON.AGE\n\n\ttally 2\n\n",
                   "tN1 HOUSEHOLD: GINI HOUSEHOLD.RENT weight HOUSEHOLD.WEIGHT tally 2\n"
