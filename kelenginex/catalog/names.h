@@ -10,8 +10,10 @@
 
 namespace kelx::catalog {
 
-/// Equal but for the case of ASCII letters; the process's locale has no say.
+/// Equal but for the case of letters: Latin (ASCII, Latin-1, Extended-A), Greek and Cyrillic. The
+/// process's locale has no say.
 bool sameName(std::string_view a, std::string_view b);
+/// The same letters made small; the length in bytes stays.
 std::string lowerCase(std::string_view text);
 /// The whole text as a number, blanks around it allowed.
 std::optional<double> parseNumber(std::string_view text);

@@ -12,11 +12,11 @@ namespace {
 
 bool isNameByte(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
+           c == '-' || static_cast<unsigned char>(c) >= 0x80;
 }
 
 bool isName(std::string_view text) {
-    return !text.empty() && (text[0] < '0' || text[0] > '9') &&
+    return !text.empty() && text[0] != '-' && (text[0] < '0' || text[0] > '9') &&
            std::all_of(text.begin(), text.end(), isNameByte);
 }
 

@@ -21,6 +21,7 @@ public:
 
     BoundProgram run(const ast::Program& program) {
         takeAll(program);
+        tables_.finish();
         bound_.lastSettings = settings_.settings;
         markUsed(bound_);
         context_.files().report(context_);
@@ -34,8 +35,7 @@ private:
     }
     void take(const ast::RunDefinition& run) { settings_ = runs_.check(run); }
     void take(const ast::WeightCommand& command) {
-        runs_.setWeight(expressions_.number(*command.weight, "WEIGHT"));
-        settings_ = runs_.defaults();
+        settings_ = runs_.setWeight(expressions_.number(*command.weight, "WEIGHT"), settings_);
     }
     void take(const ast::StyleCommand& style) { settings_ = runs_.setStyle(style, settings_); }
     void take(const ast::Definition& definition) {

@@ -48,6 +48,7 @@ public:
 
     /// Adds a variable that the program makes to the names. It must live on.
     void define(const catalog::Variable& variable);
+    void noteTable(const std::string& name) { names_.noteTable(name); }
     /// The variable whose DEFINE is being checked; empty texts for none.
     void setDefining(const std::string& entity, const std::string& name);
     bool isDefining(const std::string& entity, const std::string& name) const;

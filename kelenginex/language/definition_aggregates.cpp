@@ -96,6 +96,8 @@ bool DefinitionAggregates::make(const ast::Definition& ast, const Entity& owner,
         if (!*part)
             continue;
         good = addWeight(weight, **part) && good;
+        if (ast.weight == nullptr && weighs(run, into))
+            (*part)->weight = run.weight;
         addFilter(run.filter, **part);
         addFilter(run.selection ? run.selection->expression : nullptr, **part);
     }
@@ -139,7 +141,7 @@ bool DefinitionAggregates::gather(const ast::Node& node, const std::string& word
                                   const Entity& owner, Aggregate& into) {
     if (into.kind == Kind::Count)
         into.kind = Kind::Sum;
-    into.value = expressions_.number(node, word);
+    into.value = expressions_.measure(node, word);
     if (into.value == nullptr)
         return false;
     into.over = into.value->entity;
@@ -176,6 +178,20 @@ bool DefinitionAggregates::checkBelow(const Entity* entity, const Entity& owner,
         return true;
     context_.report(Error::NotBelow, position, {word, owner.name, "about " + entity->name});
     return false;
+}
+
+/// Whether the weight of the run applies: where each record that is gone over has one. The least
+/// and the greatest value know no weight.
+bool DefinitionAggregates::weighs(const RunSettings& run, const Definition& definition) {
+    const Kind kind = definition.numerator->kind;
+    if (run.weightMode != WeightMode::Explicit || run.weight == nullptr || kind == Kind::Minimum ||
+        kind == Kind::Maximum)
+        return false;
+    const Entity* about = run.weight->entity;
+    const auto hasWeight = [&](const std::optional<Aggregate>& part) {
+        return !part || about == nullptr || about->isAncestorOf(*part->over);
+    };
+    return hasWeight(definition.numerator) && hasWeight(definition.denominator);
 }
 
 bool DefinitionAggregates::addWeight(const ExpressionPtr& weight, Aggregate& into) {

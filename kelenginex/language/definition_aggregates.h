@@ -29,6 +29,7 @@ private:
     bool addValid(const ast::Name& name, Aggregate& into);
     bool checkBelow(const Entity* entity, const Entity& owner, const std::string& word,
                     Position position);
+    static bool weighs(const RunSettings& run, const Definition& definition);
     bool addWeight(const ExpressionPtr& weight, Aggregate& into);
     bool addFilter(const ExpressionPtr& filter, Aggregate& into);
     bool addOwnFilter(const ast::Definition& ast, Definition& into);

@@ -25,9 +25,10 @@ bool isGathered(DefinitionKind kind) {
     }
 }
 
-/// Numbers and truth values become each other; texts stay texts.
+/// Numbers and truth values become each other, and numbers texts; texts stay texts.
 bool converts(ValueType from, ValueType to) {
-    return from == to || (from != ValueType::String && to != ValueType::String);
+    const bool number = from == ValueType::Integer || from == ValueType::Real;
+    return from == to || number || (from != ValueType::String && to != ValueType::String);
 }
 
 } // namespace

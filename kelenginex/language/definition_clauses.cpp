@@ -145,12 +145,20 @@ bool DefinitionParser::readRanges(std::vector<ast::Interval>& intervals) {
     return true;
 }
 
-/// A word is a code only where its label follows.
+/// A word is a code only where its label follows; MIN and the like too, which no text follows as
+/// tables.
+bool DefinitionParser::atCodeWord() const {
+    const Token& token = cursor_.peek();
+    const bool command = (placesOf(token.keyword) & startsAnywhere) != 0;
+    return token.kind == TokenKind::Word && !token.is(Keyword::True) && !token.is(Keyword::False) &&
+           !cursor_.atClause() && !command && cursor_.peek(1).kind == TokenKind::Text;
+}
+
 bool DefinitionParser::atValueLabel() const {
     const Token& token = cursor_.peek();
     if (token.kind == TokenKind::Word)
-        return !cursor_.atClause() && !cursor_.atCommand() &&
-               cursor_.peek(1).kind == TokenKind::Text;
+        return atCodeWord() || ((token.is(Keyword::True) || token.is(Keyword::False)) &&
+                                cursor_.peek(1).kind == TokenKind::Text);
     return token.kind == TokenKind::Number || token.kind == TokenKind::Text || token.isSymbol("-");
 }
 
@@ -158,7 +166,11 @@ bool DefinitionParser::readValueLabels() {
     do {
         std::optional<ast::Literal> value;
         std::optional<std::string> label;
-        if (!readLiteral(value, "a code and its label, as in 1 \"Yes\"") ||
+        if (atCodeWord()) {
+            const Token& word = cursor_.take();
+            value = ast::Literal{std::string(word.text), std::string(word.text), word.position};
+        }
+        if ((!value && !readLiteral(value, "a code and its label, as in 1 \"Yes\"")) ||
             !clauses_.readText(label, ("the label of " + value->text + " in quotes").c_str()))
             return false;
         definition_.valueLabels.push_back({std::move(*value), std::move(*label)});
@@ -197,7 +209,8 @@ bool DefinitionParser::readLiteral(std::optional<ast::Literal>& into, const char
 
 bool DefinitionParser::readAlias() {
     const Token& token = cursor_.peek();
-    const bool word = token.kind == TokenKind::Word && !token.reserved;
+    const bool other = (placesOf(token.keyword) & (isDefineClause | startsAnywhere)) != 0;
+    const bool word = token.kind == TokenKind::Word && !other;
     if (!word && token.kind != TokenKind::Text) {
         cursor_.unexpected("a short name that is no word of the language");
         return false;
@@ -207,10 +220,11 @@ bool DefinitionParser::readAlias() {
     return true;
 }
 
-/// Without quotes it goes to the end of the line or to the next clause.
+/// Without quotes, and with other clauses before it on its line, it goes to the end of the line or
+/// to the next clause of DEFINE.
 bool DefinitionParser::readGroup() {
     const Token& token = cursor_.peek();
-    if (token.kind == TokenKind::Text)
+    if (token.kind == TokenKind::Text || token.kind == TokenKind::Label)
         return clauses_.readText(definition_.group, "");
     const bool word =
         token.kind == TokenKind::Word && !token.firstOnLine &&
@@ -220,8 +234,10 @@ bool DefinitionParser::readGroup() {
         return false;
     }
     std::string& group = definition_.group.emplace(cursor_.take().text);
-    while (!cursor_.atEnd() && !cursor_.peek().firstOnLine && !cursor_.atClause() &&
-           !cursor_.atCommand()) {
+    const auto atNext = [&] {
+        return (placesOf(cursor_.peek().keyword) & (isDefineClause | startsCommand)) != 0;
+    };
+    while (!cursor_.atEnd() && !cursor_.peek().firstOnLine && !atNext()) {
         group += cursor_.peek().begin > cursor_.lastEnd() ? " " : "";
         group += cursor_.take().text;
     }

@@ -36,6 +36,7 @@ private:
     bool readRanges(std::vector<ast::Interval>& intervals);
     bool readValueLabels();
     bool atValueLabel() const;
+    bool atCodeWord() const;
     bool readLiteral(std::optional<ast::Literal>& into, const char* what);
     bool readAlias();
     bool readGroup();

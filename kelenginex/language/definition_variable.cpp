@@ -137,8 +137,13 @@ std::optional<double> DefinitionVariable::code(const std::optional<ast::Literal>
                                                const char* clause, const Variable& variable) {
     const std::optional<double> number = numberIn(literal->constant);
     if (!number)
-        context_.report(Error::ClauseValue, literal->position,
-                        {clause, variable.fullName(), "a number", inQuotes(literal->text), ""});
+        context_.report(
+            Error::ClauseValue, literal->position,
+            {clause, variable.fullName(), "a number", inQuotes(literal->text),
+             variable.type == ValueType::String
+                 ? " A dictionary keeps these codes as numbers, also for texts: 9 stands for \"9\" "
+                   "and \"09\"."
+                 : ""});
     return number;
 }
 

@@ -35,11 +35,8 @@ struct Symbol {
     std::string_view written, meant;
 };
 
-/// Longer ones first.
-constexpr std::array<Symbol, 18> symbols = {{{"<==", "<="},
-                                             {">==", ">="},
-                                             {"==", "="},
-                                             {"<>", "<>"},
+/// Longer ones first. A "=" may be doubled, as where "=" was replaced by "==" in "<=" or "==".
+constexpr std::array<Symbol, 15> symbols = {{{"<>", "<>"},
                                              {"<=", "<="},
                                              {">=", ">="},
                                              {"=", "="},
@@ -152,7 +149,8 @@ private:
     /// Length of the name or word that begins here; 0 where none does.
     std::size_t wordLength() {
         const std::size_t made = atNewName() ? newNameLength() : 0;
-        const std::size_t odd = made > 0 ? made : oddNameLength();
+        const std::size_t value = made > 0 ? made : valueNameLength();
+        const std::size_t odd = value > 0 ? value : oddNameLength();
         if (odd > 0)
             return odd;
         std::size_t length = 0;
@@ -177,24 +175,70 @@ private:
         return exponent.find_first_not_of("0123456789") == std::string_view::npos;
     }
 
-    /// DEFINE Entity. stands before.
+    /// DEFINE Entity., ALIAS, TABLE or RUNDEF stands before.
     bool atNewName() const {
         const std::size_t count = tokens_.size();
-        return afterDot() && count >= 3 && tokens_[count - 3].is(Keyword::Define);
+        if (afterDot())
+            return count >= 3 && tokens_[count - 3].is(Keyword::Define);
+        if (count == 0 || tokens_.back().end() == at_)
+            return false;
+        const Token& last = tokens_.back();
+        return last.is(Keyword::Alias) || last.is(Keyword::Table) || last.is(Keyword::Rundef);
     }
 
-    /// A name that DEFINE makes may hold "-", and keeps it from there on.
+    /// A name that a program makes may hold "-", and keeps it from there on.
     std::size_t newNameLength() {
-        constexpr std::size_t longest = 200;
-        std::size_t length = 0;
-        while (isWordByte(peek(length)) || (peek(length) == '-' && isWordByte(peek(length + 1))))
-            ++length;
-        const std::string_view name = rest().substr(0, length);
-        if (length > longest || name.find('-') == std::string_view::npos)
-            return 0;
-        oddNames_.names.insert(lowerCase(name));
-        oddNames_.longest = std::max(oddNames_.longest, length);
+        const std::size_t length = dashedLength();
+        if (length > 0 && !tokens_.back().is(Keyword::Rundef))
+            noteName(rest().substr(0, length));
         return length;
+    }
+
+    /// Length of the name with a "-" that begins here; 0 for none.
+    std::size_t dashedLength() const {
+        constexpr std::size_t longest = 200;
+        if (!isWordByte(peek()))
+            return 0;
+        std::size_t length = 0;
+        bool dashed = false;
+        while (length <= longest && (isWordByte(peek(length)) ||
+                                     (peek(length) == '-' && isWordByte(peek(length + 1))))) {
+            dashed = dashed || peek(length) == '-';
+            ++length;
+        }
+        return dashed && length <= longest ? length : 0;
+    }
+
+    /// The tables of a list get a number behind the name.
+    void noteName(std::string_view name) {
+        constexpr std::size_t numberDigits = 6;
+        oddNames_.names.insert(lowerCase(name));
+        oddNames_.longest = std::max(oddNames_.longest, name.size() + numberDigits);
+        if (tokens_.back().is(Keyword::Table))
+            tables_.insert(lowerCase(name));
+    }
+    bool isTableOfList(const std::string& name) const {
+        const std::size_t end = name.find_last_not_of("0123456789");
+        return !tables_.empty() && end != std::string::npos && end + 1 < name.size() &&
+               name[end] == '_' && tables_.contains(name.substr(0, end));
+    }
+
+    /// `name = {` of EXECUTE.
+    std::size_t valueNameLength() const {
+        const bool possible = !tokens_.empty() && (tokens_.back().kind == TokenKind::Text ||
+                                                   tokens_.back().kind == TokenKind::Braced ||
+                                                   tokens_.back().isSymbol(","));
+        const std::size_t length = possible ? dashedLength() : 0;
+        std::size_t at = length;
+        const auto skip = [&] {
+            while (peek(at) == ' ' || peek(at) == '\t')
+                ++at;
+        };
+        skip();
+        if (length == 0 || peek(at++) != '=')
+            return 0;
+        skip();
+        return peek(at) == '{' ? length : 0;
     }
 
     std::size_t oddNameLength() const {
@@ -208,7 +252,8 @@ private:
                 continue;
             const std::string_view name = rest().substr(0, length);
             const bool allDigits = name.find_first_not_of("0123456789") == std::string_view::npos;
-            if ((afterDot() || !allDigits) && oddNames_.names.contains(lowerCase(name)))
+            const std::string key = lowerCase(name);
+            if ((afterDot() || !allDigits) && (oddNames_.names.contains(key) || isTableOfList(key)))
                 return length;
         }
         return 0;
@@ -221,24 +266,54 @@ private:
             return;
         token.keyword = keywordOf(token.text);
         token.reserved = isReserved(token.text);
-        if (token.is(Keyword::Selectionlabel) || token.is(Keyword::Filterlabel))
+        const bool label = token.is(Keyword::Selectionlabel) || token.is(Keyword::Filterlabel);
+        if (label || (token.is(Keyword::Group) && token.firstOnLine))
             addLabel();
     }
 
-    /// What follows on the line, where it is not in quotes.
+    /// What follows on the line, where it is not a text in quotes.
     void addLabel() {
         std::size_t blanks = 0;
         while (peek(blanks) == ' ' || peek(blanks) == '\t')
             ++blanks;
         std::string_view line = rest().substr(blanks);
         line = line.substr(0, line.find_first_of("\r\n"));
-        line = line.substr(0, std::min(line.find("//"), line.find("/*")));
+        line = line.substr(0, commentIn(line));
         while (!line.empty() && (line.back() == ' ' || line.back() == '\t'))
             line.remove_suffix(1);
-        if (line.empty() || line.front() == '"' || line.front() == '.')
+        const bool isName = blanks == 0 && line.starts_with('.');
+        if (line.empty() || isName || isQuoted(line))
             return;
         advance(blanks);
         add(TokenKind::Label, line.size());
+    }
+
+    /// Where a comment begins in a label: only behind a blank, since addresses hold "//".
+    static std::size_t commentIn(std::string_view line) {
+        for (std::size_t at = 0; at + 1 < line.size(); ++at) {
+            const bool alone = at == 0 || line[at - 1] == ' ' || line[at - 1] == '\t';
+            if (alone && line[at] == '/' && (line[at + 1] == '/' || line[at + 1] == '*'))
+                return at;
+        }
+        return line.size();
+    }
+
+    /// A text in quotes, alone or with another clause or a command behind it. One that is never
+    /// closed is told as such.
+    static bool isQuoted(std::string_view line) {
+        if (line.front() != '"')
+            return false;
+        std::size_t end = line.find('"', 1);
+        while (end != std::string_view::npos && line.substr(end + 1).starts_with('"'))
+            end = line.find('"', end + 2);
+        if (end == std::string_view::npos)
+            return true;
+        line.remove_prefix(end + 1);
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+        const auto* const wordEnd = std::find_if_not(line.begin(), line.end(), isWordByte);
+        return line.empty() || line.starts_with("//") || line.starts_with("/*") ||
+               placesOf(
+                   keywordOf({line.data(), static_cast<std::size_t>(wordEnd - line.begin())})) != 0;
     }
 
     void addNumber() {
@@ -312,7 +387,10 @@ private:
                 tokens_.back().keyword = Keyword::None;
                 tokens_.back().reserved = false;
             }
-            add(TokenKind::Symbol, symbol.written.size()).text = symbol.meant;
+            std::size_t length = symbol.written.size();
+            while (symbol.written.back() == '=' && peek(length) == '=')
+                ++length;
+            add(TokenKind::Symbol, length).text = symbol.meant;
             return;
         }
         messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek())}));
@@ -320,7 +398,8 @@ private:
     }
 
     std::string_view program_;
-    OddNames oddNames_; ///< those of the dictionary and of DEFINE
+    OddNames oddNames_;                      ///< those of the dictionary and of the program
+    std::unordered_set<std::string> tables_; ///< those of oddNames_ that TABLE made
     Messages& messages_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;

@@ -4,6 +4,7 @@
 #include "language/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelx::language {
 
@@ -14,6 +15,7 @@ bool ListChecker::check(const ast::Table& table, TableCommand& command) {
         return false;
     const Entity& entity = *command.countEntity;
     bool good = checkAreaData(entity, table.entity->position);
+    takeTables(table.names);
     for (const ast::Name& name : table.names)
         good = addColumn(name, command) && good;
     if (table.names.empty() && command.kind == TableKind::View) {
@@ -48,6 +50,33 @@ std::vector<const Variable*> ListChecker::inReach(const std::string& name,
     return result;
 }
 
+/// Tools name the tables of variables alike where their entities differ only: a list that names as
+/// many as there are means them in their order.
+void ListChecker::takeTables(const std::vector<ast::Name>& names) {
+    std::map<std::string, std::size_t> times;
+    for (const ast::Name& name : names) {
+        if (name.entity.empty() && !name.all)
+            ++times[lowerCase(name.name)];
+    }
+    ahead_.clear();
+    for (const auto& [name, count] : times)
+        ahead_[name] = {tables_.findAll(name, count), 0, false};
+}
+
+/// The next table of that name; nothing where it is not clear which one, which is told.
+std::optional<std::size_t> ListChecker::nextTable(const ast::Name& name) {
+    auto& [tables, taken, told] = ahead_[lowerCase(name.name)];
+    if (taken == tables.size()) {
+        if (std::exchange(told, true))
+            return std::nullopt;
+        context_.report(Error::TableColumn, name.position,
+                        {inQuotes(name.name), "several tables have this name, and not as many as "
+                                              "the list names"});
+        return std::nullopt;
+    }
+    return tables[taken++];
+}
+
 bool ListChecker::addColumn(const ast::Name& name, TableCommand& command) {
     const Entity& entity = *command.countEntity;
     if (name.all)
@@ -57,9 +86,11 @@ bool ListChecker::addColumn(const ast::Name& name, TableCommand& command) {
         return variable != nullptr && addVariable(*variable->variable, name.position, command);
     }
     const std::vector<const Variable*> variables = inReach(name.name, entity);
-    const std::optional<std::size_t> table = tables_.find(name.name);
-    if (variables.empty() && table)
-        return addTable(*table, name.position, command);
+    const bool table = tables_.find(name.name).has_value();
+    if (variables.empty() && table) {
+        const std::optional<std::size_t> number = nextTable(name);
+        return number && addTable(*number, name.position, command);
+    }
     if (variables.size() == 1) {
         if (table)
             context_.report(Warning::ColumnTwice, name.position, {inQuotes(name.name)});
@@ -145,11 +176,22 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
         hidden.sensitive = command.sensitive;
     if (!takeWeights(command, facts, hidden) || !tables_.hasRoom(1, position))
         return false;
+    distinguish(number, hidden.name);
     tables_.useAsColumn(number);
     const std::size_t at = tables_.size();
     tables_.add(std::move(hidden), std::move(facts));
     command.columns.push_back({nullptr, at, position});
     return true;
+}
+
+/// Columns of different tables do not go by one name.
+void ListChecker::distinguish(std::size_t number, std::string& name) {
+    const auto& [tables, taken, told] = ahead_[lowerCase(name)];
+    if (tables.size() < 2 || tables.front() == tables.back())
+        return;
+    tables_.forgive(number);
+    if (taken > 1)
+        name += "_" + std::to_string(taken);
 }
 
 bool ListChecker::takeWeights(const TableCommand& list, const TableFacts& facts,

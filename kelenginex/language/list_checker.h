@@ -8,8 +8,10 @@
 #include "language/table_placer.h"
 #include "language/table_register.h"
 
+#include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kelx::language {
 
@@ -26,6 +28,9 @@ public:
 
 private:
     bool checkAreaData(const Entity& entity, Position position);
+    void takeTables(const std::vector<ast::Name>& names);
+    std::optional<std::size_t> nextTable(const ast::Name& name);
+    void distinguish(std::size_t number, std::string& name);
     bool addColumn(const ast::Name& name, TableCommand& command);
     bool addVariables(const ast::Name& name, TableCommand& command);
     bool addVariable(const Variable& variable, Position position, TableCommand& command);
@@ -41,6 +46,14 @@ private:
     ExpressionChecker& expressions_;
     TablePlacer& placer_;
     TableRegister& tables_;
+    /// Of the list being checked: the tables that a name means, in lower case, and how many of them
+    /// are columns already.
+    struct Ahead {
+        std::vector<std::size_t> tables;
+        std::size_t taken = 0;
+        bool told = false; ///< that it is not clear which ones
+    };
+    std::map<std::string, Ahead> ahead_;
 };
 
 } // namespace kelx::language

@@ -197,7 +197,7 @@ const std::vector<MessageEntry> table = {
     warning(Warning::TableNameAgain, "KEL_W_TABLE_NAME_AGAIN", "There is already a table named %1.",
             "Two tables of a program have the same name."),
     warning(Warning::UnknownArea, "KEL_W_UNKNOWN_AREA",
-            "No %1 has the code \"%2\" that the selection lists.",
+            "No %1 has the code \"%2\" that the selection lists.%3",
             "A code of a selection that no area has; it selects nothing."),
     warning(Warning::OtherDictionary, "KEL_W_OTHER_DICTIONARY",
             "The program was written for the dictionary %1 and runs on the open one, %2.",

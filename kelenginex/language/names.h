@@ -24,6 +24,8 @@ public:
     const std::vector<const catalog::Variable*>& variablesOf(const catalog::Entity& entity) const;
     /// A variable that the program makes, in place of one of the same name. It must live on.
     void define(const catalog::Variable& variable);
+    /// A table that the program makes.
+    void noteTable(const std::string& name) { addName(name); }
     const OddNames& oddNames() const { return oddNames_; }
 
     // Hints for a message: empty, or " Did you mean X?".

@@ -35,6 +35,8 @@ private:
     void parseStyle();
     bool parseAreaBreak(ast::RunDefinition& run);
     void parseRunDefinition();
+    void parseRunName(ast::RunDefinition& run);
+    std::size_t runNameWords() const;
     bool parseRunClause(ast::RunDefinition& run);
     bool parseRunWeight(ast::RunDefinition& run, const Token& clause);
     bool parseSelection(ast::RunDefinition& run);
@@ -100,15 +102,42 @@ void Parser::parseRunDefinition() {
     clauses_.startCommand();
     ast::RunDefinition run;
     run.position = cursor_.take().position;
-    const TokenKind kind = cursor_.peek().kind;
-    const bool word = kind == TokenKind::Word && !cursor_.atClause() && !cursor_.atCommand();
-    if (word || kind == TokenKind::Text || kind == TokenKind::Number)
-        run.name = cursor_.take().value();
+    parseRunName(run);
     while (!cursor_.atEnd() && !cursor_.atCommand()) {
         if (!parseRunClause(run))
             cursor_.skipToClause();
     }
     program_.emplace_back(std::move(run));
+}
+
+/// A name of several words stands on the line of RUNDEF, which it ends, or before a clause.
+void Parser::parseRunName(ast::RunDefinition& run) {
+    const TokenKind kind = cursor_.peek().kind;
+    const bool word = kind == TokenKind::Word && !cursor_.atClause() && !cursor_.atCommand();
+    if (!word && kind != TokenKind::Text && kind != TokenKind::Number)
+        return;
+    run.name = cursor_.take().value();
+    if (kind == TokenKind::Text)
+        return;
+    for (std::size_t words = runNameWords(); words > 0; --words)
+        run.name += " " + cursor_.take().value();
+}
+
+/// How many more words belong to the name; none where one of them may be a misspelt clause.
+std::size_t Parser::runNameWords() const {
+    constexpr std::size_t most = 20;
+    const std::vector<std::string> others = wordsFor(isRunClause | startsCommand);
+    for (std::size_t words = 0; words < most; ++words) {
+        const Token& token = cursor_.peek(words);
+        const unsigned places = placesOf(token.keyword);
+        if (token.kind == TokenKind::End || token.firstOnLine ||
+            (places & (isRunClause | startsCommand)) != 0)
+            return words;
+        const bool word = token.kind == TokenKind::Word || token.kind == TokenKind::Number;
+        if (!word || !nearest(token.text, others).empty())
+            break;
+    }
+    return 0;
 }
 
 bool Parser::parseRunClause(ast::RunDefinition& run) {

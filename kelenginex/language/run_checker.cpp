@@ -23,6 +23,16 @@ CheckedSettings RunChecker::defaults() const {
     return {std::make_shared<const RunSettings>(start()), {}};
 }
 
+CheckedSettings RunChecker::setWeight(ExpressionPtr weight, const CheckedSettings& current) {
+    if (weight == nullptr)
+        return current;
+    weight_ = std::move(weight);
+    RunSettings settings = *current.settings;
+    settings.weightMode = WeightMode::Explicit;
+    settings.weight = weight_;
+    return {std::make_shared<const RunSettings>(std::move(settings)), current.selectionPosition};
+}
+
 CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
                                      const CheckedSettings& current) {
     tableStyle_ = resolvedFile(style.file, context_.options().baseFolder).string();

@@ -26,8 +26,8 @@ public:
     /// What holds before any RUNDEF.
     CheckedSettings defaults() const;
     CheckedSettings check(const ast::RunDefinition& run);
-    /// WEIGHT as a command: holds for the program wherever RUNDEF says nothing of weights.
-    void setWeight(ExpressionPtr weight) { weight_ = std::move(weight); }
+    /// WEIGHT as a command: holds from here on, wherever a later RUNDEF says nothing of weights.
+    CheckedSettings setWeight(ExpressionPtr weight, const CheckedSettings& current);
     /// TABLESTYLE of a DEFINE: holds from here on, wherever RUNDEF names none.
     CheckedSettings setStyle(const ast::StyleCommand& style, const CheckedSettings& current);
 

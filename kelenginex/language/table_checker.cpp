@@ -55,13 +55,6 @@ std::size_t productOf(const std::vector<std::vector<ExpressionPtr>>& lists) {
     return product;
 }
 
-/// What tells areas apart; nobody wants its mean.
-bool isCode(const Variable& variable) {
-    constexpr const char* areaKey = "kelcoden"; // by which the quick tools know an area's key
-    return variable.type == ValueType::String || variable.entity->codeVar == &variable ||
-           lowerCase(variable.name) == areaKey;
-}
-
 std::vector<const Variable*> variablesOf(const std::vector<ExpressionPtr>& dimensions) {
     std::vector<const Variable*> variables;
     for (const ExpressionPtr& dimension : dimensions)
@@ -195,14 +188,45 @@ bool TableChecker::startsWithArea(const ast::Table& table) const {
     const ast::NodePtr& node = table.measures.front().expression;
     if (node == nullptr || node->kind != ast::NodeKind::Name)
         return false;
-    const Variable* variable = nullptr;
-    if (node->name.entity.empty()) {
-        const auto& all = context_.names().variables(node->name.name);
-        variable = all.size() == 1 ? all.front() : nullptr;
-    } else if (const Entity* entity = context_.names().entity(node->name.entity)) {
-        variable = context_.names().variable(*entity, node->name.name);
+    const Variable* variable = variableOf(node->name);
+    return variable != nullptr && tellsAreasApart(*variable, table.dimensions[1]);
+}
+
+/// Null where it is not clear which one is meant.
+const Variable* TableChecker::variableOf(const ast::Name& name) const {
+    if (name.entity.empty()) {
+        const auto& all = context_.names().variables(name.name);
+        return all.size() == 1 ? all.front() : nullptr;
     }
-    return variable != nullptr && isCode(*variable);
+    const Entity* entity = context_.names().entity(name.entity);
+    return entity == nullptr ? nullptr : context_.names().variable(*entity, name.name);
+}
+
+/// True for the key of areas, of which nobody wants the mean: as the quick tools know or make it,
+/// or the code of areas that the others lie in.
+bool TableChecker::tellsAreasApart(const Variable& variable,
+                                   const std::vector<ast::Name>& others) const {
+    constexpr const char* areaKey = "kelcoden";
+    if (lowerCase(variable.name) == areaKey || isCompoundCode(variable))
+        return true;
+    const Entity& area = *variable.entity;
+    const auto liesBelow = [&](const ast::Name& name) {
+        const Variable* other = name.all ? nullptr : variableOf(name);
+        const Entity* entity = other != nullptr ? other->entity
+                               : name.all       ? context_.names().entity(name.entity)
+                                                : nullptr;
+        return entity != nullptr && entity != &area && area.isAncestorOf(*entity);
+    };
+    return area.codeVar == &variable && std::all_of(others.begin(), others.end(), liesBelow);
+}
+
+bool TableChecker::isCompoundCode(const Variable& variable) const {
+    return std::any_of(program_.definitions.begin(), program_.definitions.end(),
+                       [&](const Definition& definition) {
+                           return definition.variable.get() == &variable &&
+                                  definition.value != nullptr &&
+                                  definition.value->operation == Operation::CompoundCode;
+                       });
 }
 
 bool TableChecker::areaMeasures(const ast::Table& table, std::vector<List>& lists) {

@@ -19,12 +19,14 @@ namespace kelx::language {
 class TableChecker {
 public:
     TableChecker(CheckerContext& context, ExpressionChecker& expressions, BoundProgram& program)
-        : context_(context), expressions_(expressions), placer_(context, expressions),
-          tables_(context, program), lists_(context, expressions, placer_, tables_),
-          operations_(context, tables_), sorts_(context, tables_) {}
+        : context_(context), expressions_(expressions), program_(program),
+          placer_(context, expressions), tables_(context, program),
+          lists_(context, expressions, placer_, tables_), operations_(context, tables_),
+          sorts_(context, tables_) {}
 
     /// Adds the tables of one command: lists of variables make their product.
     void check(const ast::Table& table, const CheckedSettings& settings);
+    void finish() { tables_.tellNames(); } ///< at the end of the program
 
 private:
     using List = std::vector<ExpressionPtr>;
@@ -46,6 +48,9 @@ private:
     bool variables(const std::vector<ast::Name>& names, List& list);
     bool measures(const ast::Table& table, List& list);
     bool startsWithArea(const ast::Table& table) const;
+    const Variable* variableOf(const ast::Name& name) const;
+    bool tellsAreasApart(const Variable& variable, const std::vector<ast::Name>& others) const;
+    bool isCompoundCode(const Variable& variable) const;
     bool areaMeasures(const ast::Table& table, std::vector<List>& lists);
     bool addAll(List& list, const ast::Name& name);
     bool addProduct(const std::vector<List>& lists, const Model& model);
@@ -55,6 +60,7 @@ private:
 
     CheckerContext& context_;
     ExpressionChecker& expressions_;
+    const BoundProgram& program_;
     TablePlacer placer_;
     TableRegister tables_;
     ListChecker lists_;

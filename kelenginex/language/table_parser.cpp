@@ -72,7 +72,8 @@ void TableParser::parse(ast::Program& program) {
     parseKind(table, program);
 }
 
-/// A kind of table is the name where another kind follows it.
+/// A kind of table is the name where another kind follows it. A form whose name was left blank
+/// writes AS at once.
 void TableParser::parseName(ast::Table& table) {
     const bool named = cursor_.peek().kind == TokenKind::Word && !cursor_.peek().is(Keyword::As) &&
                        !((placesOf(cursor_.peek().keyword) & isTableKind) != 0 &&
@@ -80,7 +81,7 @@ void TableParser::parseName(ast::Table& table) {
                          (placesOf(cursor_.peek(1).keyword) & isTableKind) == 0);
     if (named)
         table.name = std::string(cursor_.take().text);
-    else
+    else if (!cursor_.peek().is(Keyword::As))
         cursor_.unexpected("the name of the table");
     cursor_.takeKeyword(Keyword::As);
 }

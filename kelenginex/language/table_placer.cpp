@@ -104,13 +104,14 @@ bool TablePlacer::placeWeight(TableCommand& command) {
     }
     if (run.weightMode != WeightMode::Automatic || command.kind == TableKind::Count)
         return true;
-    const Variable* variable = automaticWeight(command.unit);
-    if (variable == nullptr)
+    const Variable* stored = automaticWeight(command.unit);
+    if (stored == nullptr)
         return true;
-    command.weight = expressions_.variable(*variable, command.position);
+    const Variable* newest = context_.names().variable(*stored->entity, stored->name);
+    command.weight = expressions_.variable(newest == nullptr ? *stored : *newest, command.position);
     if (command.weight == nullptr || command.weight->type != ValueType::String)
         return command.weight != nullptr;
-    context_.report(Error::WeightIsText, command.position, {variable->fullName()});
+    context_.report(Error::WeightIsText, command.position, {command.weight->text});
     return false;
 }
 

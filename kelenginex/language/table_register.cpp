@@ -3,6 +3,9 @@
 
 #include "language/text.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace kelx::language {
 
 std::string TableRegister::nameFor(const ast::Table& table, std::size_t number, std::size_t count) {
@@ -10,7 +13,7 @@ std::string TableRegister::nameFor(const ast::Table& table, std::size_t number, 
         return shortName(table.kindWord);
     std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
     if (!names_.insert(lowerCase(name)).second)
-        context_.report(Warning::TableNameAgain, table.position, {name});
+        again_[program_.tables.size()] = {name, table.position};
     return name;
 }
 
@@ -32,7 +35,8 @@ bool TableRegister::hasRoom(std::size_t count, Position position) {
 void TableRegister::add(TableCommand command, TableFacts facts) {
     if (!command.isHidden) {
         names_.insert(lowerCase(command.name));
-        byName_[lowerCase(command.name)] = program_.tables.size();
+        context_.noteTable(command.name);
+        byName_[lowerCase(command.name)].push_back(program_.tables.size());
     }
     if (command.settings->areaBreak != nullptr && command.kind != TableKind::Count)
         facts.areaBreak = command.settings->areaBreak;
@@ -46,7 +50,27 @@ void TableRegister::expect(const ast::Table& table) {
 
 std::optional<std::size_t> TableRegister::find(const std::string& name) const {
     const auto found = byName_.find(lowerCase(name));
-    return found == byName_.end() ? std::nullopt : std::optional(found->second);
+    return found == byName_.end() ? std::nullopt : std::optional(found->second.back());
+}
+
+std::vector<std::size_t> TableRegister::findAll(const std::string& name, std::size_t times) const {
+    const auto found = byName_.find(lowerCase(name));
+    if (found == byName_.end())
+        return {};
+    const std::vector<std::size_t>& all = found->second;
+    if (times == 1 || all.size() == 1)
+        return std::vector<std::size_t>(times, all.back());
+    std::vector<std::size_t> fresh;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(fresh),
+                 [&](std::size_t number) { return !facts_[number].isColumn; });
+    if (fresh.size() == times)
+        return fresh;
+    return all.size() == times ? all : std::vector<std::size_t>();
+}
+
+void TableRegister::tellNames() {
+    for (const auto& [number, again] : again_)
+        context_.report(Warning::TableNameAgain, again.position, {again.name});
 }
 
 /// The tables of a list have a number behind the name.
@@ -57,8 +81,8 @@ bool TableRegister::isExpected(const std::string& name) const {
 
 std::vector<std::string> TableRegister::names() const {
     std::vector<std::string> names;
-    for (const auto& [key, number] : byName_)
-        names.push_back(program_.tables[number].name);
+    for (const auto& [key, numbers] : byName_)
+        names.push_back(program_.tables[numbers.back()].name);
     return names;
 }
 
@@ -73,6 +97,11 @@ std::optional<std::size_t> TableRegister::findOrReport(const ast::Name& name) {
         Error::UnknownTable, name.position,
         {inQuotes(written), context_.wantsHints() ? didYouMean(nearest(name.name, names())) : ""});
     return std::nullopt;
+}
+
+void TableRegister::useAsColumn(std::size_t number) {
+    facts_[number].isColumn = true;
+    settle(number);
 }
 
 void TableRegister::useAsOperand(std::size_t number) {

@@ -20,6 +20,7 @@ struct TableFacts {
     bool oneFigure = true;             ///< in each cell
     bool isKept = false;               ///< has OUTFILE, OUTGRAPH or SAVE
     bool isOperand = false;
+    bool isColumn = false;
     bool ownWeight = false; ///< by a clause
 
     std::size_t dimension() const { return dimensions.size() + (areaBreak != nullptr ? 1 : 0); }
@@ -43,6 +44,10 @@ public:
 
     /// By name, in any case, the last one where there are several.
     std::optional<std::size_t> find(const std::string& name) const;
+    /// The tables that a list means which names one `times` times: as many in their order, those
+    /// that no list has taken before first, or all times the only one of that name. Empty where
+    /// that is not clear.
+    std::vector<std::size_t> findAll(const std::string& name, std::size_t times) const;
     bool isExpected(const std::string& name) const;
     std::vector<std::string> names() const; ///< as written
     /// Reported where there is none.
@@ -51,7 +56,10 @@ public:
     std::size_t size() const { return facts_.size(); }
     const TableCommand& table(std::size_t number) const { return program_.tables[number]; }
     const TableFacts& facts(std::size_t number) const { return facts_[number]; }
-    void useAsColumn(std::size_t number) { settle(number); }
+    void useAsColumn(std::size_t number);
+    /// That several tables have one name was meant.
+    void forgive(std::size_t number) { again_.erase(number); }
+    void tellNames(); ///< of which a second table was made, at the end of the program
     void useAsOperand(std::size_t number);
 
 private:
@@ -60,11 +68,16 @@ private:
 
     CheckerContext& context_;
     BoundProgram& program_;
-    std::vector<TableFacts> facts_;             ///< of each table of the program
-    std::map<std::string, std::size_t> byName_; ///< in lower case
-    std::set<std::string> names_;               ///< given, in lower case
-    std::set<std::string> expected_;            ///< in lower case
-    std::map<std::string, int> numbered_;       ///< of each kind
+    std::vector<TableFacts> facts_;                          ///< of each table of the program
+    std::map<std::string, std::vector<std::size_t>> byName_; ///< in lower case
+    std::set<std::string> names_;                            ///< given, in lower case
+    std::set<std::string> expected_;                         ///< in lower case
+    struct NameAgain {
+        std::string name;
+        Position position;
+    };
+    std::map<std::size_t, NameAgain> again_; ///< tables with a name that another has
+    std::map<std::string, int> numbered_;    ///< of each kind
 };
 
 } // namespace kelx::language

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/selection.h"
 
+#include "catalog/names.h"
 #include "plan/area_codes.h"
 
 #include <algorithm>
@@ -9,10 +10,17 @@
 namespace kelx::plan {
 namespace {
 
+using language::Expression;
+using language::Operation;
+
+enum class Case { Exact, Any };
+
 /// Walks down to one entity, only through areas that begin a wanted code.
 class AreaFinder {
 public:
-    AreaFinder(const Entity& entity, const std::set<std::string>& wanted) : wanted_(wanted) {
+    /// For any case the wanted codes are in lower case.
+    AreaFinder(const Entity& entity, const std::set<std::string>& wanted, Case letters)
+        : wanted_(wanted), letters_(letters) {
         for (const Entity* e = &entity; e != nullptr; e = e->parent)
             path_.insert(path_.begin(), Level{e, nullptr, e->pointers()});
         for (Level& level : path_) {
@@ -27,7 +35,8 @@ public:
                   [](const RecordRange& a, const RecordRange& b) { return a.begin < b.begin; });
         return joined(ranges_);
     }
-    const std::set<std::string>& found() const { return found_; }
+    /// Wanted codes, and how the data write them.
+    const std::map<std::string, std::string>& found() const { return found_; }
 
 private:
     struct Level {
@@ -35,6 +44,10 @@ private:
         std::unique_ptr<ValueText> code;
         std::shared_ptr<const storage::PointerFile> pointers;
     };
+
+    std::string keyOf(const std::string& code) const {
+        return letters_ == Case::Any ? catalog::lowerCase(code) : code;
+    }
 
     bool beginsWanted(const std::string& prefix) const {
         const auto next = wanted_.lower_bound(prefix);
@@ -50,46 +63,130 @@ private:
                 code += trimmedCode(level.code->at(record));
             if (depth + 1 == path_.size())
                 take(record, code);
-            else if (beginsWanted(code))
+            else if (beginsWanted(keyOf(code)))
                 visit(depth + 1, path_[depth + 1].pointers->first(record),
                       path_[depth + 1].pointers->first(record + 1), code);
         }
     }
 
     void take(std::uint64_t record, const std::string& code) {
-        if (!wanted_.contains(code))
+        const std::string key = keyOf(code);
+        if (!wanted_.contains(key))
             return;
-        found_.insert(code);
+        found_.emplace(key, code);
         ranges_.push_back({record, record + 1});
     }
 
     const std::set<std::string>& wanted_;
+    Case letters_;
     std::vector<Level> path_;
-    std::set<std::string> found_;
+    std::map<std::string, std::string> found_;
     RecordRanges ranges_;
 };
 
-} // namespace
+using WantedCodes = std::map<const Entity*, std::set<std::string>>;
 
-RecordRanges recordsOfAreas(const Entity& entity, const std::set<std::string>& codes) {
-    return AreaFinder(entity, codes).find();
+/// The codes that differ from the unknown ones in the case of letters only.
+void findSimilar(std::vector<SelectedAreas::Unknown>& unknown) {
+    WantedCodes wanted;
+    for (const auto& entry : unknown)
+        wanted[entry.area.entity].insert(catalog::lowerCase(entry.area.code));
+    for (const auto& [entity, codes] : wanted) {
+        AreaFinder finder(*entity, codes, Case::Any);
+        finder.find();
+        for (auto& entry : unknown) {
+            const auto found = finder.found().find(catalog::lowerCase(entry.area.code));
+            if (entry.area.entity == entity && found != finder.found().end())
+                entry.similar = found->second;
+        }
+    }
 }
 
-SelectedAreas findAreas(const language::AreaSelection& selection) {
-    std::map<const Entity*, std::set<std::string>> wanted;
-    for (const auto& area : selection.areas)
+/// ENTITY = "code", either way round: the entity's side; null for anything else.
+const Expression* comparedEntity(const Expression& comparison) {
+    const auto& sides = comparison.arguments;
+    for (const std::size_t side : {0, 1}) {
+        const bool code = sides[side]->operation == Operation::CompoundCode;
+        if (code && sides[1 - side]->operation == Operation::Constant)
+            return sides[side].get();
+    }
+    return nullptr;
+}
+
+/// The code of an interval of one text; null for any other.
+const std::string* onlyText(const language::Interval& interval) {
+    if (!interval.low || interval.low != interval.high)
+        return nullptr;
+    return std::get_if<std::string>(&*interval.low);
+}
+
+/// Null where the condition does not compare an entity with codes.
+const Expression* areaEntity(const Expression& condition) {
+    if (condition.operation == Operation::Equal)
+        return comparedEntity(condition);
+    const bool codes = condition.operation == Operation::In &&
+                       condition.arguments[0]->operation == Operation::CompoundCode &&
+                       std::all_of(condition.intervals.begin(), condition.intervals.end(),
+                                   [](const auto& interval) { return onlyText(interval); });
+    return codes ? condition.arguments[0].get() : nullptr;
+}
+
+std::vector<std::string> codesOf(const Expression& condition) {
+    std::vector<std::string> codes;
+    for (const language::Interval& interval : condition.intervals)
+        codes.push_back(*onlyText(interval));
+    for (const auto& side : condition.arguments) {
+        if (const auto* text = std::get_if<std::string>(&side->constant);
+            text != nullptr && side->operation == Operation::Constant)
+            codes.push_back(*text);
+    }
+    return codes;
+}
+
+} // namespace
+
+std::vector<AreaSelection::Area> areasNamedBy(const Expression& condition) {
+    std::vector<AreaSelection::Area> areas;
+    if (const Expression* entity = areaEntity(condition)) {
+        for (std::string& code : codesOf(condition))
+            areas.push_back({entity->codeEntity, std::move(code), condition.position});
+        return areas;
+    }
+    if (condition.operation != Operation::And && condition.operation != Operation::Or &&
+        condition.operation != Operation::Not)
+        return areas;
+    for (const auto& part : condition.arguments) {
+        for (AreaSelection::Area& area : areasNamedBy(*part))
+            areas.push_back(std::move(area));
+    }
+    return areas;
+}
+
+bool isChoiceOfAreas(const Expression& condition) {
+    if (condition.operation != Operation::Or)
+        return areaEntity(condition) != nullptr;
+    return std::all_of(condition.arguments.begin(), condition.arguments.end(),
+                       [](const auto& part) { return isChoiceOfAreas(*part); });
+}
+
+RecordRanges recordsOfAreas(const Entity& entity, const std::set<std::string>& codes) {
+    return AreaFinder(entity, codes, Case::Exact).find();
+}
+
+SelectedAreas findAreas(const std::vector<AreaSelection::Area>& areas) {
+    WantedCodes wanted;
+    for (const auto& area : areas)
         wanted[area.entity].insert(area.code);
     SelectedAreas result;
-    std::map<const Entity*, std::set<std::string>> found;
     for (const auto& [entity, codes] : wanted) {
-        AreaFinder finder(*entity, codes);
+        AreaFinder finder(*entity, codes, Case::Exact);
         result.records[entity] = finder.find();
-        found[entity] = finder.found();
+        for (const auto& area : areas) {
+            if (area.entity == entity && !finder.found().contains(area.code))
+                result.unknown.push_back({area, {}});
+        }
     }
-    for (const auto& area : selection.areas) {
-        if (!found[area.entity].contains(area.code))
-            result.unknown.push_back(area);
-    }
+    findSimilar(result.unknown);
     return result;
 }
 

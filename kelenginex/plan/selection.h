@@ -12,17 +12,28 @@
 
 namespace kelx::plan {
 
+using language::AreaSelection;
+
 /// Areas found, by entity, and codes that no record has.
 struct SelectedAreas {
+    struct Unknown {
+        AreaSelection::Area area;
+        std::string similar; ///< a code that differs in the case of letters only; may be empty
+    };
     std::map<const Entity*, RecordRanges> records;
-    std::vector<language::AreaSelection::Area> unknown;
+    std::vector<Unknown> unknown;
 };
 
 /// The records of an entity with one of the compound codes.
 RecordRanges recordsOfAreas(const Entity& entity, const std::set<std::string>& codes);
 
 /// Finds the records with the listed compound codes, going only into areas whose code begins one.
-SelectedAreas findAreas(const language::AreaSelection& selection);
+SelectedAreas findAreas(const std::vector<AreaSelection::Area>& areas);
+
+/// The areas that a condition names: ENTITY = "code", also with IN, within AND, OR and NOT.
+std::vector<AreaSelection::Area> areasNamedBy(const language::Expression& condition);
+/// True where the condition is nothing but a choice of the areas that it names.
+bool isChoiceOfAreas(const language::Expression& condition);
 
 /// Records of the unit whose ancestor (or which themselves) are among the areas. Areas of entities
 /// that are not above or at the unit select nothing.

@@ -148,6 +148,17 @@ TEST(DefinedNames, HoldAfterACalledProgram) {
     EXPECT_EQ(program.definitions[0].save->fileName, "sub/old.kbf");
 }
 
+TEST(DefinedNames, HoldInAnyCase) {
+    Census census;
+    census.add("PERSON", "AÑO", ValueType::Integer);
+    const BoundProgram program =
+        census.compile("DEFINE PERSON.ÉCOLE AS person.año\nFREQ école, ПОЛ\n"
+                       "DEFINE PERSON.Пол AS SEX2\nFREQ ПОЛ, Año");
+    EXPECT_EQ(located(census.messages), "KEL_E_UNKNOWN_VARIABLE 2:13\n");
+    EXPECT_EQ(summary(program), "FREQ_1 PERSON: PERSON.Пол weight HOUSEHOLD.WEIGHT\n"
+                                "FREQ_2 PERSON: PERSON.AÑO weight HOUSEHOLD.WEIGHT\n");
+}
+
 TEST(DefinedNames, AreFoundAndSuggested) {
     Census census;
     census.compile("DEFINE PERSON.SEX3 AS SEX2 ALIAS GENDER\nDEFINE DEATH.SEX2 AS CAUSE\n"

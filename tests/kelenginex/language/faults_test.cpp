@@ -78,9 +78,12 @@ const std::vector<Fault> faults = {
     {"TABLE FREQ SEX2",
      "KEL_E_UNEXPECTED 1:7 Found the reserved word FREQ, but expected the name of the "
      "table.\n"},
-    {"RUNDEF r my TITLE \"x\"",
+    {"RUNDEF r my TITEL \"x\"",
      "KEL_E_UNEXPECTED 1:10 Found \"my\", but expected a clause of RUNDEF, such as SELECTION or "
      "FILTER, or a command.\n"},
+    {"RUNDEF r NOWIEGHT\nFREQ AGE",
+     "KEL_E_UNEXPECTED 1:10 Found \"NOWIEGHT\", but expected a clause of RUNDEF, such as SELECTION "
+     "or FILTER, or a command. Did you mean NOWEIGHT?\n"},
     {"RUNDEF FILTERLABEL\nFREQ SEX2",
      "KEL_E_UNEXPECTED 2:1 Found the reserved word FREQ, but expected "
      "a label.\n"},
@@ -274,8 +277,6 @@ const std::vector<Fault> faults = {
                                             "INTEGER. VAL reads the number in a text.\n"},
     {"DEFINE PERSON.X AS AGE > 3 TYPE STRING",
      "KEL_E_TYPE_CONVERSION 1:28 A condition cannot be stored as STRING.\n"},
-    {"DEFINE DISTRICT.X AS COUNT PERSON TYPE STRING",
-     "KEL_E_TYPE_CONVERSION 1:35 A number cannot be stored as STRING.\n"},
     {"DEFINE PERSON.X AS AGE DEFAULT \"5\" MISSING \"a\" RANGE (\"a\" : \"b\") VALUELABELS x "
      "\"label\"",
      "KEL_E_CLAUSE_VALUE 1:32 DEFAULT of PERSON.X must be a number, but found the text \"5\". "
@@ -286,7 +287,8 @@ const std::vector<Fault> faults = {
      "\"x\".\n"},
     {"DEFINE PERSON.X AS GRP RANGE (1:2) DEFAULT abc MISSING TRUE",
      "KEL_E_MISPLACED_CLAUSE 1:31 RANGE cannot stand here: texts have no ranges.\n"
-     "KEL_E_CLAUSE_VALUE 1:56 MISSING of PERSON.X must be a number, but found \"TRUE\".\n"},
+     "KEL_E_CLAUSE_VALUE 1:56 MISSING of PERSON.X must be a number, but found \"TRUE\". A "
+     "dictionary keeps these codes as numbers, also for texts: 9 stands for \"9\" and \"09\".\n"},
     {"DEFINE PERSON.X AS AGE > 3 DEFAULT 7",
      "KEL_E_CLAUSE_VALUE 1:36 DEFAULT of PERSON.X must be TRUE, FALSE, 1 or 0, but found 7.\n"},
     {"DEFINE PERSON.X AS AGE ALIAS \"a b\" GROUP",
@@ -345,8 +347,8 @@ const std::vector<Fault> faults = {
     {"DEFINE PERSON.X AS RECODE AGE (5 : 1 = 2)",
      "KEL_W_EMPTY_INTERVAL 1:32 The interval 5 : 1 holds no value: its lower end is above its "
      "upper end.\n"},
-    {"DEFINE DISTRICT.X AS SUM PERSON.AGE > 3",
-     "KEL_E_NOT_A_NUMBER 1:26 SUM takes a number, but this is a condition.\n"},
+    {"DEFINE DISTRICT.X AS SUM PERSON.GRP",
+     "KEL_E_NOT_A_NUMBER 1:26 SUM takes a number, but this is a text.\n"},
     {"DEFINE DISTRICT.X AS RATIO GRP (1:3)", "KEL_E_COMPARE_TYPES 1:33 a text cannot be compared "
                                              "with a number. Put the number in quotes.\n"},
     {"RUNDEF SELECTION PROVINCE = \"01\" OR",

@@ -113,6 +113,79 @@ TEST(GeneratedDefinitions, OfEntitiesWithOddNames) {
     EXPECT_EQ(definitions(program), "DISTRICT.Count_DEATH-2020 INTEGER: COUNT DEATH-2020\n");
 }
 
+class GeneratedTables : public ::testing::TestWithParam<Generated> {};
+
+TEST_P(GeneratedTables, Compile) {
+    Census census;
+    for (const std::string& text : {std::string(GetParam().text), simplified(GetParam().text)}) {
+        census.options.autoWeight = false;
+        const BoundProgram program = census.compile(text);
+        EXPECT_EQ(told(census.messages), "") << text;
+        EXPECT_EQ(summary(program), GetParam().definitions) << text;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Assistant, GeneratedTables,
+    ::testing::Values(
+        // The page's product: each variable of the list with one of each filled dimension.
+        Generated{
+            "table my-tableN1 frequency PERSON.SEX\n\tby PERSON.AGE\n\n"
+            "table my-tableN2 frequency PERSON.GRP\n\tby PERSON.AGE\n\n"
+            "table 2020-shareN1 average PERSON.AGE\n\tby DISTRICT.POP-2020\n\tby "
+            "PERSON.SEX\n\tweight PERSON.WEIGHT2\n\ttally PERSON.2NDJOB\n\n",
+            "my-tableN1 PERSON: PERSON.SEX BY PERSON.AGE\n"
+            "my-tableN2 PERSON: PERSON.GRP BY PERSON.AGE\n"
+            "2020-shareN1 PERSON: AVERAGE PERSON.AGE BY DISTRICT.POP-2020 BY PERSON.SEX weight "
+            "PERSON.WEIGHT2 tally PERSON.2NDJOB\n"},
+        Generated{"table a-b frequency PERSON.SEX, PERSON.AGE\n\n"
+                  "table my-sum as tabop \n\tof A-B_1 / 2-a-b_1\n\n",
+                  "a-b_1 PERSON: PERSON.SEX silent\n"
+                  "a-b_2 PERSON: PERSON.AGE\n"
+                  "my-sum -: TABOP ((#0 / 2) - #0) of #0\n"},
+        Generated{"table tN1 gini HOUSEHOLD.RENT\n\tweight HOUSEHOLD.WEIGHT\n\ttally 2\n\n"
+                  "table tN2 minimum PERSON.AGE\n\n\ttally 2\n\n",
+                  "tN1 HOUSEHOLD: GINI HOUSEHOLD.RENT weight HOUSEHOLD.WEIGHT tally 2\n"
+                  "tN2 PERSON: MIN PERSON.AGE tally 2\n"},
+        Generated{"table  as stats\n\tof PERSON.AGE\n\tby PERSON.SEX\n\n\n"
+                  "table  as quantile\n\tof HOUSEHOLD.RENT\n\n\n"
+                  "table  as view of DISTRICT\n\n",
+                  "STATS_1 PERSON: STATS PERSON.AGE BY PERSON.SEX\n"
+                  "QUANTILE_1 HOUSEHOLD: QUANTILE 4 HOUSEHOLD.RENT\n"
+                  "VIEW_1 DISTRICT: VIEW DISTRICT.CODE DISTRICT.POP-2020\n"},
+        Generated{"table t as freq PERSON.SEX\n\tdecimals 2\n\ttitle \"t\"\n\toutgraph bmp "
+                  "\"g.bmp\" horizontal bar overwrite\n\tgraphstyle \"g.json\"\n\n"
+                  "table u as freq PERSON.SEX\n\toutgraph \"g\" age pyramid\n\n"
+                  "table v as freq PERSON.SEX\n\toutgraph emf \"g\" multi bar\n\n"
+                  "table w as freq PERSON.SEX\n\toutgraph wmf \"g\" pie overwrite\n\n"
+                  "table x as freq PERSON.SEX\n\toutgraph \"g\" line\n\n",
+                  "t PERSON: PERSON.SEX title t decimals 2\nu PERSON: PERSON.SEX\n"
+                  "v PERSON: PERSON.SEX\nw PERSON: PERSON.SEX\nx PERSON: PERSON.SEX\n"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    QuickTools, GeneratedTables,
+    ::testing::Values(
+        Generated{"TABLE T_Area_POP-2020 FREQ DISTRICT.POP-2020\nTABLE T_Area_2NDJOB FREQ "
+                  "PERSON.2NDJOB\nAREALIST  PROVINCE, T_Area_POP-2020, T_Area_2NDJOB\n"
+                  "TITLE \"t\"\n",
+                  "T_Area_POP-2020 DISTRICT: DISTRICT.POP-2020 silent idle\n"
+                  "T_Area_2NDJOB PERSON: PERSON.2NDJOB silent idle\n"
+                  "T_Area_POP-2020 DISTRICT: record PROVINCE BY DISTRICT.POP-2020 hidden\n"
+                  "T_Area_2NDJOB PERSON: record PROVINCE BY PERSON.2NDJOB hidden\n"
+                  "AREALIST_1 PROVINCE: AREALIST #2 #3 title t\n"},
+        Generated{"TABLE T_Area_SEX FREQ PERSON.SEX\nTABLE T_Area_SEX FREQ DEATH.SEX\n"
+                  "AREALIST  PROVINCE, T_Area_SEX, T_Area_SEX\n",
+                  "T_Area_SEX PERSON: PERSON.SEX silent idle\n"
+                  "T_Area_SEX DEATH: DEATH.SEX silent idle\n"
+                  "T_Area_SEX PERSON: record PROVINCE BY PERSON.SEX hidden\n"
+                  "T_Area_SEX_2 DEATH: record PROVINCE BY DEATH.SEX hidden\n"
+                  "AREALIST_1 PROVINCE: AREALIST #2 #3\n"}));
+
+INSTANTIATE_TEST_SUITE_P(Maps, GeneratedTables,
+                         ::testing::Values(Generated{
+                             "arealist DISTRICT, DISTRICT.POP-2020",
+                             "AREALIST_1 DISTRICT: AREALIST DISTRICT.POP-2020\n"}));
+
 // A table style puts its line where a line DEFINE stands alone, or writes both at the top.
 TEST(GeneratedStyles, SetTheRun) {
     Census census;
@@ -138,6 +211,74 @@ TEST(GeneratedStyles, SetTheRun) {
     EXPECT_FALSE(late.tables[0].settings->tableStyle);
     EXPECT_EQ(late.tables[1].settings->tableStyle, style);
     EXPECT_EQ(late.tables[1].settings->decimals, 2);
+}
+
+struct Label {
+    const char* written;
+    const char* label;
+};
+
+// As typed into a form, to the end of the line.
+TEST(GeneratedRuns, TakeLabelsAsTyped) {
+    Census census;
+    for (const Label& label :
+         {Label{"see http://x.org/a", "see http://x.org/a"}, Label{"a/*b", "a/*b"},
+          Label{"\"Big\" cities", "\"Big\" cities"}, Label{".5 or more", ".5 or more"},
+          Label{"\"Big \"\"new\"\" cities\"", "Big \"new\" cities"},
+          Label{"Title of the count // a note", "Title of the count"},
+          Label{"\"One\" // a note", "One"}, Label{"\"One\"/* a note */", "One"}}) {
+        for (const char* end : {"", "\n\tdecimals 2\n", "  \r\n"}) {
+            const BoundProgram program =
+                census.compile(std::string("rundef\n\tfilterlabel ") + label.written + end);
+            EXPECT_EQ(told(census.messages), "") << label.written << end;
+            EXPECT_EQ(program.lastSettings->filterLabel, label.label) << label.written << end;
+        }
+    }
+    EXPECT_EQ(*census.compile("RUNDEF FILTERLABEL \"One\" DECIMALS 3").lastSettings->decimals, 3);
+}
+
+TEST(GeneratedRuns, TakeNamesAsTyped) {
+    Census census;
+    for (const Label& name :
+         {Label{"my-program\n", "my-program"}, Label{"my program\n", "my program"},
+          Label{"2020-census\n", "2020-census"}, Label{"census 2020 of all", "census 2020 of all"},
+          Label{"my program decimals 2", "my program"}, Label{"\nDECIMALS 2", ""}}) {
+        const BoundProgram program = census.compile(std::string("rundef ") + name.written);
+        EXPECT_EQ(told(census.messages), "") << name.written;
+        EXPECT_EQ(program.lastSettings->name, name.label);
+    }
+}
+
+TEST(GeneratedDefinitions, TakeNamesAsTyped) {
+    Census census;
+    const BoundProgram program = census.compile(
+        "define PERSON.X-1\n\tas person.age\n\ttype INTEGER\n\talias a-b\n\tgroup My group of "
+        "R&D // things\n"
+        "define PERSON.Y\n\tas person.grp\n\ttype STRING\n\tvaluelabels\n\t\tMIN \"a\"\n\t\tOR "
+        "\"b\"\n\t\tTRUE \"c\"\n\talias total\n\tgroup \"Big\"\n"
+        "DEFINE PERSON.Z AS AGE GROUP Sums of things TYPE REAL\nFREQ a-b BY PERSON.TOTAL\n");
+    EXPECT_EQ(told(census.messages), "");
+    EXPECT_EQ(summary(program), "FREQ_1 PERSON: PERSON.X-1 BY PERSON.Y weight HOUSEHOLD.WEIGHT\n");
+    ASSERT_EQ(program.definitions.size(), 3U);
+    const Variable& y = *program.definitions[1].variable;
+    const std::vector<std::pair<std::string, std::string>> labels = {
+        {"MIN", "a"}, {"OR", "b"}, {"TRUE", "c"}};
+    EXPECT_EQ(y.valueLabels, labels);
+    EXPECT_EQ(y.alias, "total");
+    EXPECT_EQ(program.definitions[0].variable->group, "My group of R&D");
+    EXPECT_EQ(y.group, "Big");
+    EXPECT_EQ(program.definitions[2].variable->group, "Sums of things");
+    EXPECT_EQ(program.definitions[2].variable->type, ValueType::Real);
+}
+
+TEST(GeneratedCalls, TakeNamesAsTyped) {
+    Census census;
+    census.write("p.spc", "FREQ {my-name} TITLE \"{my-name} {b-2}\"");
+    const BoundProgram program =
+        census.compile("execute \"p.spc\" my-name = {SEX2}, b-2={x y} , c-3 = {}\n");
+    EXPECT_EQ(located(census.messages), "KEL_W_UNUSED_VALUE 1:47\n");
+    EXPECT_EQ(summary(program),
+              "FREQ_1 PERSON: PERSON.SEX2 weight HOUSEHOLD.WEIGHT title SEX2 x y\n");
 }
 
 TEST(GeneratedRuns, TakeTheirClauses) {
@@ -192,6 +333,9 @@ INSTANTIATE_TEST_SUITE_P(
                "((code PROVINCE = '01') OR (code PROVINCE = '02'))", ""},
         Inline{"rundef p\n\tselection\n\tdistrict == \"0101\"\tdecimals 2\n",
                "(code DISTRICT = '0101')", ""},
+        Inline{"rundef p\n\tselection\n\t(province == \"01\") and person.age ==== 3 and person.age "
+               "<== 4\n\tdecimals 2\n",
+               "((code PROVINCE = '01') AND ((PERSON.AGE = 3) AND (PERSON.AGE <= 4)))", ""},
         Inline{"RUNDEF \nSELECTION PROVINCE == \"03\"\nDECIMALS 2\n", "(code PROVINCE = '03')", ""},
         // The last row had no code.
         Inline{

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalog/names.h"
 #include "fixture.h"
 #include "language/function_table.h"
 #include "language/keywords.h"
@@ -94,6 +95,20 @@ TEST(Functions, AreFoundInAnyCase) {
 TEST(Text, SimplifiesBlanksOutsideOfQuotes) {
     EXPECT_EQ(simplified("  A =\n\t \"x  y\" // note\n AND /* a  b */ B "), "A = \"x  y\" AND B");
     EXPECT_EQ(simplified("\"open  "), "\"open  ");
+}
+
+// As Unicode's simple case folding has it.
+TEST(Text, MakesLettersSmall) {
+    EXPECT_EQ(lowerCase("ABC xyz 1_[`{"), "abc xyz 1_[`{");
+    EXPECT_EQ(lowerCase("ÀÉÎÕÖØÞß×÷ÿŸ"), "àéîõöøþß×÷ÿÿ");
+    EXPECT_EQ(lowerCase("ĀĮİıĲĶĸĹŇŉŊŶŹŽ"), "āįİıĳķĸĺňŉŋŷźž");
+    EXPECT_EQ(lowerCase("ΆΈΊΌΎΏΑΡΣΫάςσώ"), "άέίόύώαρσϋάσσώ");
+    EXPECT_EQ(lowerCase("ЀЏАЯаяѐѠѡҀҊҿӀӁӎӏӐԮ"),
+              "ѐџаяаяѐѡѡҁҋҿӏӂӎӏӑԯ");
+    EXPECT_EQ(lowerCase("日本 \xc3"), "日本 \xc3");
+    EXPECT_TRUE(catalog::sameName("Año", "AÑO"));
+    EXPECT_FALSE(catalog::sameName("Año", "Ano"));
+    EXPECT_FALSE(catalog::sameName("é", "a"));
 }
 
 TEST(Text, FindsInvalidUtf8) {
