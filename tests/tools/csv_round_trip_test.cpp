@@ -132,6 +132,22 @@ TEST(CsvRoundTrip, WhatAnyDictionarySaysComesBackByteForByte) {
     EXPECT_EQ(age.outside, 0u);
 }
 
+TEST(CsvRoundTrip, TypesFitTheirDataWhateverTheDictionarySays) {
+    const TemporaryFolder folder;
+    for (const auto& [name, text] : canonical)
+        folder.write("in/" + name, text);
+    tools::importCsv(requestFor(folder.path() / "in", folder.path() / "db.kxdb"));
+    auto db = catalog::readDictionary(folder.path() / "db.kxdb", {});
+    db->findEntity("HOME")->codeVar = db->findEntity("HOME")->findVariable("W"); // 1.5, 0.1, ...
+    db->findEntity("PERSON")->findVariable("NOTE")->size = 1;                    // of "a,b"
+    catalog::saveDictionary(*db, folder.path() / "db.kxdb");
+    const auto first = exported(folder.path() / "db.kxdb", folder.path() / "csv");
+    EXPECT_NE(first.at("codebook.csv").find("HOME,W,key text,,,\n"), std::string::npos);
+    EXPECT_NE(first.at("codebook.csv").find("PERSON,NOTE,text,,,\n"), std::string::npos);
+    tools::importCsv(requestFor(folder.path() / "csv", folder.path() / "again/db.kxdb"));
+    EXPECT_EQ(exported(folder.path() / "again/db.kxdb", folder.path() / "csv2"), first);
+}
+
 TEST(CsvRoundTrip, TellsTheRecordsWrittenAndEndsWhenAsked) {
     const TemporaryFolder folder;
     for (const auto& [name, text] : canonical)

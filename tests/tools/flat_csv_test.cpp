@@ -162,7 +162,8 @@ TEST_F(FlatCsvTest, ACodebookGivesTypesAndLabels) {
               "flat.csv:2:10: error: AGE: \"x\" is not a number");
     EXPECT_EQ(faultOf("prov,hh,size,sex,age\n1,1,2,1,2\n"),
               "flat.csv:2:1: error: PROV: \"1\" has 1 character, not 2");
-    EXPECT_EQ(faultOf("prov,hh,size,sex\n01,1,2,1\n"), "There is no field \"AGE\" in the file.");
+    EXPECT_EQ(faultOf("prov,hh,size,sex\n01,1,2,1\n"),
+              "There is no field \"AGE\" in the file, which has PROV, HH, SIZE, SEX.");
 }
 
 TEST_F(FlatCsvTest, RowsWithoutALowerKeySpeakOfTheLevelsAbove) {

@@ -408,6 +408,7 @@ TEST(MessageTable, IsTestedAsAWhole) {
         "KEL_W_UNKNOWN_AREA", // told by the plan
         "KEL_E_SAVE_EXISTS", "KEL_E_SAVE_TWICE", "KEL_E_TARGET_FILE",
         "KEL_W_SAVED_AS_NUMBERS", // told by the run
+        "KEL_E_WEIGHT_IS_TEXT", // tested where weights are
         // Of EXECUTE, which needs files.
         "KEL_E_PROGRAM_CYCLE", "KEL_E_CALLS_TOO_DEEP", "KEL_E_TOO_MANY_CALLS",
         "KEL_E_UNKNOWN_VALUE", "KEL_W_UNUSED_VALUE"};
