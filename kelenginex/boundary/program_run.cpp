@@ -3,6 +3,7 @@
 
 #include "boundary/engine.h"
 #include "boundary/output_data.h"
+#include "execution/progress.h"
 #include "output/files.h"
 #include "output/run.h"
 #include "output/saved_variables.h"

@@ -57,7 +57,7 @@ void runPasses(const plan::Plan& plan, const RunOptions& options, const TableSin
 
 bool run(const language::BoundProgram& program, const RunOptions& options,
          language::Messages& messages, const TableSink& sink, const RunEnd& end) {
-    Progress progress(options.progress);
+    Progress progress(options.progress, options.pause);
     try {
         progress.checkNow();
         const SavedVariables saved(program);

@@ -6,6 +6,7 @@
 #include "language/messages.h"
 #include "storage/staged_files.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -25,6 +26,7 @@ struct RunOptions {
     /// Called on the calling thread, at least every 100 ms; the last call of a whole run
     /// says 100, and its answer is no longer heard.
     ProgressCallback progress;
+    std::chrono::milliseconds pause{40}; ///< that the callback is left alone for, at least
 };
 
 /// Takes a finished table, by its number in the program, on the calling thread. The stage of the
