@@ -5,6 +5,7 @@
 #include "execution/progress.h"
 #include "execution/run.h"
 #include "language/bound.h"
+#include "plan/selection.h"
 
 namespace kelx::execution {
 
@@ -12,7 +13,7 @@ namespace kelx::execution {
 /// the whole. Throws Cancelled, storage::FileError, and std::runtime_error on what is not
 /// supported.
 void makeVariables(const language::BoundProgram& program, const RunOptions& options, double share,
-                   Progress& progress);
+                   plan::Selections& selections, Progress& progress);
 
 /// Writes the columns of the definitions that are to be saved; all or, where one cannot be
 /// written, none stand under their names. Called after the tables. Throws storage::FileError.

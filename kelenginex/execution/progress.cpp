@@ -15,7 +15,7 @@ void Progress::begin(double end, std::uint64_t units) {
 
 bool Progress::poll() {
     const auto now = Clock::now();
-    if (!callback_ || cancelled_ || now - last_ < interval)
+    if (!callback_ || cancelled_ || now - last_ < interval_)
         return cancelled_;
     const double part =
         units_ == 0

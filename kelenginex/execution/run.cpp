@@ -27,12 +27,13 @@ double shareOfVariables(const language::BoundProgram& program) {
 
 bool run(const language::BoundProgram& program, const RunOptions& options,
          language::Messages& messages, const TableSink& sink) {
-    Progress progress(options.progress);
+    Progress progress(options.progress, options.progressInterval);
     try {
         progress.checkNow();
         const double making = shareOfVariables(program);
-        makeVariables(program, options, making, progress);
-        const plan::Plan plan = plan::makePlan(program, messages);
+        plan::Selections selections(messages);
+        makeVariables(program, options, making, selections, progress);
+        const plan::Plan plan = plan::makePlan(program, selections);
         double all = 0;
         for (const plan::Pass& pass : plan.passes)
             all += workOf(pass);

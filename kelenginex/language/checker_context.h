@@ -13,6 +13,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace kelx::language {
 
@@ -46,6 +47,11 @@ public:
 
     /// Adds a variable that the program makes to the names. It must live on.
     void define(const catalog::Variable& variable);
+    /// True the first time that it is asked about both together.
+    bool isNew(const void* clause, const catalog::Entity& unit) {
+        return told_.emplace(clause, &unit).second;
+    }
+
     /// The variable whose DEFINE is being checked; empty texts for none.
     void setDefining(const std::string& entity, const std::string& name);
     bool isDefining(const std::string& entity, const std::string& name) const;
@@ -69,6 +75,7 @@ private:
     std::set<std::string> expected_;
     std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;
+    std::set<std::pair<const void*, const catalog::Entity*>> told_;
 };
 
 } // namespace kelx::language

@@ -82,7 +82,7 @@ ValueType naturalType(const Definition& definition) {
 }
 
 bool DefinitionAggregates::make(const ast::Definition& ast, const Entity& owner,
-                                const RunSettings& run, Definition& into) {
+                                const CheckedSettings& run, Definition& into) {
     bool good = makeParts(ast, owner, into);
     ExpressionPtr weight;
     if (ast.weight != nullptr) {
@@ -96,8 +96,7 @@ bool DefinitionAggregates::make(const ast::Definition& ast, const Entity& owner,
         if (!*part)
             continue;
         good = addWeight(weight, **part) && good;
-        addFilter(run.filter, **part);
-        addFilter(run.selection ? run.selection->expression : nullptr, **part);
+        addSettings(run, **part);
     }
     return good;
 }
@@ -181,6 +180,19 @@ bool DefinitionAggregates::checkBelow(const Entity* entity, const Entity& owner,
 bool DefinitionAggregates::addWeight(const ExpressionPtr& weight, Aggregate& into) {
     into.weight = weight;
     return weight == nullptr || checkAbove(context_, *weight, *into.over, "WEIGHT");
+}
+
+/// The universal filter and the selection, where they say something about the records.
+void DefinitionAggregates::addSettings(const CheckedSettings& run, Aggregate& into) {
+    const RunSettings& settings = *run.settings;
+    addFilter(settings.filter, into);
+    if (!settings.selection)
+        return;
+    addFilter(settings.selection->expression, into);
+    if (settings.selection->areas.empty())
+        return;
+    into.areas = {run.settings, &*settings.selection};
+    checkAreas(context_, run, *into.over);
 }
 
 /// False where the filter is on another branch.

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/plan.h"
 
-#include "language/message_table.h"
 #include "plan/same_expression.h"
-#include "plan/selection.h"
 
-#include <map>
-#include <stdexcept>
+#include <utility>
 
 namespace kelx::plan {
 namespace {
@@ -18,7 +15,7 @@ using language::TableCommand;
 /// Makes passes of the tables in their order.
 class Planner {
 public:
-    explicit Planner(language::Messages& messages) : messages_(messages) {}
+    explicit Planner(Selections& selections) : selections_(selections) {}
 
     void add(std::size_t index, const TableCommand& command) {
         PlannedTable table{index, &command, dimensionsOf(command)};
@@ -53,7 +50,8 @@ private:
 
     Pass& passFor(const Entity& unit, const TableCommand& command) {
         const RunSettings& settings = *command.settings;
-        Pass pass{&unit, rangesFor(unit, command), {}, {}};
+        const auto* selection = settings.selection ? &*settings.selection : nullptr;
+        Pass pass{&unit, selections_.recordsOf(unit, selection), {}, {}};
         if (settings.selection && settings.selection->expression)
             pass.filters.push_back(settings.selection->expression);
         if (settings.filter)
@@ -76,33 +74,14 @@ private:
         return true;
     }
 
-    RecordRanges rangesFor(const Entity& unit, const TableCommand& command) {
-        const RunSettings& settings = *command.settings;
-        if (!settings.selection || settings.selection->areas.empty())
-            return joined({{0, unit.records()}});
-        return recordsUnder(areasOf(settings), unit);
-    }
-
-    const SelectedAreas& areasOf(const RunSettings& settings) {
-        const auto known = areas_.find(&settings);
-        if (known != areas_.end())
-            return known->second;
-        SelectedAreas areas = findAreas(*settings.selection);
-        for (const auto& area : areas.unknown)
-            messages_.add(language::makeMessage(language::Warning::UnknownArea, area.position,
-                                                {area.entity->name, area.code}));
-        return areas_.emplace(&settings, std::move(areas)).first->second;
-    }
-
-    language::Messages& messages_;
+    Selections& selections_;
     Plan plan_;
-    std::map<const RunSettings*, SelectedAreas> areas_;
 };
 
 } // namespace
 
-Plan makePlan(const language::BoundProgram& program, language::Messages& messages) {
-    Planner planner(messages);
+Plan makePlan(const language::BoundProgram& program, Selections& selections) {
+    Planner planner(selections);
     for (std::size_t i = 0; i < program.tables.size(); ++i) {
         if (program.tables[i].isNeeded && program.tables[i].unit != nullptr)
             planner.add(i, program.tables[i]);

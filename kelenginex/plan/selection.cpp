@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/selection.h"
 
+#include "language/message_table.h"
 #include "plan/area_codes.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace kelx::plan {
 namespace {
@@ -104,6 +106,23 @@ RecordRanges recordsUnder(const SelectedAreas& areas, const Entity& unit) {
     std::sort(all.begin(), all.end(),
               [](const RecordRange& a, const RecordRange& b) { return a.begin < b.begin; });
     return joined(all);
+}
+
+RecordRanges Selections::recordsOf(const Entity& unit, const language::AreaSelection* selection) {
+    if (selection == nullptr || selection->areas.empty())
+        return joined({{0, unit.records()}});
+    return recordsUnder(areasOf(*selection), unit);
+}
+
+const SelectedAreas& Selections::areasOf(const language::AreaSelection& selection) {
+    const auto known = areas_.find(&selection);
+    if (known != areas_.end())
+        return known->second;
+    SelectedAreas areas = findAreas(selection);
+    for (const auto& area : areas.unknown)
+        messages_.add(language::makeMessage(language::Warning::UnknownArea, area.position,
+                                            {area.entity->name, area.code}));
+    return areas_.emplace(&selection, std::move(areas)).first->second;
 }
 
 } // namespace kelx::plan

@@ -28,4 +28,21 @@ SelectedAreas findAreas(const language::AreaSelection& selection);
 /// that are not above or at the unit select nothing.
 RecordRanges recordsUnder(const SelectedAreas& areas, const Entity& unit);
 
+/// What the selections of a program leave of entities' records, each selection's areas being looked
+/// up once. Codes that no area has are warnings.
+class Selections {
+public:
+    explicit Selections(language::Messages& messages) : messages_(messages) {}
+
+    /// All records where the selection is null or lists no areas. Throws storage::FileError where
+    /// codes or pointers cannot be read.
+    RecordRanges recordsOf(const Entity& unit, const language::AreaSelection* selection);
+
+private:
+    const SelectedAreas& areasOf(const language::AreaSelection& selection);
+
+    language::Messages& messages_;
+    std::map<const language::AreaSelection*, SelectedAreas> areas_;
+};
+
 } // namespace kelx::plan
