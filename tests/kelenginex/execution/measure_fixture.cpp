@@ -152,9 +152,10 @@ double Expected::quantile(int i, int parts) const {
 }
 
 double Expected::variance() const {
+    const long double middle = mean();
     long double squares = 0;
     for (const Case& c : sorted) {
-        const long double distance = c.value - static_cast<long double>(mean());
+        const long double distance = c.value - middle;
         squares += c.weight * distance * distance;
     }
     return cases() > 1 ? static_cast<double>(squares / (cases() - 1)) : blankReal;
