@@ -22,8 +22,10 @@ const Entity& lowerOf(const language::Aggregate& aggregate, const Entity& upper)
 
 } // namespace
 
-AggregatePlan::AggregatePlan(const language::Aggregate& aggregate, const Entity& upper)
-    : aggregate_(aggregate), upper_(upper), path_(upper, lowerOf(aggregate, upper)) {
+AggregatePlan::AggregatePlan(const language::Aggregate& aggregate, const Entity& upper,
+                             plan::Selections& selections)
+    : aggregate_(aggregate), upper_(upper), path_(upper, lowerOf(aggregate, upper)),
+      selected_(selections.recordsOf(*aggregate.over, aggregate.areas.get())) {
     const std::uint64_t records = upper.records();
     for (std::uint64_t begin = 0; begin < records; begin += storage::recordsPerBlock)
         cutBlock(counts_.size(), {begin, std::min(begin + storage::recordsPerBlock, records)});

@@ -5,6 +5,7 @@
 
 #include "execution/frames.h"
 #include "language/bound.h"
+#include "plan/selection.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -24,16 +25,23 @@ struct AggregatePiece {
 class AggregatePlan {
 public:
     /// The entity of the aggregate must lie below upper.
-    AggregatePlan(const language::Aggregate& aggregate, const Entity& upper);
+    AggregatePlan(const language::Aggregate& aggregate, const Entity& upper,
+                  plan::Selections& selections);
 
     const language::Aggregate& aggregate() const { return aggregate_; }
     const plan::DescentPath& path() const { return path_; }
     const Entity& upper() const { return upper_; }
     const Entity& over() const { return *aggregate_.over; }
+    /// Records that it goes over.
+    const plan::RecordRanges& selected() const { return selected_; }
     /// In the order of blocks and, within a block, of records.
     const std::vector<AggregatePiece>& pieces() const { return pieces_; }
     /// Pieces of a block.
     std::size_t piecesOf(std::size_t block) const { return counts_[block]; }
+    /// The records of a piece that are selected.
+    plan::RecordRanges selected(const AggregatePiece& piece) const {
+        return plan::within(selected_, piece.below);
+    }
 
 private:
     void cutBlock(std::size_t block, const plan::RecordRange& above);
@@ -41,6 +49,7 @@ private:
     const language::Aggregate& aggregate_;
     const Entity& upper_;
     plan::DescentPath path_;
+    plan::RecordRanges selected_;
     std::vector<AggregatePiece> pieces_;
     std::vector<std::size_t> counts_;
 };

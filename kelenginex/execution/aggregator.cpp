@@ -15,9 +15,10 @@ constexpr std::size_t mostCounted = 16384;
 
 } // namespace
 
-Aggregator::Aggregator(const AggregatePlan& plan, bool real, std::size_t stepRecords,
-                       Progress& progress)
-    : plan_(plan), stepRecords_(stepRecords), progress_(progress), frames_(plan.over()) {
+Aggregator::Aggregator(const AggregatePlan& plan, const LowerConditions& lower, bool real,
+                       std::size_t stepRecords, Progress& progress)
+    : plan_(plan), stepRecords_(stepRecords), progress_(progress), frames_(plan.over()),
+      nodes_(&lower) {
     const language::Aggregate& aggregate = plan.aggregate();
     for (const auto& condition : aggregate.filters)
         filters_.push_back(makeFilter(condition, plan.over(), nodes_));
@@ -48,18 +49,28 @@ std::unique_ptr<GroupFold> Aggregator::makeFold(std::size_t groups) const {
 
 std::unique_ptr<GroupFold> Aggregator::work(const AggregatePiece& piece, const GoOn& goOn) {
     auto fold = makeFold(piece.groups);
-    plan::RecordRange rest = piece.below;
-    while (rest.begin < rest.end) {
-        const auto count =
-            static_cast<std::size_t>(std::min<std::uint64_t>(stepRecords_, rest.end - rest.begin));
-        frames_.move(rest.begin, count);
-        fold->add(step(piece));
-        progress_.add(count);
-        if (!goOn())
-            return nullptr;
-        rest.begin += count;
+    const plan::RecordRanges selected = plan_.selected(piece);
+    progress_.add(piece.below.end - piece.below.begin - plan::recordCount(selected));
+    for (plan::RecordRange rest : selected) {
+        while (rest.begin < rest.end) {
+            const auto count = static_cast<std::size_t>(
+                std::min<std::uint64_t>(stepRecords_, rest.end - rest.begin));
+            if (mayPass({rest.begin, rest.begin + count})) {
+                frames_.move(rest.begin, count);
+                fold->add(step(piece));
+            }
+            progress_.add(count);
+            if (!goOn())
+                return nullptr;
+            rest.begin += count;
+        }
     }
     return fold;
+}
+
+bool Aggregator::mayPass(const plan::RecordRange& records) const {
+    return std::all_of(filters_.begin(), filters_.end(),
+                       [&](const auto& filter) { return filter->mayPass(records); });
 }
 
 FoldStep Aggregator::step(const AggregatePiece& piece) {
@@ -122,6 +133,8 @@ const std::uint32_t* Aggregator::offsetsOf(const AggregatePiece& piece) {
 
 Aggregator::Bytes Aggregator::countBytes(const AggregatePiece& piece, std::uint8_t* out,
                                          const GoOn& goOn) {
+    if (plan_.selected(piece) != plan::joined({piece.below}))
+        return Bytes::Refused;
     const std::size_t step = std::min(stepRecords_, mostCounted);
     const std::uint32_t* offsets = offsetsOf(piece);
     std::uint64_t below = piece.below.begin;

@@ -16,7 +16,8 @@ class Aggregator {
 public:
     /// Real: sums and counts are wanted as real numbers. Throws std::runtime_error where a value
     /// or weight is no number or a filter no condition.
-    Aggregator(const AggregatePlan& plan, bool real, std::size_t stepRecords, Progress& progress);
+    Aggregator(const AggregatePlan& plan, const LowerConditions& lower, bool real,
+               std::size_t stepRecords, Progress& progress);
 
     /// A fold for so many groups.
     std::unique_ptr<GroupFold> makeFold(std::size_t groups) const;
@@ -31,6 +32,7 @@ public:
 
 private:
     Node* numbers(const language::ExpressionPtr& expression);
+    bool mayPass(const plan::RecordRange& records) const;
     const std::uint8_t* findMask();
     void dropInvalid(const Vector& values);
     FoldStep step(const AggregatePiece& piece);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/categories.h"
 
-#include "execution/value_states.h"
+#include "execution/stored_values.h"
 #include "execution/vector.h"
 #include "plan/area_codes.h"
 
 #include <algorithm>
-#include <cstring>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -16,8 +15,6 @@ namespace kelx::execution {
 namespace {
 
 using language::Operation;
-
-constexpr std::uint64_t blank = storage::blankCode(storage::Physical::Code64);
 
 /// Names the codes of a dimension.
 class CodeNames {
@@ -33,47 +30,35 @@ Category marker(CategoryKind kind) {
 class VariableNames : public CodeNames {
 public:
     explicit VariableNames(const catalog::Variable& variable)
-        : variable_(variable), column_(variable.column()), states_(variable) {}
+        : variable_(variable), values_(variable) {}
 
     Category name(std::uint64_t code) override {
-        if (code == blank)
-            return marker(CategoryKind::Missing);
-        if (column_->info().naCode == code)
-            return marker(CategoryKind::NotApplicable);
-        Category category;
-        const std::uint8_t state = read(code, category);
+        const std::uint8_t state = values_.state(code);
         if (state != state::valid)
-            return marker(state == state::notApplicable ? CategoryKind::NotApplicable
-                                                        : CategoryKind::Missing);
-        const std::string* label = variable_.labelOf(category.code);
-        category.label = label != nullptr ? *label : category.code;
+            return marker((state & state::notApplicable) != 0 ? CategoryKind::NotApplicable
+                                                              : CategoryKind::Missing);
+        Category category;
+        const StoredValues::Value value = values_.value(code);
+        if (const auto* text = std::get_if<std::string>(&value))
+            name(category, *text, *text);
+        else if (const auto* real = std::get_if<double>(&value))
+            name(category, *real, storage::numberText(*real));
+        else if (const auto* whole = std::get_if<std::int64_t>(&value))
+            name(category, *whole, std::to_string(*whole));
         return category;
     }
 
 private:
-    std::uint8_t read(std::uint64_t code, Category& category) const {
-        const storage::ColumnInfo& info = column_->info();
-        if (info.physical == storage::Physical::Real64) {
-            double value = 0;
-            std::memcpy(&value, &code, sizeof value);
-            category.value = value;
-            category.code = plan::numberText(value);
-            return states_.ofNumber(value);
-        }
-        if (info.type == ValueType::String) {
-            category.code = std::string(column_->text(code));
-            category.value = category.code;
-            return states_.ofText(category.code);
-        }
-        const auto value = static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code);
+    template <class Value>
+    void name(Category& category, const Value& value, std::string code) const {
         category.value = value;
-        category.code = std::to_string(value);
-        return states_.ofInteger(value);
+        category.code = std::move(code);
+        const std::string* label = variable_.labelOf(category.code);
+        category.label = label != nullptr ? *label : category.code;
     }
 
     const catalog::Variable& variable_;
-    std::shared_ptr<const storage::Column> column_;
-    ValueStates states_;
+    StoredValues values_;
 };
 
 /// Compound codes of areas, labelled from the entity's label variable.

@@ -18,10 +18,9 @@ Sum DenseCells::sum(std::size_t cell) const {
     return result;
 }
 
-void DenseCells::add(std::size_t cell, std::uint64_t records, std::initializer_list<double> terms) {
+void DenseCells::add(std::size_t cell, std::uint64_t records, const Sum& sum) {
     counts[cell] += records;
-    for (const double term : terms)
-        sums[cell * lanes].add(term);
+    sums[cell * lanes].add(sum);
 }
 
 void DenseCells::merge(const DenseCells& other) {

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <span>
 #include <vector>
 
@@ -24,7 +23,7 @@ struct DenseCells {
 
     void resize(std::size_t cells, bool weighted, std::size_t sumsOfCell);
     Sum sum(std::size_t cell) const;
-    void add(std::size_t cell, std::uint64_t records, std::initializer_list<double> terms);
+    void add(std::size_t cell, std::uint64_t records, const Sum& sum);
     void merge(const DenseCells& other);
     void clear();
 };

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // RECODE and SWITCH: one of several values for each record.
 #include "execution/code_intervals.h"
+#include "execution/constant_bounds.h"
 #include "execution/node.h"
 #include "execution/typed_data.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -114,44 +114,70 @@ private:
     std::vector<const Vector*> vectors_;
 };
 
-/// Intervals looked up by code: for variables of one or two bytes.
-class CodeTable {
+/// Which value each code of a variable chooses.
+class CodeChoices {
 public:
-    /// Nothing where the codes are too wide for a table, or the intervals none of codes.
-    static std::optional<CodeTable> of(const catalog::Variable& variable,
-                                       const std::vector<language::Interval>& intervals,
-                                       Choice rest) {
-        CodeTable table;
-        table.column_ = variable.column();
-        const storage::Physical physical = table.column_->info().physical;
-        if (physical != storage::Physical::Code8 && physical != storage::Physical::Code16)
-            return std::nullopt;
-        table.choices_.assign(storage::blankCode(physical) + 1, rest);
-        for (std::size_t i = intervals.size(); i-- > 0;) {
-            const auto codes = intervalsFor(*table.column_, {intervals[i]});
-            if (!codes)
-                return std::nullopt;
-            for (const CodeInterval& interval : *codes)
-                std::fill(table.choices_.begin() + static_cast<std::ptrdiff_t>(interval.first),
-                          table.choices_.begin() + static_cast<std::ptrdiff_t>(interval.last) + 1,
-                          static_cast<Choice>(i));
-        }
-        return table;
+    /// Intervals of codes and the values that they choose; the first that holds a code counts.
+    struct Rule {
+        CodeIntervals intervals;
+        Choice choice;
+    };
+
+    CodeChoices(const catalog::Variable& variable, const std::vector<Rule>& rules, Choice rest)
+        : column_(variable.column()), rest_(rest) {
+        const storage::Physical physical = column_->info().physical;
+        if (storage::physicalSize(physical) <= 2)
+            fillByCode(rules, static_cast<std::size_t>(storage::blankCode(physical)) + 1);
+        else
+            fillByEnds(rules);
     }
 
     void choose(const Frame& frame, std::vector<Choice>& chosen) {
         const void* data = column_->read(frame.begin, frame.count, scratch_);
         chosen.resize(frame.count);
         withCodes(data, column_->info().physical, [&](const auto* codes) {
+            if (byCode_.empty())
+                return chooseByEnds(codes, chosen);
             for (std::size_t i = 0; i < frame.count; ++i)
-                chosen[i] = choices_[codes[i]];
+                chosen[i] = byCode_[codes[i]];
         });
     }
 
 private:
+    void fillByCode(const std::vector<Rule>& rules, std::size_t codes) {
+        FirstCome places(codes, rest_);
+        for (const Rule& rule : rules) {
+            for (const CodeInterval& interval : rule.intervals)
+                places.take(interval.first, interval.last, rule.choice);
+        }
+        byCode_.assign(places.numbers.begin(), places.numbers.end());
+    }
+
+    void fillByEnds(const std::vector<Rule>& rules) {
+        std::vector<IntervalTable<std::uint64_t>::Bounds> bounds;
+        for (const Rule& rule : rules) {
+            for (const CodeInterval& interval : rule.intervals) {
+                bounds.push_back({interval.first, interval.last});
+                choices_.push_back(rule.choice);
+            }
+        }
+        byEnds_ = IntervalTable<std::uint64_t>(bounds);
+    }
+
+    template <class Code>
+    void chooseByEnds(const Code* codes, std::vector<Choice>& chosen) const {
+        for (std::size_t i = 0; i < chosen.size(); ++i) {
+            const std::uint32_t found = byEnds_.find(std::uint64_t{codes[i]});
+            chosen[i] = found != byEnds_.none ? choices_[found] : rest_;
+        }
+    }
+
     std::shared_ptr<const storage::Column> column_;
     storage::ColumnScratch scratch_;
-    std::vector<Choice> choices_;
+    Choice rest_;
+    std::vector<Choice> byCode_; ///< of codes of one or two bytes
+    IntervalTable<std::uint64_t> byEnds_;
+    std::vector<Choice> choices_; ///< by interval
 };
 
 /// From the last test to the first, so that the first that holds has the last word.
@@ -168,39 +194,64 @@ void chooseByTests(const std::vector<const Vector*>& tests, Choice rest, std::si
     }
 }
 
-class RecodeNode : public Node {
+/// Values that codes of a variable choose: RECODE, and a SWITCH that asks for nothing else.
+class CodedChoiceNode : public Node {
 public:
-    RecodeNode(const Expression& expression, Choices choices, Node& operand)
-        : Node(choices.type(), expression.entity), choices_(std::move(choices)) {
-        const Expression& tested = *expression.arguments.at(0);
-        result_.constant = expression.entity == nullptr;
-        if (tested.operation == Operation::VariableValue &&
-            tested.variable->entity == expression.entity)
-            table_ = CodeTable::of(*tested.variable, expression.intervals, choices_.rest());
-        if (table_)
-            return;
-        for (const language::Interval& interval : expression.intervals)
-            tests_.push_back(makeIn({interval}, operand));
-    }
+    CodedChoiceNode(const Expression& expression, Choices choices, CodeChoices codes)
+        : Node(choices.type(), expression.entity), choices_(std::move(choices)),
+          codes_(std::move(codes)) {}
 
 protected:
-    void work(Frames& frames, std::size_t count) override {
-        if (table_) {
-            table_->choose(frames.frame(*entity()), chosen_);
-        } else {
-            results_.clear();
-            for (const auto& test : tests_)
-                results_.push_back(&test->value(frames));
-            chooseByTests(results_, choices_.rest(), count, chosen_);
-        }
+    void work(Frames& frames, std::size_t) override {
+        codes_.choose(frames.frame(*entity()), chosen_);
         choices_.fill(frames, chosen_, result_);
     }
 
 private:
     Choices choices_;
-    std::optional<CodeTable> table_;
-    std::vector<std::unique_ptr<Node>> tests_;
-    std::vector<const Vector*> results_;
+    CodeChoices codes_;
+    std::vector<Choice> chosen_;
+};
+
+/// RECODE of what has no codes: reals, and what is computed.
+class RecodeNode : public Node {
+public:
+    RecodeNode(const Expression& expression, Choices choices, Node& operand)
+        : Node(choices.type(), expression.entity), choices_(std::move(choices)), operand_(operand) {
+        result_.constant = expression.entity == nullptr;
+        if (operand.type() == ValueType::String)
+            texts_ = IntervalTable<std::string>(textBounds(expression.intervals));
+        else
+            reals_ = IntervalTable<double>(realBounds(expression.intervals));
+    }
+
+protected:
+    void work(Frames& frames, std::size_t count) override {
+        const Vector& values = operand_.value(frames);
+        chosen_.resize(count);
+        if (operand_.type() == ValueType::String)
+            choose(values, values.texts.data(), texts_);
+        else
+            choose(values, view_.reals(values), reals_);
+        choices_.fill(frames, chosen_, result_);
+    }
+
+private:
+    template <class Value, class Table>
+    void choose(const Vector& operand, const Value* values, const Table& table) {
+        const std::size_t step = operand.constant ? 0 : 1;
+        for (std::size_t i = 0; i < chosen_.size(); ++i) {
+            const bool hasCode = (operand.stateAt(i) & state::noValue) == 0;
+            const std::uint32_t found = hasCode ? table.find(values[i * step]) : Table::none;
+            chosen_[i] = found != Table::none ? static_cast<Choice>(found) : choices_.rest();
+        }
+    }
+
+    Choices choices_;
+    Node& operand_;
+    IntervalTable<double> reals_;
+    IntervalTable<std::string> texts_;
+    NumberView view_;
     std::vector<Choice> chosen_;
 };
 
@@ -231,6 +282,22 @@ private:
     std::vector<Choice> chosen_;
 };
 
+/// The rules of RECODE on a coded variable of the expression's own entity; else nothing.
+std::optional<std::vector<CodeChoices::Rule>> rulesOf(const Expression& expression) {
+    const Expression& tested = *expression.arguments.at(0);
+    if (tested.operation != Operation::VariableValue || tested.entity != expression.entity)
+        return std::nullopt;
+    const auto column = tested.variable->column();
+    std::vector<CodeChoices::Rule> rules;
+    for (std::size_t i = 0; i < expression.intervals.size(); ++i) {
+        auto codes = intervalsFor(*column, {expression.intervals[i]});
+        if (!codes)
+            return std::nullopt;
+        rules.push_back({std::move(*codes), static_cast<Choice>(i)});
+    }
+    return rules;
+}
+
 } // namespace
 
 std::unique_ptr<Node> makeRecode(const Expression& expression, std::vector<Node*> arguments) {
@@ -239,8 +306,37 @@ std::unique_ptr<Node> makeRecode(const Expression& expression, std::vector<Node*
     const bool hasElse = arguments.size() == expression.intervals.size() + 1;
     if (!hasElse && arguments.size() != expression.intervals.size())
         throw std::logic_error("RECODE needs a value for each interval");
-    return std::make_unique<RecodeNode>(expression, Choices(std::move(arguments), hasElse),
-                                        operand);
+    Choices choices(std::move(arguments), hasElse);
+    if (const auto rules = rulesOf(expression)) {
+        CodeChoices codes(*expression.arguments[0]->variable, *rules, choices.rest());
+        return std::make_unique<CodedChoiceNode>(expression, std::move(choices), std::move(codes));
+    }
+    return std::make_unique<RecodeNode>(expression, std::move(choices), operand);
+}
+
+std::unique_ptr<Node> makeCodedSwitch(const Expression& expression, const NodeOf& nodeOf) {
+    const catalog::Variable* variable = nullptr;
+    std::vector<CodeChoices::Rule> rules;
+    std::vector<Node*> values;
+    const auto& arguments = expression.arguments;
+    for (std::size_t i = 0; i + 1 < arguments.size(); i += 2) {
+        auto test = codeTestOf(*arguments[i]);
+        if (!test || test->variable->entity != expression.entity ||
+            (variable != nullptr && variable != test->variable))
+            return nullptr;
+        variable = test->variable;
+        rules.push_back({std::move(test->intervals), static_cast<Choice>(i / 2)});
+    }
+    if (variable == nullptr)
+        return nullptr;
+    for (std::size_t i = 1; i < arguments.size(); i += 2)
+        values.push_back(&nodeOf(*arguments[i]));
+    const bool hasElse = arguments.size() % 2 == 1;
+    if (hasElse)
+        values.push_back(&nodeOf(*arguments.back()));
+    Choices choices(std::move(values), hasElse);
+    CodeChoices codes(*variable, rules, choices.rest());
+    return std::make_unique<CodedChoiceNode>(expression, std::move(choices), std::move(codes));
 }
 
 std::unique_ptr<Node> makeSwitch(std::vector<Node*> arguments, const Entity* entity) {

@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace kelx::execution {
 namespace {
 
 using language::Constant;
+using language::Expression;
 using language::Operation;
 using storage::Column;
 using storage::ValueType;
@@ -137,6 +139,19 @@ std::optional<CodeIntervals> intervalsFor(const Column& column,
     return result;
 }
 
+CodeIntervals joined(CodeIntervals intervals) {
+    std::sort(intervals.begin(), intervals.end(),
+              [](const auto& a, const auto& b) { return a.first < b.first; });
+    CodeIntervals result;
+    for (const CodeInterval& own : intervals) {
+        if (!result.empty() && own.first <= result.back().last + 1)
+            result.back().last = std::max(result.back().last, own.last);
+        else
+            result.push_back(own);
+    }
+    return result;
+}
+
 Operation mirrored(Operation operation) {
     switch (operation) {
     case Operation::Less:
@@ -150,6 +165,35 @@ Operation mirrored(Operation operation) {
     default:
         return operation;
     }
+}
+
+std::optional<CodeTest> codeTestOf(const Expression& expression) {
+    const auto& arguments = expression.arguments;
+    const auto test = [](const Expression& operand, auto find) -> std::optional<CodeTest> {
+        if (operand.operation != Operation::VariableValue)
+            return std::nullopt;
+        auto intervals = find(*operand.variable->column());
+        if (!intervals)
+            return std::nullopt;
+        return CodeTest{operand.variable, std::move(*intervals)};
+    };
+    if (expression.operation == Operation::In)
+        return test(*arguments.at(0), [&](const Column& column) {
+            return intervalsFor(column, expression.intervals);
+        });
+    if (expression.operation < Operation::Equal || expression.operation > Operation::GreaterEqual)
+        return std::nullopt;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const Expression& other = *arguments.at(1 - i);
+        if (arguments[i]->operation == Operation::VariableValue &&
+            other.operation == Operation::Constant)
+            return test(*arguments[i], [&](const Column& column) {
+                return intervalsFor(column,
+                                    i == 0 ? expression.operation : mirrored(expression.operation),
+                                    other.constant);
+            });
+    }
+    return std::nullopt;
 }
 
 } // namespace kelx::execution

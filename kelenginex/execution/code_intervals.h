@@ -23,9 +23,18 @@ using CodeIntervals = std::vector<CodeInterval>;
 std::optional<CodeIntervals> intervalsFor(const storage::Column& column,
                                           language::Operation operation,
                                           const language::Constant& constant);
-/// The same for IN.
+/// In ascending order, apart from each other.
+CodeIntervals joined(CodeIntervals intervals);
+/// The same as above for IN.
 std::optional<CodeIntervals> intervalsFor(const storage::Column& column,
                                           const std::vector<language::Interval>& intervals);
+/// A condition that compares a coded variable with constants.
+struct CodeTest {
+    const language::Variable* variable = nullptr;
+    CodeIntervals intervals; ///< of the codes that pass
+};
+/// Nothing where the expression is no such condition.
+std::optional<CodeTest> codeTestOf(const language::Expression& expression);
 /// a < b as b > a, and so on; Equal and NotEqual stay.
 language::Operation mirrored(language::Operation operation);
 

@@ -23,7 +23,7 @@ CodeSource::CodeSource(const language::Expression& expression) : entity_(express
         return;
     }
     if (expression.operation != Operation::VariableValue)
-        throw std::runtime_error("A table by " + expression.text + " is not supported yet.");
+        throw std::logic_error(expression.text + " has no codes");
     entity_ = expression.variable->entity;
     column_ = expression.variable->column();
     const storage::ColumnInfo& info = column_->info();

@@ -28,8 +28,7 @@ struct CodeDomain {
 /// One for each thread.
 class CodeSource {
 public:
-    /// Throws std::runtime_error where the expression is no variable, compound code or record
-    /// number.
+    /// The expression is a variable, compound code or record number.
     explicit CodeSource(const language::Expression& expression);
 
     /// Whose records have the codes.

@@ -88,9 +88,10 @@ public:
             total_ = std::make_unique<TableCells>(part->shape());
         return part;
     }
+    std::size_t partBytes() const override { return Tabulator::bytesFor(joint_, unit_); }
     bool inOrder() const override { return form_.weighted; }
     bool take(TablePart& part, const GoOn& goOn) override {
-        return total_->take(static_cast<Tabulator&>(part).cells(), goOn);
+        return static_cast<Tabulator&>(part).giveTo(*total_, goOn);
     }
     double finishing(double records) const override {
         return std::min(static_cast<double>(total_->shape().cells), records + 1);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Comparisons and IN: on codes where a variable meets constants, else on values.
 #include "execution/code_intervals.h"
+#include "execution/constant_bounds.h"
 #include "execution/kernels.h"
 #include "execution/node.h"
 #include "execution/typed_data.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 namespace kelx::execution {
@@ -15,19 +17,96 @@ using language::Constant;
 using language::Expression;
 using language::Operation;
 
+/// True where the test holds for the zone of one of the blocks that records lie in.
+template <class Test>
+bool anyZone(const storage::Column& column, const plan::RecordRange& records, Test test) {
+    const std::uint64_t last = (records.end - 1) / storage::recordsPerBlock;
+    for (std::uint64_t block = records.begin / storage::recordsPerBlock; block <= last; ++block) {
+        const storage::Zone zone = column.zone(static_cast<std::size_t>(block));
+        if (zone.blanks < zone.records && test(zone))
+            return true;
+    }
+    return false;
+}
+
+/// What of a column of real numbers can pass a comparison with constants.
+class RealZones {
+public:
+    RealZones() = default;
+    /// Rules nothing out where the expression is no such comparison.
+    explicit RealZones(const Expression& expression) {
+        const auto& arguments = expression.arguments;
+        if (expression.operation == Operation::In) {
+            addIntervals(*arguments.at(0), expression.intervals);
+            return;
+        }
+        const auto isNumber = [](const Expression& other) {
+            return other.operation == Operation::Constant &&
+                   !std::holds_alternative<std::string>(other.constant);
+        };
+        if (isNumber(*arguments.at(1)))
+            addComparison(*arguments[0], expression.operation, arguments[1]->constant);
+        else if (isNumber(*arguments[0]))
+            addComparison(*arguments[1], mirrored(expression.operation), arguments[0]->constant);
+    }
+
+    bool mayHold(const plan::RecordRange& records) const {
+        return !column_ || anyZone(*column_, records, [&](const storage::Zone& zone) {
+            return std::any_of(bounds_.begin(), bounds_.end(), [&](const auto& own) {
+                return own.low <= zone.maxReal && own.high >= zone.minReal;
+            });
+        });
+    }
+
+private:
+    struct Bounds {
+        double low, high;
+    };
+    static constexpr double infinity = std::numeric_limits<double>::infinity();
+
+    void addIntervals(const Expression& operand, const std::vector<language::Interval>& intervals) {
+        if (!take(operand))
+            return;
+        for (const language::Interval& interval : intervals)
+            bounds_.push_back({interval.low ? asReal(*interval.low) : -infinity,
+                               interval.high ? asReal(*interval.high) : infinity});
+    }
+
+    void addComparison(const Expression& operand, Operation operation, const Constant& constant) {
+        if (operation == Operation::NotEqual || !take(operand))
+            return;
+        const double value = asReal(constant);
+        const bool up = operation == Operation::Greater || operation == Operation::GreaterEqual;
+        const bool down = operation == Operation::Less || operation == Operation::LessEqual;
+        bounds_.push_back({down ? -infinity : value, up ? infinity : value});
+    }
+
+    bool take(const Expression& operand) {
+        if (operand.operation != Operation::VariableValue)
+            return false;
+        auto column = operand.variable->column();
+        if (column->info().physical != storage::Physical::Real64)
+            return false;
+        column_ = std::move(column);
+        return true;
+    }
+
+    std::shared_ptr<const storage::Column> column_; ///< null: nothing is ruled out
+    std::vector<Bounds> bounds_;
+};
+
 /// A coded variable against constants; reads codes in place and never looks at values.
 class CodeTestNode : public Node {
 public:
     CodeTestNode(const catalog::Variable& variable, CodeIntervals intervals)
         : Node(ValueType::Boolean, variable.entity), column_(variable.column()),
-          intervals_(std::move(intervals)) {}
+          intervals_(joined(std::move(intervals))) {}
 
-    bool mayBeTrue(std::size_t block) const override {
-        const storage::Zone zone = column_->zone(block);
-        return zone.blanks < zone.records &&
-               std::any_of(intervals_.begin(), intervals_.end(), [&](const CodeInterval& i) {
-                   return i.first <= zone.maxCode && i.last >= zone.minCode;
-               });
+    bool mayBeTrue(const plan::RecordRange& records) const override {
+        return anyZone(*column_, records, [&](const storage::Zone& zone) {
+            const auto next = notBefore(zone.minCode);
+            return next != intervals_.end() && next->first <= zone.maxCode;
+        });
     }
 
 protected:
@@ -36,15 +115,39 @@ protected:
         const void* data = column_->read(frame.begin, count, scratch_);
         result_.truths.assign(count, 0);
         withCodes(data, column_->info().physical, [&](const auto* codes) {
-            using Code = std::decay_t<decltype(*codes)>;
-            for (const CodeInterval& interval : intervals_)
-                kernels().of<Code>().testRange(codes, count, static_cast<Code>(interval.first),
-                                               static_cast<Code>(interval.last - interval.first),
-                                               result_.truths.data());
+            if (intervals_.size() <= mostTried)
+                tryEach(codes, count);
+            else
+                search(codes, count);
         });
     }
 
 private:
+    /// Of more intervals the one that may hold a code is searched for.
+    static constexpr std::size_t mostTried = 16;
+
+    template <class Code>
+    void tryEach(const Code* codes, std::size_t count) {
+        for (const CodeInterval& interval : intervals_)
+            kernels().of<Code>().testRange(codes, count, static_cast<Code>(interval.first),
+                                           static_cast<Code>(interval.last - interval.first),
+                                           result_.truths.data());
+    }
+
+    template <class Code>
+    void search(const Code* codes, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto next = notBefore(codes[i]);
+            result_.truths[i] = next != intervals_.end() && next->first <= codes[i] ? truth : 0;
+        }
+    }
+
+    /// The first interval that does not end before a code.
+    CodeIntervals::const_iterator notBefore(std::uint64_t code) const {
+        return std::partition_point(intervals_.begin(), intervals_.end(),
+                                    [&](const CodeInterval& own) { return own.last < code; });
+    }
+
     std::shared_ptr<const storage::Column> column_;
     storage::ColumnScratch scratch_;
     CodeIntervals intervals_;
@@ -97,11 +200,16 @@ void dropNoValue(const Vector& operand, std::size_t count, std::vector<std::uint
 
 class ComparisonNode : public Node {
 public:
-    ComparisonNode(Operation operation, Node& left, Node& right, const Entity* entity)
-        : Node(ValueType::Boolean, entity), operation_(operation), left_(left), right_(right) {
+    ComparisonNode(const Expression& expression, Node& left, Node& right)
+        : Node(ValueType::Boolean, expression.entity), operation_(expression.operation),
+          left_(left), right_(right), zones_(expression) {
         if ((left.type() == ValueType::String) != (right.type() == ValueType::String))
             throw std::runtime_error("Texts are compared with texts only.");
-        result_.constant = entity == nullptr;
+        result_.constant = expression.entity == nullptr;
+    }
+
+    bool mayBeTrue(const plan::RecordRange& records) const override {
+        return zones_.mayHold(records);
     }
 
 protected:
@@ -129,44 +237,31 @@ private:
     Operation operation_;
     Node& left_;
     Node& right_;
+    RealZones zones_;
     NumberView viewA_, viewB_;
 };
-
-double asReal(const Constant& constant) {
-    if (const auto* real = std::get_if<double>(&constant))
-        return *real;
-    if (const auto* flag = std::get_if<bool>(&constant))
-        return *flag ? 1 : 0;
-    if (const auto* integer = std::get_if<std::int64_t>(&constant))
-        return static_cast<double>(*integer);
-    throw std::runtime_error("IN compares numbers with numbers only.");
-}
-
-const std::string& asText(const Constant& constant) {
-    if (const auto* text = std::get_if<std::string>(&constant))
-        return *text;
-    throw std::runtime_error("IN compares texts with texts only.");
-}
 
 /// IN on values that have no codes: reals, and what is computed.
 class InNode : public Node {
 public:
-    InNode(const std::vector<language::Interval>& intervals, Node& operand)
-        : Node(ValueType::Boolean, operand.entity()), operand_(operand) {
+    InNode(const Expression& expression, Node& operand)
+        : Node(ValueType::Boolean, operand.entity()), operand_(operand), zones_(expression) {
         result_.constant = operand.entity() == nullptr;
-        for (const language::Interval& interval : intervals) {
-            if (operand.type() == ValueType::String)
-                texts_.push_back(bounds<std::string>(interval, asText));
-            else
-                reals_.push_back(bounds<double>(interval, asReal));
-        }
+        if (operand.type() == ValueType::String)
+            texts_ = IntervalTable<std::string>(textBounds(expression.intervals));
+        else
+            reals_ = IntervalTable<double>(realBounds(expression.intervals));
+    }
+
+    bool mayBeTrue(const plan::RecordRange& records) const override {
+        return zones_.mayHold(records);
     }
 
 protected:
     void work(Frames& frames, std::size_t count) override {
         const Vector& values = operand_.value(frames);
-        result_.truths.assign(count, 0);
-        if (isText())
+        result_.truths.resize(count);
+        if (operand_.type() == ValueType::String)
             test(values.texts.data(), count, texts_);
         else
             test(view_.reals(values), count, reals_);
@@ -174,77 +269,34 @@ protected:
     }
 
 private:
-    template <class T>
-    struct Bounds {
-        std::optional<T> low, high;
-    };
-    template <class T, class Convert>
-    static Bounds<T> bounds(const language::Interval& interval, Convert convert) {
-        Bounds<T> result;
-        if (interval.low)
-            result.low = convert(*interval.low);
-        if (interval.high)
-            result.high = convert(*interval.high);
-        return result;
-    }
-    bool isText() const { return operand_.type() == ValueType::String; }
-
-    template <class T, class Bound>
-    void test(const T* values, std::size_t count, const std::vector<Bound>& bounds) {
-        for (const Bound& bound : bounds) {
-            for (std::size_t i = 0; i < count; ++i) {
-                if ((!bound.low || values[i] >= *bound.low) &&
-                    (!bound.high || values[i] <= *bound.high))
-                    result_.truths[i] = truth;
-            }
-        }
+    template <class Value, class Table>
+    void test(const Value* values, std::size_t count, const Table& table) {
+        for (std::size_t i = 0; i < count; ++i)
+            result_.truths[i] = table.find(values[i]) != Table::none ? truth : 0;
     }
 
     Node& operand_;
-    std::vector<Bounds<double>> reals_;
-    std::vector<Bounds<std::string>> texts_;
+    RealZones zones_;
+    IntervalTable<double> reals_;
+    IntervalTable<std::string> texts_;
     NumberView view_;
 };
-
-std::optional<CodeIntervals> codesOf(const Expression& expression, const Expression*& variable) {
-    const auto& arguments = expression.arguments;
-    const auto isVariable = [](const Expression& e) {
-        return e.operation == Operation::VariableValue;
-    };
-    if (expression.operation == Operation::In && isVariable(*arguments.at(0))) {
-        variable = arguments[0].get();
-        return intervalsFor(*variable->variable->column(), expression.intervals);
-    }
-    if (expression.operation < Operation::Equal || expression.operation > Operation::GreaterEqual)
-        return std::nullopt;
-    for (std::size_t i = 0; i < 2; ++i) {
-        const Expression& other = *arguments.at(1 - i);
-        variable = arguments[i].get();
-        if (isVariable(*variable) && other.operation == Operation::Constant)
-            return intervalsFor(*variable->variable->column(),
-                                i == 0 ? expression.operation : mirrored(expression.operation),
-                                other.constant);
-    }
-    return std::nullopt;
-}
 
 } // namespace
 
 std::unique_ptr<Node> makeCodeTest(const Expression& expression) {
-    const Expression* variable = nullptr;
-    auto intervals = codesOf(expression, variable);
-    if (!intervals)
+    auto test = codeTestOf(expression);
+    if (!test)
         return nullptr;
-    return std::make_unique<CodeTestNode>(*variable->variable, std::move(*intervals));
+    return std::make_unique<CodeTestNode>(*test->variable, std::move(test->intervals));
 }
 
-std::unique_ptr<Node> makeComparison(Operation operation, Node& left, Node& right,
-                                     const Entity* entity) {
-    return std::make_unique<ComparisonNode>(operation, left, right, entity);
+std::unique_ptr<Node> makeComparison(const Expression& expression, Node& left, Node& right) {
+    return std::make_unique<ComparisonNode>(expression, left, right);
 }
 
-std::unique_ptr<Node> makeIn(const std::vector<language::Interval>& intervals, Node& operand) {
-    return std::make_unique<InNode>(intervals, operand);
+std::unique_ptr<Node> makeIn(const Expression& expression, Node& operand) {
+    return std::make_unique<InNode>(expression, operand);
 }
 
 } // namespace kelx::execution

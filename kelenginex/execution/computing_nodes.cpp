@@ -22,10 +22,8 @@ public:
         result_.constant = entity == nullptr;
     }
 
-    bool mayBeTrue(std::size_t block) const override {
-        const auto may = [&](const Node* operand) {
-            return operand->entity() != entity() || operand->mayBeTrue(block);
-        };
+    bool mayBeTrue(const plan::RecordRange& records) const override {
+        const auto may = [&](const Node* operand) { return operand->mayBeTrue(records); };
         if (operation_ == Operation::And)
             return std::all_of(operands_.begin(), operands_.end(), may);
         return operation_ == Operation::Not || std::any_of(operands_.begin(), operands_.end(), may);

@@ -8,7 +8,7 @@
 namespace kelx::execution {
 
 void makeVariables(const language::BoundProgram& program, const RunOptions& options, double share,
-                   Progress& progress) {
+                   plan::Selections& selections, Progress& progress) {
     const auto isUsed = [](const language::Definition& definition) { return definition.used; };
     const auto all = std::count_if(program.definitions.begin(), program.definitions.end(), isUsed);
     double done = 0;
@@ -16,7 +16,8 @@ void makeVariables(const language::BoundProgram& program, const RunOptions& opti
         if (!definition.used)
             continue;
         ++done;
-        makeVariable(definition, options, share * done / static_cast<double>(all), progress);
+        makeVariable(definition, options, share * done / static_cast<double>(all), selections,
+                     progress);
     }
 }
 

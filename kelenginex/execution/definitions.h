@@ -5,6 +5,7 @@
 #include "execution/progress.h"
 #include "execution/run.h"
 #include "language/bound.h"
+#include "plan/selection.h"
 
 namespace kelx::execution {
 
@@ -12,6 +13,6 @@ namespace kelx::execution {
 /// the whole. Throws Cancelled, storage::FileError, and std::runtime_error on what is not
 /// supported.
 void makeVariables(const language::BoundProgram& program, const RunOptions& options, double share,
-                   Progress& progress);
+                   plan::Selections& selections, Progress& progress);
 
 } // namespace kelx::execution

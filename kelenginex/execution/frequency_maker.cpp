@@ -33,10 +33,11 @@ public:
             total_ = std::make_unique<TableCells>(part->shape());
         return part;
     }
+    std::size_t partBytes() const override { return Tabulator::bytesFor(table_, unit_); }
     /// Counts are exact in any order; only sums of weights are not.
     bool inOrder() const override { return total_->shape().weighted; }
     bool take(TablePart& part, const GoOn& goOn) override {
-        if (!total_->take(static_cast<Tabulator&>(part).cells(), goOn))
+        if (!static_cast<Tabulator&>(part).giveTo(*total_, goOn))
             return false;
         if (total_->hashed.size() > mostRows)
             throwTooManyRows(*table_.command);

@@ -354,7 +354,7 @@ std::unique_ptr<Node> makeTextFunction(const std::string& name, std::vector<Node
         return std::make_unique<ValNode>(std::move(arguments), entity);
     const auto kind = name == "UPPER" ? MakeTextNode::Kind::Upper : MakeTextNode::Kind::Lower;
     if (name != "UPPER" && name != "LOWER")
-        throw std::runtime_error("The function " + name + " is not supported yet.");
+        throw std::logic_error("no function " + name);
     return std::make_unique<MakeTextNode>(kind, std::move(arguments), entity);
 }
 

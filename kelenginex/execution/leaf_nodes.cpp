@@ -28,6 +28,10 @@ public:
             result_.integers = {std::get<std::int64_t>(constant_)};
     }
 
+    bool mayBeTrue(const plan::RecordRange&) const override {
+        return type() != ValueType::Boolean || result_.truths[0] != 0;
+    }
+
 protected:
     void work(Frames&, std::size_t) override {}
 
@@ -162,7 +166,13 @@ private:
 /// Values of an upper entity for each record of a lower one, as runs.
 class SpreadNode : public Node {
 public:
-    SpreadNode(Node& from, const Entity& at) : Node(from.type(), &at), from_(from) {}
+    SpreadNode(Node& from, const Entity& at)
+        : Node(from.type(), &at), from_(from), path_(*from.entity(), at) {}
+
+    bool mayBeTrue(const plan::RecordRange& records) const override {
+        const std::uint64_t first = path_.above(records.begin);
+        return from_.mayBeTrue({first, path_.above(records.end - 1, first) + 1});
+    }
 
 protected:
     void work(Frames& frames, std::size_t count) override {
@@ -207,6 +217,7 @@ private:
     }
 
     Node& from_;
+    plan::DescentPath path_;
 };
 
 } // namespace

@@ -20,7 +20,9 @@ public:
 
     std::vector<std::uint64_t> records;
 
-    bool mayPass(std::size_t block) const override { return !filter_ || filter_->mayPass(block); }
+    bool mayPass(const plan::RecordRange& records) const override {
+        return !filter_ || filter_->mayPass(records);
+    }
     void add(Frames& frames, const std::uint8_t* mask) override {
         const Frame& frame = frames.baseFrame();
         if (filter_) {

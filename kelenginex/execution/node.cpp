@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/node.h"
 
-#include "plan/same_expression.h"
+#include "execution/or_parts.h"
 
 #include <stdexcept>
 
@@ -18,21 +18,17 @@ const Vector& Node::value(Frames& frames) {
     return result_;
 }
 
-NodePool::NodePool() = default;
-NodePool::~NodePool() = default;
-
 Node& NodePool::keep(std::unique_ptr<Node> node) {
     nodes_.push_back(std::move(node));
     return *nodes_.back();
 }
 
 Node& NodePool::own(const Expression& expression) {
-    for (const auto& [known, node] : known_) {
-        if (plan::sameExpression(known, &expression))
-            return *node;
-    }
+    const auto known = known_.find(&expression);
+    if (known != known_.end())
+        return *known->second;
     Node& node = keep(make(expression));
-    known_.emplace_back(&expression, &node);
+    known_.emplace(&expression, &node);
     return node;
 }
 
@@ -40,31 +36,54 @@ Node& NodePool::at(const Expression& expression, const Entity& at) {
     Node& node = own(expression);
     if (node.entity() == nullptr || node.entity() == &at)
         return node;
-    for (const Spread& known : spread_) {
-        if (known.from == &node && known.at == &at)
-            return *known.node;
-    }
+    const auto known = spread_.find({&node, &at});
+    if (known != spread_.end())
+        return *known->second;
     if (!node.entity()->isAncestorOf(at))
         throw std::runtime_error(expression.text + " has no value for each " + at.name + ".");
     Node& result = keep(makeSpread(node, at));
-    spread_.push_back({&node, &at, &result});
+    spread_.emplace(std::pair(&node, &at), &result);
     return result;
+}
+
+Node& NodePool::argument(const Expression& argument, const Expression& of) {
+    return of.entity == nullptr ? own(argument) : at(argument, *of.entity);
 }
 
 std::vector<Node*> NodePool::argumentsOf(const Expression& expression) {
     std::vector<Node*> result;
-    for (const auto& argument : expression.arguments) {
-        if (expression.entity == nullptr)
-            result.push_back(&own(*argument));
-        else
-            result.push_back(&at(*argument, *expression.entity));
-    }
+    for (const auto& part : expression.arguments)
+        result.push_back(&argument(*part, expression));
     return result;
+}
+
+/// Null where the OR asks no variable more than once.
+std::unique_ptr<Node> NodePool::makeMergedOr(const Expression& expression) {
+    OrParts parts = orPartsOf(expression);
+    if (parts.made.empty())
+        return nullptr;
+    for (auto& made : parts.made)
+        made_.push_back(std::move(made));
+    std::vector<Node*> operands;
+    for (const Expression* part : parts.parts)
+        operands.push_back(&argument(*part, expression));
+    return makeLogic(Operation::Or, std::move(operands), expression.entity);
 }
 
 std::unique_ptr<Node> NodePool::make(const Expression& expression) {
     if (auto test = makeCodeTest(expression))
         return test;
+    if (expression.operation == Operation::Switch) {
+        const auto nodeOf = [&](const Expression& value) -> Node& {
+            return argument(value, expression);
+        };
+        if (auto choice = makeCodedSwitch(expression, nodeOf))
+            return choice;
+    }
+    if (expression.operation == Operation::Or) {
+        if (auto merged = makeMergedOr(expression))
+            return merged;
+    }
     std::vector<Node*> arguments = argumentsOf(expression);
     switch (expression.operation) {
     case Operation::Constant:
@@ -78,7 +97,7 @@ std::unique_ptr<Node> NodePool::make(const Expression& expression) {
     case Operation::Not:
         return makeLogic(expression.operation, std::move(arguments), expression.entity);
     case Operation::In:
-        return makeIn(expression.intervals, *arguments.at(0));
+        return makeIn(expression, *arguments.at(0));
     case Operation::Add:
     case Operation::Subtract:
     case Operation::Multiply:
@@ -97,8 +116,7 @@ std::unique_ptr<Node> NodePool::make(const Expression& expression) {
     case Operation::RecordNumber:
         return makeRecordNode(expression);
     default:
-        return makeComparison(expression.operation, *arguments.at(0), *arguments.at(1),
-                              expression.entity);
+        return makeComparison(expression, *arguments.at(0), *arguments.at(1));
     }
 }
 

@@ -5,9 +5,12 @@
 #include "execution/frames.h"
 #include "execution/vector.h"
 #include "language/bound.h"
+#include "plan/same_expression.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -28,9 +31,9 @@ public:
     const Entity* entity() const { return entity_; }
     /// The values over the current frame; worked out once a step.
     const Vector& value(Frames& frames);
-    /// False where no record of one of the column's blocks can be true; only for nodes of the
-    /// entity that the block is of.
-    virtual bool mayBeTrue(std::size_t /*block*/) const { return true; }
+    /// False where no record of a range of the node's entity can be true, as the zones of columns
+    /// tell. The range is not empty; a constant takes any.
+    virtual bool mayBeTrue(const plan::RecordRange& /*records*/) const { return true; }
 
 protected:
     /// Fills result_; count is the length of the entity's frame, 1 for a constant.
@@ -42,32 +45,34 @@ private:
     std::uint64_t serial_ = 0;
 };
 
+class LowerConditions;
+
 /// Makes nodes and keeps them. Equal expressions become the same node, so that tables of a pass
 /// share their work.
 class NodePool {
 public:
-    NodePool();
-    ~NodePool();
+    /// Conditions on entities below are asked of lower, which must outlive the pool's filters.
+    explicit NodePool(const LowerConditions* lower = nullptr) : lower_(lower) {}
     /// The node of an expression, its values spread to the records of entity at, which is at or
     /// below the expression's own. Throws storage::FileError, or std::runtime_error on what is not
     /// supported.
     Node& at(const language::Expression& expression, const Entity& at);
     /// The node with values for its own entity's records.
     Node& own(const language::Expression& expression);
+    const LowerConditions* lower() const { return lower_; }
 
 private:
     std::unique_ptr<Node> make(const language::Expression& expression);
+    std::unique_ptr<Node> makeMergedOr(const language::Expression& expression);
+    Node& argument(const language::Expression& argument, const language::Expression& of);
     std::vector<Node*> argumentsOf(const language::Expression& expression);
     Node& keep(std::unique_ptr<Node> node);
 
+    const LowerConditions* lower_;
     std::vector<std::unique_ptr<Node>> nodes_;
-    std::vector<std::pair<const language::Expression*, Node*>> known_;
-    struct Spread {
-        Node* from;
-        const Entity* at;
-        Node* node;
-    };
-    std::vector<Spread> spread_;
+    std::vector<std::unique_ptr<language::Expression>> made_; ///< expressions of some nodes
+    plan::ExpressionMap<Node*> known_;
+    std::map<std::pair<Node*, const Entity*>, Node*> spread_;
 };
 
 // Makers of the kinds of nodes, by the file that has them.
@@ -77,9 +82,9 @@ std::unique_ptr<Node> makeCompoundCode(const Entity& entity);
 std::unique_ptr<Node> makeSpread(Node& from, const Entity& at);
 /// Null where the comparison cannot be made on codes.
 std::unique_ptr<Node> makeCodeTest(const language::Expression& expression);
-std::unique_ptr<Node> makeComparison(language::Operation operation, Node& left, Node& right,
-                                     const Entity* entity);
-std::unique_ptr<Node> makeIn(const std::vector<language::Interval>& intervals, Node& operand);
+std::unique_ptr<Node> makeComparison(const language::Expression& expression, Node& left,
+                                     Node& right);
+std::unique_ptr<Node> makeIn(const language::Expression& expression, Node& operand);
 std::unique_ptr<Node> makeLogic(language::Operation operation, std::vector<Node*> operands,
                                 const Entity* entity);
 std::unique_ptr<Node> makeArithmetic(language::Operation operation, std::vector<Node*> operands,
@@ -89,6 +94,9 @@ std::unique_ptr<Node> makeFunction(const std::string& name, std::vector<Node*> a
 /// Records that nothing takes are MV and untaken.
 std::unique_ptr<Node> makeRecode(const language::Expression& expression,
                                  std::vector<Node*> arguments);
+using NodeOf = std::function<Node&(const language::Expression&)>;
+/// Null where a case is no test of codes, or of another variable than the others.
+std::unique_ptr<Node> makeCodedSwitch(const language::Expression& expression, const NodeOf& nodeOf);
 std::unique_ptr<Node> makeSwitch(std::vector<Node*> arguments, const Entity* entity);
 /// NUMBER, SAMPLE and the record's number.
 std::unique_ptr<Node> makeRecordNode(const language::Expression& expression);

@@ -10,11 +10,11 @@
 namespace kelx::execution {
 namespace {
 
-constexpr std::uint16_t bins = 2048;
-/// Bins and one more for what is no value.
-constexpr std::size_t binPlaces = bins + 1;
+constexpr std::uint16_t mostBins = 2048;
 /// A cell of fewer values costs less to go over than its bins.
-constexpr std::uint64_t largeCell = 4 * bins;
+constexpr std::uint64_t largeCell = 8192;
+/// Bins take a small part of the room of the values that they count.
+constexpr std::uint64_t valuesOfBin = 16;
 
 } // namespace
 
@@ -26,9 +26,29 @@ bool OrderStatistics::isLarge(std::size_t cell) const {
     return lists_->size(cell) >= largeCell;
 }
 
+/// Bins and one more for what is no value.
+std::size_t OrderStatistics::binPlaces() const {
+    return std::size_t{scale_.bins} + 1;
+}
+
+/// All cells have the same bins, so that rows can add them up: fewer where most cells are small.
+void OrderStatistics::chooseBins() {
+    std::uint64_t values = 0;
+    std::uint64_t cells = 0;
+    for (std::size_t cell = 0; cell < lists_->cells(); ++cell) {
+        if (isLarge(cell)) {
+            values += lists_->size(cell);
+            ++cells;
+        }
+    }
+    const std::uint64_t fit = values / std::max<std::uint64_t>(cells, 1) / valuesOfBin;
+    scale_.bins = static_cast<std::uint16_t>(
+        std::clamp<std::uint64_t>(fit, largeCell / valuesOfBin, mostBins));
+}
+
 /// Bins lie where most values are: a few far away, infinite ones too, share the outermost.
 void OrderStatistics::chooseScale() {
-    scale_.bins = bins;
+    chooseBins();
     scale_.missing = lists_->exclusions.missing;
     scale_.notApplicable = lists_->exclusions.notApplicable;
     std::vector<double> sample = lists_->sample();
@@ -43,7 +63,7 @@ void OrderStatistics::chooseScale() {
         low = sample.front();
         high = sample.back();
     }
-    const double perUnit = bins / (high - low);
+    const double perUnit = scale_.bins / (high - low);
     scale_.lowest = low;
     scale_.perUnit = std::isnormal(perUnit) ? perUnit : 0;
 }
@@ -71,20 +91,21 @@ void OrderStatistics::count(const StageShare& share, Progress& progress) {
                                  [&](double, double) { ++counts_[cell]; });
         }
     }
-    binCounts_.assign(pieces_.size() * binPlaces, 0);
-    binWeights_.assign(form_.weighted ? pieces_.size() * binPlaces : 0, {});
-    shareOut(threads_, pieces_.size(), share, progress,
-             [this](std::size_t piece, const GoOn&) { countPiece(piece); });
+    binCounts_.assign(pieces_.size() * binPlaces(), 0);
+    binWeights_.assign(form_.weighted ? pieces_.size() * binPlaces() : 0, {});
+    shareOut(
+        pieces_.size(), threads_, share,
+        [this](std::size_t piece, const GoOn&) { countPiece(piece); }, progress);
     for (std::size_t i = 0; i < pieces_.size(); ++i)
-        counts_[pieces_[i].cell] += pieces_[i].count - binCounts_[i * binPlaces + bins];
+        counts_[pieces_[i].cell] += pieces_[i].count - binCounts_[i * binPlaces() + scale_.bins];
 }
 
 /// Neighbours count in different tables, so that equal ones do not wait for each other.
 void OrderStatistics::countPiece(std::size_t piece) {
     std::array<std::uint16_t, binnedAtOnce> bin;
-    std::array<std::uint32_t, binPlaces> other{};
-    std::uint32_t* counts = binCounts_.data() + piece * binPlaces;
-    Sum* sums = form_.weighted ? binWeights_.data() + piece * binPlaces : nullptr;
+    std::array<std::uint32_t, mostBins + 1> other{};
+    std::uint32_t* counts = binCounts_.data() + piece * binPlaces();
+    Sum* sums = form_.weighted ? binWeights_.data() + piece * binPlaces() : nullptr;
     lists_->forEach(pieces_[piece], bin.size(),
                     [&](const double* values, const double* weights, std::size_t count) {
                         kernels().binReals(values, count, scale_, bin.data());
@@ -98,7 +119,7 @@ void OrderStatistics::countPiece(std::size_t piece) {
                         for (i = 0; i < count && sums != nullptr; ++i)
                             sums[bin[i]].add(weights[i]);
                     });
-    for (std::size_t i = 0; i < binPlaces; ++i)
+    for (std::size_t i = 0; i < binPlaces(); ++i)
         counts[i] += other[i];
 }
 

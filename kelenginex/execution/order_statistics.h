@@ -2,9 +2,9 @@
 // Exact medians and quantiles of cells and of cells taken together.
 #pragma once
 
+#include "execution/crew.h"
 #include "execution/kernels.h"
 #include "execution/measure_figures.h"
-#include "execution/parallel.h"
 #include "execution/value_lists.h"
 
 #include <cstddef>
@@ -34,8 +34,10 @@ private:
     friend class RowQuantiles;
 
     void chooseScale();
+    void chooseBins();
     void countPiece(std::size_t piece);
     bool isLarge(std::size_t cell) const;
+    std::size_t binPlaces() const;
 
     std::shared_ptr<const ValueLists> lists_;
     MeasureForm form_;

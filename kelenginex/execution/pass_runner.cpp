@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/pass_runner.h"
 
+#include "execution/crew.h"
+#include "execution/lower_conditions.h"
 #include "execution/table_maker.h"
 #include "execution/weight_parts.h"
 #include "execution/worker.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <condition_variable>
-#include <exception>
 #include <mutex>
-#include <thread>
+#include <utility>
 
 namespace kelx::execution {
 namespace {
@@ -18,6 +21,16 @@ namespace {
 /// first, and then stretch by stretch: the order of additions is the same on any machine.
 constexpr std::uint64_t chunkRecords = 1U << 20;
 static_assert(chunkRecords <= mostExact);
+
+std::size_t bytesOf(const std::vector<std::unique_ptr<TableMaker>>& makers) {
+    std::size_t sum = 0;
+    for (const auto& maker : makers)
+        sum += maker->partBytes();
+    return sum;
+}
+
+/// Between two looks whether to go on waiting for a turn.
+constexpr std::chrono::milliseconds patience{20};
 
 using Chunk = plan::RecordRanges;
 
@@ -41,42 +54,40 @@ std::vector<Chunk> chunksOf(const plan::RecordRanges& ranges) {
 /// Shares the chunks of a pass out and puts the parts together in their order.
 class PassRun {
 public:
-    PassRun(const plan::Pass& pass, const RunOptions& options, const Share& share,
-            Progress& progress)
-        : pass_(pass), progress_(progress), share_(share), chunks_(chunksOf(pass.ranges)) {
-        const std::size_t step =
-            std::clamp<std::size_t>(options.blockRecords, 1, storage::recordsPerBlock);
-        unsigned threads = options.threads;
-        if (threads == 0)
-            threads = std::max(1U, std::thread::hardware_concurrency());
-        const std::size_t workers = std::clamp<std::size_t>(chunks_.size(), 1, threads);
-        for (const plan::PlannedTable& table : pass.tables)
-            makers_.push_back(makeTableMaker(table, *pass.unit, options));
-        for (std::size_t i = 0; i < workers; ++i)
-            workers_.push_back(std::make_unique<Worker>(pass, makers_, step, progress));
+    using Makers = std::vector<std::unique_ptr<TableMaker>>;
+
+    /// The makers are those of the pass's tables from `first` on.
+    PassRun(const plan::Pass& pass, std::size_t first, Makers makers, const RunOptions& options,
+            const Share& share, Progress& progress)
+        : pass_(pass), first_(first), options_(options), progress_(progress), share_(share),
+          chunks_(chunksOf(pass.ranges)), makers_(std::move(makers)) {
+        noteConditions();
+        for (std::size_t i = 0; i < workersFor(); ++i)
+            workers_.push_back(std::make_unique<Worker>(pass, makers_, lower_, step(), progress));
         ordered_ = std::any_of(makers_.begin(), makers_.end(),
                                [](const auto& maker) { return maker->inOrder(); });
     }
 
     void run(const TableSink& sink) {
         const auto records = static_cast<double>(plan::recordCount(pass_.ranges));
-        double all = records + 1;
+        const double scanning = records + static_cast<double>(lower_.records()) + 1;
+        double all = scanning;
         for (const auto& maker : makers_)
             all += maker->finishing(records);
         const double start = progress_.seconds();
-        double done = records + 1;
+        double done = scanning;
         const auto tell = [&](double part) { progress_.begin(shareAt(part / all), sinkUnits); };
-        progress_.begin(shareAt(done / all), plan::recordCount(pass_.ranges));
+        progress_.begin(shareAt(done / all), plan::recordCount(pass_.ranges) + lower_.records());
+        lower_.work(options_.threads, step(), progress_);
         scan();
         workers_.clear();
-        const double scanned =
-            (progress_.seconds() - start) / static_cast<double>(pass_.tables.size());
+        const double scanned = (progress_.seconds() - start) / static_cast<double>(makers_.size());
         for (std::size_t i = 0; i < makers_.size(); ++i) {
             const double half = makers_[i]->finishing(records) / 2;
             tell(done += half);
             TableResult result = finish(i, scanned);
             tell(done += half);
-            sink(pass_.tables[i].index, std::move(result), progress_);
+            sink(pass_.tables[first_ + i].index, std::move(result), progress_);
             progress_.checkNow();
         }
     }
@@ -84,14 +95,50 @@ public:
 private:
     double shareAt(double part) const { return share_.begin + (share_.end - share_.begin) * part; }
 
+    std::size_t step() const {
+        return std::clamp<std::size_t>(options_.blockRecords, 1, storage::recordsPerBlock);
+    }
+
+    /// One for each thread, and no more than there is room for.
+    std::size_t workersFor() const {
+        const std::size_t fit = options_.cellBytes / std::max<std::size_t>(bytesOf(makers_), 1);
+        const std::size_t most = std::min(chunks_.size(), fit);
+        return std::clamp<std::size_t>(most, 1, threadsFor(options_.threads));
+    }
+
+    void noteConditions() {
+        for (const auto& condition : pass_.filters)
+            lower_.note(condition, *pass_.unit, pass_.ranges);
+        for (std::size_t i = 0; i < makers_.size(); ++i) {
+            const language::TableCommand& command = *pass_.tables[first_ + i].command;
+            if (command.filter)
+                lower_.note(command.filter, *pass_.unit, pass_.ranges);
+        }
+    }
+
+    /// Scans chunks with one of the workers.
+    class Scanner : public CrewWorker {
+    public:
+        Scanner(PassRun& run, Worker& worker) : run_(run), worker_(worker) {}
+        bool work(std::size_t chunk, const GoOn& goOn) override {
+            return worker_.work(run_.chunks_[chunk], goOn) &&
+                   (!run_.ordered_ || run_.mergeInTurn(worker_, chunk, goOn));
+        }
+
+    private:
+        PassRun& run_;
+        Worker& worker_;
+    };
+
     void scan() {
-        if (workers_.size() == 1)
-            workOn(*workers_[0], [this] { return !progress_.poll(); });
-        else
-            runThreads();
-        if (error_)
-            std::rethrow_exception(error_);
-        progress_.checkNow();
+        shareOut(
+            chunks_.size(), static_cast<unsigned>(workers_.size()),
+            [this] { return std::make_unique<Scanner>(*this, *workers_[started_.fetch_add(1)]); },
+            progress_);
+        for (const auto& worker : workers_) {
+            merge(*worker, false, [this] { return !progress_.poll(); });
+            progress_.checkNow();
+        }
     }
 
     TableResult finish(std::size_t table, double scanned) {
@@ -102,106 +149,16 @@ private:
         return result;
     }
 
-    /// The caller's thread works too: one start less, and the callback is asked in between.
-    void runThreads() {
-        std::vector<std::thread> threads;
-        threads.reserve(workers_.size());
-        running_ = workers_.size();
-        for (std::size_t i = 1; i < workers_.size(); ++i) {
-            try {
-                threads.emplace_back([this, i] { workAlong(*workers_[i], mayGoOn()); });
-            } catch (...) { // those that run must end before anything is told
-                stop(std::current_exception());
-                ended();
-            }
-        }
-        workAlong(*workers_[0], [this] {
-            pollForThreads();
-            return !stop_.load(std::memory_order_relaxed);
-        });
-        waitForThreads();
-        for (std::thread& thread : threads)
-            thread.join();
-    }
-
-    GoOn mayGoOn() {
-        return [this] { return !stop_.load(std::memory_order_relaxed); };
-    }
-
-    void waitForThreads() {
-        std::unique_lock lock(mutex_);
-        while (running_ > 0) {
-            changed_.wait_for(lock, Progress::interval / 2);
-            lock.unlock();
-            pollForThreads();
-            lock.lock();
-        }
-    }
-
-    /// The callback is the caller's code and may throw; the threads must end all the same.
-    void pollForThreads() {
-        try {
-            if (progress_.poll())
-                stop(nullptr);
-        } catch (...) {
-            stop(std::current_exception());
-        }
-    }
-
-    void workAlong(Worker& worker, const GoOn& goOn) {
-        try {
-            workOn(worker, goOn);
-        } catch (...) {
-            stop(std::current_exception());
-        }
-        ended();
-    }
-
-    void ended() {
-        const std::scoped_lock lock(mutex_);
-        --running_;
-        changed_.notify_all();
-    }
-
-    void stop(std::exception_ptr error) {
-        const std::scoped_lock lock(mutex_);
-        stop_ = true;
-        if (error && !error_)
-            error_ = std::move(error);
-        changed_.notify_all();
-    }
-
-    void workOn(Worker& worker, const GoOn& goOn) {
-        for (;;) {
-            const std::size_t chunk = next_.fetch_add(1);
-            if (chunk >= chunks_.size())
-                break;
-            if (!worker.work(chunks_[chunk], goOn))
-                return;
-            if (ordered_ && !mergeInTurn(worker, chunk, goOn))
-                return;
-        }
-        std::unique_lock lock(merging_, std::defer_lock);
-        while (!lock.try_lock_for(Progress::interval / 2)) {
-            if (!goOn())
-                return;
-        }
-        merge(worker, false, goOn);
-    }
-
-    /// Waits for the chunks before; false where the run is stopped meanwhile. The caller's thread
-    /// needs the lock for its callback, so it is not held during the work.
+    /// Waits for the chunks before; false where the run is stopped meanwhile.
     bool mergeInTurn(Worker& worker, std::size_t chunk, const GoOn& goOn) {
         std::unique_lock lock(mutex_);
-        while (merged_ != chunk && !stop_) {
-            changed_.wait_for(lock, Progress::interval / 2);
-            lock.unlock();
+        while (merged_ != chunk) {
+            changed_.wait_for(lock, patience);
             if (!goOn())
                 return false;
-            lock.lock();
         }
         lock.unlock();
-        if (stop_ || !merge(worker, true, goOn))
+        if (!merge(worker, true, goOn))
             return false;
         lock.lock();
         ++merged_;
@@ -218,27 +175,46 @@ private:
     }
 
     const plan::Pass& pass_;
+    std::size_t first_;
+    const RunOptions& options_;
     Progress& progress_;
     Share share_;
     std::vector<Chunk> chunks_;
-    std::vector<std::unique_ptr<TableMaker>> makers_;
+    Makers makers_;
+    LowerConditions lower_;
     std::vector<std::unique_ptr<Worker>> workers_;
-    std::atomic<std::size_t> next_{0};
-    std::atomic<bool> stop_{false};
-    bool ordered_ = false;     ///< some tables are merged chunk by chunk
-    std::timed_mutex merging_; ///< of what is taken in any order
-    std::mutex mutex_;         ///< of what follows
+    std::atomic<std::size_t> started_{0}; ///< workers at work
+    bool ordered_ = false;                ///< some tables are merged chunk by chunk
+    std::mutex mutex_;                    ///< of what follows
     std::condition_variable changed_;
     std::size_t merged_ = 0;
-    std::size_t running_ = 0;
-    std::exception_ptr error_;
 };
 
 } // namespace
 
 void runPass(const plan::Pass& pass, const RunOptions& options, const TableSink& sink,
              const Share& share, Progress& progress) {
-    PassRun(pass, options, share, progress).run(sink);
+    const std::size_t all = pass.tables.size();
+    const auto shareAt = [&](std::size_t tables) {
+        const double part = static_cast<double>(tables) / static_cast<double>(all);
+        return share.begin + (share.end - share.begin) * part;
+    };
+    const std::size_t parts = threadsFor(options.threads) + std::size_t{1};
+    for (std::size_t begin = 0; begin < all;) {
+        PassRun::Makers makers;
+        std::size_t bytes = 0;
+        for (std::size_t i = begin; i < all; ++i) {
+            auto maker = makeTableMaker(pass.tables[i], *pass.unit, options);
+            bytes += maker->partBytes() * parts;
+            if (!makers.empty() && bytes > options.cellBytes)
+                break;
+            makers.push_back(std::move(maker));
+        }
+        const std::size_t end = begin + makers.size();
+        PassRun(pass, begin, std::move(makers), options, {shareAt(begin), shareAt(end)}, progress)
+            .run(sink);
+        begin = end;
+    }
 }
 
 } // namespace kelx::execution

@@ -15,7 +15,7 @@ void Progress::begin(double end, std::uint64_t units) {
 
 bool Progress::poll() {
     const auto now = Clock::now();
-    if (!callback_ || cancelled_ || now - last_ < pause_)
+    if (!callback_ || cancelled_ || now - last_ < interval_)
         return cancelled_;
     return tell(now, share());
 }

@@ -18,11 +18,11 @@ struct Cancelled {};
 /// belongs to the caller's.
 class Progress {
 public:
-    static constexpr std::chrono::milliseconds interval{40};
-
     /// An empty callback lets all work go on in silence.
-    explicit Progress(ProgressCallback callback, std::chrono::milliseconds pause = interval)
-        : callback_(std::move(callback)), pause_(pause), start_(Clock::now()) {}
+    explicit Progress(ProgressCallback callback,
+                      std::chrono::milliseconds interval = RunOptions{}.progressInterval)
+        : callback_(std::move(callback)), interval_(interval), start_(Clock::now()) {}
+    std::chrono::milliseconds interval() const { return interval_; }
 
     /// The next stage begins where the last was to end, and ends at a share of the whole (0 to 1).
     void begin(double end, std::uint64_t units);
@@ -55,7 +55,7 @@ private:
     double share() const; ///< done of the whole
 
     ProgressCallback callback_;
-    std::chrono::milliseconds pause_;
+    std::chrono::milliseconds interval_;
     Clock::time_point start_;
     Clock::time_point last_{};
     double from_ = 0;

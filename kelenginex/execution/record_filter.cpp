@@ -2,20 +2,18 @@
 #include "execution/record_filter.h"
 
 #include "execution/kernels.h"
+#include "execution/lower_conditions.h"
 
-#include <algorithm>
 #include <cstring>
 #include <stdexcept>
 
 namespace kelx::execution {
-namespace {
 
 void requireCondition(const Node& node, const std::string& text) {
     if (node.type() != ValueType::Boolean)
         throw std::runtime_error("A filter is a condition, but " + text + " is not.");
 }
 
-/// True where valid and true.
 const std::vector<std::uint8_t>& passing(const Vector& values, std::vector<std::uint8_t>& buffer) {
     if (values.allValid)
         return values.truths;
@@ -27,9 +25,11 @@ const std::vector<std::uint8_t>& passing(const Vector& values, std::vector<std::
     return buffer;
 }
 
+namespace {
+
 class DirectFilter : public RecordFilter {
 public:
-    DirectFilter(Node& node, const Entity& unit) : node_(node), unit_(unit) {}
+    explicit DirectFilter(Node& node) : node_(node) {}
 
     void apply(Frames& frames, std::uint8_t* mask) override {
         const std::size_t count = frames.baseFrame().count;
@@ -44,67 +44,31 @@ public:
         const Vector& values = node_.value(frames);
         return values.constant ? nullptr : passing(values, buffer_).data();
     }
-    bool mayPass(std::size_t block) const override {
-        return node_.entity() != &unit_ || node_.mayBeTrue(block);
+    bool mayPass(const plan::RecordRange& records) const override {
+        return node_.mayBeTrue(records);
     }
 
 private:
     Node& node_;
-    const Entity& unit_;
     std::vector<std::uint8_t> buffer_;
 };
 
-/// Looks below each record for one that passes, and no further than that one.
+/// Keeps the records that have one below that passes.
 class LowerFilter : public RecordFilter {
 public:
-    LowerFilter(const language::ExpressionPtr& condition, const Entity& unit)
-        : path_(unit, *condition->entity), frames_(*condition->entity),
-          node_(&pool_.own(*condition)) {
-        requireCondition(*node_, condition->text);
-    }
+    explicit LowerFilter(const RecordBits& passing) : passing_(passing) {}
 
     void apply(Frames& frames, std::uint8_t* mask) override {
-        const Frame frame = frames.baseFrame();
-        std::uint64_t begin = path_.first(frame.begin);
-        limit_ = path_.first(frame.begin + frame.count);
-        for (std::size_t i = 0; i < frame.count; ++i) {
-            const std::uint64_t end = path_.first(frame.begin + i + 1);
-            if (mask[i] != 0 && !anyPasses(begin, end))
-                mask[i] = 0;
-            begin = end;
-        }
+        const Frame& frame = frames.baseFrame();
+        for (std::size_t i = 0; i < frame.count; ++i)
+            mask[i] = passing_.at(frame.begin + i) ? mask[i] : std::uint8_t{0};
+    }
+    bool mayPass(const plan::RecordRange& records) const override {
+        return passing_.mayHaveAny(records);
     }
 
 private:
-    static constexpr std::uint64_t stepRecords = 4096;
-
-    bool anyPasses(std::uint64_t begin, std::uint64_t end) {
-        while (begin < end) {
-            if (begin < stepBegin_ || begin >= stepEnd_)
-                move(begin);
-            const std::uint64_t stop = std::min(end, stepEnd_);
-            const std::uint8_t* truths = truths_->data() + (begin - stepBegin_);
-            if (std::memchr(truths, truth, static_cast<std::size_t>(stop - begin)) != nullptr)
-                return true;
-            begin = stop;
-        }
-        return false;
-    }
-
-    void move(std::uint64_t begin) {
-        stepBegin_ = begin;
-        stepEnd_ = std::min(limit_, begin + stepRecords);
-        frames_.move(begin, static_cast<std::size_t>(stepEnd_ - begin));
-        truths_ = &passing(node_->value(frames_), buffer_);
-    }
-
-    plan::DescentPath path_;
-    Frames frames_;
-    NodePool pool_;
-    Node* node_;
-    std::uint64_t limit_ = 0, stepBegin_ = 0, stepEnd_ = 0;
-    const std::vector<std::uint8_t>* truths_ = nullptr;
-    std::vector<std::uint8_t> buffer_;
+    const RecordBits& passing_;
 };
 
 } // namespace
@@ -115,12 +79,14 @@ std::unique_ptr<RecordFilter> makeFilter(const language::ExpressionPtr& conditio
     if (entity == nullptr || entity->isAncestorOf(unit)) {
         Node& node = pool.at(*condition, unit);
         requireCondition(node, condition->text);
-        return std::make_unique<DirectFilter>(node, unit);
+        return std::make_unique<DirectFilter>(node);
     }
     if (!unit.isAncestorOf(*entity))
         throw std::runtime_error("A filter on " + entity->name + " says nothing about " +
                                  unit.name + ", which lies on another branch.");
-    return std::make_unique<LowerFilter>(condition, unit);
+    if (pool.lower() == nullptr)
+        throw std::logic_error("a condition below needs to be worked out before");
+    return std::make_unique<LowerFilter>(pool.lower()->passing(*condition, unit));
 }
 
 } // namespace kelx::execution

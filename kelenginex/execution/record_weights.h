@@ -20,7 +20,9 @@ public:
     RecordWeights(const language::TableCommand& command, const Entity& unit, NodePool& nodes);
 
     bool weighted() const { return weights_.any(); }
-    bool mayPass(std::size_t block) const { return !filter_ || filter_->mayPass(block); }
+    bool mayPass(const plan::RecordRange& records) const {
+        return !filter_ || filter_->mayPass(records);
+    }
     /// The mask without the records that the filter or a weight without value leaves out; null
     /// takes all.
     const std::uint8_t* mask(Frames& frames, const std::uint8_t* mask);

@@ -30,21 +30,23 @@ std::vector<double> RowQuantiles::work(const StageShare& share, Progress& progre
     const StageShare first{share.begin, share.begin + third};
     const StageShare second{first.end, first.end + third};
     const StageShare last{second.end, share.end};
-    shareOut(of_.threads_, large_.size(), first, progress,
-             [this](std::size_t i, const GoOn& goOn) { choose(*large_[i], goOn); });
+    shareOut(
+        large_.size(), of_.threads_, first,
+        [this](std::size_t i, const GoOn& goOn) { choose(*large_[i], goOn); }, progress);
     makeItems();
-    shareOut(of_.threads_, items_.size(), second, progress,
-             [this](std::size_t i, const GoOn& goOn) { pick(items_[i], goOn); });
+    shareOut(
+        items_.size(), of_.threads_, second,
+        [this](std::size_t i, const GoOn& goOn) { pick(items_[i], goOn); }, progress);
     const std::size_t batches = (small_.size() + rowsOfItem - 1) / rowsOfItem;
-    shareOut(of_.threads_, large_.size() + batches, last, progress,
-             [&](std::size_t i, const GoOn& goOn) {
-                 if (i < large_.size())
-                     return finish(*large_[i], goOn);
-                 const std::size_t begin = (i - large_.size()) * rowsOfItem;
-                 const std::size_t end = std::min(begin + rowsOfItem, small_.size());
-                 for (std::size_t k = begin; k < end && goOn(); ++k)
-                     finishSmall(small_[k], goOn);
-             });
+    const auto finishItem = [&](std::size_t i, const GoOn& goOn) {
+        if (i < large_.size())
+            return finish(*large_[i], goOn);
+        const std::size_t begin = (i - large_.size()) * rowsOfItem;
+        const std::size_t end = std::min(begin + rowsOfItem, small_.size());
+        for (std::size_t k = begin; k < end && goOn(); ++k)
+            finishSmall(small_[k], goOn);
+    };
+    shareOut(large_.size() + batches, of_.threads_, last, finishItem, progress);
     return std::move(result_);
 }
 

@@ -57,13 +57,14 @@ void runPasses(const plan::Plan& plan, const RunOptions& options, const TableSin
 
 bool run(const language::BoundProgram& program, const RunOptions& options,
          language::Messages& messages, const TableSink& sink, const RunEnd& end) {
-    Progress progress(options.progress, options.pause);
+    Progress progress(options.progress, options.progressInterval);
     try {
         progress.checkNow();
         const SavedVariables saved(program);
         const double making = shareOfVariables(program);
-        makeVariables(program, options, making, progress);
-        const plan::Plan plan = plan::makePlan(program, messages);
+        plan::Selections selections(messages);
+        makeVariables(program, options, making, selections, progress);
+        const plan::Plan plan = plan::makePlan(program, selections);
         const Stages stages(making, plan, saved);
         runPasses(plan, options, sink, stages, progress);
         storage::StagedFiles files;

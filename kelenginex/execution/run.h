@@ -23,10 +23,14 @@ struct RunOptions {
     unsigned threads = 0; ///< 0: one for each core
     std::size_t blockRecords =
         65536; ///< records a step works on at most; figures never depend on it
-    /// Called on the calling thread, at least every 100 ms; the last call of a whole run
-    /// says 100, and its answer is no longer heard.
+    /// What the cells of a pass's tables may take on all threads together. Tables beyond wait for a
+    /// pass of their own; one that is too large by itself goes on fewer threads.
+    std::size_t cellBytes = std::size_t{512} << 20;
+    /// Called on the calling thread, at least every 100 ms; the last call of a whole run says 100,
+    /// and its answer is no longer heard.
     ProgressCallback progress;
-    std::chrono::milliseconds pause{40}; ///< that the callback is left alone for, at least
+    /// Between two calls; the sooner a true answer comes, the sooner the run stops.
+    std::chrono::milliseconds progressInterval{40};
 };
 
 /// Takes a finished table, by its number in the program, on the calling thread. The stage of the

@@ -3,16 +3,12 @@
 
 #include "execution/vector.h"
 #include "storage/coding.h"
+#include "storage/stored_value.h"
 
-#include <bit>
+#include <string_view>
+#include <type_traits>
 
 namespace kelx::execution {
-namespace {
-
-constexpr std::uint64_t blank = storage::blankCode(storage::Physical::Code64);
-
-} // namespace
-
 StoredValues::StoredValues(const catalog::Variable& variable)
     : column_(variable.column()), states_(variable) {}
 
@@ -21,27 +17,29 @@ std::int64_t StoredValues::whole(std::uint64_t code) const {
 }
 
 StoredValues::Value StoredValues::value(std::uint64_t code) const {
-    if (code == blank || code == column_->info().naCode)
-        return {};
-    if (column_->info().physical == storage::Physical::Real64)
-        return std::bit_cast<double>(code);
-    if (column_->info().type == ValueType::String)
-        return std::string(column_->text(code));
-    return whole(code);
+    return std::visit(
+        [](auto value) -> Value {
+            if constexpr (std::is_same_v<decltype(value), std::string_view>)
+                return std::string(value);
+            else
+                return value;
+        },
+        storage::storedValue(*column_, code));
 }
 
 std::uint8_t StoredValues::state(std::uint64_t code) const {
-    if (code == blank)
-        return state::blank;
     if (code == column_->info().naCode)
         return state::blankNotApplicable;
+    const storage::StoredValue value = storage::storedValue(*column_, code);
+    if (std::holds_alternative<std::monostate>(value))
+        return state::blank;
     if (!states_.any())
         return state::valid;
-    if (column_->info().physical == storage::Physical::Real64)
-        return states_.ofNumber(std::bit_cast<double>(code));
-    if (column_->info().type == ValueType::String)
-        return states_.ofText(column_->text(code));
-    return states_.ofInteger(whole(code));
+    if (const auto* text = std::get_if<std::string_view>(&value))
+        return states_.ofText(*text);
+    if (const auto* real = std::get_if<double>(&value))
+        return states_.ofNumber(*real);
+    return states_.ofInteger(std::get<std::int64_t>(value));
 }
 
 } // namespace kelx::execution

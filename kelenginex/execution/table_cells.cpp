@@ -41,9 +41,9 @@ bool TableShape::number(bool longRuns) {
     return true;
 }
 
-TableCells::TableCells(const TableShape& shape)
+TableCells::TableCells(const TableShape& shape, bool withFigures)
     : hashed(std::max<std::size_t>(shape.domains.size(), 1)), shape_(shape) {
-    if (shape.dense())
+    if (shape.dense() && withFigures)
         dense.resize(shape.cells, shape.weighted, shape.small() ? sumLanes : 1);
 }
 

@@ -32,7 +32,8 @@ private:
 /// Figures by cell; partial ones are merged into the whole.
 class TableCells {
 public:
-    explicit TableCells(const TableShape& shape);
+    /// Those of a dense table without figures have no room for any.
+    explicit TableCells(const TableShape& shape, bool withFigures = true);
 
     DenseCells dense;
     HashCells hashed;

@@ -28,8 +28,7 @@ std::unique_ptr<TableMaker> makeTableMaker(const plan::PlannedTable& table, cons
     case language::TableKind::View:
         return makeListMaker(table, unit);
     default:
-        throw std::runtime_error("The kind of the table " + table.command->name +
-                                 " is not supported yet.");
+        throw std::logic_error("the table " + table.command->name + " is not made of records");
     }
 }
 

@@ -28,8 +28,8 @@ public:
     virtual ~TablePart() = default;
     /// The longest step that it is good for.
     virtual std::size_t mostAtOnce() const { return cachedStep; }
-    /// False where no record of a block of the unit can matter to the table.
-    virtual bool mayPass(std::size_t /*block*/) const { return true; }
+    /// False where no record of a range of the unit, which is not empty, can matter to the table.
+    virtual bool mayPass(const plan::RecordRange& /*records*/) const { return true; }
     /// Takes the frame's records where the mask is set; a null mask takes all.
     virtual void add(Frames& frames, const std::uint8_t* mask) = 0;
 };
@@ -40,11 +40,15 @@ public:
     virtual ~TableMaker() = default;
     /// A part for one more thread. The pools are that thread's. Called before any work begins.
     virtual std::unique_ptr<TablePart> makePart(NodePool& nodes, SourcePool& sources) = 0;
+    /// What the cells of a part take, known before any is made; 0 where they grow with what is
+    /// found.
+    virtual std::size_t partBytes() const { return 0; }
     /// True where parts must be taken chunk by chunk in the order of the records; else each is
     /// taken once, at the end, in any order.
     virtual bool inOrder() const = 0;
     /// Takes what a part made by this maker has found, and leaves it empty; called by one thread at
-    /// a time. False where it was ended. Throws std::runtime_error where the table grows too large.
+    /// a time. A part may have found nothing. False where it was ended. Throws std::runtime_error
+    /// where the table grows too large.
     virtual bool take(TablePart& part, const GoOn& goOn) = 0;
     /// What finishing may take, in the time of scanning one of the pass's records.
     virtual double finishing(double records) const = 0;

@@ -4,7 +4,6 @@
 #include "execution/kernels.h"
 #include "execution/result.h"
 #include "execution/typed_data.h"
-#include "plan/same_expression.h"
 
 #include <algorithm>
 #include <numeric>
@@ -52,19 +51,17 @@ std::size_t numberOf(const void* codes, std::size_t record, const CodeDomain& do
 } // namespace
 
 CodeSource& SourcePool::of(const language::Expression& expression) {
-    for (const auto& [known, source] : sources_) {
-        if (plan::sameExpression(known, &expression))
-            return *source;
-    }
-    sources_.emplace_back(&expression, std::make_unique<CodeSource>(expression));
-    return *sources_.back().second;
+    auto& source = sources_[&expression];
+    if (!source)
+        source = std::make_unique<CodeSource>(expression);
+    return *source;
 }
 
 Tabulator::Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePool& nodes,
                      SourcePool& sources)
     : command_(*table.command), sources_(sourcesOf(table, sources)),
       weights_(command_, unit, nodes), shape_(shapeOf(sources_, unit, weights_.any())),
-      cells_(shape_), numbers_(sources_.size()) {
+      cells_(shape_, !(shape_.dense() && weights_.exact())), numbers_(sources_.size()) {
     if (command_.filter)
         filter_ = makeFilter(command_.filter, unit, nodes);
     if (!shape_.dense())
@@ -74,6 +71,18 @@ Tabulator::Tabulator(const plan::PlannedTable& table, const Entity& unit, NodePo
         lanes_ = shape_.cells <= mostInLanes ? partLanes : 1;
         parts_.resize((shape_.cells + 1) * lanes_);
     }
+}
+
+std::size_t Tabulator::bytesFor(const plan::PlannedTable& table, const Entity& unit) {
+    const bool weighted = table.command->weight || table.command->tally;
+    SourcePool pool;
+    const TableShape shape = shapeOf(sourcesOf(table, pool), unit, weighted);
+    const std::size_t counts = shape.cells * sizeof(std::uint64_t);
+    if (!weighted)
+        return counts;
+    const std::size_t lanes = shape.cells <= mostInLanes ? partLanes : 1;
+    return std::max(shape.cells * lanes * sizeof(WeightParts),
+                    counts + shape.cells * (shape.small() ? sumLanes : 1) * sizeof(Sum));
 }
 
 void Tabulator::sortDimensions() {
@@ -255,9 +264,9 @@ void Tabulator::addParts(Frames& frames, const std::uint8_t* mask) {
     }
 }
 
-TableCells& Tabulator::cells() {
+bool Tabulator::giveTo(TableCells& total, const GoOn& goOn) {
     if (parts_.empty())
-        return cells_;
+        return total.take(cells_, goOn);
     for (std::size_t cell = 0; cell < shape_.cells; ++cell) {
         WeightParts all;
         for (std::size_t lane = 0; lane < lanes_; ++lane) {
@@ -267,11 +276,13 @@ TableCells& Tabulator::cells() {
             all.low += own.low;
             all.records += own.records;
         }
-        cells_.dense.add(cell, static_cast<std::uint64_t>(all.records),
-                         {all.high, all.middle, all.low});
+        Sum sum;
+        for (const double term : {all.high, all.middle, all.low})
+            sum.add(term);
+        total.dense.add(cell, static_cast<std::uint64_t>(all.records), sum);
     }
     std::fill(parts_.begin(), parts_.end(), WeightParts{});
-    return cells_;
+    return true;
 }
 
 /// Records that the mask leaves out add nothing, in their place.

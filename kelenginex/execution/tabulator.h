@@ -8,11 +8,11 @@
 #include "execution/table_maker.h"
 #include "execution/weights.h"
 #include "plan/plan.h"
+#include "plan/same_expression.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace kelx::execution {
@@ -23,7 +23,7 @@ public:
     CodeSource& of(const language::Expression& expression);
 
 private:
-    std::vector<std::pair<const language::Expression*, std::unique_ptr<CodeSource>>> sources_;
+    plan::ExpressionMap<std::unique_ptr<CodeSource>> sources_;
 };
 
 /// One for each table and thread. A record whose weight or tally is blank, MV or NA is not counted.
@@ -35,11 +35,15 @@ public:
               SourcePool& sources);
 
     const TableShape& shape() const { return shape_; }
-    /// With all that was added.
-    TableCells& cells();
+    /// What a part's cells will take; 0 where they are hashed.
+    static std::size_t bytesFor(const plan::PlannedTable& table, const Entity& unit);
+    /// Gives all that was added away; false where it was ended.
+    bool giveTo(TableCells& total, const GoOn& goOn);
     std::size_t mostAtOnce() const override;
     /// By the table's own filter.
-    bool mayPass(std::size_t block) const override { return !filter_ || filter_->mayPass(block); }
+    bool mayPass(const plan::RecordRange& records) const override {
+        return !filter_ || filter_->mayPass(records);
+    }
     void add(Frames& frames, const std::uint8_t* mask) override;
 
 private:

@@ -4,7 +4,8 @@
 #include "execution/aggregator.h"
 #include "execution/block_values.h"
 #include "execution/column_builder.h"
-#include "execution/share_out.h"
+#include "execution/crew.h"
+#include "execution/lower_conditions.h"
 
 #include <algorithm>
 #include <atomic>
@@ -25,17 +26,19 @@ struct Making {
     const Definition& definition;
     const RunOptions& options;
     ColumnBuilder& builder;
+    plan::Selections& selections;
     Progress& progress;
+    LowerConditions lower{};
 
     const Entity& entity() const { return *definition.variable->entity; }
 };
 
 /// Blocks of an expression's values.
-class ValueWorker : public PartWorker {
+class ValueWorker : public CrewWorker {
 public:
     explicit ValueWorker(const Making& making)
         : making_(making), rule_(making.definition), frames_(making.entity()),
-          value_(nodes_.at(*making.definition.value, making.entity())) {
+          nodes_(&making.lower), value_(nodes_.at(*making.definition.value, making.entity())) {
         for (const auto& condition : making.definition.filters)
             filters_.push_back(makeFilter(condition, making.entity(), nodes_));
     }
@@ -81,9 +84,9 @@ class AggregateMaking {
 public:
     explicit AggregateMaking(const Making& making) : making_(making) {
         const Definition& definition = making.definition;
-        plans_.emplace_back(*definition.numerator, making.entity());
+        plans_.emplace_back(*definition.numerator, making.entity(), making.selections);
         if (definition.denominator)
-            plans_.emplace_back(*definition.denominator, making.entity());
+            plans_.emplace_back(*definition.denominator, making.entity(), making.selections);
         blocks_ = std::vector<Block>(making.builder.blocks());
         for (std::size_t which = 0; which < plans_.size(); ++which)
             noteParts(which);
@@ -161,14 +164,14 @@ Vector quotient(const Vector& numerator, const Vector& denominator, std::size_t 
     return result;
 }
 
-class AggregateWorker : public PartWorker {
+class AggregateWorker : public CrewWorker {
 public:
     explicit AggregateWorker(AggregateMaking& shared)
         : shared_(shared), rule_(shared.making().definition) {
         const Making& making = shared.making();
         for (const AggregatePlan& plan : shared.plans())
             aggregators_.push_back(std::make_unique<Aggregator>(
-                plan, shared.isReal(), stepOf(making.options), making.progress));
+                plan, making.lower, shared.isReal(), stepOf(making.options), making.progress));
         mayBeBytes_ = !shared.isQuotient() && aggregators_[0]->countsPlainly() &&
                       rule_.type() == ValueType::Integer && rule_.keepsValid();
     }
@@ -233,21 +236,33 @@ private:
     bool mayBeBytes_ = false;
 };
 
-void workOnValue(const Making& making, double end) {
+/// Works the conditions on records below out, in a stage with all that is to do.
+void beginStage(Making& making, double end, std::uint64_t records) {
+    making.progress.begin(end, making.lower.records() + records);
+    making.lower.work(making.options.threads, stepOf(making.options), making.progress);
+}
+
+void workOnValue(Making& making, double end) {
     const Definition& definition = making.definition;
     const language::Expression& value = *definition.value;
     if (value.entity != nullptr && !value.entity->isAncestorOf(making.entity()))
         throw std::runtime_error(value.text + " has no value for each " + making.entity().name +
                                  ".");
-    making.progress.begin(end, making.entity().records());
+    for (const auto& condition : definition.filters)
+        making.lower.note(condition, making.entity(), {{0, making.entity().records()}});
+    beginStage(making, end, making.entity().records());
     shareOut(
         making.builder.blocks(), making.options.threads,
         [&] { return std::make_unique<ValueWorker>(making); }, making.progress);
 }
 
-void workOnAggregates(const Making& making, double end) {
+void workOnAggregates(Making& making, double end) {
     AggregateMaking shared(making);
-    making.progress.begin(end, shared.records());
+    for (const AggregatePlan& plan : shared.plans()) {
+        for (const auto& condition : plan.aggregate().filters)
+            making.lower.note(condition, plan.over(), plan.selected());
+    }
+    beginStage(making, end, shared.records());
     shareOut(
         shared.parts().size(), making.options.threads,
         [&] { return std::make_unique<AggregateWorker>(shared); }, making.progress);
@@ -256,21 +271,24 @@ void workOnAggregates(const Making& making, double end) {
 } // namespace
 
 void makeVariable(const Definition& definition, const RunOptions& options, double end,
-                  Progress& progress) {
+                  plan::Selections& selections, Progress& progress) {
     catalog::Variable& variable = *definition.variable;
     if (!definition.value && !definition.numerator)
         throw std::logic_error(variable.fullName() + " is defined by nothing");
     const ValueType type = ValueRule(definition).type();
     const auto builder =
         ColumnBuilder::create(type, variable.entity->records(), variable.fullName());
-    const Making making{definition, options, *builder, progress};
+    Making making{definition, options, *builder, selections, progress};
     if (definition.value)
         workOnValue(making, end);
     else
         workOnAggregates(making, end);
-    while (const std::size_t parts = builder->nextStep())
+    while (const std::size_t parts = builder->nextStep()) {
+        progress.begin(end, 1);
         shareOut(
-            parts, options.threads, [&](std::size_t part) { builder->join(part); }, progress);
+            parts, options.threads, StageShare{},
+            [&](std::size_t part, const GoOn&) { builder->join(part); }, progress);
+    }
     variable.setColumn(builder->take(
         static_cast<std::uint8_t>(std::clamp(variable.decimals.value_or(0), 0, 255))));
 }

@@ -2,6 +2,7 @@
 #include "execution/weights.h"
 
 #include "execution/kernels.h"
+#include "storage/coding.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,8 +46,7 @@ std::optional<Magnitudes> magnitudesOf(const storage::ColumnInfo& info) {
         return Magnitudes::between(info.minReal, info.maxReal);
     }
     const auto value = [&](std::uint64_t code) {
-        return std::fabs(static_cast<double>(
-            static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code)));
+        return std::fabs(static_cast<double>(storage::decodeValue(info.base, code)));
     };
     return Magnitudes{1, std::max({1.0, value(info.minCode), value(info.maxCode)})};
 }

@@ -126,7 +126,7 @@ RowValues WideMeasured::add(std::span<const std::uint32_t> cells) const {
 void WideMeasured::findSquares(const StageShare& share, Progress& progress) {
     const std::vector<ValuePiece> pieces = lists_->pieces();
     std::vector<double> sums(pieces.size());
-    shareOut(threads_, pieces.size(), share, progress, [&](std::size_t i, const GoOn&) {
+    const auto findSum = [&](std::size_t i, const GoOn&) {
         const double mean = cell(pieces[i].cell).mean(form_);
         Sum sum;
         lists_->forEach(pieces[i], binnedAtOnce,
@@ -138,7 +138,8 @@ void WideMeasured::findSquares(const StageShare& share, Progress& progress) {
                             }
                         });
         sums[i] = sum.value();
-    });
+    };
+    shareOut(pieces.size(), threads_, share, findSum, progress);
     squares_.assign(lists_->cells(), 0);
     for (std::size_t i = 0; i < pieces.size(); ++i)
         squares_[pieces[i].cell] += sums[i];
@@ -160,7 +161,7 @@ double WideMeasured::squares(std::span<const std::uint32_t> cells, const RowValu
 std::vector<double> WideMeasured::ginis(const RowCells& rows, const StageShare& share,
                                         Progress& progress) {
     std::vector<double> result(rows.rows());
-    shareOut(threads_, rows.rows(), share, progress, [&](std::size_t row, const GoOn& goOn) {
+    const auto findGini = [&](std::size_t row, const GoOn& goOn) {
         std::vector<double> plain;
         std::vector<WeightedValue> weighted;
         std::size_t cells = 0;
@@ -175,7 +176,8 @@ std::vector<double> WideMeasured::ginis(const RowCells& rows, const StageShare& 
             });
         }
         result[row] = form_.weighted ? giniOf(weighted, goOn) : giniOf(plain, goOn);
-    });
+    };
+    shareOut(rows.rows(), threads_, share, findGini, progress);
     return result;
 }
 

@@ -45,7 +45,9 @@ public:
     void clear();
 
     std::size_t mostAtOnce() const override;
-    bool mayPass(std::size_t block) const override { return weights_.mayPass(block); }
+    bool mayPass(const plan::RecordRange& records) const override {
+        return weights_.mayPass(records);
+    }
     void add(Frames& frames, const std::uint8_t* mask) override;
 
 private:

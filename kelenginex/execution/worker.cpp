@@ -6,8 +6,9 @@
 namespace kelx::execution {
 
 Worker::Worker(const plan::Pass& pass, const std::vector<std::unique_ptr<TableMaker>>& makers,
-               std::size_t stepRecords, Progress& progress)
-    : unit_(*pass.unit), stepRecords_(stepRecords), frames_(unit_), progress_(progress) {
+               const LowerConditions& lower, std::size_t stepRecords, Progress& progress)
+    : unit_(*pass.unit), stepRecords_(stepRecords), frames_(unit_), progress_(progress),
+      nodes_(&lower) {
     for (const auto& condition : pass.filters)
         filters_.push_back(makeFilter(condition, unit_, nodes_));
     if (!filters_.empty())
@@ -23,7 +24,7 @@ bool Worker::work(const plan::RecordRanges& ranges, const GoOn& goOn) {
         while (range.begin < range.end) {
             const std::uint64_t block = range.begin / storage::recordsPerBlock;
             const std::uint64_t end = std::min(range.end, (block + 1) * storage::recordsPerBlock);
-            if (!workBlock(static_cast<std::size_t>(block), {range.begin, end}, goOn))
+            if (!workBlock({range.begin, end}, goOn))
                 return false;
             range.begin = end;
         }
@@ -32,12 +33,12 @@ bool Worker::work(const plan::RecordRanges& ranges, const GoOn& goOn) {
 }
 
 /// Works on a part of one storage block, so that its zones speak for all of it.
-bool Worker::workBlock(std::size_t block, plan::RecordRange range, const GoOn& goOn) {
+bool Worker::workBlock(plan::RecordRange range, const GoOn& goOn) {
     const bool may = std::all_of(filters_.begin(), filters_.end(),
-                                 [&](const auto& filter) { return filter->mayPass(block); });
+                                 [&](const auto& filter) { return filter->mayPass(range); });
     wanted_.clear();
     for (const auto& table : tables_) {
-        if (may && table->mayPass(block))
+        if (may && table->mayPass(range))
             wanted_.push_back(table.get());
     }
     if (wanted_.empty()) {

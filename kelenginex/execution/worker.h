@@ -13,7 +13,7 @@ namespace kelx::execution {
 class Worker {
 public:
     Worker(const plan::Pass& pass, const std::vector<std::unique_ptr<TableMaker>>& makers,
-           std::size_t stepRecords, Progress& progress);
+           const LowerConditions& lower, std::size_t stepRecords, Progress& progress);
 
     /// One part for each maker.
     std::vector<std::unique_ptr<TablePart>>& tables() { return tables_; }
@@ -23,7 +23,7 @@ public:
     bool work(const plan::RecordRanges& ranges, const GoOn& goOn);
 
 private:
-    bool workBlock(std::size_t block, plan::RecordRange range, const GoOn& goOn);
+    bool workBlock(plan::RecordRange range, const GoOn& goOn);
     const std::uint8_t* findMask();
 
     const Entity& unit_;

@@ -113,6 +113,7 @@ struct Aggregate {
     const Entity* over = nullptr; ///< whose records are gone over; below the variable's entity
     ExpressionPtr value;          ///< of `over` or above; null for Count
     ExpressionPtr weight;         ///< the same
+    std::shared_ptr<const AreaSelection> areas; ///< that its records lie in; null: all
     /// All must hold. One on an entity below `over` keeps records that have a passing one.
     std::vector<ExpressionPtr> filters;
 };

@@ -39,7 +39,7 @@ private:
     }
     void take(const ast::StyleCommand& style) { settings_ = runs_.setStyle(style, settings_); }
     void take(const ast::Definition& definition) {
-        definitions_.check(definition, *settings_.settings, bound_);
+        definitions_.check(definition, settings_, bound_);
     }
     void take(const ast::Table& table) { tables_.check(table, settings_); }
 

@@ -14,6 +14,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace kelx::language {
 
@@ -49,6 +50,11 @@ public:
     /// Adds a variable that the program makes to the names. It must live on.
     void define(const catalog::Variable& variable);
     void noteTable(const std::string& name) { names_.noteTable(name); }
+    /// True the first time that it is asked about both together.
+    bool isNew(const void* clause, const catalog::Entity& unit) {
+        return told_.emplace(clause, &unit).second;
+    }
+
     /// The variable whose DEFINE is being checked; empty texts for none.
     void setDefining(const std::string& entity, const std::string& name);
     bool isDefining(const std::string& entity, const std::string& name) const;
@@ -73,6 +79,7 @@ private:
     std::set<std::string> expected_;
     std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;
+    std::set<std::pair<const void*, const catalog::Entity*>> told_;
 };
 
 } // namespace kelx::language

@@ -82,7 +82,7 @@ ValueType naturalType(const Definition& definition) {
 }
 
 bool DefinitionAggregates::make(const ast::Definition& ast, const Entity& owner,
-                                const RunSettings& run, Definition& into) {
+                                const CheckedSettings& run, Definition& into) {
     bool good = makeParts(ast, owner, into);
     ExpressionPtr weight;
     if (ast.weight != nullptr) {
@@ -96,10 +96,9 @@ bool DefinitionAggregates::make(const ast::Definition& ast, const Entity& owner,
         if (!*part)
             continue;
         good = addWeight(weight, **part) && good;
-        if (ast.weight == nullptr && weighs(run, into))
-            (*part)->weight = run.weight;
-        addFilter(run.filter, **part);
-        addFilter(run.selection ? run.selection->expression : nullptr, **part);
+        if (ast.weight == nullptr && weighs(*run.settings, into))
+            (*part)->weight = run.settings->weight;
+        addSettings(run, **part);
     }
     return good;
 }
@@ -197,6 +196,19 @@ bool DefinitionAggregates::weighs(const RunSettings& run, const Definition& defi
 bool DefinitionAggregates::addWeight(const ExpressionPtr& weight, Aggregate& into) {
     into.weight = weight;
     return weight == nullptr || checkAbove(context_, *weight, *into.over, "WEIGHT");
+}
+
+/// The universal filter and the selection, where they say something about the records.
+void DefinitionAggregates::addSettings(const CheckedSettings& run, Aggregate& into) {
+    const RunSettings& settings = *run.settings;
+    addFilter(settings.filter, into);
+    if (!settings.selection)
+        return;
+    addFilter(settings.selection->expression, into);
+    if (settings.selection->areas.empty())
+        return;
+    into.areas = {run.settings, &*settings.selection};
+    checkAreas(context_, run, *into.over);
 }
 
 /// False where the filter is on another branch.

@@ -4,6 +4,7 @@
 
 #include "language/ast.h"
 #include "language/expression_checker.h"
+#include "language/run_checker.h"
 
 #include <set>
 #include <utility>
@@ -16,7 +17,7 @@ public:
         : context_(context), expressions_(expressions) {}
 
     /// Fills numerator and denominator. False where a fault was reported.
-    bool make(const ast::Definition& ast, const Entity& owner, const RunSettings& run,
+    bool make(const ast::Definition& ast, const Entity& owner, const CheckedSettings& run,
               Definition& into);
 
 private:
@@ -31,6 +32,7 @@ private:
                     Position position);
     static bool weighs(const RunSettings& run, const Definition& definition);
     bool addWeight(const ExpressionPtr& weight, Aggregate& into);
+    void addSettings(const CheckedSettings& run, Aggregate& into);
     bool addFilter(const ExpressionPtr& filter, Aggregate& into);
     bool addOwnFilter(const ast::Definition& ast, Definition& into);
 

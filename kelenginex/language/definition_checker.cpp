@@ -33,7 +33,7 @@ bool converts(ValueType from, ValueType to) {
 
 } // namespace
 
-void DefinitionChecker::check(const ast::Definition& ast, const RunSettings& run,
+void DefinitionChecker::check(const ast::Definition& ast, const CheckedSettings& run,
                               BoundProgram& program) {
     const Entity* owner =
         ast.name.entity.empty() ? nullptr : expressions_.entity(ast.name.entity, ast.name.position);
@@ -66,7 +66,7 @@ void DefinitionChecker::expectNames(const std::string& entity, const ast::Defini
 }
 
 bool DefinitionChecker::makeValues(const ast::Definition& ast, const Entity& owner,
-                                   const RunSettings& run, Definition& into) {
+                                   const CheckedSettings& run, Definition& into) {
     return isGathered(ast.kind) ? aggregates_.make(ast, owner, run, into)
                                 : makeExpression(ast, owner, into);
 }

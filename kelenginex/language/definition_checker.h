@@ -6,6 +6,7 @@
 #include "language/definition_aggregates.h"
 #include "language/definition_variable.h"
 #include "language/expression_checker.h"
+#include "language/run_checker.h"
 
 namespace kelx::language {
 
@@ -16,10 +17,10 @@ public:
           variables_(context, expressions) {}
 
     /// Adds the definition and makes its name known, also where it has faults.
-    void check(const ast::Definition& ast, const RunSettings& run, BoundProgram& program);
+    void check(const ast::Definition& ast, const CheckedSettings& run, BoundProgram& program);
 
 private:
-    bool makeValues(const ast::Definition& ast, const Entity& owner, const RunSettings& run,
+    bool makeValues(const ast::Definition& ast, const Entity& owner, const CheckedSettings& run,
                     Definition& into);
     bool makeExpression(const ast::Definition& ast, const Entity& owner, Definition& into);
     bool addFilter(const ast::Node& node, const Entity& owner, Definition& into);

@@ -5,6 +5,7 @@
 #include "language/selection_file.h"
 #include "language/text.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace kelx::language {
@@ -162,6 +163,16 @@ void RunChecker::addArea(AreaSelection& selection, const Entity* entity, const s
         selection.areas.push_back({entity, code, position});
     else
         context_.report(Error::NoCode, position, {entity->name});
+}
+
+void checkAreas(CheckerContext& context, const CheckedSettings& run, const Entity& unit) {
+    const auto& areas = run.settings->selection->areas;
+    const bool reachable = std::any_of(areas.begin(), areas.end(), [&](const auto& area) {
+        return area.entity->isAncestorOf(unit);
+    });
+    if (!areas.empty() && !reachable && context.isNew(run.settings.get(), unit))
+        context.report(Warning::SelectionBelow, run.selectionPosition,
+                       {areas.front().entity->name, unit.name});
 }
 
 } // namespace kelx::language

@@ -18,6 +18,9 @@ struct CheckedSettings {
     Position selectionPosition;
 };
 
+/// Warns once where none of the areas that are selected is above or at an entity.
+void checkAreas(CheckerContext& context, const CheckedSettings& run, const Entity& unit);
+
 class RunChecker {
 public:
     RunChecker(CheckerContext& context, ExpressionChecker& expressions)

@@ -73,7 +73,7 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
         return false;
     if (!run.selection)
         return true;
-    checkAreas(command, settings);
+    checkAreas(context_, settings, *command.unit);
     return checkFilter(command, run.selection->expression, "selection");
 }
 
@@ -129,17 +129,6 @@ bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& 
         context_.report(Error::FilterBranch, filter->position,
                         {what, filter->entity->name, command.unit->name});
     return below;
-}
-
-void TablePlacer::checkAreas(const TableCommand& command, const CheckedSettings& settings) {
-    const auto& areas = settings.settings->selection->areas;
-    const bool reachable = std::any_of(areas.begin(), areas.end(), [&](const auto& area) {
-        return area.entity->isAncestorOf(*command.unit);
-    });
-    if (areas.empty() || reachable || !told_.emplace(settings.settings.get(), command.unit).second)
-        return;
-    context_.report(Warning::SelectionBelow, settings.selectionPosition,
-                    {areas.front().entity->name, command.unit->name});
 }
 
 } // namespace kelx::language

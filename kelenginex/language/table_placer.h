@@ -27,7 +27,6 @@ private:
     bool placeWeight(TableCommand& command);
     bool checkFilter(const TableCommand& command, const ExpressionPtr& filter,
                      const std::string& what);
-    void checkAreas(const TableCommand& command, const CheckedSettings& settings);
 
     CheckerContext& context_;
     ExpressionChecker& expressions_;

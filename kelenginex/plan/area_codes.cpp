@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plan/area_codes.h"
 
-#include <cstring>
+#include "storage/stored_value.h"
+
+#include <string_view>
+#include <variant>
 
 namespace kelx::plan {
-namespace {
-
-std::uint64_t codeAt(const void* data, storage::Physical physical) {
-    std::uint64_t code = 0; // codes lie little-endian in files and, on what we run on, in memory
-    std::memcpy(&code, data, storage::physicalSize(physical));
-    return code;
-}
-
-} // namespace
-
 std::string trimmedCode(std::string_view code) {
     const auto first = code.find_first_not_of(' ');
     if (first == std::string_view::npos)
@@ -24,19 +17,15 @@ std::string trimmedCode(std::string_view code) {
 ValueText::ValueText(const catalog::Variable& variable) : column_(variable.column()) {}
 
 std::string ValueText::at(std::uint64_t record) {
-    const storage::ColumnInfo& info = column_->info();
     const void* data = column_->read(record, 1, scratch_);
-    if (info.physical == storage::Physical::Real64) {
-        double value = 0;
-        std::memcpy(&value, data, sizeof value);
-        return numberText(value);
-    }
-    const std::uint64_t code = codeAt(data, info.physical);
-    if (code == storage::blankCode(info.physical) || info.naCode == code)
-        return {};
-    if (info.type == storage::ValueType::String)
-        return std::string(column_->text(code));
-    return std::to_string(static_cast<std::int64_t>(static_cast<std::uint64_t>(info.base) + code));
+    const auto value =
+        storage::storedValue(*column_, storage::codeAt(data, 0, column_->info().physical));
+    if (const auto* text = std::get_if<std::string_view>(&value))
+        return std::string(*text);
+    if (const auto* real = std::get_if<double>(&value))
+        return numberText(*real);
+    const auto* whole = std::get_if<std::int64_t>(&value);
+    return whole != nullptr ? std::to_string(*whole) : std::string();
 }
 
 CompoundCodes::CompoundCodes(const Entity& entity) {

@@ -53,6 +53,15 @@ RecordRanges DescentPath::descend(const RecordRanges& ranges) const {
     return joined(result);
 }
 
+RecordRanges within(const RecordRanges& ranges, const RecordRange& range) {
+    RecordRanges result;
+    auto next = std::partition_point(ranges.begin(), ranges.end(),
+                                     [&](const auto& own) { return own.end <= range.begin; });
+    for (; next != ranges.end() && next->begin < range.end; ++next)
+        result.push_back({std::max(next->begin, range.begin), std::min(next->end, range.end)});
+    return result;
+}
+
 RecordRanges joined(const RecordRanges& ranges) {
     RecordRanges result;
     for (const RecordRange& range : ranges) {

@@ -44,6 +44,8 @@ private:
     std::vector<std::shared_ptr<const storage::PointerFile>> files_; ///< top down
 };
 
+/// The parts of ranges that lie within a range.
+RecordRanges within(const RecordRanges& ranges, const RecordRange& range);
 /// Joins neighbours and leaves out empty ranges; the input is ascending.
 RecordRanges joined(const RecordRanges& ranges);
 

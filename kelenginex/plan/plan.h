@@ -3,7 +3,7 @@
 #pragma once
 
 #include "language/bound.h"
-#include "plan/hierarchy.h"
+#include "plan/selection.h"
 
 #include <cstddef>
 #include <vector>
@@ -32,7 +32,7 @@ struct Plan {
     std::vector<Pass> passes;
 };
 
-/// Throws storage::FileError where codes or pointers cannot be read. Warnings go to messages.
-Plan makePlan(const language::BoundProgram& program, language::Messages& messages);
+/// Throws storage::FileError where codes or pointers cannot be read.
+Plan makePlan(const language::BoundProgram& program, Selections& selections);
 
 } // namespace kelx::plan

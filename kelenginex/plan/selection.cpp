@@ -2,10 +2,14 @@
 #include "plan/selection.h"
 
 #include "catalog/names.h"
+#include "language/message_table.h"
+#include "language/names.h"
+#include "language/text.h"
 #include "plan/area_codes.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace kelx::plan {
 namespace {
@@ -201,6 +205,45 @@ RecordRanges recordsUnder(const SelectedAreas& areas, const Entity& unit) {
     std::sort(all.begin(), all.end(),
               [](const RecordRange& a, const RecordRange& b) { return a.begin < b.begin; });
     return joined(all);
+}
+
+RecordRanges Selections::recordsOf(const Entity& unit, const AreaSelection* selection) {
+    if (selection == nullptr)
+        return joined({{0, unit.records()}});
+    const SelectedAreas& areas = areasOf(*selection); // also tells of unknown ones
+    if (selection->areas.empty() && !isByRanges(unit, *selection))
+        return joined({{0, unit.records()}});
+    return recordsUnder(areas, unit);
+}
+
+bool Selections::isByRanges(const Entity& unit, const AreaSelection& selection) {
+    const Expression* condition = selection.expression.get();
+    const auto& found = areasOf(selection).records;
+    return condition != nullptr && isChoiceOfAreas(*condition) &&
+           std::all_of(found.begin(), found.end(),
+                       [&](const auto& entry) { return entry.first->isAncestorOf(unit); });
+}
+
+const SelectedAreas& Selections::areasOf(const AreaSelection& selection) {
+    const auto known = areas_.find(&selection);
+    if (known != areas_.end())
+        return known->second;
+    SelectedAreas found =
+        findAreas(selection.expression ? areasNamedBy(*selection.expression) : selection.areas);
+    for (const SelectedAreas::Unknown& unknown : found.unknown)
+        tellOf(unknown);
+    return areas_.emplace(&selection, std::move(found)).first->second;
+}
+
+void Selections::tellOf(const SelectedAreas::Unknown& unknown) {
+    const auto& [area, similar] = unknown;
+    const auto& at = area.position;
+    if (!told_.emplace(at.source, at.line, at.column, area.code).second)
+        return; // other settings have the same selection
+    const std::string hint =
+        similar.empty() ? "" : language::didYouMean(language::inQuotes(similar));
+    messages_.add(language::makeMessage(language::Warning::UnknownArea, at,
+                                        {area.entity->name, area.code, hint}));
 }
 
 } // namespace kelx::plan

@@ -5,9 +5,12 @@
 #include "language/bound.h"
 #include "plan/hierarchy.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace kelx::plan {
@@ -38,5 +41,29 @@ bool isChoiceOfAreas(const language::Expression& condition);
 /// Records of the unit whose ancestor (or which themselves) are among the areas. Areas of entities
 /// that are not above or at the unit select nothing.
 RecordRanges recordsUnder(const SelectedAreas& areas, const Entity& unit);
+
+/// What the selections of a program leave of entities' records, each selection's areas being looked
+/// up once. Codes that no area has are warnings.
+class Selections {
+public:
+    explicit Selections(language::Messages& messages) : messages_(messages) {}
+
+    /// All records where the selection is null, or does not choose by areas alone. Throws
+    /// storage::FileError where codes or pointers cannot be read.
+    RecordRanges recordsOf(const Entity& unit, const AreaSelection* selection);
+
+    /// True for a condition that recordsOf() fulfils: one that only chooses areas is as good as a
+    /// list of them where the unit lies in all of these.
+    bool isByRanges(const Entity& unit, const AreaSelection& selection);
+
+private:
+    const SelectedAreas& areasOf(const AreaSelection& selection);
+    void tellOf(const SelectedAreas::Unknown& unknown);
+
+    language::Messages& messages_;
+    std::map<const AreaSelection*, SelectedAreas> areas_;
+    std::set<std::tuple<std::size_t, std::int64_t, std::int64_t, std::string>>
+        told_; ///< unknown areas
+};
 
 } // namespace kelx::plan

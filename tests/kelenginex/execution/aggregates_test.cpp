@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Variables made of the records below. Expected values by hand, or by plain loops here.
+#include "counting_column.h"
 #include "define_fixture.h"
 
 #include "execution/kernels.h"
@@ -395,11 +396,18 @@ TEST_F(Wide, cancellingEndsSelectionsToo) {
                                             i % 2 == 0 ? "" : "HOUSEHOLD.WT"));
         execution::RunOptions options;
         options.threads = threads;
+        options.progressInterval = {};
+        const CountedReads reads(*db_->dictionary.findEntity("PERSON")->findVariable("INCOME"));
+        std::uint64_t before = 0;
         int calls = 0;
-        options.progress = [&](int, int, int) { return ++calls == 3; };
+        options.progress = [&](int, int, int) {
+            before = reads.records();
+            return ++calls == 3;
+        };
         language::Messages messages;
         EXPECT_TRUE(execution::run(program_.bound, options, messages).cancelled);
         EXPECT_EQ(calls, 3);
+        EXPECT_LE(reads.records() - before, threads * 2 * 65536);
     }
 }
 

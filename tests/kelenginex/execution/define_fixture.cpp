@@ -166,8 +166,10 @@ void requireZones(const catalog::Variable& variable) {
 } // namespace
 
 void DefineProgram::makeOnce(const execution::RunOptions& options) {
-    execution::Progress progress(options.progress);
-    execution::makeVariables(bound, options, 0.5, progress);
+    execution::Progress progress(options.progress, options.progressInterval);
+    language::Messages messages;
+    plan::Selections selections(messages);
+    execution::makeVariables(bound, options, 0.5, selections, progress);
 }
 
 void DefineProgram::make() {

@@ -44,7 +44,7 @@ protected:
         execution::RunOptions options;
         options.progress = callback;
         options.threads = 1; // so that runs ask at the same places
-        options.pause = {};
+        options.progressInterval = {};
         messages_ = {};
         cancelled_ = execution::run(program_.bound, options, messages_).cancelled;
     }

@@ -197,12 +197,13 @@ Outcome runAll(catalog::Dictionary& dictionary, const std::string& program, bool
     execution::RunOptions options;
     options.threads = 1;
     Outcome first = runWith(dictionary, program, options, autoWeight);
+    const bool large = dictionary.entities().back()->records() > 100000;
+    const std::vector<std::size_t> blocks =
+        large ? std::vector<std::size_t>{1000} : std::vector<std::size_t>{3, 64, 65536};
     for (const unsigned threads : {1U, 2U, 3U}) {
-        for (const std::size_t block : {std::size_t{3}, std::size_t{64}, std::size_t{65536}}) {
-            if (block < 64 && dictionary.entities().back()->records() > 100000)
-                continue;
+        for (const std::size_t block : blocks) {
             options.threads = threads;
-            options.blockRecords = block;
+            options.blockRecords = large && threads == 2 ? 65536 : block;
             requireSame(first.result, runWith(dictionary, program, options, autoWeight).result);
         }
     }
