@@ -205,9 +205,9 @@ TEST_F(Operations, workRowByRowOverAllRows) {
     const output::Table table =
         worked(of(Operation::Multiply, of(Operation::Divide, figure(0), figure(1)),
                   number(std::int64_t{100})));
-    EXPECT_EQ(rowsOf(table), (Texts{"1. Male,", "2. Female,75", "4,", "Total,40", "MV,"}));
+    EXPECT_EQ(rowsOf(table), (Texts{"1. Male,", "2. Female,75", "4,0", "Total,40", "MV,"}));
     EXPECT_EQ(rowsOf(*table.inTriples),
-              (Texts{"1,Male,,", "2,Female,,75", "4,4,,", "0,__tot__,tot,40", "0,__mv__,mv,"}));
+              (Texts{"1,Male,,", "2,Female,,75", "4,4,,0", "0,__tot__,tot,40", "0,__mv__,mv,"}));
     EXPECT_EQ(table.type, 3);
     EXPECT_EQ(table.method, 0);
     EXPECT_EQ(table.dimension, 1);
