@@ -99,7 +99,7 @@ void writeAll(const std::vector<output::Table>& tables, const TablePrinting& pri
     }
 }
 
-/// Rows of CSV have no place for them.
+/// CSV has no place for them, and JSON is the same whenever it is made.
 void tellTimes(const std::vector<output::Table>& tables) {
     for (const output::Table& table : tables)
         std::cerr << table.name << ": " << secondsText(table.seconds) << " s\n";
@@ -109,7 +109,7 @@ void tellTimes(const std::vector<output::Table>& tables) {
 
 void print(const std::vector<output::Table>& tables, const TablePrinting& printing) {
     printing.folder.empty() ? printAll(tables, printing) : writeAll(tables, printing);
-    if (printing.time && printing.format == "csv")
+    if (printing.time && printing.format != "text")
         tellTimes(tables);
 }
 
