@@ -178,6 +178,9 @@ const std::vector<MessageEntry> table = {
           "Tables side by side have the same rows."),
     error(Error::SortColumn, "KEL_E_SORT_COLUMN", "%1 has no column %2 to be sorted by.%3",
           "SORT names a variable of the table, the table itself, or one of its columns."),
+    error(Error::OutfileWorkbench, "KEL_E_OUTFILE_WORKBENCH",
+          "%1 files are written by the workbench only; %2 can be had as CSV or JSON here.",
+          "Told by kelx run before it runs; in the workbench it is no fault."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -218,6 +221,9 @@ const std::vector<MessageEntry> table = {
     warning(Warning::OutfileFormat, "KEL_W_OUTFILE_FORMAT",
             "Files are written in UTF-8, not in %1.",
             "UTF-8 holds every character; spreadsheets and editors read it."),
+    warning(Warning::ColumnOfOtherRun, "KEL_W_COLUMN_OF_OTHER_RUN",
+            "%1 was made under another selection or universal filter than this list.",
+            "Its columns count the records of its own run, and show 0 for areas outside of it."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

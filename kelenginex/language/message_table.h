@@ -75,6 +75,7 @@ enum class Error : int {
     TableShapes,
     TablistTable,
     SortColumn,
+    OutfileWorkbench,
 };
 
 /// Codes of warnings; the same rule.
@@ -94,6 +95,7 @@ enum class Warning : int {
     SortCrosstab,
     OutfileType,
     OutfileFormat,
+    ColumnOfOtherRun,
 };
 
 /// A line of the table.
