@@ -14,10 +14,15 @@ TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dict
                           execution::Progress& progress) {
         workshop.take(index, std::move(result), progress);
     };
-    if (!execution::run(program, options, messages, take))
-        return {{}, true};
-    execution::Progress silent({});
-    return {workshop.finish(silent), false};
+    try {
+        if (!execution::run(program, options, messages, take))
+            return {{}, true};
+        execution::Progress silent({});
+        return {workshop.finish(silent), false};
+    } catch (const SortFault& fault) {
+        messages.add(fault.message());
+        return {};
+    }
 }
 
 } // namespace kelx::output
