@@ -192,10 +192,10 @@ TEST(DefinedVariables, AreProtectedAsWhatTheyAreMadeOf) {
         "DEFINE PERSON.A AS AGE + 0\nDEFINE PERSON.B AS RECODE SEX2 (1 : 1 = 1)\n"
         "DEFINE PERSON.C AS SWITCH CASE B = 1 ASSIGN ROOMS ELSE 0\n"
         "DEFINE HOUSEHOLD.D AS COUNT PERSON FILTER A > 2\n"
-        "DEFINE HOUSEHOLD.E AS SUM ROOMS WEIGHT PERSON.SEX2 SENSITIVE 4\n"
+        "DEFINE HOUSEHOLD.E AS SUM PERSON.AGE WEIGHT PERSON.SEX2 SENSITIVE 4\n"
         "DEFINE PERSON.F AS A * 2 SENSITIVE 0\nDEFINE PERSON.G AS F = 1\n"
         "DEFINE PERSON.H AS 1 FILTER AGE = 4 LIKE ROOMS\n"
-        "DEFINE HOUSEHOLD.I AS FRACTION NUM PERSON.GRP (1 : 1) DENOM PERSON.SEX2 (1 : 2)\n");
+        "DEFINE HOUSEHOLD.I AS FRACTION NUM PERSON.AGE (1 : 1) DENOM PERSON.SEX2 (1 : 2)\n");
     std::string result;
     for (const Definition& definition : program.definitions)
         result += definition.variable->name +

@@ -98,9 +98,11 @@ const std::vector<Fault>& tableFaults() {
          "by.\nKEL_E_SORT_COLUMN 2:25 MEDIAN_1 has no column \"Sum\" to be sorted by.\n"},
         {"TABLE a FREQ SEX2\nRUNDEF FILTER AGE > 3\nTABLE b FREQ SEX2\nAREALIST PROVINCE, a, b\n"
          "RUNDEF FILTER AGE > 3\nAREALIST PROVINCE, b\nVIEW PERSON, AGE SENSITIVE 3",
-         "KEL_W_FILTER_BELOW 2:15 x\nKEL_W_COLUMN_OF_OTHER_RUN 4:20 a was made under another "
-         "selection or universal filter than this list.\nKEL_W_NO_EFFECT 7:18 SENSITIVE has no "
-         "effect on VIEW: it lists variables, and no table.\n"},
+         "KEL_W_FILTER_BELOW 2:15 The filter is about PERSON: each PROVINCE that has at least one "
+         "such PERSON is kept.\nKEL_W_COLUMN_OF_OTHER_RUN 4:20 a was made under another selection "
+         "or universal filter than this list.\nKEL_W_FILTER_BELOW 5:15 The filter is about PERSON: "
+         "each PROVINCE that has at least one such PERSON is kept.\nKEL_W_NO_EFFECT 7:18 SENSITIVE "
+         "has no effect on VIEW: it lists variables, and no table.\n"},
         {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\nAREALIST "
          "PROVINCE, NAME WEIGHT 3 TALLY AGE\nFREQ SEX2 BY GRP SORT DESC SEX2",
          "KEL_W_NO_EFFECT 2:9 FILTER has no effect on TABOP: the tables that it is made of have "

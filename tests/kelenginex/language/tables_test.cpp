@@ -178,11 +178,11 @@ TEST(Tables, ProtectWhatTheirConditionsAndWeightsTell) {
                                      "RUNDEF SELECTION SEX2 = 1\nFREQ GRP SENSITIVE 7\n")),
               "FREQ_1 PERSON: PERSON.GRP filter (PERSON.SEX2 = 1) sensitive 5\n"
               "FREQ_2 PERSON: PERSON.GRP weight PERSON.AGE sensitive 3\n"
-              "t PERSON: PERSON.GRP weight PERSON.AGE tally PERSON.SEX2 sensitive 5 silent\n"
+              "t PERSON: PERSON.GRP weight PERSON.AGE tally PERSON.SEX2 sensitive 5 silent idle\n"
               "t PERSON: record HOUSEHOLD BY PERSON.GRP weight PERSON.AGE tally PERSON.SEX2 "
               "sensitive 5 hidden\n"
               "AREALIST_1 HOUSEHOLD: AREALIST #3\n"
-              "FREQ_3 PERSON: PERSON.GRP all (NOT (PERSON.AGE > 3)) sensitive 3\n"
+              "FREQ_3 PERSON: PERSON.GRP all NOT((PERSON.AGE > 3)) sensitive 3\n"
               "FREQ_4 PERSON: PERSON.GRP sensitive 7\n");
     EXPECT_EQ(told(census.messages), "");
 }

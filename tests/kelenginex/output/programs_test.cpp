@@ -86,13 +86,13 @@ TEST_F(Programs, areaListsTellWhatTheirTablesCount) {
     EXPECT_EQ(tables_[0].weight, std::nullopt);
     EXPECT_EQ(groupsOf(tables_[0]).back(), "n, filter PERSON.AGE < 20");
     const std::string text = output::asText(tables_[0]);
-    EXPECT_NE(text.find("\n                     m Sex, filter PERSON.AGE < 20  "
+    EXPECT_NE(text.find("\n                   m Sex, filter PERSON.AGE < 20  "
                         "f Sex, weight 2"),
               std::string::npos)
         << text;
     run(shared + "AREALIST PROVINCE, m FILTER PROVINCE.CODE <> \"02\"");
-    EXPECT_EQ(tables_[0].filter, "PROVINCE.CODE <> \"02\"");
-    EXPECT_EQ(groupsOf(tables_[0]).back(), "m Sex, filter PERSON.AGE < 20");
+    EXPECT_EQ(tables_.back().filter, "PROVINCE.CODE <> \"02\"");
+    EXPECT_EQ(groupsOf(tables_.back()).back(), "m Sex, filter PERSON.AGE < 20");
 }
 
 TEST_F(Programs, viewsShowStoredCodes) {
