@@ -139,8 +139,8 @@ std::unique_ptr<TKelOutput> makeOutput(output::Table table, const language::Tabl
     if (command.outfile) {
         setFile(data.options, *command.outfile);
     }
-    if (command.sort) {
-        setSort(data.options, *command.sort);
+    if (data.table.sort) {
+        setSort(data.options, *data.table.sort);
     }
     for (const output::TableVariable& variable : data.table.variables) {
         data.variables.push_back(shownVariable(data, variable, state));

@@ -2,6 +2,7 @@
 #include "boundary/table_dataset.h"
 
 #include "boundary/variants.h"
+#include "catalog/names.h"
 
 #include <algorithm>
 #include <optional>
@@ -18,6 +19,36 @@ std::optional<double> asNumber(const output::Value& value) {
         return *real;
     }
     return std::nullopt;
+}
+
+using Range = std::optional<std::pair<double, double>>;
+
+void widen(Range& range, double number) {
+    range = range ? std::pair(std::min(range->first, number), std::max(range->second, number))
+                  : std::pair(number, number);
+}
+
+/// The codes of the categories that occur, without totals and markers; nothing where one of them
+/// is no number.
+Range rangeOfCodes(const output::Table& table, std::size_t column) {
+    const output::Column& codes = table.columns[column];
+    const output::Column& kinds = table.columns[column + 2];
+    std::vector<bool> occurs(codes.values->size());
+    for (const std::uint32_t number : *codes.numbers) {
+        occurs[number] = true;
+    }
+    Range range;
+    for (std::size_t i = 0; i < occurs.size(); ++i) {
+        if (!occurs[i] || !output::toText((*kinds.values)[i]).empty()) {
+            continue;
+        }
+        const auto code = catalog::parseNumber(output::toText((*codes.values)[i]));
+        if (!code) {
+            return std::nullopt;
+        }
+        widen(range, *code);
+    }
+    return range;
 }
 
 } // namespace
@@ -42,16 +73,19 @@ std::shared_ptr<TKelField> TableDataset::field(int index) {
 
 void TableDataset::range(std::pair<double, double>& out, int column) {
     out = {0, 0};
-    std::optional<std::pair<double, double>> found;
+    const auto index = static_cast<std::size_t>(column);
+    if (column >= 0 && index < 3 * table_.triples && index % 3 == 0) {
+        out = rangeOfCodes(table_, index).value_or(out);
+        return;
+    }
+    Range found;
     for (std::int64_t row = 0; row < table_.rows(); ++row) {
         const output::Value value = at(row, column);
         if (std::holds_alternative<std::string>(value)) {
             return;
         }
         if (const auto number = asNumber(value)) {
-            found =
-                found ? std::pair(std::min(found->first, *number), std::max(found->second, *number))
-                      : std::pair(*number, *number);
+            widen(found, *number);
         }
     }
     out = found.value_or(out);

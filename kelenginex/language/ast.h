@@ -220,7 +220,7 @@ struct Table {
     std::optional<std::string> save;
     bool outgraph = false;
     bool complete = true; ///< false where a part could not be read
-    Position weightPosition, tallyPosition, filterPosition, savePosition;
+    Position weightPosition, tallyPosition, filterPosition, savePosition, sensitivePosition;
     Span span;
 };
 

@@ -177,7 +177,7 @@ struct SortClause {
     std::optional<int> element;
     bool descending = false;
     std::optional<int> limit; ///< rows to keep; not set for 0
-    Position position;
+    Position position;        ///< of the column
 };
 
 /// OUTFILE, for the formats that others write than the engine.
@@ -186,6 +186,7 @@ struct OutputFile {
     std::string path; ///< absolute
     Format format = Format::Csv;
     bool overwrite = false;
+    Position position;
 };
 
 /// One table to make.

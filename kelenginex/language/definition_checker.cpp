@@ -3,6 +3,7 @@
 
 #include "catalog/type_names.h"
 #include "language/definition_values.h"
+#include "language/protection.h"
 #include "language/text.h"
 
 namespace kelx::language {
@@ -23,6 +24,16 @@ bool isGathered(DefinitionKind kind) {
     default:
         return true;
     }
+}
+
+/// What a variable is made of is protected in it too, unless the program says that nothing is given
+/// away.
+void protect(const ast::Definition& ast, const Definition& definition) {
+    std::optional<int>& sensitive = definition.variable->sensitive;
+    if (ast.sensitive)
+        sensitive = *ast.sensitive > 0 ? ast.sensitive : std::nullopt;
+    else
+        raise(sensitive, protectionOf(definition));
 }
 
 /// Numbers and truth values become each other, and numbers texts; texts stay texts.
@@ -54,6 +65,7 @@ void DefinitionChecker::check(const ast::Definition& ast, const CheckedSettings&
         return expectNames(owner->name, ast);
     definition.variable->size = sizeFor(type, value);
     definition.otherwise = variables_.otherwise(ast, *definition.variable);
+    protect(ast, definition);
     definition.save = variables_.save(ast, *definition.variable);
     context_.define(*definition.variable);
     program.definitions.push_back(std::move(definition));

@@ -264,8 +264,7 @@ bool DefinitionParser::readSave() {
 bool DefinitionParser::readSensitive() {
     const std::optional<int> number =
         clauses_.readCount("SENSITIVE", 0, std::numeric_limits<int>::max());
-    if (number.value_or(0) > 0)
-        definition_.sensitive = number;
+    definition_.sensitive = number;
     return number.has_value();
 }
 

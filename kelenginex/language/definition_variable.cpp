@@ -95,8 +95,6 @@ std::shared_ptr<Variable> DefinitionVariable::make(const ast::Definition& ast, c
     variable->group = ast.group.value_or("");
     if (ast.decimals)
         variable->decimals = ast.decimals;
-    if (ast.sensitive)
-        variable->sensitive = ast.sensitive;
     if (ast.alias && catalog::isUsableName(*ast.alias))
         variable->alias = *ast.alias;
     else if (ast.alias)

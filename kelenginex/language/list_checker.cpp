@@ -1,12 +1,33 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/list_checker.h"
 
+#include "language/protection.h"
 #include "language/text.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace kelx::language {
+
+namespace {
+
+bool areSame(const ExpressionPtr& a, const ExpressionPtr& b) {
+    return a == b || (a != nullptr && b != nullptr && a->text == b->text);
+}
+
+/// Whether both go over the same records; what they are called does not matter.
+bool isOfSameRun(const RunSettings& a, const RunSettings& b) {
+    const AreaSelection all;
+    const AreaSelection& x = a.selection ? *a.selection : all;
+    const AreaSelection& y = b.selection ? *b.selection : all;
+    const auto isSameArea = [](const AreaSelection::Area& one, const AreaSelection::Area& other) {
+        return one.entity == other.entity && one.code == other.code;
+    };
+    return areSame(a.filter, b.filter) && areSame(x.expression, y.expression) &&
+           std::equal(x.areas.begin(), x.areas.end(), y.areas.begin(), y.areas.end(), isSameArea);
+}
+
+} // namespace
 
 bool ListChecker::check(const ast::Table& table, TableCommand& command) {
     if (table.entity)
@@ -160,6 +181,8 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
         context_.report(Error::TableColumn, position, {tables_.table(number).name, *reason});
         return false;
     }
+    if (!isOfSameRun(*tables_.table(number).settings, *command.settings))
+        context_.report(Warning::ColumnOfOtherRun, position, {tables_.table(number).name});
     TableCommand hidden = tables_.table(number);
     TableFacts facts = tables_.facts(number);
     hidden.dimensions.insert(hidden.dimensions.begin(),
@@ -172,11 +195,11 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
     hidden.sort.reset();
     hidden.outfile.reset();
     hidden.jsonFiles.clear();
-    if (command.sensitive.value_or(0) > hidden.sensitive.value_or(0))
-        hidden.sensitive = command.sensitive;
     if (!takeWeights(command, facts, hidden) || !tables_.hasRoom(1, position))
         return false;
     distinguish(number, hidden.name);
+    raise(hidden.sensitive, command.sensitive);
+    hidden.sensitive = protectionOf(hidden);
     tables_.useAsColumn(number);
     const std::size_t at = tables_.size();
     tables_.add(std::move(hidden), std::move(facts));
@@ -212,12 +235,18 @@ bool ListChecker::takeWeights(const TableCommand& list, const TableFacts& facts,
 void ListChecker::tellUseless(const ast::Table& table, const TableCommand& command) {
     const bool hasTables = std::any_of(command.columns.begin(), command.columns.end(),
                                        [](const ListColumn& c) { return c.table.has_value(); });
-    const std::string reason = "it lists variables, and no table";
-    if (table.weight != nullptr && !hasTables)
-        context_.report(Warning::NoEffect, table.weightPosition,
-                        {"WEIGHT", table.kindWord, reason});
-    if (table.tally != nullptr && !hasTables)
-        context_.report(Warning::NoEffect, table.tallyPosition, {"TALLY", table.kindWord, reason});
+    if (hasTables)
+        return;
+    const auto tell = [&](const char* clause, Position position) {
+        context_.report(Warning::NoEffect, position,
+                        {clause, table.kindWord, "it lists variables, and no table"});
+    };
+    if (table.weight != nullptr)
+        tell("WEIGHT", table.weightPosition);
+    if (table.tally != nullptr)
+        tell("TALLY", table.tallyPosition);
+    if (table.sensitive.value_or(0) > 1)
+        tell("SENSITIVE", table.sensitivePosition);
 }
 
 } // namespace kelx::language

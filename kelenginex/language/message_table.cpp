@@ -183,6 +183,9 @@ const std::vector<MessageEntry> table = {
           "SORT names a variable of the table, the table itself, or one of its columns."),
     error(Error::TargetFile, "KEL_E_TARGET_FILE", "%1 cannot be written to: %2.",
           "A program writes over no file that the database or the run itself lives on."),
+    error(Error::OutfileWorkbench, "KEL_E_OUTFILE_WORKBENCH",
+          "%1 files are written by the workbench only; %2 can be had as CSV or JSON here.",
+          "Told by kelx run before it runs; in the workbench it is no fault."),
     warning(Warning::More, "KEL_W_MORE", "and %1 more",
             "Stands after the last warning shown and counts those that are left out."),
     warning(Warning::FilterBelow, "KEL_W_FILTER_BELOW",
@@ -226,6 +229,9 @@ const std::vector<MessageEntry> table = {
     warning(Warning::SavedAsNumbers, "KEL_W_SAVED_AS_NUMBERS",
             "%1 is saved as the numbers 1 and 0, and %2 where it is not applicable.",
             "A file of truth values has no room for what is not applicable."),
+    warning(Warning::ColumnOfOtherRun, "KEL_W_COLUMN_OF_OTHER_RUN",
+            "%1 was made under another selection or universal filter than this list.",
+            "Its columns count the records of its own run, and show 0 for areas outside of it."),
 };
 
 std::string fill(const std::string& pattern, std::initializer_list<std::string> values) {

@@ -77,6 +77,7 @@ enum class Error : int {
     TablistTable,
     SortColumn,
     TargetFile,
+    OutfileWorkbench,
 };
 
 /// Codes of warnings; the same rule.
@@ -97,6 +98,7 @@ enum class Warning : int {
     OutfileType,
     OutfileFormat,
     SavedAsNumbers,
+    ColumnOfOtherRun,
 };
 
 /// A line of the table.

@@ -47,7 +47,7 @@ void takeOutfile(const ast::OutFile& out, CheckerContext& context, TableCommand&
     if (type == "json")
         command.jsonFiles.push_back(path);
     else
-        command.outfile = OutputFile{path, format, out.overwrite};
+        command.outfile = OutputFile{path, format, out.overwrite, out.position};
 }
 
 std::optional<std::string> styleOf(const std::optional<std::string>& own,

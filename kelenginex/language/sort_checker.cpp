@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/sort_checker.h"
 
+#include "language/figure_names.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -49,6 +50,32 @@ std::vector<const Variable*> variablesOf(const TableCommand& command, const Tabl
     return result;
 }
 
+/// Names and labels of the columns of a table that is no list.
+std::vector<std::string> fieldsOf(const TableCommand& command,
+                                  const std::vector<const Variable*>& variables) {
+    std::vector<std::string> result = figureNames(command);
+    result.push_back(command.name);
+    if (command.unit != nullptr) {
+        result.push_back(command.unit->name);
+        result.push_back(command.unit->label);
+    }
+    if (command.measure != nullptr)
+        result.push_back(command.measure->text);
+    for (const Variable* variable : variables) {
+        const Entity& entity = *variable->entity;
+        for (const std::string& name : {variable->name, variable->alias}) {
+            for (const std::string& owner : {entity.name, entity.alias})
+                result.push_back(owner + "." + name);
+            result.push_back(name);
+        }
+        const std::string& label = variable->label.empty() ? variable->name : variable->label;
+        result.insert(result.end(),
+                      {variable->fullName() + " label", variable->fullName() + " kind", label,
+                       label + " (label)", label + " (kind)"});
+    }
+    return result;
+}
+
 } // namespace
 
 bool SortChecker::isVariableOf(const ast::Name& name, const TableCommand& command) const {
@@ -72,19 +99,29 @@ bool SortChecker::isTableOf(const std::string& name, const TableCommand& command
     return column || std::any_of(command.operands.begin(), command.operands.end(), isNamed);
 }
 
+/// By the name or label of a field, as a text or a bare word gives it.
+bool SortChecker::mayBeField(const std::string& name, const TableCommand& command) const {
+    if (name.empty() || isList(command) || command.kind == TableKind::Tablist ||
+        command.settings->areaBreak != nullptr)
+        return true;
+    const std::vector<std::string> fields = fieldsOf(command, variablesOf(command, tables_));
+    return std::any_of(fields.begin(), fields.end(),
+                       [&](const std::string& field) { return isSame(name, field); });
+}
+
 SortChecker::Found SortChecker::find(const ast::Sort& sort, const TableCommand& command) const {
     if (!sort.name)
-        return Found::Field;
+        return mayBeField(sort.column, command) ? Found::Field : Found::None;
     if (isVariableOf(*sort.name, command))
         return Found::Variable;
     if (sort.name->entity.empty() && isTableOf(sort.name->name, command))
         return Found::Table;
     if (!sort.name->entity.empty())
         return Found::None;
-    if (isSame(sort.name->name, command.name) || !isList(command) ||
-        isSame(sort.name->name, command.countEntity->name))
-        return Found::Field;
-    return Found::None;
+    const bool isField = isList(command) ? isSame(sort.name->name, command.name) ||
+                                               isSame(sort.name->name, command.countEntity->name)
+                                         : mayBeField(sort.name->name, command);
+    return isField ? Found::Field : Found::None;
 }
 
 bool SortChecker::take(const ast::Sort& sort, const TableFacts& facts, TableCommand& command) {
@@ -97,7 +134,8 @@ bool SortChecker::take(const ast::Sort& sort, const TableFacts& facts, TableComm
     const Found found = find(sort, command);
     if (found == Found::None)
         return false;
-    SortClause clause{sort.column, std::nullopt, sort.descending, std::nullopt, sort.position};
+    SortClause clause{sort.column, std::nullopt, sort.descending, std::nullopt,
+                      sort.columnPosition};
     const std::size_t limitAt = found == Found::Table ? 1 : 0;
     for (std::size_t i = 0; i < sort.numbers.size() && i <= limitAt; ++i) {
         if (sort.numbers[i] > 0)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/table_operation_checker.h"
 
+#include "language/protection.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -126,9 +127,7 @@ void TableOperationChecker::take(TableCommand& command, TableFacts& facts) {
     facts.areaBreak = first.areaBreak;
     for (const std::size_t number : command.operands) {
         tables_.useAsOperand(number);
-        const std::optional<int> sensitive = tables_.table(number).sensitive;
-        if (sensitive.value_or(0) > command.sensitive.value_or(0))
-            command.sensitive = sensitive;
+        raise(command.sensitive, tables_.table(number).sensitive);
     }
 }
 

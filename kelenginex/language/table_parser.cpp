@@ -300,6 +300,7 @@ bool TableParser::parseSetting(ast::Table& table, const Token& clause) {
     case Keyword::Mapstyle:
         return clauses_.readText(table.mapStyle, styleFile);
     case Keyword::Sensitive:
+        table.sensitivePosition = clause.position;
         table.sensitive = clauses_.readCount("SENSITIVE", 0, mostRecords);
         return table.sensitive.has_value();
     default:

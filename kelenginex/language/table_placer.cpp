@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/table_placer.h"
 
+#include "language/protection.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -26,29 +27,6 @@ bool isList(const TableCommand& command) {
     return command.kind == TableKind::AreaList || command.kind == TableKind::View;
 }
 
-void raise(std::optional<int>& least, const std::optional<int>& other) {
-    if (other && *other > least.value_or(0))
-        least = other;
-}
-
-void raise(std::optional<int>& least, const Expression& expression) {
-    if (expression.variable != nullptr)
-        raise(least, expression.variable->sensitive);
-    for (const auto& argument : expression.arguments)
-        raise(least, *argument);
-}
-
-/// A list shows no figures of its own.
-void protect(TableCommand& command) {
-    if (isList(command))
-        return;
-    raise(command.sensitive, command.unit->sensitive);
-    for (const ExpressionPtr& dimension : command.dimensions)
-        raise(command.sensitive, *dimension);
-    if (command.measure != nullptr)
-        raise(command.sensitive, *command.measure);
-}
-
 } // namespace
 
 bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) {
@@ -66,7 +44,8 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
         context_.report(Error::NothingCounted, command.position, {command.name});
         return false;
     }
-    protect(command);
+    if (!isList(command))
+        command.sensitive = protectionOf(command);
     const RunSettings& run = *settings.settings;
     if (!checkFilter(command, command.filter, "filter") ||
         !checkFilter(command, run.filter, "universal filter"))

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/files.h"
 
+#include "language/message_table.h"
 #include "storage/atomic_file.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace kelx::output {
 namespace {
@@ -53,21 +53,20 @@ std::vector<TableFile> jsonFiles(const std::vector<Table>& tables,
     return files;
 }
 
-void requireCsv(const language::BoundProgram& program) {
+void requireCsv(const language::BoundProgram& program, language::Messages& messages) {
     using Format = language::OutputFile::Format;
     for (const language::TableCommand& command : program.tables) {
         if (!command.isOutput || !command.outfile || command.outfile->format == Format::Csv)
             continue;
         const char* name = command.outfile->format == Format::Xlsx ? "XLSX" : "PDF";
-        throw std::runtime_error("line " + std::to_string(command.position.line) + ": " + name +
-                                 " files are written by the workbench only; " +
-                                 command.outfile->path + " can be had as CSV or JSON here");
+        messages.add(language::makeMessage(language::Error::OutfileWorkbench,
+                                           command.outfile->position,
+                                           {name, command.outfile->path}));
     }
 }
 
 std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
                                 const language::BoundProgram& program) {
-    requireCsv(program);
     std::vector<TableFile> files;
     for (const Table& table : tables) {
         if (const auto& outfile = program.tables.at(table.command).outfile)

@@ -2,6 +2,7 @@
 // Files that a program asks its tables to be written to.
 #pragma once
 
+#include "language/messages.h"
 #include "output/table.h"
 #include "storage/pulse.h"
 #include "storage/staged_files.h"
@@ -22,12 +23,11 @@ struct TableFile {
 /// Those of SAVE and OUTFILE JSON, which the engine itself writes.
 std::vector<TableFile> jsonFiles(const std::vector<Table>& tables,
                                  const language::BoundProgram& program);
-/// Those of OUTFILE in CSV. Throws std::runtime_error where a table asks for a format that only the
-/// workbench writes.
+/// Those of OUTFILE, as CSV.
 std::vector<TableFile> csvFiles(const std::vector<Table>& tables,
                                 const language::BoundProgram& program);
-/// The same, before there are tables.
-void requireCsv(const language::BoundProgram& program);
+/// An error for each table that asks for a format that only the workbench writes.
+void requireCsv(const language::BoundProgram& program, language::Messages& messages);
 
 /// Stages each file. One table in JSON is an object, several are an array; several in CSV stand
 /// each after a line with its name. Throws storage::FileError, and what the pulse throws.

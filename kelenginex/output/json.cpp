@@ -127,7 +127,6 @@ void writeJson(const Table& table, const TextSink& sink) {
     writeVariables(table, object.member("variables"));
     writeFields(table.tripleForm(), object.member("fields"));
     writeRows(table.tripleForm(), object.member("rows"));
-    object.member("seconds") << json(table.seconds);
     object.end();
     out.finish();
 }

@@ -3,6 +3,8 @@
 #include "output/layout.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace kelx::output {
 namespace {
@@ -17,6 +19,32 @@ struct Group {
     TableVariable variable;
     std::string table; ///< name of a column that is a table, else empty
     std::string heading;
+    std::string conditions;                ///< that the heading tells
+    const TableCommand* command = nullptr; ///< of a column that is a table
+};
+
+std::string textOf(const language::ExpressionPtr& expression) {
+    return expression != nullptr ? expression->text : std::string();
+}
+
+/// What a table's figures are counted by.
+struct Conditions {
+    std::string filter, weight, tally;
+
+    explicit Conditions(const TableCommand& command)
+        : filter(textOf(command.filter)), weight(textOf(command.weight)),
+          tally(textOf(command.tally)) {}
+    bool operator==(const Conditions& other) const = default;
+
+    /// Behind a heading, where neighbours have others.
+    std::string inWords() const {
+        std::string words;
+        for (const auto& [what, text] :
+             {std::pair(", filter ", &filter), std::pair(", weight ", &weight),
+              std::pair(", tally ", &tally)})
+            words += text->empty() ? "" : what + *text;
+        return words;
+    }
 };
 
 std::string rawHeading(const Group& group) {
@@ -24,7 +52,8 @@ std::string rawHeading(const Group& group) {
     const std::string label = variable != nullptr ? variable->label : group.variable.label;
     if (group.table.empty())
         return label;
-    return group.variable.label.empty() ? group.table : group.table + " " + group.variable.label;
+    return (group.variable.label.empty() ? group.table : group.table + " " + group.variable.label) +
+           group.conditions;
 }
 
 /// Neighbours have different headings, or they would be read as one group.
@@ -88,7 +117,9 @@ private:
         groups_.push_back(
             {{nullptr, &entity, coded ? entity.name + ".CMPCODE" : entity.name, headingOf(entity)},
              "",
-             ""});
+             "",
+             "",
+             nullptr});
         add({groups_.back().variable.name, headingOf(entity), ""},
             columnOf(std::move(list_.codes)));
         laid_.guide.names.emplace_back(entity.name, 0);
@@ -98,7 +129,7 @@ private:
 
     void addLabels(const catalog::Variable& label) {
         const TableVariable variable = plain(label);
-        groups_.push_back({variable, "", ""});
+        groups_.push_back({variable, "", "", "", nullptr});
         addNames(variable, nextColumn(), laid_.guide);
         add({variable.name, variable.label, ""}, columnOf(std::move(list_.labels)));
     }
@@ -112,7 +143,7 @@ private:
         const TableVariable variable = variableOf(expression);
         const int least =
             variable.variable != nullptr ? variable.variable->sensitive.value_or(0) : 0;
-        groups_.push_back({variable, "", ""});
+        groups_.push_back({variable, "", "", "", nullptr});
         addNames(variable, nextColumn(), laid_.guide);
         Column column = columnOf(std::move(values));
         // Each value is of one record.
@@ -157,7 +188,7 @@ private:
     }
 
     void addTable(const RowTable& rows) {
-        groups_.push_back({variableOfTable(rows), rows.command->name, ""});
+        groups_.push_back({variableOfTable(rows), rows.command->name, "", "", rows.command});
         const bool crossed = rows.dimensions.size() > 1;
         const TableFigures figures = figuresOf(rows, crossed);
         SortGuide::Part part{rows.command->name, nextColumn(), 0, 0};
@@ -220,6 +251,7 @@ private:
 
     void finish() {
         Table& table = laid_.table;
+        tellConditions();
         setHeadings(groups_);
         for (std::size_t i = 0; i < table.fields.size(); ++i)
             table.fields[i].group = groups_[groupOfField_[i]].heading;
@@ -233,6 +265,30 @@ private:
             command_.kind == TableKind::AreaList && command_.countEntity->labelVar != nullptr;
         const std::size_t wanted = labelled ? 2 : 1;
         laid_.guide.column = std::min(wanted, table.fields.size() - 1);
+    }
+
+    /// Of the tables all together, where they agree; the list's own filter tells of its rows.
+    void tellConditions() {
+        const auto isTable = [](const Group& group) { return group.command != nullptr; };
+        const auto first = std::find_if(groups_.begin(), groups_.end(), isTable);
+        if (first == groups_.end())
+            return;
+        const Conditions common(*first->command);
+        const bool agree = std::all_of(groups_.begin(), groups_.end(), [&](const Group& group) {
+            return !isTable(group) || Conditions(*group.command) == common;
+        });
+        Table& table = laid_.table;
+        if (!agree || (table.filter && *table.filter != common.filter)) {
+            for (Group& group : groups_)
+                group.conditions = isTable(group) ? Conditions(*group.command).inWords() : "";
+            return;
+        }
+        table.filter = optional(common.filter);
+        table.weight = optional(common.weight);
+        table.tally = optional(common.tally);
+    }
+    static std::optional<std::string> optional(const std::string& text) {
+        return text.empty() ? std::nullopt : std::optional(text);
     }
 
     const TableCommand& command_;

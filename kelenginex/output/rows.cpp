@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/rows.h"
 
+#include "language/figure_names.h"
 #include "output/row_maker.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@ namespace kelx::output {
 
 using execution::Category;
 using execution::CategoryKind;
-using language::TableKind;
-
 namespace {
 
 std::vector<TableVariable> variablesOf(const language::TableCommand& command,
@@ -52,7 +51,7 @@ RowTable makeRows(execution::TableResult result, execution::Progress& progress) 
     table.command = result.command;
     table.none = noneOf(result);
     RowMaker(result, progress).fill(table);
-    table.figureNames = figureNames(*result.command, table.figures.size());
+    table.figureNames = language::figureNames(*result.command);
     table.variables = variablesOf(*result.command, result.dimensions);
     table.dimensions = std::move(result.dimensions);
     table.seconds = result.seconds + progress.seconds() - start;
@@ -77,42 +76,6 @@ std::string placeName(const Category* category) {
 
 std::uint32_t placesOf(const RowTable& table, std::size_t dimension) {
     return static_cast<std::uint32_t>(table.dimensions[dimension].categories.size()) + 1;
-}
-
-std::vector<std::string> figureNames(const language::TableCommand& command, std::size_t figures) {
-    switch (command.kind) {
-    case TableKind::Average:
-        return {"Average"};
-    case TableKind::Sum:
-        return {"Sum"};
-    case TableKind::Minimum:
-        return {"Minimum"};
-    case TableKind::Maximum:
-        return {"Maximum"};
-    case TableKind::Median:
-        return {"Median"};
-    case TableKind::Gini:
-        return {"Gini"};
-    case TableKind::Stats:
-        return {"Cases",
-                "Sum",
-                "Mean",
-                "Median",
-                "Minimum",
-                "Maximum",
-                "Standard deviation",
-                "Variance",
-                "Coefficient of variation",
-                "Standard error"};
-    case TableKind::Quantile: {
-        std::vector<std::string> names;
-        for (std::size_t i = 1; i <= figures; ++i)
-            names.push_back("Quantile " + std::to_string(i));
-        return names;
-    }
-    default:
-        return {"Count"};
-    }
 }
 
 } // namespace kelx::output

@@ -50,7 +50,5 @@ const execution::Category* categoryAt(const RowTable& table, std::size_t dimensi
 std::string placeName(const execution::Category* category);
 /// Places of a dimension, occurring or not.
 std::uint32_t placesOf(const RowTable& table, std::size_t dimension);
-/// How figures of a kind of table are called; one for each.
-std::vector<std::string> figureNames(const language::TableCommand& command, std::size_t figures);
 
 } // namespace kelx::output

@@ -21,9 +21,14 @@ TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dict
         if (end)
             end(tables, files, progress);
     };
-    if (!execution::run(program, options, messages, take, finish))
-        return {{}, true};
-    return {std::move(tables), false};
+    try {
+        if (!execution::run(program, options, messages, take, finish))
+            return {{}, true};
+        return {std::move(tables), false};
+    } catch (const SortFault& fault) {
+        messages.add(fault.message());
+        return {};
+    }
 }
 
 } // namespace kelx::output

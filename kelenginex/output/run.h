@@ -22,7 +22,8 @@ using TablesEnd = std::function<void(const std::vector<Table>& tables, storage::
 
 /// Runs a program and lays out each table as soon as its figures are there. They are released then,
 /// but for those that other tables are made of. Throws what execution::run() throws, and
-/// std::runtime_error where a table cannot be laid out as its command asks.
+/// std::runtime_error where a table cannot be laid out. Where SORT names no column of a table, that
+/// goes to messages as an error, and there are no tables.
 TablesOfRun runTables(const language::BoundProgram& program, const catalog::Dictionary& dictionary,
                       const execution::RunOptions& options, language::Messages& messages,
                       const TablesEnd& end = {});

@@ -2,12 +2,12 @@
 #include "output/sorting.h"
 
 #include "catalog/names.h"
+#include "language/message_table.h"
 
 #include <algorithm>
 #include <map>
 #include <numeric>
 #include <optional>
-#include <stdexcept>
 #include <utility>
 
 namespace kelx::output {
@@ -24,6 +24,12 @@ std::optional<std::size_t> findField(const Table& table, const std::string& name
     return std::nullopt;
 }
 
+[[noreturn]] void throwNoColumn(const Table& table, const language::SortClause& clause,
+                                const std::string& column, const std::string& hint) {
+    throw SortFault(language::makeMessage(language::Error::SortColumn, clause.position,
+                                          {table.name, column, hint}));
+}
+
 [[noreturn]] void throwNoColumn(const Table& table, const language::SortClause& clause) {
     constexpr std::size_t mostNamed = 20;
     std::string names;
@@ -31,9 +37,7 @@ std::optional<std::size_t> findField(const Table& table, const std::string& name
         names += (i > 0 ? ", " : "") + table.fields[i].name;
     if (table.fields.size() > mostNamed)
         names += " and " + std::to_string(table.fields.size() - mostNamed) + " more";
-    throw std::runtime_error("The table " + table.name + " has no column \"" + clause.column +
-                             "\" to be sorted by (line " + std::to_string(clause.position.line) +
-                             "). Its columns are " + names + ".");
+    throwNoColumn(table, clause, "\"" + clause.column + "\"", " Its columns are " + names + ".");
 }
 
 std::size_t columnOf(const SortGuide::Part& part, const Table& table,
@@ -42,10 +46,8 @@ std::size_t columnOf(const SortGuide::Part& part, const Table& table,
         return part.total;
     const auto element = static_cast<std::size_t>(std::max(*clause.element, 1));
     if (element > part.columns)
-        throw std::runtime_error(
-            "The table " + part.name + " has no column " + std::to_string(element) + " that " +
-            table.name + " could be sorted by (line " + std::to_string(clause.position.line) +
-            "), but " + std::to_string(part.columns) + ".");
+        throwNoColumn(table, clause, std::to_string(element) + " of " + part.name,
+                      " That table has " + std::to_string(part.columns) + ".");
     return part.first + element - 1;
 }
 
@@ -216,6 +218,9 @@ void sortRows(Laid& laid, const language::SortClause& asked, execution::Progress
     reordering.apply(laid.table);
     if (laid.table.inTriples)
         reordering.apply(*laid.table.inTriples);
+    laid.table.sort = clause;
+    if (clause.column.empty() || clause.element)
+        laid.table.sort->column = laid.table.fields[column].name;
 }
 
 } // namespace kelx::output

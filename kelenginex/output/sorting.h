@@ -3,10 +3,12 @@
 #pragma once
 
 #include "execution/progress.h"
+#include "language/messages.h"
 #include "output/table.h"
 
 #include <cstddef>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,8 +40,19 @@ struct Laid {
     SortGuide guide;
 };
 
+/// SORT names what is no column of the table.
+class SortFault : public std::runtime_error {
+public:
+    explicit SortFault(language::Message message)
+        : std::runtime_error(message.text), message_(std::move(message)) {}
+    const language::Message& message() const { return message_; }
+
+private:
+    language::Message message_;
+};
+
 /// Stable; numbers as numbers, texts by code point, blanks last. The limit is one of rows that are
-/// no markers. Throws std::runtime_error where there is no such column, and execution::Cancelled.
+/// no markers. Throws SortFault where there is no such column, and execution::Cancelled.
 void sortRows(Laid& laid, const language::SortClause& clause, execution::Progress& progress);
 
 } // namespace kelx::output

@@ -1,108 +1,123 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/suppression.h"
 
+#include "output/hidden_boxes.h"
+#include "output/hidden_cycles.h"
+#include "output/table_lines.h"
+
 #include <algorithm>
-#include <numeric>
 
 namespace kelx::output {
 namespace {
 
-/// The lines of all dimensions.
-class Lines {
-public:
-    Lines(RowTable& table, execution::Progress& progress)
-        : table_(table), progress_(progress), orders_(table.places.size()) {
-        for (std::size_t d = 0; d < orders_.size(); ++d)
-            order(d);
-    }
+constexpr std::size_t mostOfCycles = 2; ///< dimensions in which a figure lies on so many lines
 
-    /// Hides a second row where a line has only one; true where there was such a line.
-    bool protect() {
-        bool any = false;
-        for (std::size_t d = 0; d < orders_.size(); ++d)
-            any = protect(d) || any;
-        return any;
+/// What is known of the hidden rows of a line.
+struct HiddenOfLine {
+    std::size_t rows = 0;
+    std::uint64_t valid = 0;   ///< rows of valid categories
+    std::uint64_t records = 0; ///< of those
+    bool total = false;
+    std::uint32_t fewest = TableLines::none; ///< visible row of the fewest records
+};
+
+class Suppressor {
+public:
+    Suppressor(RowTable& table, std::uint64_t least, execution::Progress& progress)
+        : table_(table), least_(least), progress_(progress), lines_(table, progress) {}
+
+    void complete() {
+        if (lines_.dimensions() <= mostOfCycles)
+            completeWith(HiddenCycles(table_, lines_, progress_));
+        else
+            completeWith(HiddenBoxes(table_, lines_, progress_));
     }
 
 private:
-    using Order = std::vector<std::uint32_t>;
-
-    /// Rows that differ in dimension d alone come to stand side by side, in its order.
-    void order(std::size_t d) {
-        orders_[d].resize(table_.rows());
-        std::iota(orders_[d].begin(), orders_[d].end(), 0U);
-        if (d + 1 == orders_.size())
-            return; // as the rows are
-        std::sort(orders_[d].begin(), orders_[d].end(), [&](std::uint32_t a, std::uint32_t b) {
-            progress_.check();
-            for (std::size_t other = 0; other < orders_.size(); ++other) {
-                if (other != d && table_.place(other, a) != table_.place(other, b))
-                    return table_.place(other, a) < table_.place(other, b);
-            }
-            return table_.place(d, a) < table_.place(d, b);
-        });
+    template <class Shapes>
+    void completeWith(Shapes shapes) {
+        do {
+            while (completeLines())
+                progress_.checkNow();
+        } while (shapes.close());
     }
 
-    bool onOneLine(std::size_t d, std::uint32_t a, std::uint32_t b) const {
-        for (std::size_t other = 0; other < orders_.size(); ++other) {
-            if (other != d && table_.place(other, a) != table_.place(other, b))
-                return false;
-        }
-        return true;
-    }
-
-    bool protect(std::size_t d) {
-        const Order& order = orders_[d];
+    bool completeLines() {
         bool any = false;
-        for (std::size_t begin = 0; begin < order.size();) {
-            progress_.check();
-            std::size_t end = begin; // of the valid categories and their total
-            while (end < order.size() && table_.place(d, order[end]) <= table_.valid[d] &&
-                   onOneLine(d, order[begin], order[end]))
-                ++end;
-            any = protect(order, begin, end) || any;
-            begin = std::max(end, begin + 1); // MV and NA stand on no line
+        for (std::size_t d = 0; d < lines_.dimensions(); ++d) {
+            for (std::size_t number = 0; number < lines_.count(d); ++number)
+                any = completeLine(d, lines_.line(d, number)) || any;
         }
         return any;
     }
 
-    bool protect(const Order& order, std::size_t begin, std::size_t end) {
-        std::size_t hidden = 0;
-        const std::uint32_t* fewest = nullptr;
-        for (std::size_t i = begin; i < end; ++i) {
-            if (table_.hidden[order[i]] != 0)
-                ++hidden;
-            else if (fewest == nullptr || table_.records[order[i]] < table_.records[*fewest])
-                fewest = &order[i];
+    bool completeLine(std::size_t d, TableLines::Line line) {
+        bool any = false;
+        for (;;) {
+            const HiddenOfLine hidden = hiddenOf(d, line);
+            if (hidden.fewest == TableLines::none || isEnough(hidden))
+                return any;
+            table_.hidden[hidden.fewest] = 1;
+            any = true;
         }
-        if (hidden != 1 || fewest == nullptr)
+    }
+
+    /// Every category that stands in a table has a record at least, so the smallest sum that the
+    /// visible rows could leave would tell each of them.
+    bool isEnough(const HiddenOfLine& hidden) const {
+        if (hidden.rows == 0)
+            return true;
+        if (hidden.rows == 1 && lines_.dimensions() <= mostOfCycles)
             return false;
-        table_.hidden[*fewest] = 1;
-        return true;
+        return hidden.total || hidden.valid == 0 ||
+               hidden.records >= std::max(least_, hidden.valid + 1);
+    }
+
+    HiddenOfLine hiddenOf(std::size_t d, TableLines::Line line) {
+        HiddenOfLine result;
+        for (const std::uint32_t row : line) {
+            progress_.check();
+            if (!table_.isHidden(row)) {
+                if (result.fewest == TableLines::none ||
+                    table_.records[row] < table_.records[result.fewest])
+                    result.fewest = row;
+                continue;
+            }
+            ++result.rows;
+            result.total = result.total || lines_.isTotal(d, row);
+            if (!lines_.isTotal(d, row)) {
+                ++result.valid;
+                result.records += table_.records[row];
+            }
+        }
+        return result;
     }
 
     RowTable& table_;
+    std::uint64_t least_;
     execution::Progress& progress_;
-    std::vector<Order> orders_;
+    TableLines lines_;
 };
+
+void hideSmall(RowTable& table, std::uint64_t least) {
+    if (table.hidden.empty())
+        table.hidden.assign(table.rows(), 0);
+    for (std::size_t row = 0; row < table.rows(); ++row) {
+        if (table.records[row] > 0 && table.records[row] < least)
+            table.hidden[row] = 1;
+    }
+}
 
 } // namespace
 
 void suppress(RowTable& table, int least, execution::Progress& progress) {
-    if (table.hidden.empty())
-        table.hidden.assign(table.rows(), 0);
-    for (std::size_t row = 0; row < table.rows(); ++row) {
-        if (table.records[row] > 0 && least > 0 &&
-            table.records[row] < static_cast<std::uint64_t>(least))
-            table.hidden[row] = 1;
-    }
+    const auto wanted = static_cast<std::uint64_t>(std::max(least, 0));
+    hideSmall(table, wanted);
     if (table.suppressed() == 0) {
         table.hidden.clear();
         return;
     }
-    Lines lines(table, progress);
-    while (lines.protect())
-        progress.checkNow();
+    Suppressor(table, wanted, progress).complete();
     for (const auto& figures : table.figures) {
         for (std::size_t row = 0; row < figures->size(); ++row) {
             if (table.hidden[row] != 0)

@@ -6,9 +6,10 @@
 
 namespace kelx::output {
 
-/// Blanks the figures of rows with 1 to least - 1 records. Along each line of a dimension, which is
-/// its valid categories with their total, never a single row is hidden, as the others would tell
-/// it: the one of fewest records is hidden beside it. Throws execution::Cancelled.
+/// Blanks the figures of rows with 1 to least - 1 records, and others of few records so that no
+/// hidden figure follows from the sums of the visible ones. Along each line of a dimension, which
+/// is its valid categories with their total, what is hidden is together at least `least` records
+/// and more than one for each row. Throws execution::Cancelled.
 void suppress(RowTable& table, int least, execution::Progress& progress);
 
 } // namespace kelx::output

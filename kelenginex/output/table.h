@@ -85,6 +85,8 @@ struct Table : Form {
     std::string area;     ///< selection label, else "All Database"
     std::optional<std::string> title, filter, weight, tally, universalFilter;
     std::optional<int> decimals;
+    /// As it was done: the field that was sorted by where the program names none or one by number.
+    std::optional<language::SortClause> sort;
     std::int64_t suppressed = 0;
     const catalog::Entity* entity = nullptr; ///< listed, or of COUNT
     std::vector<TableVariable> variables;

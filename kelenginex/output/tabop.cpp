@@ -61,21 +61,6 @@ Figure negated(const Figure& figure) {
     return calculated(Operation::Subtract, Figure(std::int64_t{0}), figure);
 }
 
-Figure functionOf(const std::string& name, const Figure& argument) {
-    const auto value = real(argument);
-    if (!value)
-        return {};
-    if (name == "ABS")
-        return *value < 0 ? negated(argument) : argument;
-    if (name == "SQRT")
-        return finite(std::sqrt(*value));
-    if (name == "LN")
-        return finite(std::log(*value));
-    if (name == "LOG")
-        return finite(std::log10(*value));
-    throw std::runtime_error("The function " + name + " is not supported yet in TABOP.");
-}
-
 Figure figureOf(const language::Constant& constant) {
     if (const auto* integer = std::get_if<std::int64_t>(&constant))
         return *integer;
@@ -102,10 +87,8 @@ Figure evaluated(const Expression& expression, const FigureOfTable& figureOfTabl
         return calculated(expression.operation, argument(0), argument(1));
     case Operation::Negate:
         return negated(argument(0));
-    case Operation::Function:
-        return functionOf(expression.function, argument(0));
     default:
-        throw std::runtime_error("\"" + expression.text + "\" is not supported yet in TABOP.");
+        throw std::logic_error("\"" + expression.text + "\" in a TABOP");
     }
 }
 
@@ -120,7 +103,7 @@ public:
                 operands_.push_back(&tables(number));
         }
         if (operands_.empty())
-            throw std::runtime_error("The table " + command.name + " has no tables to work with.");
+            throw std::logic_error("the table " + command.name + " has no operands");
         checkShapes();
         next_.resize(operands_.size());
     }
@@ -160,6 +143,9 @@ private:
         }
         for (std::size_t f = 0; f < first.figures.size(); ++f)
             result_.figures.push_back(std::make_shared<Column::Figures>());
+        result_.none = evaluated(*command_.operation, [&](std::size_t table) {
+            return operands_[slots_.at(table)]->none;
+        });
     }
 
     bool isAtEnd(std::size_t operand) const { return next_[operand] == operands_[operand]->rows(); }
@@ -206,7 +192,7 @@ private:
             result_.figures[f]->push_back(
                 evaluated(*command_.operation, [&](std::size_t table) -> Figure {
                     const std::size_t i = slots_.at(table);
-                    return has[i] ? (*operands_[i]->figures[f])[next_[i]] : Figure();
+                    return has[i] ? (*operands_[i]->figures[f])[next_[i]] : operands_[i]->none;
                 }));
         for (std::size_t d = 0; d < place_.size(); ++d)
             result_.places[d]->push_back(place_[d]);

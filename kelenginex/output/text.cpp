@@ -58,6 +58,7 @@ struct Lines {
     std::size_t count = 0; ///< the first one is the heading
     std::function<Line(std::size_t)> at;
     std::size_t firstFigure = 1; ///< columns from here on are set to the right
+    Line groups;                 ///< of each column, above the headings; none where it is empty
 };
 
 std::vector<std::size_t> widthsOf(const Lines& lines) {
@@ -71,9 +72,47 @@ std::vector<std::size_t> widthsOf(const Lines& lines) {
     return widths;
 }
 
+/// Columns side by side that are of one group.
+struct Run {
+    std::size_t begin = 0, end = 0;
+};
+
+std::vector<Run> runsOf(const Line& groups) {
+    std::vector<Run> runs;
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        if (i == 0 || groups[i] != groups[i - 1])
+            runs.push_back({i, i});
+        runs.back().end = i + 1;
+    }
+    return runs;
+}
+
+std::size_t widthOf(const Run& run, const std::vector<std::size_t>& widths) {
+    std::size_t total = 2 * (run.end - run.begin - 1);
+    for (std::size_t i = run.begin; i < run.end; ++i)
+        total += widths[i];
+    return total;
+}
+
+/// Each group's name once, over all its columns, which become as wide as it is.
+void writeGroups(const Line& groups, std::vector<std::size_t>& widths, Buffered& out) {
+    std::string text;
+    for (const Run& run : runsOf(groups)) {
+        const std::string& name = groups[run.begin];
+        if (width(name) > widthOf(run, widths))
+            widths[run.end - 1] += width(name) - widthOf(run, widths);
+        text += (run.begin == 0 ? "" : "  ") + name +
+                std::string(widthOf(run, widths) - width(name), ' ');
+    }
+    text.erase(text.find_last_not_of(' ') + 1);
+    out << text << "\n";
+}
+
 /// Every column is as wide as its widest cell.
 void writeAligned(const Lines& lines, Buffered& out) {
-    const std::vector<std::size_t> widths = widthsOf(lines);
+    std::vector<std::size_t> widths = widthsOf(lines);
+    if (!lines.groups.empty())
+        writeGroups(lines.groups, widths, out);
     std::size_t total = widths.empty() ? 0 : 2 * (widths.size() - 1);
     for (const std::size_t w : widths)
         total += w;
@@ -146,12 +185,27 @@ std::size_t leftColumns(const Form& form) {
     return columns;
 }
 
+/// The groups of a list's columns that their headings do not tell; none where all do.
+Line groupsOf(const Table& table) {
+    constexpr int list = 1;
+    Line groups;
+    bool any = false;
+    for (std::size_t i = 0; table.type == list && i < table.fields.size(); ++i) {
+        const Field& field = table.fields[i];
+        const bool told = field.group == field.label || field.group == field.name;
+        groups.push_back(told ? "" : safe(field.group));
+        any = any || !told;
+    }
+    return any ? groups : Line();
+}
+
 void writeList(const Table& table, Buffered& out) {
     const Form& form = table.tripleForm();
     const auto at = [&](std::size_t i) {
         return i == 0 ? heading(form) : rowLine(table, form, static_cast<std::int64_t>(i) - 1);
     };
-    writeAligned({static_cast<std::size_t>(form.rows()) + 1, at, leftColumns(form)}, out);
+    writeAligned(
+        {static_cast<std::size_t>(form.rows()) + 1, at, leftColumns(form), groupsOf(table)}, out);
 }
 
 /// The categories of a dimension that occur, in the order of their places: codes, the total, MV,
@@ -187,7 +241,7 @@ void writeCross(const Table& table, const Axis& rows, const Axis& columns, Buffe
     for (std::int64_t row = 0; row < form.rows(); ++row)
         grid[rows.at(form, 0, row) + 1][columns.at(form, 1, row) + 1] =
             figure(table, form.at(row, 6));
-    writeAligned({grid.size(), [&](std::size_t i) { return grid[i]; }, 1}, out);
+    writeAligned({grid.size(), [&](std::size_t i) { return grid[i]; }, 1, {}}, out);
 }
 
 /// Two dimensions and one figure make a cross table, unless that would be mostly empty and larger

@@ -112,7 +112,7 @@ void addJson(const nlohmann::json& json, ActualTable& table) {
             for (const auto& variable : value)
                 names.push_back(variable["name"].get<std::string>());
             table.facts[key] = joinRow(names);
-        } else if (key != "fields" && key != "seconds" && key != "name") {
+        } else if (key != "fields" && key != "name") {
             table.facts[key == "rows" ? "json" : key] =
                 value.is_string() ? value.get<std::string>() : value.dump();
         }

@@ -300,8 +300,8 @@ TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {
         kelx("run @/sample/sample.kxdb -e 'COUNT PERSON FREQ PERSON.SEX OUTFILE PDF \"x.pdf\"'");
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.out, "");
-    EXPECT_EQ(refused.err, "kelx: error: line 1: PDF files are written by the workbench only; " +
-                               path("sample/x.pdf") + " can be had as CSV or JSON here\n");
+    EXPECT_EQ(refused.err, "-e:1:38: error: PDF files are written by the workbench only; " +
+                               path("sample/x.pdf") + " can be had as CSV or JSON here.\n");
 }
 
 TEST_F(KelxTest, ImportsAndConverts) {

@@ -98,11 +98,12 @@ int run(const RunRequest& request) {
     compileOptions.programFile = request.program;
     language::Messages messages;
     const auto program = language::compile(text, *dictionary, compileOptions, messages);
+    if (!messages.hasErrors())
+        output::requireCsv(program, messages);
     if (messages.hasErrors()) {
         printMessages(messages, name);
         return failure;
     }
-    output::requireCsv(program);
     const output::TablesOfRun made = makeTables(program, *dictionary, request, messages);
     printMessages(messages, name);
     if (messages.hasErrors())
@@ -144,8 +145,9 @@ void addRun(CLI::App& app, Action& action) {
     command->add_option("--out", printing.folder, "Write a file for each table into this folder")
         ->type_name("FOLDER")
         ->check(hasName);
-    command->add_flag("--time", printing.time,
-                      "Tell the seconds that each command took; for csv on standard error");
+    command->add_flag(
+        "--time", printing.time,
+        "Tell the seconds that each command took; for csv and json on standard error");
     command
         ->add_option("--threads", request->threads,
                      "Number of threads (default: one for each core)")

@@ -96,7 +96,7 @@ void printNames(const std::vector<output::Table>& tables, const TablePrinting& p
         std::cout << file.string() << '\n';
 }
 
-/// Rows of CSV have no place for them.
+/// CSV has no place for them, and JSON is the same whenever it is made.
 void tellTimes(const std::vector<output::Table>& tables) {
     for (const output::Table& table : tables)
         std::cerr << table.name << ": " << secondsText(table.seconds) << " s\n";
@@ -129,7 +129,7 @@ void stageFiles(const std::vector<output::Table>& tables, const TablePrinting& p
 
 void print(const std::vector<output::Table>& tables, const TablePrinting& printing) {
     printing.folder.empty() ? printAll(tables, printing) : printNames(tables, printing);
-    if (printing.time && printing.format == "csv")
+    if (printing.time && printing.format != "text")
         tellTimes(tables);
 }
 

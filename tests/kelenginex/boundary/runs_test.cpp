@@ -145,6 +145,31 @@ TEST_F(RunsTest, OptionsSayWhatTheProgramAskedFor) {
     EXPECT_FALSE(std::filesystem::exists(folder / "c.csv")); // others write these
 }
 
+TEST_F(RunsTest, TheOptionsNameTheColumnThatWasSortedBy) {
+    execute("FREQ PERSON.SEX SORT DESC\nTABLE A FREQ PERSON.SEX\n"
+            "AREALIST PROVINCE, A SORT A 2\nAREALIST PROVINCE, A SORT DESC A 70");
+    const auto outputs = session->outputs();
+    ASSERT_EQ(outputs.size(), 3u);
+    EXPECT_EQ(outputs[0]->options().sort->variable, "PERSON");
+    EXPECT_EQ(outputs[1]->options().sort->variable, "2. Female é");
+    EXPECT_EQ(outputs[1]->options().sort->limit, std::nullopt);
+    EXPECT_EQ(outputs[2]->options().sort->variable, "A");
+    EXPECT_EQ(outputs[2]->options().sort->limit, 70);
+}
+
+TEST_F(RunsTest, AColumnThatIsNotThereIsToldWhereItStands) {
+    EXPECT_EQ(test::thrownBy([&] {
+                  execute("TABLE A FREQ PERSON.SEX\nAREALIST PROVINCE, A\n"
+                          "    SORT DESC \"A Child\"");
+              }),
+              "1 error found");
+    ASSERT_EQ(listener.errors.size(), 1u);
+    EXPECT_EQ(listener.errors[0].name, "KEL_E_SORT_COLUMN");
+    EXPECT_EQ(listener.errors[0].line, 4); // behind the line of the settings
+    EXPECT_EQ(listener.errors[0].column, 15);
+    EXPECT_TRUE(session->outputs().empty());
+}
+
 TEST_F(RunsTest, AreasThatBreakTheRunAreTheirCompoundCode) {
     execute("RUNDEF r NOWEIGHT AREABREAK PROVINCE\nAVERAGE PERSON.AGE BY PERSON.SEX");
     TKelOutput& output = *session->outputs().at(0);

@@ -80,7 +80,9 @@ TEST_F(SessionTest, DatasetsEndAtTheirBounds) {
     std::pair<double, double> range(5, 5);
     dataset.range(range, 3);
     EXPECT_EQ(range, std::pair(1.0, 4.0));
-    for (const int column : {-1, 1, 4, 1000}) {
+    dataset.range(range, 0); // the codes, but not the marker's 0
+    EXPECT_EQ(range, std::pair(1.0, 2.0));
+    for (const int column : {-1, 1, 2, 4, 1000}) {
         range = {5, 5};
         dataset.range(range, column);
         EXPECT_EQ(range, std::pair(0.0, 0.0)) << column;

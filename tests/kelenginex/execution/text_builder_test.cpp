@@ -2,7 +2,7 @@
 // Texts of many blocks as one column, against the plain way.
 #include "execution/text_builder.h"
 
-#include "execution/share_out.h"
+#include "execution/crew.h"
 #include "storage/coding.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,8 @@ std::shared_ptr<const storage::Column> built(const Texts& texts, unsigned thread
     Progress progress({});
     while (const std::size_t parts = builder->nextStep())
         shareOut(
-            parts, threads, [&](std::size_t part) { builder->join(part); }, progress);
+            parts, threads, StageShare{},
+            [&](std::size_t part, const GoOn&) { builder->join(part); }, progress);
     return builder->take(0);
 }
 

@@ -194,6 +194,26 @@ TEST(DefinedNames, OfFaultyDefinitionsAreNoMoreFaults) {
                                         "KEL_E_UNEXPECTED 3:36\n");
 }
 
+TEST(DefinedVariables, AreProtectedAsWhatTheyAreMadeOf) {
+    Census census;
+    census.variable("PERSON", "SEX2").sensitive = 5;
+    census.variable("PERSON", "AGE").sensitive = 3;
+    census.variable("HOUSEHOLD", "ROOMS").sensitive = 2;
+    const BoundProgram program = census.compile(
+        "DEFINE PERSON.A AS AGE + 0\nDEFINE PERSON.B AS RECODE SEX2 (1 : 1 = 1)\n"
+        "DEFINE PERSON.C AS SWITCH CASE B = 1 ASSIGN ROOMS ELSE 0\n"
+        "DEFINE HOUSEHOLD.D AS COUNT PERSON FILTER A > 2\n"
+        "DEFINE HOUSEHOLD.E AS SUM PERSON.AGE WEIGHT PERSON.SEX2 SENSITIVE 4\n"
+        "DEFINE PERSON.F AS A * 2 SENSITIVE 0\nDEFINE PERSON.G AS F = 1\n"
+        "DEFINE PERSON.H AS 1 FILTER AGE = 4 LIKE ROOMS\n"
+        "DEFINE HOUSEHOLD.I AS FRACTION NUM PERSON.AGE (1 : 1) DENOM PERSON.SEX2 (1 : 2)\n");
+    std::string result;
+    for (const Definition& definition : program.definitions)
+        result += definition.variable->name +
+                  std::to_string(definition.variable->sensitive.value_or(0)) + " ";
+    EXPECT_EQ(result, "A3 B5 C5 D3 E4 F0 G0 H3 I5 ") << told(census.messages);
+}
+
 TEST(DefinedVariables, HaveWhatTheClausesTell) {
     Census census;
     catalog::Variable& model = census.variable("PERSON", "SEX2");

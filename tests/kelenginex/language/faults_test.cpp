@@ -405,7 +405,8 @@ TEST(MessageTable, IsTestedAsAWhole) {
         "KEL_E_MORE", "KEL_W_MORE", "KEL_E_NOT_SUPPORTED", "KEL_E_DATA_FILE_MISSING",
         "KEL_E_TOO_DEEP", "KEL_E_PROGRAM_TOO_LARGE", "KEL_E_TOO_MANY_TABLES",
         "KEL_E_DATA_FILE_DAMAGED", "KEL_E_SELECTION_FILE", "KEL_W_SELECTION_BELOW",
-        "KEL_W_UNKNOWN_AREA", // told by the plan
+        "KEL_W_UNKNOWN_AREA",      // told by the plan
+        "KEL_E_OUTFILE_WORKBENCH", // told by kelx run
         "KEL_E_SAVE_EXISTS", "KEL_E_SAVE_TWICE", "KEL_E_TARGET_FILE",
         "KEL_W_SAVED_AS_NUMBERS", // told by the run
         "KEL_E_WEIGHT_IS_TEXT", // tested where weights are

@@ -81,7 +81,7 @@ TEST(ListColumns, HaveTheSettingsOfTheirTables) {
         "RUNDEF r FILTER AGE > 5\nTABLE a AVERAGE AGE WEIGHT WEIGHT2 FILTER SEX2 = 1 SAVE \"a\"\n"
         "RUNDEF s NOWEIGHT\nTABLE b FREQ GRP SORT GRP OUTFILE \"b.csv\"\n"
         "AREALIST PROVINCE, a, b WEIGHT ROOMS SORT CODE\n");
-    EXPECT_EQ(told(census.messages), "");
+    EXPECT_EQ(located(census.messages), "KEL_W_COLUMN_OF_OTHER_RUN 5:20\n");
     EXPECT_EQ(summary(program),
               "a PERSON: AVERAGE PERSON.AGE weight PERSON.WEIGHT2 filter (PERSON.SEX2 = 1) all "
               "(PERSON.AGE > 5)\n"

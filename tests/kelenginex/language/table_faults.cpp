@@ -93,6 +93,16 @@ const std::vector<Fault>& tableFaults() {
          "mean NAME?\nKEL_E_SORT_COLUMN 3:23 VIEW_1 has no column \"SEX2\" to be sorted "
          "by.\nKEL_E_SORT_COLUMN 4:21 FREQ_3 has no column \"PERSON.AGE\" to be sorted by. Did you "
          "mean PERSON.GRP?\n"},
+        {"FREQ SEX2 SORT NOWHERE\nMEDIAN AGE BY SEX2 SORT \"Sum\"\nSUM AGE BY SEX2 SORT \"sum\"",
+         "KEL_E_SORT_COLUMN 1:16 FREQ_1 has no column \"NOWHERE\" to be sorted "
+         "by.\nKEL_E_SORT_COLUMN 2:25 MEDIAN_1 has no column \"Sum\" to be sorted by.\n"},
+        {"TABLE a FREQ SEX2\nRUNDEF FILTER AGE > 3\nTABLE b FREQ SEX2\nAREALIST PROVINCE, a, b\n"
+         "RUNDEF FILTER AGE > 3\nAREALIST PROVINCE, b\nVIEW PERSON, AGE SENSITIVE 3",
+         "KEL_W_FILTER_BELOW 2:15 The filter is about PERSON: each PROVINCE that has at least one "
+         "such PERSON is kept.\nKEL_W_COLUMN_OF_OTHER_RUN 4:20 a was made under another selection "
+         "or universal filter than this list.\nKEL_W_FILTER_BELOW 5:15 The filter is about PERSON: "
+         "each PROVINCE that has at least one such PERSON is kept.\nKEL_W_NO_EFFECT 7:18 SENSITIVE "
+         "has no effect on VIEW: it lists variables, and no table.\n"},
         {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\nAREALIST "
          "PROVINCE, NAME WEIGHT 3 TALLY AGE\nFREQ SEX2 BY GRP SORT DESC SEX2",
          "KEL_W_NO_EFFECT 2:9 FILTER has no effect on TABOP: the tables that it is made of have "

@@ -157,14 +157,35 @@ TEST(Tables, ProtectTheFewAsTheMostCarefulOfTheirParts) {
         summary(census.compile(
             "FREQ SEX2 BY AGE\nSUM AGE * 2 BY GRP\nFREQ SEX2 SENSITIVE 9\nFREQ AGE SENSITIVE 2\n"
             "COUNT HOUSEHOLD\nTABLE a FREQ GRP\nTABLE b SUM AGE BY GRP\nTABOP a / b\n"
-            "FREQ GRP FILTER SEX2 = 1\nVIEW PERSON, AGE")),
+            "VIEW PERSON, AGE")),
         "FREQ_1 PERSON: PERSON.SEX2 BY PERSON.AGE sensitive 5\n"
         "SUM_1 PERSON: SUM (PERSON.AGE * 2) BY PERSON.GRP sensitive 3\n"
         "FREQ_2 PERSON: PERSON.SEX2 sensitive 9\nFREQ_3 PERSON: PERSON.AGE sensitive 3\n"
         "COUNT_1 HOUSEHOLD: sensitive 4\na PERSON: PERSON.GRP silent\n"
         "b PERSON: SUM PERSON.AGE BY PERSON.GRP sensitive 3 silent\n"
         "TABOP_1 -: TABOP (#5 / #6) of #5 #6 sensitive 3\n"
-        "FREQ_4 PERSON: PERSON.GRP filter (PERSON.SEX2 = 1)\nVIEW_1 PERSON: VIEW PERSON.AGE\n");
+        "VIEW_1 PERSON: VIEW PERSON.AGE\n");
+}
+
+TEST(Tables, ProtectWhatTheirConditionsAndWeightsTell) {
+    Census census;
+    census.options.autoWeight = false;
+    census.variable("PERSON", "SEX2").sensitive = 5;
+    census.variable("PERSON", "AGE").sensitive = 3;
+    EXPECT_EQ(summary(census.compile("FREQ GRP FILTER SEX2 = 1\nFREQ GRP WEIGHT AGE\n"
+                                     "TABLE t FREQ GRP TALLY SEX2 WEIGHT AGE\n"
+                                     "AREALIST HOUSEHOLD, t\n"
+                                     "RUNDEF FILTER NOT AGE > 3\nFREQ GRP SENSITIVE 2\n"
+                                     "RUNDEF SELECTION SEX2 = 1\nFREQ GRP SENSITIVE 7\n")),
+              "FREQ_1 PERSON: PERSON.GRP filter (PERSON.SEX2 = 1) sensitive 5\n"
+              "FREQ_2 PERSON: PERSON.GRP weight PERSON.AGE sensitive 3\n"
+              "t PERSON: PERSON.GRP weight PERSON.AGE tally PERSON.SEX2 sensitive 5 silent idle\n"
+              "t PERSON: record HOUSEHOLD BY PERSON.GRP weight PERSON.AGE tally PERSON.SEX2 "
+              "sensitive 5 hidden\n"
+              "AREALIST_1 HOUSEHOLD: AREALIST #3\n"
+              "FREQ_3 PERSON: PERSON.GRP all NOT((PERSON.AGE > 3)) sensitive 3\n"
+              "FREQ_4 PERSON: PERSON.GRP sensitive 7\n");
+    EXPECT_EQ(told(census.messages), "");
 }
 
 TEST(Files, GoWhereTheProgramIs) {

@@ -83,10 +83,10 @@ TEST_F(Output, jsonHasItsKeysInOrderAndNumbersAsNumbers) {
     std::vector<std::string> keys;
     for (const auto& [key, value] : json.items())
         keys.push_back(key);
-    EXPECT_EQ(keys, (std::vector<std::string>{"name", "title", "kind", "method", "unit", "database",
-                                              "area", "filter", "weight", "tally",
-                                              "universalFilter", "suppressed", "decimals",
-                                              "variables", "fields", "rows", "seconds"}));
+    EXPECT_EQ(keys,
+              (std::vector<std::string>{"name", "title", "kind", "method", "unit", "database",
+                                        "area", "filter", "weight", "tally", "universalFilter",
+                                        "suppressed", "decimals", "variables", "fields", "rows"}));
     EXPECT_EQ(json["title"], "Say \"sex\"");
     EXPECT_EQ(json["universalFilter"], "young");
     EXPECT_EQ(json["weight"], "HOUSEHOLD.WT");

@@ -75,6 +75,26 @@ TEST_F(Programs, areaListsWithColumnsOfTables) {
               (Texts{"02,South,2,1,3", "01,North,1,2,3", "03,Sud-Oué,1,1,2"}));
 }
 
+TEST_F(Programs, areaListsTellWhatTheirTablesCount) {
+    const std::string shared = "TABLE m AS FREQ PERSON.SEX FILTER PERSON.AGE < 20\n"
+                               "TABLE n AS COUNT PERSON FILTER PERSON.AGE < 20\n";
+    run(shared + "AREALIST PROVINCE, m, n");
+    EXPECT_EQ(tables_[0].filter, "PERSON.AGE < 20");
+    EXPECT_EQ(groupsOf(tables_[0]).back(), "n");
+    run(shared + "TABLE f AS FREQ PERSON.SEX WEIGHT 2\nAREALIST PROVINCE, m, f, n");
+    EXPECT_EQ(tables_[0].filter, std::nullopt);
+    EXPECT_EQ(tables_[0].weight, std::nullopt);
+    EXPECT_EQ(groupsOf(tables_[0]).back(), "n, filter PERSON.AGE < 20");
+    const std::string text = output::asText(tables_[0]);
+    EXPECT_NE(text.find("\n                   m Sex, filter PERSON.AGE < 20  "
+                        "f Sex, weight 2"),
+              std::string::npos)
+        << text;
+    run(shared + "AREALIST PROVINCE, m FILTER PROVINCE.CODE <> \"02\"");
+    EXPECT_EQ(tables_.back().filter, "PROVINCE.CODE <> \"02\"");
+    EXPECT_EQ(groupsOf(tables_.back()).back(), "m Sex, filter PERSON.AGE < 20");
+}
+
 TEST_F(Programs, viewsShowStoredCodes) {
     EXPECT_EQ(rows("VIEW HOUSEHOLD, HOUSEHOLD.TYPE, HOUSEHOLD.WT"),
               (Texts{"011,1,1.5", "012,2,2", "021,1,0.5", "031,9,4", "032,2,1"}));
@@ -87,7 +107,7 @@ TEST_F(Programs, tablesOfTables) {
                                  "TABLE b AS FREQ PERSON.SEX\n";
     // Of men 7, 7 and 15 are below twenty; of women none.
     EXPECT_EQ(rows(operands + "TABLE c AS TABOP OF a / b * 100"),
-              (Texts{"1. Male,75", "2. Female,", "Total,37.5"}));
+              (Texts{"1. Male,75", "2. Female,0", "Total,37.5"}));
     ASSERT_EQ(tables_.size(), 1U);
     EXPECT_EQ(rows(operands + "TABLE d AS TABLIST a, b"),
               (Texts{"1. Male,3,4", "2. Female,0,4", "Total,3,8"}));
@@ -112,9 +132,10 @@ TEST_F(Programs, areasBreakEveryTable) {
 TEST_F(Programs, variablesOfTheProgramAreCountedAndHidden) {
     const std::string program = "DEFINE HOUSEHOLD.SIZE AS COUNT PERSON\n"
                                 "FREQ HOUSEHOLD.SIZE SENSITIVE 2 SORT DESC HOUSEHOLD.SIZE";
-    // Households of 2, 1, 3, 0 and 2: all but the size two occur once.
-    EXPECT_EQ(rows(program), (Texts{"3,3,,", "2,2,,2", "1,1,,", "0,0,,", "0,__tot__,tot,5"}));
-    EXPECT_EQ(tables_.back().suppressed, 3);
+    // Households of 2, 1, 3, 0 and 2: all but the size two occur once, as the three that the total
+    // leaves beside the size two would tell.
+    EXPECT_EQ(rows(program), (Texts{"3,3,,", "2,2,,", "1,1,,", "0,0,,", "0,__tot__,tot,5"}));
+    EXPECT_EQ(tables_.back().suppressed, 4);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // SORT of finished tables.
 #include "hand_made.h"
+#include "output/sorting.h"
 
 #include <gtest/gtest.h>
 
@@ -60,10 +61,12 @@ TEST_F(Sorting, anUnknownColumnIsToldWithTheKnownOnes) {
     try {
         sorted("INCOME");
         FAIL() << "a column that is not there was sorted by";
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(),
-                     "The table T has no column \"INCOME\" to be sorted by (line 4). Its columns "
-                     "are PERSON.SEX, PERSON.SEX label, PERSON.SEX kind, PERSON.");
+    } catch (const output::SortFault& fault) {
+        EXPECT_EQ(fault.message().text,
+                  "T has no column \"INCOME\" to be sorted by. Its columns are PERSON.SEX, "
+                  "PERSON.SEX label, PERSON.SEX kind, PERSON.");
+        EXPECT_EQ(fault.message().position.line, 4);
+        EXPECT_EQ(fault.message().position.column, 7);
     }
 }
 
