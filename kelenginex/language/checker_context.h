@@ -41,8 +41,11 @@ public:
     void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
         messages_.add(makeMessage(code, position, values));
     }
-    /// Hints cost time: after many errors nobody reads them.
-    bool wantsHints() const { return messages_.all().size() < 200; }
+    bool wantsHints() const { return messages_.wantsHints(); }
+
+    /// Counts what the program keeps in several copies. False where that is too much, which is
+    /// reported once.
+    bool mayKeep(std::size_t bytes, Position position);
 
     /// Adds a variable that the program makes to the names. It must live on.
     void define(const catalog::Variable& variable);
@@ -66,6 +69,7 @@ private:
     Names& names_;
     CompileOptions options_;
     Messages& messages_;
+    std::size_t kept_ = 0; ///< bytes
     std::set<std::string> expected_;
     std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/lexer.h"
 
+#include "language/characters.h"
 #include "language/message_table.h"
 #include "language/reserved_words.h"
 #include "language/text.h"
@@ -16,32 +17,30 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Letters of other scripts count: every byte beyond ASCII belongs to a word.
-bool isWordByte(char c) {
-    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
-}
-
 /// A character as a message can show it.
 std::string visible(char c) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(c);
-    if (code >= ' ' && code < 0x7f)
-        return inQuotes({&c, 1});
-    return std::string("U+00") + digits[code >> 4] + digits[code & 15];
+    return code >= ' ' && code < 0x7f ? inQuotes({&c, 1}) : codePointName(code);
 }
 
 struct Symbol {
     std::string_view written, meant;
+    bool isWrong = false; ///< of another language
 };
 
 /// Longer ones first.
-constexpr std::array<Symbol, 18> symbols = {{{"<==", "<="},
+constexpr std::array<Symbol, 24> symbols = {{{"<==", "<="},
                                              {">==", ">="},
+                                             {"\xe2\x89\xa0", "<>", true},
+                                             {"\xe2\x89\xa4", "<=", true},
+                                             {"\xe2\x89\xa5", ">=", true},
                                              {"==", "="},
                                              {"<>", "<>"},
                                              {"<=", "<="},
                                              {">=", ">="},
+                                             {"!=", "<>", true},
+                                             {"=<", "<=", true},
+                                             {"=>", ">=", true},
                                              {"=", "="},
                                              {"<", "<"},
                                              {">", ">"},
@@ -59,7 +58,7 @@ class Lexer {
 public:
     Lexer(std::string_view program, const OddNames& oddNames, Messages& messages,
           std::size_t source)
-        : program_(program), oddNames_(oddNames), messages_(messages), position_{1, 1, source} {}
+        : program_(program), known_(oddNames), messages_(messages), position_{1, 1, source} {}
 
     std::vector<Token> run() {
         while (skipBlanks())
@@ -91,11 +90,13 @@ private:
     /// True where a token begins after blanks and comments.
     bool skipBlanks() {
         while (at_ < program_.size()) {
-            const char c = peek();
-            if (c == ' ' || (c >= '\t' && c <= '\r'))
-                advance(1);
+            const Character c = characterAt(rest());
+            if (c.kind == CharacterKind::Blank)
+                advance(c.length);
             else if (rest().starts_with("\xef\xbb\xbf") && at_ == 0)
                 at_ += 3;
+            else if (c.kind == CharacterKind::Invisible)
+                skipInvisible(c);
             else if (rest().starts_with("//"))
                 advance(std::min(rest().find_first_of("\r\n"), rest().size()));
             else if (rest().starts_with("/*"))
@@ -104,6 +105,17 @@ private:
                 return true;
         }
         return false;
+    }
+
+    /// Between words it does no more harm than a blank.
+    void skipInvisible(const Character& character) {
+        tellInvisible(character, position_);
+        advance(character.length);
+    }
+
+    void tellInvisible(const Character& character, Position position) {
+        messages_.add(makeMessage(Error::UnknownCharacter, position,
+                                  {codePointName(character.code), " It is invisible: delete it."}));
     }
 
     void skipComment() {
@@ -129,12 +141,17 @@ private:
 
     void next() {
         const std::size_t word = wordLength();
-        if (word > 0)
+        const CharacterKind kind = characterAt(rest()).kind;
+        if (const std::size_t broken = brokenWordLength(word); broken > word)
+            add(TokenKind::Invalid, broken);
+        else if (word > 0)
             addWord(word);
         else if (isDigit(peek()) || (peek() == '.' && isDigit(peek(1)) && !afterWord()))
             addNumber();
         else if (peek() == '"')
             addText();
+        else if (kind == CharacterKind::SingleQuote || kind == CharacterKind::DoubleQuote)
+            addMisquoted(kind);
         else if (peek() == '{')
             addBraced();
         else
@@ -155,12 +172,35 @@ private:
         const std::size_t odd = made > 0 ? made : oddNameLength();
         if (odd > 0)
             return odd;
-        std::size_t length = 0;
-        while (isWordByte(peek(length)))
-            ++length;
+        const std::size_t length = wordRun(rest());
         if (afterDot() || length == 0 || !isDigit(peek()))
             return length;
         return isNumberLike(rest().substr(0, length)) ? 0 : length;
+    }
+
+    /// A word that an invisible character cuts in two is one fault, which is told here.
+    std::size_t brokenWordLength(std::size_t word) {
+        std::size_t end = word;
+        while (word > 0 && end < rest().size()) {
+            const Character cut = characterAt(rest().substr(end));
+            const std::size_t begin = end + cut.length;
+            const std::size_t more = cut.kind == CharacterKind::Invisible && begin < rest().size()
+                                         ? wordRun(rest().substr(begin))
+                                         : 0;
+            if (more == 0)
+                break;
+            if (end == word)
+                tellInvisible(cut, positionBehind(word));
+            end = begin + more;
+        }
+        return end;
+    }
+
+    Position positionBehind(std::size_t bytes) const {
+        Position position = position_;
+        position.column +=
+            static_cast<std::int64_t>(storage::characterCount(rest().substr(0, bytes)));
+        return position;
     }
 
     /// "12" and "1e5" (also the "1e" of 1e-5) are no words, "2nd" is.
@@ -186,32 +226,23 @@ private:
     /// A name that DEFINE makes may hold "-", and keeps it from there on.
     std::size_t newNameLength() {
         constexpr std::size_t longest = 200;
-        std::size_t length = 0;
-        while (isWordByte(peek(length)) || (peek(length) == '-' && isWordByte(peek(length + 1))))
-            ++length;
+        std::size_t length = wordRun(rest());
+        while (length <= longest && peek(length) == '-') {
+            const std::size_t more =
+                length + 1 < rest().size() ? wordRun(rest().substr(length + 1)) : 0;
+            if (more == 0)
+                break;
+            length += 1 + more;
+        }
         const std::string_view name = rest().substr(0, length);
         if (length > longest || name.find('-') == std::string_view::npos)
             return 0;
-        oddNames_.names.insert(lowerCase(name));
-        oddNames_.longest = std::max(oddNames_.longest, length);
+        made_.add(name);
         return length;
     }
 
     std::size_t oddNameLength() const {
-        if (oddNames_.names.empty() || !isWordByte(peek()))
-            return 0;
-        std::size_t length = 0;
-        while (length < oddNames_.longest && (isWordByte(peek(length)) || peek(length) == '-'))
-            ++length;
-        for (; length > 0; --length) {
-            if (isWordByte(peek(length)) && isWordByte(peek(length - 1)))
-                continue;
-            const std::string_view name = rest().substr(0, length);
-            const bool allDigits = name.find_first_not_of("0123456789") == std::string_view::npos;
-            if ((afterDot() || !allDigits) && oddNames_.names.contains(lowerCase(name)))
-                return length;
-        }
-        return 0;
+        return std::max(known_.lengthAt(rest(), afterDot()), made_.lengthAt(rest(), afterDot()));
     }
 
     void addWord(std::size_t length) {
@@ -227,18 +258,23 @@ private:
 
     /// What follows on the line, where it is not in quotes.
     void addLabel() {
-        std::size_t blanks = 0;
-        while (peek(blanks) == ' ' || peek(blanks) == '\t')
-            ++blanks;
-        std::string_view line = rest().substr(blanks);
-        line = line.substr(0, line.find_first_of("\r\n"));
-        line = line.substr(0, std::min(line.find("//"), line.find("/*")));
-        while (!line.empty() && (line.back() == ' ' || line.back() == '\t'))
-            line.remove_suffix(1);
-        if (line.empty() || line.front() == '"' || line.front() == '.')
+        std::size_t begin = 0;
+        while (peek(begin) == ' ' || peek(begin) == '\t')
+            ++begin;
+        if (peek(begin) == '"' || peek(begin) == '.')
             return;
-        advance(blanks);
-        add(TokenKind::Label, line.size());
+        std::size_t end = begin;
+        for (std::size_t i = begin; i < rest().size() && !endsLabel(i); ++i)
+            end = peek(i) == ' ' || peek(i) == '\t' ? end : i + 1;
+        if (end == begin)
+            return;
+        advance(begin);
+        add(TokenKind::Label, end - begin);
+    }
+
+    bool endsLabel(std::size_t ahead) const {
+        const char c = peek(ahead), next = peek(ahead + 1);
+        return c == '\r' || c == '\n' || (c == '/' && (next == '/' || next == '*'));
     }
 
     void addNumber() {
@@ -248,18 +284,49 @@ private:
                 ++length;
         };
         digits();
-        if (peek(length) == '.' && isDigit(peek(length + 1))) {
+        if (peek(length) == '.' && (isDigit(peek(length + 1)) || pointEndsNumber(length))) {
             ++length;
             digits();
         }
-        if (peek(length) == 'e' || peek(length) == 'E') {
-            const std::size_t sign = peek(length + 1) == '-' || peek(length + 1) == '+' ? 1 : 0;
-            if (isDigit(peek(length + 1 + sign))) {
-                length += 1 + sign;
-                digits();
-            }
-        }
+        length += exponentLength(length);
         add(TokenKind::Number, length);
+    }
+
+    std::size_t exponentLength(std::size_t at) const {
+        if (peek(at) != 'e' && peek(at) != 'E')
+            return 0;
+        std::size_t length = peek(at + 1) == '-' || peek(at + 1) == '+' ? 2 : 1;
+        if (!isDigit(peek(at + length)))
+            return 0;
+        while (isDigit(peek(at + length)))
+            ++length;
+        return length;
+    }
+
+    /// "5." and "1.e5", but not "5.AGE" or "5..".
+    bool pointEndsNumber(std::size_t at) const {
+        if (at == 0)
+            return false;
+        const std::size_t end = at + 1 + exponentLength(at + 1);
+        if (end >= rest().size())
+            return true;
+        const Character next = characterAt(rest().substr(end));
+        return next.kind != CharacterKind::Word && next.code != '.' && next.code != '*';
+    }
+
+    /// In other quotes than "...": read as it is meant, so that nothing more is told of it. One
+    /// that is not closed takes the line with it.
+    void addMisquoted(CharacterKind quotes) {
+        messages_.add(makeMessage(Error::WrongQuotes, position_));
+        std::size_t at = characterAt(rest()).length;
+        while (at < rest().size() && peek(at) != '\r' && peek(at) != '\n') {
+            const Character character = characterAt(rest().substr(at));
+            at += character.length;
+            if (character.kind == quotes ||
+                (character.code == '"' && quotes == CharacterKind::DoubleQuote))
+                return void(add(TokenKind::Text, at));
+        }
+        add(TokenKind::Invalid, at);
     }
 
     /// A documentation may have many lines.
@@ -312,15 +379,19 @@ private:
                 tokens_.back().keyword = Keyword::None;
                 tokens_.back().reserved = false;
             }
+            if (symbol.isWrong)
+                messages_.add(makeMessage(Error::WrongSign, position_,
+                                          {inQuotes(symbol.written), std::string(symbol.meant)}));
             add(TokenKind::Symbol, symbol.written.size()).text = symbol.meant;
             return;
         }
-        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek())}));
+        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek()), ""}));
         add(TokenKind::Invalid, 1);
     }
 
     std::string_view program_;
-    OddNames oddNames_; ///< those of the dictionary and of DEFINE
+    const OddNames& known_;
+    OddNames made_; ///< those of DEFINE
     Messages& messages_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;
@@ -328,11 +399,23 @@ private:
     bool lineBegins_ = true;
 };
 
+/// Between quotes of any length in bytes.
+std::string misquotedValue(std::string_view text) {
+    text.remove_prefix(characterAt(text).length);
+    while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xc0) == 0x80)
+        text.remove_suffix(1);
+    if (!text.empty())
+        text.remove_suffix(1);
+    return std::string(text);
+}
+
 } // namespace
 
 std::string Token::value() const {
     if (kind != TokenKind::Text)
         return std::string(text);
+    if (text.front() != '"')
+        return misquotedValue(text);
     std::string result;
     for (std::size_t i = 1; i < text.size(); ++i) {
         if (text[i] == '"' && ++i >= text.size())

@@ -26,8 +26,7 @@ enum class Error : int {
     TooDeep,
     MisplacedClause,
     RepeatedClause,
-    NotSupported,
-    BadDecimals,
+    BadDecimals = 15, ///< 14 is no more
     UnknownEntity,
     UnknownVariable,
     AmbiguousName,
@@ -75,6 +74,14 @@ enum class Error : int {
     TableShapes,
     TablistTable,
     SortColumn,
+    WrongQuotes,
+    WrongSign,
+    RealTooLarge,
+    ValuesTooLong,
+    UnknownColumn,
+    TooManyColumns,
+    TooManyDimensions,
+    TooMuchText,
 };
 
 /// Codes of warnings; the same rule.

@@ -34,7 +34,7 @@ public:
 private:
     using Variables = std::unordered_map<std::string, std::vector<const catalog::Variable*>>;
 
-    void addName(const std::string& name);
+    void append(const catalog::Variable& variable);
     void defineAlias(const catalog::Variable& variable);
 
     std::unordered_map<std::string, const catalog::Entity*> entities_;
@@ -42,6 +42,7 @@ private:
                        std::unordered_map<std::string, const catalog::Variable*>>
         byEntity_;
     std::unordered_map<const catalog::Entity*, std::vector<const catalog::Variable*>> lists_;
+    std::unordered_map<const catalog::Variable*, std::size_t> places_; ///< in its entity's list
     Variables byName_, byAlias_;
     OddNames oddNames_;
 };

@@ -9,6 +9,25 @@
 
 namespace kelx::language {
 
+namespace {
+
+std::size_t sizeOf(const AreaSelection& selection) {
+    std::size_t bytes = selection.label.size();
+    for (const AreaSelection::Area& area : selection.areas)
+        bytes += sizeof(area) + area.code.size();
+    return bytes;
+}
+
+std::size_t sizeOf(const RunSettings& settings) {
+    std::size_t bytes = sizeof(settings) + settings.name.size();
+    for (const auto* text : {&settings.title, &settings.filterLabel, &settings.tableStyle,
+                             &settings.graphStyle, &settings.mapStyle})
+        bytes += *text ? (*text)->size() : 0;
+    return bytes + (settings.selection ? sizeOf(*settings.selection) : 0);
+}
+
+} // namespace
+
 RunSettings RunChecker::start() const {
     RunSettings settings;
     settings.weightMode = weight_ != nullptr              ? WeightMode::Explicit
@@ -25,6 +44,8 @@ CheckedSettings RunChecker::defaults() const {
 
 CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
                                      const CheckedSettings& current) {
+    if (!context_.mayKeep(sizeOf(*current.settings), {}))
+        return current;
     tableStyle_ = resolvedFile(style.file, context_.options().baseFolder).string();
     RunSettings settings = *current.settings;
     settings.tableStyle = tableStyle_;
@@ -107,6 +128,8 @@ AreaSelection RunChecker::selection(const ast::RunDefinition& run) {
 
 AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
     AreaSelection result;
+    if (!context_.mayKeep(0, position))
+        return result;
     SelectionFileContent content;
     try {
         content = readSelectionFile(resolvedFile(file, context_.options().baseFolder));
@@ -130,6 +153,8 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
         for (const std::string& code : group.codes)
             result.areas.push_back({entity, code, position});
     }
+    if (!context_.mayKeep(sizeOf(result), position))
+        result.areas.clear();
     return result;
 }
 

@@ -38,17 +38,6 @@ void raise(std::optional<int>& least, const Expression& expression) {
         raise(least, *argument);
 }
 
-/// A list shows no figures of its own.
-void protect(TableCommand& command) {
-    if (isList(command))
-        return;
-    raise(command.sensitive, command.unit->sensitive);
-    for (const ExpressionPtr& dimension : command.dimensions)
-        raise(command.sensitive, *dimension);
-    if (command.measure != nullptr)
-        raise(command.sensitive, *command.measure);
-}
-
 } // namespace
 
 bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) {
@@ -75,6 +64,21 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
         return true;
     checkAreas(command, settings);
     return checkFilter(command, run.selection->expression, "selection");
+}
+
+/// A list shows no figures of its own.
+void TablePlacer::protect(TableCommand& command) {
+    if (isList(command))
+        return;
+    raise(command.sensitive, command.unit->sensitive);
+    for (const ExpressionPtr& dimension : command.dimensions)
+        raise(command.sensitive, *dimension);
+    if (command.measure == nullptr)
+        return;
+    const auto [known, isNew] = sensitive_.try_emplace(command.measure);
+    if (isNew)
+        raise(known->second, *command.measure);
+    raise(command.sensitive, known->second);
 }
 
 bool TablePlacer::include(TableCommand& command, const Expression& part) {
@@ -117,10 +121,10 @@ bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& 
         filter->entity->isAncestorOf(*command.unit))
         return true;
     const bool below = command.unit->isAncestorOf(*filter->entity);
-    const bool isNew = told_.emplace(filter.get(), command.unit).second;
+    const bool isNew = told_.emplace(filter, command.unit).second;
     if (isNew && below)
         context_.report(Warning::FilterBelow, filter->position,
-                        {filter->entity->name, command.unit->name});
+                        {filter->entity->name, command.unit->name, what});
     else if (isNew)
         context_.report(Error::FilterBranch, filter->position,
                         {what, filter->entity->name, command.unit->name});
@@ -129,13 +133,14 @@ bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& 
 
 void TablePlacer::checkAreas(const TableCommand& command, const CheckedSettings& settings) {
     const auto& areas = settings.settings->selection->areas;
+    if (areas.empty() || !told_.emplace(settings.settings, command.unit).second)
+        return;
     const bool reachable = std::any_of(areas.begin(), areas.end(), [&](const auto& area) {
         return area.entity->isAncestorOf(*command.unit);
     });
-    if (areas.empty() || reachable || !told_.emplace(settings.settings.get(), command.unit).second)
-        return;
-    context_.report(Warning::SelectionBelow, settings.selectionPosition,
-                    {areas.front().entity->name, command.unit->name});
+    if (!reachable)
+        context_.report(Warning::SelectionBelow, settings.selectionPosition,
+                        {areas.front().entity->name, command.unit->name});
 }
 
 } // namespace kelx::language

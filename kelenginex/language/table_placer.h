@@ -6,6 +6,9 @@
 #include "language/expression_checker.h"
 #include "language/run_checker.h"
 
+#include <map>
+#include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -27,12 +30,15 @@ private:
     bool placeWeight(TableCommand& command);
     bool checkFilter(const TableCommand& command, const ExpressionPtr& filter,
                      const std::string& what);
+    void protect(TableCommand& command);
     void checkAreas(const TableCommand& command, const CheckedSettings& settings);
 
     CheckerContext& context_;
     ExpressionChecker& expressions_;
     /// What was told of an expression or settings and a counted entity.
-    std::set<std::pair<const void*, const Entity*>> told_;
+    std::set<std::pair<std::shared_ptr<const void>, const Entity*>> told_;
+    /// How measures are protected, which many tables may share.
+    std::map<ExpressionPtr, std::optional<int>> sensitive_;
 };
 
 } // namespace kelx::language

@@ -61,7 +61,7 @@ TEST(MessageTable, FillsPatterns) {
 TEST(Messages, ShowThirtyByPlaceAndCountTheRest) {
     Messages messages;
     for (int line = 40; line > 0; --line)
-        messages.add(makeMessage(Error::NotSupported, {line, 1}, {"X"}));
+        messages.add(makeMessage(Error::BadNumber, {line, 1}, {"X"}));
     for (int line = 1; line <= 3; ++line)
         messages.add(makeMessage(Warning::EmptyInterval, {line, 2}, {"5:1"}));
     EXPECT_EQ(messages.errorCount(), 40u);
