@@ -30,8 +30,8 @@ const std::vector<Fault>& tableFaults() {
         {"FREQ AGE OUTFILE xlt \"a\"\nFREQ AGE OUTFILE \"\"\nFREQ AGE OUTFILE \"a.csv\" "
          "utf16\nFREQ AGE OUTGRAPH \"a.bmp\" cake\nFREQ AGE SAVE a\nFREQ AGE TABLESTYLE s",
          "KEL_E_UNEXPECTED 1:18 Found \"xlt\", but expected a type of file, such as XLS or CSV, or "
-         "a file name in quotes. Did you mean xls?\nKEL_E_UNEXPECTED 3:1 Found the reserved word "
-         "FREQ, but expected the name of the file in quotes.\nKEL_E_UNEXPECTED 3:26 Found "
+         "a file name in quotes. Did you mean xls?\nKEL_E_UNEXPECTED 2:18 Found an "
+         "empty text, but expected the name of the file in quotes.\nKEL_E_UNEXPECTED 3:26 Found "
          "\"utf16\", but expected a clause of the table, such as BY or TITLE, or a new "
          "command.\nKEL_E_UNEXPECTED 4:27 Found \"cake\", but expected a clause of the table, such "
          "as BY or TITLE, or a new command.\nKEL_E_UNEXPECTED 5:15 Found \"a\", but expected the "
@@ -106,6 +106,14 @@ const std::vector<Fault>& tableFaults() {
         {"FREQ SEX2 OUTFILE xml \"a\" UNICODE",
          "KEL_W_OUTFILE_TYPE 1:19 XML is not written; the file will be CSV.\nKEL_W_OUTFILE_FORMAT "
          "1:27 Files are written in UTF-8, not in UNICODE.\n"},
+        {"TABLE a FREQ SEX2, GRP\nTABOP a / 2\nAREALIST PROVINCE, a, a_2, nobody",
+         "KEL_E_UNKNOWN_TABLE 2:7 There is no table \"a\" before this place. a makes 2 tables, a_1 "
+         "to a_2: name one of them.\nKEL_E_UNKNOWN_COLUMN 3:20 There is no variable or table "
+         "\"a\". a makes 2 tables, a_1 to a_2: name one of them.\nKEL_E_UNKNOWN_COLUMN 3:28 There "
+         "is no variable or table \"nobody\".\n"},
+        {"RUNDEF SELECTION AGE > 5 COUNT HOUSEHOLD",
+         "KEL_W_FILTER_BELOW 1:18 The selection is about PERSON: each HOUSEHOLD that has at least "
+         "one such PERSON is kept.\n"},
         {"VIEW DEATH\n  TITEL \"x\"",
          "KEL_E_UNEXPECTED 2:3 Found \"TITEL\", but expected a clause of the table, such as BY or "
          "TITLE, or a new command. Did you mean TITLE?\n"},
