@@ -46,11 +46,11 @@ const std::vector<Fault>& tableFaults() {
         {"TABLE byAge FREQ AGE TABLE bad FREQ AGEE\nAREALIST PROVINCE, byAgf, bad, NAME, bat, "
          "ROMS\nTABLIST byAgf, bad\nTABOP PERSON.byAge / bad",
          "KEL_E_UNKNOWN_VARIABLE 1:37 There is no variable \"AGEE\". Did you mean "
-         "AGE?\nKEL_E_UNKNOWN_TABLE 2:20 There is no table \"byAgf\" before this place. Did you "
-         "mean byAge?\nKEL_E_UNKNOWN_VARIABLE 2:38 There is no variable "
-         "\"bat\".\nKEL_E_UNKNOWN_VARIABLE 2:43 There is no variable \"ROMS\". Did you mean "
-         "ROOMS?\nKEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did you "
-         "mean byAge?\nKEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this "
+         "AGE?\nKEL_E_UNKNOWN_COLUMN 2:20 There is no variable or table \"byAgf\". Did you mean "
+         "byAge?\nKEL_E_UNKNOWN_COLUMN 2:38 There is no variable or table "
+         "\"bat\".\nKEL_E_UNKNOWN_COLUMN 2:43 There is no variable or table \"ROMS\". Did you "
+         "mean ROOMS?\nKEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did "
+         "you mean byAge?\nKEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this "
          "place. Did you mean byAge?\n"},
         {"AREALIST PROVINCE, PERSON.AGE, ROOMS, SEX\nVIEW PERSON, CAUSE, NAME, PROVINSE.*",
          "KEL_E_COLUMN_BELOW 1:20 PERSON.AGE is about PERSON, but the rows are of PROVINCE, which "
