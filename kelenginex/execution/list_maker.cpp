@@ -5,6 +5,7 @@
 #include "execution/record_filter.h"
 #include "plan/area_codes.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kelx::execution {
@@ -57,8 +58,9 @@ public:
         std::vector<std::uint64_t>& found = static_cast<ListPart&>(part).records;
         list_->records.insert(list_->records.end(), found.begin(), found.end());
         found.clear();
-        if (list_->records.size() > mostRows)
-            throwTooManyRows(command_);
+        const std::size_t most = std::min(mostRows, mostListValues / (command_.columns.size() + 2));
+        if (list_->records.size() > most)
+            throwTooManyRows(command_, most);
         return true;
     }
     double finishing(double records) const override {

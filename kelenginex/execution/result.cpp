@@ -5,9 +5,9 @@
 
 namespace kelx::execution {
 
-void throwTooManyRows(const language::TableCommand& command) {
+void throwTooManyRows(const language::TableCommand& command, std::size_t most) {
     throw std::runtime_error("The table " + command.name + " would have more than " +
-                             std::to_string(mostRows) +
+                             std::to_string(most) +
                              " rows. Take fewer variables, or ones with fewer categories.");
 }
 

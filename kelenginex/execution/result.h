@@ -18,8 +18,12 @@ namespace kelx::execution {
 /// A table may have so many rows, totals included, and no more cells.
 constexpr std::size_t mostRows = 20'000'000;
 
+/// A list may have so many values, which its rows and columns make.
+constexpr std::size_t mostListValues = 100'000'000;
+
 /// Throws std::runtime_error, naming the table that would have more.
-[[noreturn]] void throwTooManyRows(const language::TableCommand& command);
+[[noreturn]] void throwTooManyRows(const language::TableCommand& command,
+                                   std::size_t most = mostRows);
 
 enum class CategoryKind { Valid, Missing, NotApplicable };
 

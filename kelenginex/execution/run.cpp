@@ -60,7 +60,7 @@ bool run(const language::BoundProgram& program, const RunOptions& options,
     Progress progress(options.progress, options.progressInterval);
     try {
         progress.checkNow();
-        const SavedVariables saved(program);
+        SavedVariables saved(program);
         const double making = shareOfVariables(program);
         plan::Selections selections(messages);
         makeVariables(program, options, making, selections, progress);

@@ -245,14 +245,34 @@ std::uint64_t SavedVariables::records() const {
 }
 
 void SavedVariables::write(storage::StagedFiles& files, language::Messages& messages,
-                           Progress& progress) const {
+                           Progress& progress) {
     std::vector<std::unique_ptr<Saving>> savings;
     for (const Definition* definition : definitions_) {
         savings.push_back(std::make_unique<Saving>(*definition, progress));
         savings.back()->write(files);
     }
+    keepDescriptions();
     for (const auto& saving : savings)
         saving->describe(messages);
+}
+
+void SavedVariables::keepDescriptions() {
+    for (const Definition* definition : definitions_) {
+        catalog::Variable& variable = *definition->variable;
+        before_.push_back({&variable, variable.fileName, variable.type, variable.size,
+                           variable.notapp, variable.raw});
+    }
+}
+
+SavedVariables::~SavedVariables() {
+    for (Description& before : before_) {
+        catalog::Variable& variable = *before.variable;
+        variable.fileName = std::move(before.fileName);
+        variable.type = before.type;
+        variable.size = before.size;
+        variable.notapp = before.notapp;
+        variable.raw = before.raw;
+    }
 }
 
 void SavedVariables::checkFiles() const {
@@ -260,7 +280,8 @@ void SavedVariables::checkFiles() const {
         checkFile(*definition->save);
 }
 
-void SavedVariables::settle() const {
+void SavedVariables::settle() {
+    before_.clear();
     for (const Definition* definition : definitions_)
         definition->variable->closeColumn();
 }

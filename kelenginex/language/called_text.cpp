@@ -2,9 +2,11 @@
 #include "language/called_text.h"
 
 #include "language/lexer.h"
+#include "language/program_text.h"
 #include "language/text.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace kelx::language {
 
@@ -23,14 +25,17 @@ bool isName(std::string_view text) {
 class Putter {
 public:
     Putter(std::string_view program, const CallValues& values)
-        : program_(program), values_(values), used_(values.size(), false) {}
+        : program_(program), values_(values), used_(values.size(), false) {
+        for (std::size_t i = 0; i < values.size(); ++i)
+            index_.emplace(lowerCase(values[i].first), i);
+    }
 
     CalledText run() {
         Messages unheard; // what is wrong with the text is told when it is read in earnest
         tokens_ = tokenize(program_, {}, unheard);
-        for (at_ = 0; at_ < tokens_.size(); ++at_)
+        for (at_ = 0; at_ < tokens_.size() && !result_.tooLong; ++at_)
             take(tokens_[at_]);
-        result_.text += program_.substr(copied_);
+        append(program_.substr(copied_));
         for (std::size_t i = 0; i < values_.size(); ++i) {
             if (!used_[i])
                 result_.unused.push_back(values_[i].first);
@@ -62,41 +67,57 @@ private:
     }
 
     void replaceWithin(std::size_t begin, std::size_t end, Position position, bool tellUnknown) {
-        for (std::size_t open = program_.find('{', begin); open < end;
-             open = program_.find('{', open + 1)) {
-            const std::size_t close = program_.find('}', open);
-            if (close >= end)
-                return;
+        for (std::size_t open = program_.find('{', begin); open < end && !result_.tooLong;) {
+            const std::size_t close = std::min(endOfName(open + 1), end);
             const std::string_view name = program_.substr(open + 1, close - open - 1);
-            if (!isName(name))
-                continue;
-            if (const std::string* value = find(name))
-                replace(open, close + 1, *value);
-            else if (tellUnknown)
-                result_.unknown.push_back({std::string(name), position});
+            if (close < end && program_[close] == '}' && isName(name))
+                replaceName(open, close, name, tellUnknown ? &position : nullptr);
+            open = program_.find('{', close);
         }
+    }
+
+    std::size_t endOfName(std::size_t at) const {
+        while (at < program_.size() && isNameByte(program_[at]))
+            ++at;
+        return at;
+    }
+
+    void replaceName(std::size_t open, std::size_t close, std::string_view name,
+                     const Position* tellUnknownAt) {
+        if (const std::string* value = find(name))
+            replace(open, close + 1, *value);
+        else if (tellUnknownAt != nullptr)
+            result_.unknown.push_back({std::string(name), *tellUnknownAt});
     }
 
     const std::string* find(std::string_view name) {
-        for (std::size_t i = 0; i < values_.size(); ++i) {
-            if (lowerCase(values_[i].first) != lowerCase(name))
-                continue;
-            used_[i] = true;
-            return &values_[i].second;
-        }
-        return nullptr;
+        const auto found = index_.find(lowerCase(name));
+        if (found == index_.end())
+            return nullptr;
+        used_[found->second] = true;
+        return &values_[found->second].second;
     }
 
-    void replace(std::size_t begin, std::size_t end, std::string value) {
-        std::replace(value.begin(), value.end(), '\n', ' ');
-        std::replace(value.begin(), value.end(), '\r', ' ');
-        result_.text += program_.substr(copied_, begin - copied_);
-        result_.text += value;
+    void replace(std::size_t begin, std::size_t end, std::string_view value) {
+        append(program_.substr(copied_, begin - copied_));
+        const std::size_t from = result_.text.size();
+        append(value);
+        for (std::size_t i = from; i < result_.text.size(); ++i) {
+            if (result_.text[i] == '\n' || result_.text[i] == '\r')
+                result_.text[i] = ' ';
+        }
         copied_ = end;
+    }
+
+    void append(std::string_view piece) {
+        result_.tooLong = result_.tooLong || result_.text.size() + piece.size() > longestProgram;
+        if (!result_.tooLong)
+            result_.text += piece;
     }
 
     std::string_view program_;
     const CallValues& values_;
+    std::unordered_map<std::string, std::size_t> index_; ///< of the values, names in lower case
     std::vector<bool> used_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;

@@ -22,11 +22,13 @@ struct CalledText {
     std::string text;
     std::vector<Unknown> unknown;
     std::vector<std::string> unused; ///< names that the text does not hold
+    bool tooLong = false;            ///< for a program; the text is not whole then
 };
 
 /// Replaces each {name} outside of comments; names in any case. As the value of an EXECUTE, a
 /// {name} that has a value becomes {value}, and any other stays what it is. Line breaks of a value
-/// become blanks, so that lines keep their numbers.
+/// become blanks, so that lines keep their numbers. Stops where the text gets longer than any
+/// program can be.
 CalledText putValues(std::string_view program, const CallValues& values);
 
 } // namespace kelx::language

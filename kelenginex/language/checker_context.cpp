@@ -4,6 +4,8 @@
 #include "language/text.h"
 #include "storage/error.h"
 
+#include <algorithm>
+
 namespace kelx::language {
 
 namespace {
@@ -19,6 +21,15 @@ CheckerContext::Place CheckerContext::moveTo(Place place) {
     program_ = place.program;
     options_.baseFolder = std::move(place.folder);
     return before;
+}
+
+bool CheckerContext::mayKeep(std::size_t bytes, Position position) {
+    constexpr std::size_t most = std::size_t{256} << 20;
+    const bool hadRoom = kept_ <= most;
+    kept_ = std::min(kept_ + bytes, most + 1);
+    if (kept_ > most && hadRoom)
+        report(Error::TooMuchText, position, {std::to_string(most)});
+    return kept_ <= most;
 }
 
 void CheckerContext::expectName(const std::string& entity, const std::string& name) {

@@ -9,6 +9,7 @@
 #include "language/target_files.h"
 
 #include <initializer_list>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -44,15 +45,18 @@ public:
     void report(Code code, Position position, std::initializer_list<std::string> values = {}) {
         messages_.add(makeMessage(code, position, values));
     }
-    /// Hints cost time: after many errors nobody reads them.
-    bool wantsHints() const { return messages_.all().size() < 200; }
+    bool wantsHints() const { return messages_.wantsHints(); }
+
+    /// Counts what the program keeps in several copies. False where that is too much, which is
+    /// reported once.
+    bool mayKeep(std::size_t bytes, Position position);
 
     /// Adds a variable that the program makes to the names. It must live on.
     void define(const catalog::Variable& variable);
     void noteTable(const std::string& name) { names_.noteTable(name); }
     /// True the first time that it is asked about both together.
-    bool isNew(const void* clause, const catalog::Entity& unit) {
-        return told_.emplace(clause, &unit).second;
+    bool isNew(std::shared_ptr<const void> clause, const catalog::Entity& unit) {
+        return told_.emplace(std::move(clause), &unit).second;
     }
 
     /// The variable whose DEFINE is being checked; empty texts for none.
@@ -76,10 +80,11 @@ private:
     CompileOptions options_;
     Messages& messages_;
     TargetFiles files_;
+    std::size_t kept_ = 0; ///< bytes
     std::set<std::string> expected_;
     std::string definingEntity_, definingName_; ///< in lower case
     std::unordered_map<const catalog::Variable*, bool> checked_;
-    std::set<std::pair<const void*, const catalog::Entity*>> told_;
+    std::set<std::pair<std::shared_ptr<const void>, const catalog::Entity*>> told_;
 };
 
 } // namespace kelx::language

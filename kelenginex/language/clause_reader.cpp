@@ -18,8 +18,10 @@ std::vector<std::string> joined(std::vector<std::string> words,
 } // namespace
 
 bool ClauseReader::misplaced(const std::string& reason) {
+    const bool told = cursor_.isReported();
     const Token& token = cursor_.take();
-    cursor_.report(Error::MisplacedClause, token.position, {upperCase(token.text), reason});
+    if (!told)
+        cursor_.report(Error::MisplacedClause, token.position, {upperCase(token.text), reason});
     return false;
 }
 
@@ -88,7 +90,7 @@ std::optional<int> ClauseReader::readCount(const std::string& clause, int least,
     if (read.ec == std::errc() && read.ptr == end && value >= least && value <= most)
         return value;
     cursor_.report(Error::BadCount, token.position,
-                   {clause, std::to_string(least), std::to_string(most), std::string(token.text)});
+                   {clause, std::to_string(least), std::to_string(most), shortened(token.text)});
     return std::nullopt;
 }
 

@@ -31,7 +31,7 @@ public:
     void startCommand() { given_.clear(); }
     /// False for the second of two equal clauses of a command, which is reported.
     bool firstTime(const Token& clause);
-    /// Takes the word and tells why it cannot stand here; false.
+    /// Takes the word and tells why it cannot stand here, unless it was reported already; false.
     bool misplaced(const std::string& reason);
     /// False for a word that is no clause of the place; it is taken and reported.
     bool canRead(const Token& clause, const ClausePlace& place);

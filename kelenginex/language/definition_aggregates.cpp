@@ -221,7 +221,8 @@ bool DefinitionAggregates::addFilter(const ExpressionPtr& filter, Aggregate& int
         return false;
     into.filters.push_back(filter);
     if (below && told_.emplace(filter.get(), into.over).second)
-        context_.report(Warning::FilterBelow, filter->position, {about->name, into.over->name});
+        context_.report(Warning::FilterBelow, filter->position,
+                        {about->name, into.over->name, "filter"});
     return true;
 }
 

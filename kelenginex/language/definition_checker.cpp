@@ -107,7 +107,8 @@ bool DefinitionChecker::addFilter(const ast::Node& node, const Entity& owner, De
         return false;
     }
     if (!above)
-        context_.report(Warning::FilterBelow, filter->position, {about->name, owner.name});
+        context_.report(Warning::FilterBelow, filter->position,
+                        {about->name, owner.name, "filter"});
     into.filters.push_back(std::move(filter));
     return true;
 }

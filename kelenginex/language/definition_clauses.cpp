@@ -196,12 +196,10 @@ bool DefinitionParser::readLiteral(std::optional<ast::Literal>& into, const char
     if (truth)
         literal.constant = token.is(Keyword::True);
     if (token.kind == TokenKind::Number) {
-        const std::optional<Constant> number = numberOf(token.text);
-        if (!number) {
-            cursor_.report(Error::NumberTooLarge, token.position, {inQuotes(token.text)});
+        const std::optional<Constant> number = expressions_.readNumber(token, minus);
+        if (!number)
             return false;
-        }
-        literal.constant = minus ? negated(*number) : *number;
+        literal.constant = *number;
     }
     into = std::move(literal);
     return true;
@@ -248,14 +246,8 @@ bool DefinitionParser::readSave() {
     ast::SaveFile save;
     const char* const expected = "the name of a file in quotes";
     save.position = cursor_.peek().position;
-    std::optional<std::string> file;
-    if (!clauses_.readText(file, expected))
+    if (!cursor_.takeFileName(save.file, expected))
         return false;
-    if (file->empty()) {
-        cursor_.report(Error::Unexpected, save.position, {"an empty text", expected, ""});
-        return false;
-    }
-    save.file = std::move(*file);
     save.overwrite = cursor_.takeKeyword(Keyword::Overwrite);
     definition_.save = std::move(save);
     return true;

@@ -6,8 +6,8 @@
 #include "language/files.h"
 #include "language/text.h"
 
-#include <algorithm>
 #include <system_error>
+#include <unordered_map>
 
 namespace kelx::language {
 
@@ -67,6 +67,14 @@ std::optional<catalog::Range> rangeOf(const Interval& interval) {
     return catalog::Range{kind, low, high};
 }
 
+/// Of what LIKE takes over.
+std::size_t sizeOf(const Variable& variable) {
+    std::size_t bytes = variable.label.size() + variable.ranges.size() * sizeof(catalog::Range);
+    for (const auto& [code, label] : variable.valueLabels)
+        bytes += sizeof(code) + sizeof(label) + code.size() + label.size();
+    return bytes;
+}
+
 bool isDataFile(const fs::path& file) {
     const std::string extension = lowerCase(file.extension().string());
     return extension == ".kbf" || extension == ".bin";
@@ -110,7 +118,7 @@ std::shared_ptr<Variable> DefinitionVariable::make(const ast::Definition& ast, c
 
 void DefinitionVariable::takeOver(const ast::Name& like, Variable& variable) {
     const Variable* model = expressions_.find(like);
-    if (model == nullptr)
+    if (model == nullptr || !context_.mayKeep(sizeOf(*model), like.position))
         return;
     variable.label = model->label;
     variable.valueLabels = model->valueLabels;
@@ -147,19 +155,23 @@ std::optional<double> DefinitionVariable::code(const std::optional<ast::Literal>
 
 /// A code that was taken over gets its new label.
 void DefinitionVariable::addLabels(const ast::Definition& ast, Variable& variable) {
+    if (ast.valueLabels.empty())
+        return;
+    auto& labels = variable.valueLabels;
+    std::unordered_map<std::string, std::size_t> places;
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        places.emplace(labels[i].first, i);
     for (const ast::ValueLabel& entry : ast.valueLabels) {
         const std::optional<std::string> code = labelledCode(entry.value, variable.type);
         if (!code) {
             reportValue("VALUELABELS", variable, entry.value);
             continue;
         }
-        auto& labels = variable.valueLabels;
-        const auto known = std::find_if(labels.begin(), labels.end(),
-                                        [&](const auto& label) { return label.first == *code; });
-        if (known == labels.end())
+        const auto [place, isNew] = places.emplace(*code, labels.size());
+        if (isNew)
             labels.emplace_back(*code, entry.label);
         else
-            known->second = entry.label;
+            labels[place->second].second = entry.label;
     }
 }
 

@@ -76,6 +76,9 @@ std::string programOf(const ExecuteCall& call) {
     if (!isReadable(content, faults))
         refuse(call, faults.all().front());
     CalledText called = putValues(content, call.values);
+    if (called.tooLong)
+        refuse(call, makeMessage(Error::ValuesTooLong, {},
+                                 {inQuotes(call.fileName), std::to_string(longestProgram)}));
     if (!called.unknown.empty()) {
         const CalledText::Unknown& first = called.unknown.front();
         refuse(call, makeMessage(Error::UnknownValue, first.position, {first.name, ""}));

@@ -3,7 +3,7 @@
 
 #include "language/text.h"
 
-#include <algorithm>
+#include <set>
 
 namespace kelx::language {
 
@@ -13,7 +13,7 @@ bool atValue(const TokenCursor& cursor) {
     return cursor.peek().kind == TokenKind::Word && cursor.peek(1).isSymbol("=");
 }
 
-bool parseValue(TokenCursor& cursor, ast::Execute& execute) {
+bool parseValue(TokenCursor& cursor, ast::Execute& execute, std::set<std::string>& names) {
     if (!atValue(cursor)) {
         cursor.unexpected("a name and its value between braces, as in name = {value}");
         return false;
@@ -26,10 +26,7 @@ bool parseValue(TokenCursor& cursor, ast::Execute& execute) {
         return false;
     }
     const std::string_view value = cursor.take().text;
-    const bool again =
-        std::any_of(execute.values.begin(), execute.values.end(),
-                    [&](const auto& v) { return lowerCase(v.name) == lowerCase(name.text); });
-    if (again)
+    if (!names.insert(lowerCase(name.text)).second)
         cursor.report(Error::RepeatedClause, name.position, {std::string(name.text)});
     else
         execute.values.push_back({std::string(name.text),
@@ -43,18 +40,15 @@ std::optional<ast::Execute> parseExecute(TokenCursor& cursor) {
     ast::Execute execute;
     execute.position = cursor.take().position;
     execute.filePosition = cursor.peek().position;
-    if (cursor.peek().kind == TokenKind::Text)
-        execute.file = cursor.take().value();
-    if (execute.file.empty()) {
-        cursor.unexpected("the file name of a program in quotes");
+    if (!cursor.takeFileName(execute.file, "the file name of a program in quotes"))
         return std::nullopt;
-    }
+    std::set<std::string> names;
     cursor.takeSymbol(",");
     while (atValue(cursor)) {
-        if (!parseValue(cursor, execute))
+        if (!parseValue(cursor, execute, names))
             return std::nullopt;
         if (cursor.takeSymbol(",") && !atValue(cursor))
-            return parseValue(cursor, execute) ? std::optional(execute) : std::nullopt;
+            return parseValue(cursor, execute, names) ? std::optional(execute) : std::nullopt;
     }
     return execute;
 }

@@ -90,6 +90,12 @@ bool isAbove(const Constant& low, const Constant& high) {
     return !std::holds_alternative<std::string>(high) && number(low) > number(high);
 }
 
+/// As a sentence begins.
+std::string capitalized(std::string text) {
+    text.replace(0, 1, upperCase(text.substr(0, 1)));
+    return text;
+}
+
 std::string countOf(std::size_t arguments) {
     return std::to_string(arguments) + (arguments == 1 ? " argument" : " arguments");
 }
@@ -380,13 +386,14 @@ ExpressionChecker::Built ExpressionChecker::checkComparison(const ast::Node& nod
     if (left == nullptr || right == nullptr)
         return nullptr;
     if (!comparable(*left, *right)) {
-        context_.report(Error::CompareTypes, rightNode.position,
-                        {describe(left->type), describe(right->type), quoteHint(*left, *right)});
+        context_.report(
+            Error::CompareTypes, rightNode.position,
+            {capitalized(describe(left->type)), describe(right->type), quoteHint(*left, *right)});
         return nullptr;
     }
     if (isOrder(node.operation) && left->type == ValueType::Boolean && left->type == right->type) {
         context_.report(Error::CompareTypes, rightNode.position,
-                        {describe(left->type), "another by " + node.operatorText,
+                        {capitalized(describe(left->type)), "another by " + node.operatorText,
                          " Use = or <>, or compare a variable with 0 or 1."});
         return nullptr;
     }
@@ -424,9 +431,9 @@ bool ExpressionChecker::checkInterval(const ast::Interval& interval, const Expre
         const Built constant = make(Operation::Constant, typeOf(*end), interval.position);
         if (comparable(operand, *constant))
             continue;
-        context_.report(
-            Error::CompareTypes, interval.position,
-            {describe(operand.type), describe(constant->type), quoteHint(operand, *constant)});
+        context_.report(Error::CompareTypes, interval.position,
+                        {capitalized(describe(operand.type)), describe(constant->type),
+                         quoteHint(operand, *constant)});
         return false;
     }
     const auto& [low, high] = interval.bounds;
@@ -461,8 +468,9 @@ ExpressionChecker::Built ExpressionChecker::checkCall(const ast::Node& node) {
         std::vector<std::string> known;
         for (const FunctionEntry& entry : functionTable())
             known.emplace_back(entry.name);
-        context_.report(Error::UnknownFunction, node.position,
-                        {inQuotes(node.name.name), didYouMean(nearest(node.name.name, known))});
+        const std::string hint =
+            context_.wantsHints() ? didYouMean(nearest(node.name.name, known)) : "";
+        context_.report(Error::UnknownFunction, node.position, {inQuotes(node.name.name), hint});
         return nullptr;
     }
     if (node.arguments.size() != function->parameters.size()) {

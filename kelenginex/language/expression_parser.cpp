@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 
 namespace kelx::language {
 
@@ -44,6 +45,43 @@ bool isNumber(const Node& node) {
     return node.kind == NodeKind::Constant &&
            (std::holds_alternative<std::int64_t>(node.constant) ||
             std::holds_alternative<double>(node.constant));
+}
+
+/// Where the first digit that is not 0 stands: 0 just before the point, negative behind it.
+long magnitude(std::string_view text) {
+    const std::size_t exponentAt = std::min(text.find_first_of("eE"), text.size());
+    const std::string_view digits = text.substr(0, exponentAt);
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    const std::size_t first = std::min(digits.find_first_of("123456789"), digits.size());
+    constexpr long far = 2'000'000;
+    long exponent = 0;
+    std::string_view written = text.substr(std::min(exponentAt + 1, text.size()));
+    if (!written.empty() && written.front() == '+')
+        written.remove_prefix(1);
+    const auto read = std::from_chars(written.data(), written.data() + written.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range)
+        exponent = written.front() == '-' ? -far : far;
+    return std::clamp(exponent, -far, far) + static_cast<long>(point) - static_cast<long>(first);
+}
+
+/// A number too small for a real is 0, one too large is nothing.
+std::optional<Constant> realOf(const std::string& text) {
+    double real = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, real);
+    if (read.ec == std::errc() && read.ptr == end)
+        return real;
+    return magnitude(text) < 0 ? std::optional<Constant>(0.0) : std::nullopt;
+}
+
+/// Nothing for the least whole number, which has no positive.
+std::optional<Constant> negated(const Constant& constant) {
+    const auto* integer = std::get_if<std::int64_t>(&constant);
+    if (integer == nullptr)
+        return -std::get<double>(constant);
+    if (*integer == std::numeric_limits<std::int64_t>::min())
+        return std::nullopt;
+    return -*integer;
 }
 
 /// SUM (x) is a mistaken function, AND (x) is none.
@@ -91,24 +129,6 @@ NodePtr balanced(std::vector<NodePtr>& operands, std::size_t begin, std::size_t 
 }
 
 } // namespace
-
-std::optional<Constant> numberOf(std::string_view text) {
-    std::int64_t integer = 0;
-    const char* const end = text.data() + text.size();
-    if (text.find_first_of(".eE") == std::string_view::npos) {
-        const auto read = std::from_chars(text.data(), end, integer);
-        return read.ec == std::errc() ? std::optional<Constant>(integer) : std::nullopt;
-    }
-    double real = 0;
-    const auto read = std::from_chars(text.data(), end, real);
-    return read.ec == std::errc() && read.ptr == end ? std::optional<Constant>(real) : std::nullopt;
-}
-
-Constant negated(const Constant& constant) {
-    if (const auto* integer = std::get_if<std::int64_t>(&constant))
-        return -*integer;
-    return -std::get<double>(constant);
-}
 
 NodePtr ExpressionParser::tooDeep(Position position) {
     cursor_.report(Error::TooDeep, position);
@@ -170,11 +190,17 @@ NodePtr ExpressionParser::parseNot() {
     if (nesting_ > deepestNesting)
         return tooDeep(token.position);
     NodePtr operand = parseNot();
-    if (operand == nullptr)
-        return nullptr;
-    NodePtr node = makeNode(NodeKind::Operation, token);
+    return operand == nullptr ? nullptr : negation(token, std::move(operand));
+}
+
+NodePtr ExpressionParser::negation(const Token& word, NodePtr operand) {
+    NodePtr node = makeNode(NodeKind::Operation, word);
     node->operation = Operation::Not;
     node->operatorText = "NOT";
+    if (operand->span.begin < word.begin) { // x NOT IN (...)
+        node->position = operand->position;
+        node->span.begin = operand->span.begin;
+    }
     node->span.end = operand->span.end;
     node->depth = operand->depth + 1;
     node->arguments.push_back(std::move(operand));
@@ -184,8 +210,14 @@ NodePtr ExpressionParser::parseNot() {
 NodePtr ExpressionParser::parseComparison() {
     NodePtr left = parseSum();
     while (left != nullptr) {
+        const Token& word = cursor_.peek();
+        const bool isNot = word.is(Keyword::Not) && cursor_.peek(1).is(Keyword::In);
+        if (isNot)
+            cursor_.take();
         if (cursor_.takeKeyword(Keyword::In)) {
             left = parseIn(std::move(left));
+            if (isNot && left != nullptr)
+                left = negation(word, std::move(left));
             continue;
         }
         const OperatorEntry* entry = findOperator(comparisons, cursor_.peek());
@@ -254,10 +286,8 @@ bool ExpressionParser::parseBound(std::optional<Constant>& bound, bool& open) {
     }
     const bool minus = cursor_.takeSymbol("-");
     if (cursor_.peek().kind == TokenKind::Number) {
-        const NodePtr number = parseNumber();
-        if (number != nullptr)
-            bound = minus ? negated(number->constant) : number->constant;
-        return number != nullptr;
+        bound = readNumber(cursor_.take(), minus);
+        return bound.has_value();
     }
     if (!minus && cursor_.peek().kind == TokenKind::Text) {
         bound = cursor_.take().value();
@@ -306,13 +336,18 @@ NodePtr ExpressionParser::parseSigned() {
     const Token& token = cursor_.take();
     if (nesting_ > deepestNesting)
         return tooDeep(token.position);
+    if (token.isSymbol("-") && cursor_.peek().kind == TokenKind::Number)
+        return parseNumber(&token);
     NodePtr operand = parseSigned();
     if (operand == nullptr || token.isSymbol("+"))
         return operand;
-    NodePtr node = makeNode(isNumber(*operand) ? NodeKind::Constant : NodeKind::Operation, token);
+    NodePtr node = makeNode(NodeKind::Operation, token);
     node->span.end = operand->span.end;
-    if (isNumber(*operand)) {
-        node->constant = negated(operand->constant);
+    const std::optional<Constant> number =
+        isNumber(*operand) ? negated(operand->constant) : std::nullopt;
+    if (number) {
+        node->kind = NodeKind::Constant;
+        node->constant = *number;
         return node;
     }
     node->operation = Operation::Negate;
@@ -325,7 +360,7 @@ NodePtr ExpressionParser::parseSigned() {
 NodePtr ExpressionParser::parsePrimary() {
     const Token& token = cursor_.peek();
     if (token.kind == TokenKind::Number)
-        return parseNumber();
+        return parseNumber(nullptr);
     if (token.isSymbol("("))
         return parseParenthesis();
     if (token.kind == TokenKind::Word && canBeFunction(token) && cursor_.peek(1).isSymbol("("))
@@ -385,16 +420,30 @@ NodePtr ExpressionParser::parseCall() {
     return node;
 }
 
-NodePtr ExpressionParser::parseNumber() {
+NodePtr ExpressionParser::parseNumber(const Token* minus) {
     const Token& token = cursor_.take();
-    NodePtr node = makeNode(NodeKind::Constant, token);
-    const std::optional<Constant> number = numberOf(token.text);
-    if (!number) {
-        cursor_.report(Error::NumberTooLarge, token.position, {inQuotes(token.text)});
+    const std::optional<Constant> number = readNumber(token, minus != nullptr);
+    if (!number)
         return nullptr;
-    }
+    NodePtr node = makeNode(NodeKind::Constant, minus != nullptr ? *minus : token);
+    node->span.end = token.end();
     node->constant = *number;
     return node;
+}
+
+std::optional<Constant> ExpressionParser::readNumber(const Token& number, bool minus) {
+    const std::string text = (minus ? "-" : "") + std::string(number.text);
+    if (text.find_first_of(".eE") != std::string::npos) {
+        const std::optional<Constant> real = realOf(text);
+        if (!real)
+            cursor_.report(Error::RealTooLarge, number.position, {inQuotes(text)});
+        return real;
+    }
+    std::int64_t integer = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), integer).ec == std::errc())
+        return integer;
+    cursor_.report(Error::NumberTooLarge, number.position, {inQuotes(text)});
+    return std::nullopt;
 }
 
 std::optional<ast::Name> ExpressionParser::parseName(const std::string& expected, bool allowAll) {

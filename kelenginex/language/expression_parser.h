@@ -24,6 +24,9 @@ public:
     /// reported.
     std::optional<ast::Name> parseName(const std::string& expected, bool allowAll);
 
+    /// The value of a number; nothing where it is too large, which is reported.
+    std::optional<Constant> readNumber(const Token& number, bool minus);
+
     /// a : b, or a value alone; without parentheses.
     bool parseInterval(std::vector<ast::Interval>& intervals);
 
@@ -34,13 +37,14 @@ private:
     ast::NodePtr parseNot();
     ast::NodePtr parseComparison();
     ast::NodePtr parseIn(ast::NodePtr operand);
+    ast::NodePtr negation(const Token& word, ast::NodePtr operand);
     ast::NodePtr parseSum();
     ast::NodePtr parseProduct();
     ast::NodePtr parseSigned();
     ast::NodePtr parsePrimary();
     ast::NodePtr parseParenthesis();
     ast::NodePtr parseCall();
-    ast::NodePtr parseNumber();
+    ast::NodePtr parseNumber(const Token* minus);
     bool parseBound(std::optional<Constant>& bound, bool& open);
     ast::NodePtr combine(Operation operation, const std::string& text, ast::NodePtr left,
                          ast::NodePtr right);
@@ -51,9 +55,5 @@ private:
     int nesting_ = 0;
     bool mayEndInOr_ = false;
 };
-
-/// The value of a number as written; nothing where it needs more than 64 bits.
-std::optional<Constant> numberOf(std::string_view text);
-Constant negated(const Constant& number);
 
 } // namespace kelx::language

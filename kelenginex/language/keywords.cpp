@@ -105,6 +105,14 @@ std::unordered_map<std::string, Keyword> makeIndex() {
     return index;
 }
 
+/// By keyword: every token is asked for its places, and often.
+std::vector<unsigned> makePlaces() {
+    std::vector<unsigned> places(static_cast<std::size_t>(Keyword::Overwrite) + 1, 0);
+    for (const KeywordEntry& entry : entries)
+        places[static_cast<std::size_t>(entry.keyword)] = entry.places;
+    return places;
+}
+
 } // namespace
 
 const std::vector<KeywordEntry>& keywords() {
@@ -121,11 +129,8 @@ Keyword keywordOf(std::string_view word) {
 }
 
 unsigned placesOf(Keyword keyword) {
-    for (const KeywordEntry& entry : entries) {
-        if (entry.keyword == keyword)
-            return entry.places;
-    }
-    return 0;
+    static const std::vector<unsigned> places = makePlaces();
+    return places[static_cast<std::size_t>(keyword)];
 }
 
 std::vector<std::string> wordsFor(unsigned places) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/lexer.h"
 
+#include "language/characters.h"
 #include "language/message_table.h"
 #include "language/reserved_words.h"
 #include "language/text.h"
@@ -16,29 +17,27 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Letters of other scripts count: every byte beyond ASCII belongs to a word.
-bool isWordByte(char c) {
-    return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
-           static_cast<unsigned char>(c) >= 0x80;
-}
-
 /// A character as a message can show it.
 std::string visible(char c) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(c);
-    if (code >= ' ' && code < 0x7f)
-        return inQuotes({&c, 1});
-    return std::string("U+00") + digits[code >> 4] + digits[code & 15];
+    return code >= ' ' && code < 0x7f ? inQuotes({&c, 1}) : codePointName(code);
 }
 
 struct Symbol {
     std::string_view written, meant;
+    bool isWrong = false; ///< of another language
 };
 
 /// Longer ones first. A "=" may be doubled, as where "=" was replaced by "==" in "<=" or "==".
-constexpr std::array<Symbol, 15> symbols = {{{"<>", "<>"},
+constexpr std::array<Symbol, 21> symbols = {{{"\xe2\x89\xa0", "<>", true},
+                                             {"\xe2\x89\xa4", "<=", true},
+                                             {"\xe2\x89\xa5", ">=", true},
+                                             {"<>", "<>"},
                                              {"<=", "<="},
                                              {">=", ">="},
+                                             {"!=", "<>", true},
+                                             {"=<", "<=", true},
+                                             {"=>", ">=", true},
                                              {"=", "="},
                                              {"<", "<"},
                                              {">", ">"},
@@ -56,7 +55,7 @@ class Lexer {
 public:
     Lexer(std::string_view program, const OddNames& oddNames, Messages& messages,
           std::size_t source)
-        : program_(program), oddNames_(oddNames), messages_(messages), position_{1, 1, source} {}
+        : program_(program), known_(oddNames), messages_(messages), position_{1, 1, source} {}
 
     std::vector<Token> run() {
         while (skipBlanks())
@@ -88,11 +87,13 @@ private:
     /// True where a token begins after blanks and comments.
     bool skipBlanks() {
         while (at_ < program_.size()) {
-            const char c = peek();
-            if (c == ' ' || (c >= '\t' && c <= '\r'))
-                advance(1);
+            const Character c = characterAt(rest());
+            if (c.kind == CharacterKind::Blank)
+                advance(c.length);
             else if (rest().starts_with("\xef\xbb\xbf") && at_ == 0)
                 at_ += 3;
+            else if (c.kind == CharacterKind::Invisible)
+                skipInvisible(c);
             else if (rest().starts_with("//"))
                 advance(std::min(rest().find_first_of("\r\n"), rest().size()));
             else if (rest().starts_with("/*"))
@@ -101,6 +102,17 @@ private:
                 return true;
         }
         return false;
+    }
+
+    /// Between words it does no more harm than a blank.
+    void skipInvisible(const Character& character) {
+        tellInvisible(character, position_);
+        advance(character.length);
+    }
+
+    void tellInvisible(const Character& character, Position position) {
+        messages_.add(makeMessage(Error::UnknownCharacter, position,
+                                  {codePointName(character.code), " It is invisible: delete it."}));
     }
 
     void skipComment() {
@@ -126,12 +138,17 @@ private:
 
     void next() {
         const std::size_t word = wordLength();
-        if (word > 0)
+        const CharacterKind kind = characterAt(rest()).kind;
+        if (const std::size_t broken = brokenWordLength(word); broken > word)
+            add(TokenKind::Invalid, broken);
+        else if (word > 0)
             addWord(word);
         else if (isDigit(peek()) || (peek() == '.' && isDigit(peek(1)) && !afterWord()))
             addNumber();
         else if (peek() == '"')
             addText();
+        else if (kind == CharacterKind::SingleQuote || kind == CharacterKind::DoubleQuote)
+            addMisquoted(kind);
         else if (peek() == '{')
             addBraced();
         else
@@ -153,12 +170,35 @@ private:
         const std::size_t odd = value > 0 ? value : oddNameLength();
         if (odd > 0)
             return odd;
-        std::size_t length = 0;
-        while (isWordByte(peek(length)))
-            ++length;
+        const std::size_t length = wordRun(rest());
         if (afterDot() || length == 0 || !isDigit(peek()))
             return length;
         return isNumberLike(rest().substr(0, length)) ? 0 : length;
+    }
+
+    /// A word that an invisible character cuts in two is one fault, which is told here.
+    std::size_t brokenWordLength(std::size_t word) {
+        std::size_t end = word;
+        while (word > 0 && end < rest().size()) {
+            const Character cut = characterAt(rest().substr(end));
+            const std::size_t begin = end + cut.length;
+            const std::size_t more = cut.kind == CharacterKind::Invisible && begin < rest().size()
+                                         ? wordRun(rest().substr(begin))
+                                         : 0;
+            if (more == 0)
+                break;
+            if (end == word)
+                tellInvisible(cut, positionBehind(word));
+            end = begin + more;
+        }
+        return end;
+    }
+
+    Position positionBehind(std::size_t bytes) const {
+        Position position = position_;
+        position.column +=
+            static_cast<std::int64_t>(storage::characterCount(rest().substr(0, bytes)));
+        return position;
     }
 
     /// "12" and "1e5" (also the "1e" of 1e-5) are no words, "2nd" is.
@@ -189,38 +229,36 @@ private:
     /// A name that a program makes may hold "-", and keeps it from there on.
     std::size_t newNameLength() {
         const std::size_t length = dashedLength();
-        if (length > 0 && !tokens_.back().is(Keyword::Rundef))
-            noteName(rest().substr(0, length));
+        const Token& before = tokens_.back();
+        if (length > 0 && !before.is(Keyword::Rundef))
+            made_.add(rest().substr(0, length));
+        if (length > 0 && before.is(Keyword::Table))
+            tables_.add(rest().substr(0, length));
         return length;
     }
 
     /// Length of the name with a "-" that begins here; 0 for none.
     std::size_t dashedLength() const {
         constexpr std::size_t longest = 200;
-        if (!isWordByte(peek()))
-            return 0;
-        std::size_t length = 0;
-        bool dashed = false;
-        while (length <= longest && (isWordByte(peek(length)) ||
-                                     (peek(length) == '-' && isWordByte(peek(length + 1))))) {
-            dashed = dashed || peek(length) == '-';
-            ++length;
+        const std::size_t first = wordRun(rest());
+        std::size_t length = first;
+        while (first > 0 && length <= longest && peek(length) == '-') {
+            const std::size_t more =
+                length + 1 < rest().size() ? wordRun(rest().substr(length + 1)) : 0;
+            if (more == 0)
+                break;
+            length += 1 + more;
         }
-        return dashed && length <= longest ? length : 0;
+        return length > first && length <= longest ? length : 0;
     }
 
     /// The tables of a list get a number behind the name.
-    void noteName(std::string_view name) {
-        constexpr std::size_t numberDigits = 6;
-        oddNames_.names.insert(lowerCase(name));
-        oddNames_.longest = std::max(oddNames_.longest, name.size() + numberDigits);
-        if (tokens_.back().is(Keyword::Table))
-            tables_.insert(lowerCase(name));
-    }
-    bool isTableOfList(const std::string& name) const {
+    std::size_t listTableLength() const {
+        const std::size_t length = tables_.isEmpty() ? 0 : dashedLength();
+        const std::string_view name = rest().substr(0, length);
         const std::size_t end = name.find_last_not_of("0123456789");
-        return !tables_.empty() && end != std::string::npos && end + 1 < name.size() &&
-               name[end] == '_' && tables_.contains(name.substr(0, end));
+        const bool numbered = end != std::string_view::npos && end + 1 < length && name[end] == '_';
+        return numbered && tables_.lengthAt(name.substr(0, end), true) == end ? length : 0;
     }
 
     /// `name = {` of EXECUTE.
@@ -242,21 +280,8 @@ private:
     }
 
     std::size_t oddNameLength() const {
-        if (oddNames_.names.empty() || !isWordByte(peek()))
-            return 0;
-        std::size_t length = 0;
-        while (length < oddNames_.longest && (isWordByte(peek(length)) || peek(length) == '-'))
-            ++length;
-        for (; length > 0; --length) {
-            if (isWordByte(peek(length)) && isWordByte(peek(length - 1)))
-                continue;
-            const std::string_view name = rest().substr(0, length);
-            const bool allDigits = name.find_first_not_of("0123456789") == std::string_view::npos;
-            const std::string key = lowerCase(name);
-            if ((afterDot() || !allDigits) && (oddNames_.names.contains(key) || isTableOfList(key)))
-                return length;
-        }
-        return 0;
+        return std::max({known_.lengthAt(rest(), afterDot()), made_.lengthAt(rest(), afterDot()),
+                         listTableLength()});
     }
 
     void addWord(std::size_t length) {
@@ -276,13 +301,15 @@ private:
         std::size_t blanks = 0;
         while (peek(blanks) == ' ' || peek(blanks) == '\t')
             ++blanks;
-        std::string_view line = rest().substr(blanks);
-        line = line.substr(0, line.find_first_of("\r\n"));
+        const std::string_view label = rest().substr(blanks);
+        if (isQuoted(label))
+            return;
+        std::string_view line = label.substr(0, label.find_first_of("\r\n"));
         line = line.substr(0, commentIn(line));
         while (!line.empty() && (line.back() == ' ' || line.back() == '\t'))
             line.remove_suffix(1);
         const bool isName = blanks == 0 && line.starts_with('.');
-        if (line.empty() || isName || isQuoted(line))
+        if (line.empty() || isName)
             return;
         advance(blanks);
         add(TokenKind::Label, line.size());
@@ -300,20 +327,21 @@ private:
 
     /// A text in quotes, alone or with another clause or a command behind it. One that is never
     /// closed is told as such.
-    static bool isQuoted(std::string_view line) {
-        if (line.front() != '"')
+    static bool isQuoted(std::string_view label) {
+        constexpr std::string_view ends = "\"\r\n";
+        if (!label.starts_with('"'))
             return false;
-        std::size_t end = line.find('"', 1);
-        while (end != std::string_view::npos && line.substr(end + 1).starts_with('"'))
-            end = line.find('"', end + 2);
-        if (end == std::string_view::npos)
+        std::size_t end = label.find_first_of(ends, 1);
+        while (end != std::string_view::npos && label.substr(end).starts_with("\"\""))
+            end = label.find_first_of(ends, end + 2);
+        if (end == std::string_view::npos || label[end] != '"')
             return true;
-        line.remove_prefix(end + 1);
-        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-        const auto* const wordEnd = std::find_if_not(line.begin(), line.end(), isWordByte);
-        return line.empty() || line.starts_with("//") || line.starts_with("/*") ||
-               placesOf(
-                   keywordOf({line.data(), static_cast<std::size_t>(wordEnd - line.begin())})) != 0;
+        label.remove_prefix(end + 1);
+        label.remove_prefix(std::min(label.find_first_not_of(" \t"), label.size()));
+        const bool ended = label.empty() || label.front() == '\r' || label.front() == '\n';
+        const std::string_view word = label.substr(0, ended ? 0 : wordRun(label));
+        return ended || label.starts_with("//") || label.starts_with("/*") ||
+               placesOf(keywordOf(word)) != 0;
     }
 
     void addNumber() {
@@ -323,18 +351,49 @@ private:
                 ++length;
         };
         digits();
-        if (peek(length) == '.' && isDigit(peek(length + 1))) {
+        if (peek(length) == '.' && (isDigit(peek(length + 1)) || pointEndsNumber(length))) {
             ++length;
             digits();
         }
-        if (peek(length) == 'e' || peek(length) == 'E') {
-            const std::size_t sign = peek(length + 1) == '-' || peek(length + 1) == '+' ? 1 : 0;
-            if (isDigit(peek(length + 1 + sign))) {
-                length += 1 + sign;
-                digits();
-            }
-        }
+        length += exponentLength(length);
         add(TokenKind::Number, length);
+    }
+
+    std::size_t exponentLength(std::size_t at) const {
+        if (peek(at) != 'e' && peek(at) != 'E')
+            return 0;
+        std::size_t length = peek(at + 1) == '-' || peek(at + 1) == '+' ? 2 : 1;
+        if (!isDigit(peek(at + length)))
+            return 0;
+        while (isDigit(peek(at + length)))
+            ++length;
+        return length;
+    }
+
+    /// "5." and "1.e5", but not "5.AGE" or "5..".
+    bool pointEndsNumber(std::size_t at) const {
+        if (at == 0)
+            return false;
+        const std::size_t end = at + 1 + exponentLength(at + 1);
+        if (end >= rest().size())
+            return true;
+        const Character next = characterAt(rest().substr(end));
+        return next.kind != CharacterKind::Word && next.code != '.' && next.code != '*';
+    }
+
+    /// In other quotes than "...": read as it is meant, so that nothing more is told of it. One
+    /// that is not closed takes the line with it.
+    void addMisquoted(CharacterKind quotes) {
+        messages_.add(makeMessage(Error::WrongQuotes, position_));
+        std::size_t at = characterAt(rest()).length;
+        while (at < rest().size() && peek(at) != '\r' && peek(at) != '\n') {
+            const Character character = characterAt(rest().substr(at));
+            at += character.length;
+            if (character.kind == quotes ||
+                (character.code == '"' && quotes == CharacterKind::DoubleQuote))
+                return void(add(TokenKind::Text, at));
+        }
+        add(TokenKind::Invalid, at);
     }
 
     /// A documentation may have many lines.
@@ -387,19 +446,23 @@ private:
                 tokens_.back().keyword = Keyword::None;
                 tokens_.back().reserved = false;
             }
+            if (symbol.isWrong)
+                messages_.add(makeMessage(Error::WrongSign, position_,
+                                          {inQuotes(symbol.written), std::string(symbol.meant)}));
             std::size_t length = symbol.written.size();
             while (symbol.written.back() == '=' && peek(length) == '=')
                 ++length;
             add(TokenKind::Symbol, length).text = symbol.meant;
             return;
         }
-        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek())}));
+        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek()), ""}));
         add(TokenKind::Invalid, 1);
     }
 
     std::string_view program_;
-    OddNames oddNames_;                      ///< those of the dictionary and of the program
-    std::unordered_set<std::string> tables_; ///< those of oddNames_ that TABLE made
+    const OddNames& known_;
+    OddNames made_;   ///< those of the program
+    OddNames tables_; ///< those of TABLE
     Messages& messages_;
     std::vector<Token> tokens_;
     std::size_t at_ = 0;
@@ -407,11 +470,23 @@ private:
     bool lineBegins_ = true;
 };
 
+/// Between quotes of any length in bytes.
+std::string misquotedValue(std::string_view text) {
+    text.remove_prefix(characterAt(text).length);
+    while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xc0) == 0x80)
+        text.remove_suffix(1);
+    if (!text.empty())
+        text.remove_suffix(1);
+    return std::string(text);
+}
+
 } // namespace
 
 std::string Token::value() const {
     if (kind != TokenKind::Text)
         return std::string(text);
+    if (text.front() != '"')
+        return misquotedValue(text);
     std::string result;
     for (std::size_t i = 1; i < text.size(); ++i) {
         if (text[i] == '"' && ++i >= text.size())

@@ -4,11 +4,11 @@
 
 #include "language/keywords.h"
 #include "language/messages.h"
+#include "language/odd_names.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 namespace kelx::language {
@@ -17,7 +17,7 @@ enum class TokenKind {
     End,
     Word,
     Number,
-    Text,    ///< in double quotes, quotes included
+    Text,    ///< in quotes, quotes included; other quotes than double ones were reported
     Label,   ///< without quotes, to the end of the line
     Braced,  ///< between braces, braces included; may hold other braces in pairs
     Symbol,  ///< punctuation and operators; `==` and the like already as `=`
@@ -42,13 +42,6 @@ struct Token {
     }
     /// The text without its quotes, "" being a quote; a label as it stands.
     std::string value() const;
-};
-
-/// Names that do not look like words ("INCOME-2", "2ND"), in lower case. A run of characters is
-/// such a name only where this set holds it.
-struct OddNames {
-    std::unordered_set<std::string> names;
-    std::size_t longest = 0;
 };
 
 /// The tokens of a program, an End last. The text must outlive them. Faults go to messages.

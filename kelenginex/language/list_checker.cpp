@@ -122,16 +122,20 @@ bool ListChecker::addColumn(const ast::Name& name, TableCommand& command) {
     return false;
 }
 
-/// A name of a table may have been meant as well as one of a variable.
+/// A table may have been meant as well as a variable.
 void ListChecker::reportUnknown(const ast::Name& name, TableCommand& command) {
-    const bool isVariable = !context_.names().variables(name.name).empty() ||
-                            context_.names().entity(name.name) != nullptr;
-    const std::string near = nearest(name.name, tables_.names());
-    if (!isVariable && !near.empty())
-        context_.report(Error::UnknownTable, name.position,
-                        {inQuotes(name.name), didYouMean(near)});
-    else if (const ExpressionPtr variable = expressions_.variable(name)) // tells what is wrong
-        addVariable(*variable->variable, name.position, command);
+    const bool isKnown = !context_.names().variables(name.name).empty() ||
+                         context_.names().entity(name.name) != nullptr;
+    const bool isNumber = name.name.front() >= '0' && name.name.front() <= '9';
+    if (isKnown || isNumber) {
+        if (const ExpressionPtr variable = expressions_.variable(name)) // tells what is wrong
+            addVariable(*variable->variable, name.position, command);
+    } else if (!context_.isExpected("", name.name)) {
+        std::string hint = tables_.hintFor(name.name);
+        if (hint.empty() && context_.wantsHints())
+            hint = context_.names().similarVariable(name.name);
+        context_.report(Error::UnknownColumn, name.position, {inQuotes(name.name), hint});
+    }
 }
 
 bool ListChecker::addVariables(const ast::Name& name, TableCommand& command) {
@@ -145,6 +149,8 @@ bool ListChecker::addVariables(const ast::Name& name, TableCommand& command) {
 }
 
 bool ListChecker::addVariable(const Variable& variable, Position position, TableCommand& command) {
+    if (!tables_.hasRoomForColumn(position))
+        return false;
     const Entity& entity = *command.countEntity;
     ExpressionPtr expression = expressions_.variable(variable, position);
     if (expression == nullptr)
@@ -195,11 +201,12 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
     hidden.sort.reset();
     hidden.outfile.reset();
     hidden.jsonFiles.clear();
-    if (!takeWeights(command, facts, hidden) || !tables_.hasRoom(1, position))
+    if (!takeWeights(command, facts, hidden) || !tables_.hasRoomForColumn(position) ||
+        !tables_.hasRoomFor(hidden, position))
         return false;
     distinguish(number, hidden.name);
     raise(hidden.sensitive, command.sensitive);
-    hidden.sensitive = protectionOf(hidden);
+    hidden.sensitive = placer_.protection().of(hidden);
     tables_.useAsColumn(number);
     const std::size_t at = tables_.size();
     tables_.add(std::move(hidden), std::move(facts));

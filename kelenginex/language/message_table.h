@@ -26,8 +26,7 @@ enum class Error : int {
     TooDeep,
     MisplacedClause,
     RepeatedClause,
-    NotSupported,
-    BadDecimals,
+    BadDecimals = 15, ///< 14 is no more
     UnknownEntity,
     UnknownVariable,
     AmbiguousName,
@@ -49,7 +48,6 @@ enum class Error : int {
     CrosstabsWithoutBy,
     SelectionFile,
     WeightBelow,
-    WeightIsText,
     SelfReference,
     BelowEntity,
     NotBelow,
@@ -78,6 +76,15 @@ enum class Error : int {
     SortColumn,
     TargetFile,
     OutfileWorkbench,
+    WrongQuotes,
+    WrongSign,
+    RealTooLarge,
+    ValuesTooLong,
+    UnknownColumn,
+    TooManyColumns,
+    TooManyDimensions,
+    TooMuchText,
+    WeightIsText,
 };
 
 /// Codes of warnings; the same rule.

@@ -22,6 +22,9 @@ bool standsBefore(const Message& left, const Message& right) {
 } // namespace
 
 void Messages::add(Message message) {
+    ++(isError(message) ? errors_ : warnings_);
+    if (list_.size() >= kept)
+        return;
     std::size_t source = message.position.source;
     if (source > 0 && source <= sources_.size())
         message.text = sources_[source - 1].file + ":" + std::to_string(message.position.line) +
@@ -36,14 +39,6 @@ std::size_t Messages::addSource(std::string file, Position call) {
     return sources_.size();
 }
 
-bool Messages::hasErrors() const {
-    return std::any_of(list_.begin(), list_.end(), isError);
-}
-
-std::size_t Messages::errorCount() const {
-    return static_cast<std::size_t>(std::count_if(list_.begin(), list_.end(), isError));
-}
-
 std::vector<Message> Messages::forDisplay() const {
     std::vector<Message> sorted = list_;
     std::stable_sort(sorted.begin(), sorted.end(), standsBefore);
@@ -53,12 +48,12 @@ std::vector<Message> Messages::forDisplay() const {
         if ((isError(message) ? errors : warnings)++ < shown)
             result.push_back(message);
     }
-    if (result.size() == sorted.size())
+    if (result.size() == errors_ + warnings_)
         return result;
-    const std::string rest = std::to_string(sorted.size() - result.size());
+    const std::string rest = std::to_string(errors_ + warnings_ - result.size());
     const Position end = result.back().position;
-    result.push_back(errors > shown ? makeMessage(Error::More, end, {rest})
-                                    : makeMessage(Warning::More, end, {rest}));
+    result.push_back(errors_ > shown ? makeMessage(Error::More, end, {rest})
+                                     : makeMessage(Warning::More, end, {rest}));
     return result;
 }
 

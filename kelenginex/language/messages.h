@@ -36,9 +36,12 @@ public:
     void add(Message message);
     /// The number of a program that is called, for the positions in it.
     std::size_t addSource(std::string file, Position call);
-    bool hasErrors() const;
-    std::size_t errorCount() const;
+    bool hasErrors() const { return errors_ > 0; }
+    std::size_t errorCount() const { return errors_; }
+    /// Those that are kept: the first ones, far more than anybody reads.
     const std::vector<Message>& all() const { return list_; }
+    /// Hints cost time: after many messages nobody reads them.
+    bool wantsHints() const { return list_.size() < 2 * shown; }
     /// At most `shown` errors and as many warnings, by place, then one line that counts the rest.
     std::vector<Message> forDisplay() const;
 
@@ -48,7 +51,10 @@ private:
         Position call;
     };
 
+    static constexpr std::size_t kept = 20000;
+
     std::vector<Message> list_;
+    std::size_t errors_ = 0, warnings_ = 0; ///< also those that are not kept
     std::vector<Source> sources_;
 };
 

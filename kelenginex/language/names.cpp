@@ -34,28 +34,34 @@ Names::Names(const catalog::Dictionary& dictionary) {
         dictionary.root == nullptr ? std::vector<Entity*>() : dictionary.entities();
     for (const Entity* entity : all) {
         entities_.emplace(lowerCase(entity->name), entity);
-        addName(entity->name);
+        oddNames_.add(entity->name);
         auto& own = byEntity_[entity];
         for (const auto& variable : entity->variables) {
-            lists_[entity].push_back(variable.get());
+            append(*variable);
             own.emplace(lowerCase(variable->name), variable.get());
             byName_[lowerCase(variable->name)].push_back(variable.get());
-            addName(variable->name);
+            oddNames_.add(variable->name);
         }
     }
     // Names win over aliases.
     for (const Entity* entity : all) {
         if (!entity->alias.empty())
             entities_.emplace(lowerCase(entity->alias), entity);
-        addName(entity->alias);
+        oddNames_.add(entity->alias);
         for (const auto& variable : entity->variables) {
             if (variable->alias.empty())
                 continue;
             byEntity_[entity].emplace(lowerCase(variable->alias), variable.get());
             byAlias_[lowerCase(variable->alias)].push_back(variable.get());
-            addName(variable->alias);
+            oddNames_.add(variable->alias);
         }
     }
+}
+
+void Names::append(const Variable& variable) {
+    std::vector<const Variable*>& list = lists_[variable.entity];
+    places_[&variable] = list.size();
+    list.push_back(&variable);
 }
 
 const std::vector<const Variable*>& Names::variablesOf(const Entity& entity) const {
@@ -68,14 +74,18 @@ void Names::define(const Variable& variable) {
     const std::string key = lowerCase(variable.name);
     const Variable*& holder = byEntity_[variable.entity][key];
     const bool isNew = holder == nullptr || lowerCase(holder->name) != key;
-    for (std::vector<const Variable*>* list : {&lists_[variable.entity], &byName_[key]}) {
-        if (isNew)
-            list->push_back(&variable);
-        else
-            std::replace(list->begin(), list->end(), std::as_const(holder), &variable);
+    std::vector<const Variable*>& same = byName_[key];
+    if (isNew) {
+        append(variable);
+        same.push_back(&variable);
+    } else {
+        const std::size_t place = places_.at(holder);
+        lists_[variable.entity][place] = &variable;
+        places_[&variable] = place;
+        std::replace(same.begin(), same.end(), std::as_const(holder), &variable);
     }
     holder = &variable;
-    addName(variable.name);
+    oddNames_.add(variable.name);
     if (!variable.alias.empty())
         defineAlias(variable);
 }
@@ -89,15 +99,7 @@ void Names::defineAlias(const Variable& variable) {
     std::vector<const Variable*>& all = byAlias_[key];
     std::erase_if(all, [&](const Variable* v) { return v->entity == variable.entity; });
     all.push_back(&variable);
-    addName(variable.alias);
-}
-
-/// Only names that would not be read as one word are odd.
-void Names::addName(const std::string& name) {
-    if (name.empty() || (name.find('-') == std::string::npos && (name[0] < '0' || name[0] > '9')))
-        return;
-    oddNames_.names.insert(lowerCase(name));
-    oddNames_.longest = std::max(oddNames_.longest, name.size());
+    oddNames_.add(variable.alias);
 }
 
 const Entity* Names::entity(std::string_view name) const {
@@ -135,11 +137,17 @@ std::string Names::similarVariable(const Entity& entity, std::string_view name) 
     const auto& same = variables(name);
     if (!same.empty())
         return didYouMean(same.front()->fullName());
+    constexpr std::size_t mostCandidates = 10000;
+    if (variablesOf(entity).size() > mostCandidates)
+        return "";
     const std::string near = nearest(name, namesOf(variablesOf(entity)));
     return didYouMean(near.empty() ? near : entity.name + "." + near);
 }
 
 std::string Names::similarVariable(std::string_view name) const {
+    constexpr std::size_t mostCandidates = 10000; // a hint is not worth seconds
+    if (places_.size() > mostCandidates)
+        return "";
     std::vector<std::string> candidates;
     for (const auto& [entity, own] : byEntity_) {
         const std::vector<std::string> more = namesOf(variablesOf(*entity));

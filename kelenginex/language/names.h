@@ -25,7 +25,7 @@ public:
     /// A variable that the program makes, in place of one of the same name. It must live on.
     void define(const catalog::Variable& variable);
     /// A table that the program makes.
-    void noteTable(const std::string& name) { addName(name); }
+    void noteTable(const std::string& name) { oddNames_.add(name); }
     const OddNames& oddNames() const { return oddNames_; }
 
     // Hints for a message: empty, or " Did you mean X?".
@@ -36,7 +36,7 @@ public:
 private:
     using Variables = std::unordered_map<std::string, std::vector<const catalog::Variable*>>;
 
-    void addName(const std::string& name);
+    void append(const catalog::Variable& variable);
     void defineAlias(const catalog::Variable& variable);
 
     std::unordered_map<std::string, const catalog::Entity*> entities_;
@@ -44,6 +44,7 @@ private:
                        std::unordered_map<std::string, const catalog::Variable*>>
         byEntity_;
     std::unordered_map<const catalog::Entity*, std::vector<const catalog::Variable*>> lists_;
+    std::unordered_map<const catalog::Variable*, std::size_t> places_; ///< in its entity's list
     Variables byName_, byAlias_;
     OddNames oddNames_;
 };

@@ -26,14 +26,6 @@ bool isWord(const Token& token, std::string_view word) {
     return token.kind == TokenKind::Word && lowerCase(token.text) == word;
 }
 
-bool readFile(TokenCursor& cursor, std::string& file, const std::string& expected) {
-    if (cursor.peek().kind == TokenKind::Text)
-        file = cursor.take().value();
-    if (file.empty())
-        cursor.unexpected(expected);
-    return !file.empty();
-}
-
 /// A column may be called as a kind of table or a clause is, but not at the start of a line.
 bool atColumn(const TokenCursor& cursor) {
     const Token& token = cursor.peek();
@@ -95,7 +87,7 @@ bool parseOutfile(ClauseReader& clauses, ast::Table& table) {
         cursor.unexpected("a type of file, such as XLS or CSV, or a file name in quotes",
                           {types.begin(), types.end()});
     out.filePosition = cursor.peek().position;
-    if (!readFile(cursor, out.file, "the name of the file in quotes"))
+    if (!cursor.takeFileName(out.file, "the name of the file in quotes"))
         return false;
     out.formatPosition = cursor.peek().position;
     if (isOneOf(formats, cursor.peek()))
@@ -112,7 +104,7 @@ bool parseOutgraph(ClauseReader& clauses, ast::Table& table) {
     if (cursor.peek().kind == TokenKind::Word && cursor.peek(1).kind == TokenKind::Text)
         cursor.take();
     std::string file;
-    if (!readFile(cursor, file, "the name of a graph file in quotes"))
+    if (!cursor.takeFileName(file, "the name of a graph file in quotes"))
         return false;
     while (isOneOf(graphWords, cursor.peek()))
         cursor.take();
@@ -123,7 +115,7 @@ bool parseOutgraph(ClauseReader& clauses, ast::Table& table) {
 bool parseSave(ClauseReader& clauses, ast::Table& table) {
     TokenCursor& cursor = clauses.cursor();
     std::string file;
-    if (!readFile(cursor, file, "the name of the file in quotes"))
+    if (!cursor.takeFileName(file, "the name of the file in quotes"))
         return false;
     if (isWord(cursor.peek(), "overwrite"))
         cursor.take();

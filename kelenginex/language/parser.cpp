@@ -30,6 +30,7 @@ public:
 
 private:
     void parseCommand();
+    void skipLostClauses();
     void parseWeight();
     void parseExecute();
     void parseStyle();
@@ -65,11 +66,22 @@ void Parser::parseCommand() {
         return parseWeight();
     if (cursor_.atClause()) {
         clauses_.misplaced("it must follow the command that it belongs to");
-        return cursor_.skipToClause();
+        return skipLostClauses();
     }
     cursor_.unexpected("a command, such as RUNDEF, TABLE or FREQ", wordsFor(startsCommand));
     cursor_.take();
     cursor_.skipToCommand();
+}
+
+/// They belong to the same command, wherever it is.
+void Parser::skipLostClauses() {
+    const auto startsCommandHere = [this] {
+        const Token& token = cursor_.peek();
+        const bool both = token.is(Keyword::Weight) || token.is(Keyword::Tablestyle);
+        return cursor_.atEnd() || cursor_.atCommand() || (both && token.firstOnLine);
+    };
+    for (cursor_.skipToClause(); !startsCommandHere(); cursor_.skipToClause())
+        cursor_.take();
 }
 
 void Parser::parseWeight() {

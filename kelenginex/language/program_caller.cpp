@@ -7,6 +7,7 @@
 #include "language/text.h"
 
 #include <algorithm>
+#include <set>
 #include <stdexcept>
 
 namespace kelx::language {
@@ -15,7 +16,7 @@ namespace {
 
 constexpr std::size_t deepest = 20;
 constexpr std::size_t mostCalls = 10000;
-constexpr std::size_t mostBytes = 64u << 20;
+constexpr std::size_t mostBytes = 16 * longestProgram;
 
 } // namespace
 
@@ -45,7 +46,6 @@ bool ProgramCaller::read(const ast::Execute& command, const std::filesystem::pat
                         {inQuotes(command.file), fault.what()});
         return false;
     }
-    bytes_ += text.size();
     context_.files().read(file);
     return true;
 }
@@ -61,19 +61,27 @@ CalledText ProgramCaller::putValues(const ast::Execute& command, const std::stri
     CalledText called = language::putValues(text, values);
     for (auto& [name, position] : called.unknown) {
         position.source = source;
-        context_.report(Error::UnknownValue, position, {name, didYouMean(nearest(name, names))});
+        context_.report(Error::UnknownValue, position, {name, hint(name, names)});
     }
-    for (const auto& [name, value, position] : command.values) {
-        const auto& unused = called.unused;
-        if (std::find(unused.begin(), unused.end(), name) == unused.end())
-            continue;
-        std::vector<std::string> wanted;
-        for (const auto& unknown : called.unknown)
-            wanted.push_back(unknown.name);
-        context_.report(Warning::UnusedValue, position,
-                        {inQuotes(command.file), name, didYouMean(nearest(name, wanted))});
-    }
+    tellUnused(command, called);
     return called;
+}
+
+void ProgramCaller::tellUnused(const ast::Execute& command, const CalledText& called) {
+    const std::set<std::string> unused(called.unused.begin(), called.unused.end());
+    std::vector<std::string> wanted;
+    for (const auto& unknown : called.unknown)
+        wanted.push_back(unknown.name);
+    for (const auto& [name, value, position] : command.values) {
+        if (unused.contains(name))
+            context_.report(Warning::UnusedValue, position,
+                            {inQuotes(command.file), name, hint(name, wanted)});
+    }
+}
+
+std::string ProgramCaller::hint(const std::string& name,
+                                const std::vector<std::string>& known) const {
+    return context_.wantsHints() ? didYouMean(nearest(name, known)) : "";
 }
 
 void ProgramCaller::call(const ast::Execute& command,
@@ -88,7 +96,11 @@ void ProgramCaller::call(const ast::Execute& command,
     if (!isReadable(text, messages, source))
         return;
     const CalledText called = putValues(command, text, source);
-    if (!called.unknown.empty())
+    bytes_ += std::max(text.size(), called.text.size());
+    if (called.tooLong)
+        context_.report(Error::ValuesTooLong, command.filePosition,
+                        {inQuotes(command.file), std::to_string(longestProgram)});
+    if (called.tooLong || !called.unknown.empty())
         return;
     const auto tokens = tokenize(called.text, context_.names().oddNames(), messages, source);
     const ast::Program program = parse(tokens, messages);

@@ -24,6 +24,8 @@ public:
 private:
     bool mayCall(const ast::Execute& command, const std::filesystem::path& file);
     bool read(const ast::Execute& command, const std::filesystem::path& file, std::string& text);
+    void tellUnused(const ast::Execute& command, const CalledText& called);
+    std::string hint(const std::string& name, const std::vector<std::string>& known) const;
     CalledText putValues(const ast::Execute& command, const std::string& text, std::size_t source);
 
     CheckerContext& context_;

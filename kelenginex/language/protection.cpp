@@ -51,7 +51,7 @@ std::optional<int> protectionOf(const Definition& definition) {
     return least;
 }
 
-std::optional<int> protectionOf(const TableCommand& command) {
+std::optional<int> TableProtection::of(const TableCommand& command) {
     std::optional<int> least = command.sensitive;
     const RunSettings& run = *command.settings;
     raise(least, command.unit->sensitive);
@@ -60,10 +60,19 @@ std::optional<int> protectionOf(const TableCommand& command) {
     raiseByCodes(least, run.areaBreak);
     for (const ExpressionPtr* part :
          {&command.measure, &command.weight, &command.tally, &command.filter, &run.filter})
-        raise(least, part->get());
+        raiseBy(least, *part);
     if (run.selection)
-        raise(least, run.selection->expression.get());
+        raiseBy(least, run.selection->expression);
     return least;
+}
+
+void TableProtection::raiseBy(std::optional<int>& least, const ExpressionPtr& expression) {
+    if (expression == nullptr)
+        return;
+    const auto [known, isNew] = known_.try_emplace(expression);
+    if (isNew)
+        raise(known->second, expression.get());
+    raise(least, known->second);
 }
 
 } // namespace kelx::language

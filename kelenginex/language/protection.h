@@ -4,6 +4,7 @@
 
 #include "language/bound.h"
 
+#include <map>
 #include <optional>
 
 namespace kelx::language {
@@ -15,8 +16,19 @@ void raise(std::optional<int>& least, const Expression* expression);
 
 /// Of what the values are made: expressions, conditions, weights and the counted records.
 std::optional<int> protectionOf(const Definition& definition);
-/// Of all that decides what a table shows: its clause, unit, dimensions, measure, weight, tally and
-/// the conditions of its own and of its run. Not for lists, which show no figures of their own.
-std::optional<int> protectionOf(const TableCommand& command);
+
+/// How tables are protected. Many may share an expression, which is gone through once.
+class TableProtection {
+public:
+    /// By all that decides what a table shows: its clause, unit, dimensions, measure, weight, tally
+    /// and the conditions of its own and of its run. Not for lists, which show no figures of their
+    /// own.
+    std::optional<int> of(const TableCommand& command);
+
+private:
+    void raiseBy(std::optional<int>& least, const ExpressionPtr& expression);
+
+    std::map<ExpressionPtr, std::optional<int>> known_;
+};
 
 } // namespace kelx::language

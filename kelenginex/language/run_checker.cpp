@@ -10,6 +10,25 @@
 
 namespace kelx::language {
 
+namespace {
+
+std::size_t sizeOf(const AreaSelection& selection) {
+    std::size_t bytes = selection.label.size();
+    for (const AreaSelection::Area& area : selection.areas)
+        bytes += sizeof(area) + area.code.size();
+    return bytes;
+}
+
+std::size_t sizeOf(const RunSettings& settings) {
+    std::size_t bytes = sizeof(settings) + settings.name.size();
+    for (const auto* text : {&settings.title, &settings.filterLabel, &settings.tableStyle,
+                             &settings.graphStyle, &settings.mapStyle})
+        bytes += *text ? (*text)->size() : 0;
+    return bytes + (settings.selection ? sizeOf(*settings.selection) : 0);
+}
+
+} // namespace
+
 RunSettings RunChecker::start() const {
     RunSettings settings;
     settings.weightMode = weight_ != nullptr              ? WeightMode::Explicit
@@ -36,6 +55,8 @@ CheckedSettings RunChecker::setWeight(ExpressionPtr weight, const CheckedSetting
 
 CheckedSettings RunChecker::setStyle(const ast::StyleCommand& style,
                                      const CheckedSettings& current) {
+    if (!context_.mayKeep(sizeOf(*current.settings), {}))
+        return current;
     tableStyle_ = resolvedFile(style.file, context_.options().baseFolder).string();
     RunSettings settings = *current.settings;
     settings.tableStyle = tableStyle_;
@@ -118,6 +139,8 @@ AreaSelection RunChecker::selection(const ast::RunDefinition& run) {
 
 AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
     AreaSelection result;
+    if (!context_.mayKeep(0, position))
+        return result;
     SelectionFileContent content;
     const auto path = resolvedFile(file, context_.options().baseFolder);
     context_.files().read(path);
@@ -143,6 +166,8 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
         for (const std::string& code : group.codes)
             result.areas.push_back({entity, code, position});
     }
+    if (!context_.mayKeep(sizeOf(result), position))
+        result.areas.clear();
     return result;
 }
 
@@ -167,10 +192,12 @@ void RunChecker::addArea(AreaSelection& selection, const Entity* entity, const s
 
 void checkAreas(CheckerContext& context, const CheckedSettings& run, const Entity& unit) {
     const auto& areas = run.settings->selection->areas;
+    if (areas.empty() || !context.isNew(run.settings, unit))
+        return;
     const bool reachable = std::any_of(areas.begin(), areas.end(), [&](const auto& area) {
         return area.entity->isAncestorOf(unit);
     });
-    if (!areas.empty() && !reachable && context.isNew(run.settings.get(), unit))
+    if (!reachable)
         context.report(Warning::SelectionBelow, run.selectionPosition,
                        {areas.front().entity->name, unit.name});
 }

@@ -43,6 +43,9 @@ TableKind kindOf(Keyword kind) {
     }
 }
 
+/// Each one doubles the rows, as the total stands beside the categories.
+constexpr std::size_t mostDimensions = 100;
+
 bool isMeasure(TableKind kind) {
     return kind >= TableKind::Average && kind <= TableKind::Gini;
 }
@@ -53,6 +56,15 @@ std::size_t productOf(const std::vector<std::vector<ExpressionPtr>>& lists) {
     for (const auto& list : lists)
         product = std::min(TableRegister::mostTables + 1, product * list.size());
     return product;
+}
+
+/// More tables already than a program can have: what follows need not be read.
+bool isFull(const std::vector<std::vector<ExpressionPtr>>& lists) {
+    std::size_t product = 1;
+    for (const auto& list : lists)
+        product = std::min(TableRegister::mostTables + 1,
+                           product * std::max<std::size_t>(1, list.size()));
+    return product > TableRegister::mostTables;
 }
 
 std::vector<const Variable*> variablesOf(const std::vector<ExpressionPtr>& dimensions) {
@@ -162,6 +174,11 @@ bool TableChecker::checkProduct(Model& model) {
                 expressions_.entity(table.entity->name, table.entity->position);
         return model.command.countEntity != nullptr && model.good && addProduct({}, model);
     }
+    if (table.dimensions.size() > mostDimensions) {
+        context_.report(Error::TooManyDimensions, table.position,
+                        {std::to_string(mostDimensions), std::to_string(table.dimensions.size())});
+        return false;
+    }
     std::vector<List> lists(table.dimensions.size());
     bool good = model.good;
     if (startsWithArea(table)) {
@@ -169,13 +186,15 @@ bool TableChecker::checkProduct(Model& model) {
     } else {
         if (isMeasure(model.command.kind))
             good = measures(table, lists.front()) && good;
-        for (std::size_t i = 0; i < lists.size(); ++i)
+        for (std::size_t i = 0; i < lists.size() && !isFull(lists); ++i)
             good = variables(table.dimensions[i], lists[i]) && good;
     }
     if (table.kind == Keyword::Crosstabs && lists.size() < 2 && table.complete) {
         context_.report(Error::CrosstabsWithoutBy, table.position);
         good = false;
     }
+    if (isFull(lists))
+        return tables_.hasRoom(TableRegister::mostTables + 1, table.position);
     return good && addProduct(lists, model);
 }
 
@@ -244,6 +263,8 @@ bool TableChecker::areaMeasures(const ast::Table& table, std::vector<List>& list
 bool TableChecker::variables(const std::vector<ast::Name>& names, List& list) {
     bool good = true;
     for (const ast::Name& name : names) {
+        if (list.size() > TableRegister::mostTables)
+            break;
         if (name.all) {
             good = addAll(list, name) && good;
             continue;
@@ -258,6 +279,8 @@ bool TableChecker::variables(const std::vector<ast::Name>& names, List& list) {
 bool TableChecker::measures(const ast::Table& table, List& list) {
     bool good = true;
     for (const ast::Measure& measure : table.measures) {
+        if (list.size() > TableRegister::mostTables)
+            break;
         if (measure.all) {
             good = addAll(list, *measure.all) && good;
             continue;
@@ -312,7 +335,7 @@ bool TableChecker::addProduct(const std::vector<List>& lists, const Model& model
 
 bool TableChecker::addOne(TableCommand command, const Model& model, std::size_t number,
                           std::size_t count) {
-    if (!tables_.hasRoom(1, model.table.position))
+    if (!tables_.hasRoomFor(command, model.table.position))
         return false;
     TableFacts facts = model.facts;
     if (command.operands.empty())

@@ -105,6 +105,11 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
         table.complete = false;
         cursor_.skipToClause();
     }
+    if (!hasSubject_ && (placesOf(subject.keyword) & isTableClause) == 0) {
+        cursor_.unexpected(expectedBy(table.kind));
+        table.complete = false;
+        hasSubject_ = true;
+    }
     parseClauses(table);
     if (!hasSubject_) {
         table.complete = false;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/table_placer.h"
 
-#include "language/protection.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -45,7 +44,7 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
         return false;
     }
     if (!isList(command))
-        command.sensitive = protectionOf(command);
+        command.sensitive = protection_.of(command);
     const RunSettings& run = *settings.settings;
     if (!checkFilter(command, command.filter, "filter") ||
         !checkFilter(command, run.filter, "universal filter"))
@@ -100,10 +99,10 @@ bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& 
         filter->entity->isAncestorOf(*command.unit))
         return true;
     const bool below = command.unit->isAncestorOf(*filter->entity);
-    const bool isNew = told_.emplace(filter.get(), command.unit).second;
+    const bool isNew = told_.emplace(filter, command.unit).second;
     if (isNew && below)
         context_.report(Warning::FilterBelow, filter->position,
-                        {filter->entity->name, command.unit->name});
+                        {filter->entity->name, command.unit->name, what});
     else if (isNew)
         context_.report(Error::FilterBranch, filter->position,
                         {what, filter->entity->name, command.unit->name});

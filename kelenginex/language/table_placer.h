@@ -4,8 +4,10 @@
 
 #include "language/checker_context.h"
 #include "language/expression_checker.h"
+#include "language/protection.h"
 #include "language/run_checker.h"
 
+#include <memory>
 #include <set>
 #include <string>
 #include <utility>
@@ -23,6 +25,8 @@ public:
     /// which is reported.
     bool include(TableCommand& command, const Expression& part);
 
+    TableProtection& protection() { return protection_; }
+
 private:
     bool placeWeight(TableCommand& command);
     bool checkFilter(const TableCommand& command, const ExpressionPtr& filter,
@@ -31,7 +35,8 @@ private:
     CheckerContext& context_;
     ExpressionChecker& expressions_;
     /// What was told of an expression or settings and a counted entity.
-    std::set<std::pair<const void*, const Entity*>> told_;
+    std::set<std::pair<std::shared_ptr<const void>, const Entity*>> told_;
+    TableProtection protection_;
 };
 
 } // namespace kelx::language

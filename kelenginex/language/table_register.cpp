@@ -5,12 +5,15 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace kelx::language {
 
 std::string TableRegister::nameFor(const ast::Table& table, std::size_t number, std::size_t count) {
     if (table.name.empty())
         return shortName(table.kindWord);
+    if (count > 1)
+        made_[lowerCase(table.name)] = count;
     std::string name = count == 1 ? table.name : table.name + "_" + std::to_string(number);
     if (!names_.insert(lowerCase(name)).second)
         again_[program_.tables.size()] = {name, table.position};
@@ -28,8 +31,26 @@ std::string TableRegister::shortName(const std::string& kind) {
 bool TableRegister::hasRoom(std::size_t count, Position position) {
     if (program_.tables.size() + count <= mostTables)
         return true;
-    context_.report(Error::TooManyTables, position, {std::to_string(mostTables)});
+    if (!std::exchange(isFull_, true))
+        context_.report(Error::TooManyTables, position, {std::to_string(mostTables)});
     return false;
+}
+
+bool TableRegister::hasRoomFor(const TableCommand& command, Position position) {
+    std::size_t bytes = command.name.size() + command.text.size();
+    for (const auto* text :
+         {&command.title, &command.tableStyle, &command.graphStyle, &command.mapStyle})
+        bytes += *text ? (*text)->size() : 0;
+    bytes += command.outfile ? command.outfile->path.size() : 0;
+    for (const std::string& file : command.jsonFiles)
+        bytes += file.size();
+    return hasRoom(1, position) && context_.mayKeep(bytes, position);
+}
+
+bool TableRegister::hasRoomForColumn(Position position) {
+    if (++columns_ == mostColumns + 1)
+        context_.report(Error::TooManyColumns, position, {std::to_string(mostColumns)});
+    return columns_ <= mostColumns;
 }
 
 void TableRegister::add(TableCommand command, TableFacts facts) {
@@ -93,15 +114,23 @@ std::optional<std::size_t> TableRegister::findOrReport(const ast::Name& name) {
     if (found || (name.entity.empty() && isExpected(name.name)))
         return found;
     const std::string written = name.entity.empty() ? name.name : name.entity + "." + name.name;
-    context_.report(
-        Error::UnknownTable, name.position,
-        {inQuotes(written), context_.wantsHints() ? didYouMean(nearest(name.name, names())) : ""});
+    context_.report(Error::UnknownTable, name.position, {inQuotes(written), hintFor(name.name)});
     return std::nullopt;
 }
 
 void TableRegister::useAsColumn(std::size_t number) {
     facts_[number].isColumn = true;
     settle(number);
+}
+
+std::string TableRegister::hintFor(const std::string& name) const {
+    const auto made = made_.find(lowerCase(name));
+    if (made != made_.end()) {
+        const std::string first = name + "_1", last = name + "_" + std::to_string(made->second);
+        return " " + name + " makes " + std::to_string(made->second) + " tables, " + first +
+               " to " + last + ": name one of them.";
+    }
+    return context_.wantsHints() ? didYouMean(nearest(name, names())) : "";
 }
 
 void TableRegister::useAsOperand(std::size_t number) {

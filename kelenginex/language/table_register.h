@@ -29,6 +29,7 @@ struct TableFacts {
 class TableRegister {
 public:
     static constexpr std::size_t mostTables = 10000;
+    static constexpr std::size_t mostColumns = 100000; ///< of all lists
 
     TableRegister(CheckerContext& context, BoundProgram& program)
         : context_(context), program_(program) {}
@@ -36,8 +37,10 @@ public:
     /// The name of table `number` of the `count` that a command makes; a second table of a name is
     /// reported.
     std::string nameFor(const ast::Table& table, std::size_t number, std::size_t count);
-    /// False where there would be too many, which is reported.
+    // False where there would be too many or too much, which is reported once for the program.
     bool hasRoom(std::size_t count, Position position);
+    bool hasRoomFor(const TableCommand& command, Position position);
+    bool hasRoomForColumn(Position position);
     void add(TableCommand command, TableFacts facts);
     /// The tables of a command with a fault: their use is no further fault.
     void expect(const ast::Table& table);
@@ -50,6 +53,8 @@ public:
     std::vector<std::size_t> findAll(const std::string& name, std::size_t times) const;
     bool isExpected(const std::string& name) const;
     std::vector<std::string> names() const; ///< as written
+    /// What else a name may mean: empty, or a sentence with a blank before it.
+    std::string hintFor(const std::string& name) const;
     /// Reported where there is none.
     std::optional<std::size_t> findOrReport(const ast::Name& name);
 
@@ -76,8 +81,11 @@ private:
         std::string name;
         Position position;
     };
-    std::map<std::size_t, NameAgain> again_; ///< tables with a name that another has
-    std::map<std::string, int> numbered_;    ///< of each kind
+    std::map<std::size_t, NameAgain> again_;  ///< tables with a name that another has
+    std::map<std::string, int> numbered_;     ///< of each kind
+    std::map<std::string, std::size_t> made_; ///< tables of a named command that makes several
+    std::size_t columns_ = 0;
+    bool isFull_ = false;
 };
 
 } // namespace kelx::language

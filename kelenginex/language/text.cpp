@@ -55,14 +55,18 @@ std::string upperCase(std::string_view text) {
     return result;
 }
 
-std::string inQuotes(std::string_view text) {
+std::string shortened(std::string_view text) {
     constexpr std::size_t longest = 60;
     if (text.size() <= longest)
-        return "\"" + std::string(text) + "\"";
+        return std::string(text);
     std::size_t cut = longest;
     while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xc0) == 0x80)
         --cut;
-    return "\"" + std::string(text.substr(0, cut)) + "...\"";
+    return std::string(text.substr(0, cut)) + "...";
+}
+
+std::string inQuotes(std::string_view text) {
+    return "\"" + shortened(text) + "\"";
 }
 
 std::string trimmed(std::string_view text) {

@@ -16,6 +16,7 @@ namespace kelx::language {
 using catalog::lowerCase;
 std::string upperCase(std::string_view text); ///< a to z only
 std::string inQuotes(std::string_view text);  ///< in double quotes, shortened where it is long
+std::string shortened(std::string_view text); ///< to what a message can show
 std::string trimmed(std::string_view text);
 /// Blanks outside of quotes become one space each; none at the ends. Comments go away.
 std::string simplified(std::string_view source);

@@ -32,6 +32,18 @@ bool TokenCursor::takeKeyword(Keyword keyword) {
     return found;
 }
 
+bool TokenCursor::takeFileName(std::string& file, const std::string& expected) {
+    if (peek().kind != TokenKind::Text) {
+        unexpected(expected);
+        return false;
+    }
+    const Token& token = take();
+    file = token.value();
+    if (file.empty())
+        report(Error::Unexpected, token.position, {"an empty text", expected, ""});
+    return !file.empty();
+}
+
 bool TokenCursor::atClause() const {
     const bool function = peek().is(Keyword::Missing) && peek(1).isSymbol("(");
     return !function && (placesOf(peek().keyword) & clauses_) != 0;
@@ -62,11 +74,11 @@ void TokenCursor::skipToCommand() {
 }
 
 void TokenCursor::unexpected(const std::string& expected, const std::vector<std::string>& words) {
-    if (peek().kind == TokenKind::Invalid || reportedAt_ == at_)
+    if (isReported())
         return;
     reportedAt_ = at_;
     std::string hint;
-    if (peek().kind == TokenKind::Word && peek().is(Keyword::None))
+    if (messages_.wantsHints() && peek().kind == TokenKind::Word && peek().is(Keyword::None))
         hint = nearest(peek().text, words);
     report(Error::Unexpected, peek().position,
            {describe(peek()), expected, hint.empty() ? "" : " Did you mean " + hint + "?"});
@@ -81,7 +93,7 @@ std::string describe(const Token& token) {
     case TokenKind::Label:
         return "the label " + inQuotes(token.text);
     case TokenKind::Number:
-        return "the number " + std::string(token.text);
+        return "the number " + shortened(token.text);
     case TokenKind::Word:
         return token.reserved ? "the reserved word " + upperCase(token.text) : inQuotes(token.text);
     default:

@@ -22,6 +22,8 @@ public:
     const Token& take(); ///< the End is never passed
     bool takeSymbol(std::string_view symbol);
     bool takeKeyword(Keyword keyword);
+    /// A text that is not empty; false where there is none, which is reported.
+    bool takeFileName(std::string& file, const std::string& expected);
     bool atEnd() const { return peek().kind == TokenKind::End; }
     /// End of the last token taken, in the program.
     std::size_t lastEnd() const { return at_ == 0 ? 0 : tokens_[at_ - 1].end(); }
@@ -43,6 +45,8 @@ public:
     /// What was found at the cursor and what could stand there. `words` are spellings that the
     /// token may be a misspelling of. Silent where the token was reported before.
     void unexpected(const std::string& expected, const std::vector<std::string>& words = {});
+    /// The token at the cursor was reported, so what is wrong with it otherwise is no news.
+    bool isReported() const { return peek().kind == TokenKind::Invalid || reportedAt_ == at_; }
 
 private:
     bool startsCommandHere() const;

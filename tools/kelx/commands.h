@@ -35,5 +35,6 @@ void addRun(CLI::App& app, Action& action);
 void addCheck(CLI::App& app, Action& action);
 void addImport(CLI::App& app, Action& action);
 void addConvert(CLI::App& app, Action& action);
+void addMessages(CLI::App& app, Action& action);
 
 } // namespace kelx::tool

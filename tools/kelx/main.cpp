@@ -51,7 +51,8 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "kelx " KELX_VERSION);
     app.require_subcommand(1);
     Action action;
-    for (const auto add : {addSample, addInfo, addRun, addCheck, addImport, addConvert})
+    for (const auto add :
+         {addSample, addInfo, addRun, addCheck, addImport, addConvert, addMessages})
         add(app, action);
     for (CLI::App* command : app.get_subcommands({}))
         command->set_version_flag("--version", "kelx " KELX_VERSION);

@@ -263,7 +263,8 @@ TEST_F(RandomMeasures, manySmallCells) {
 }
 
 /// On one thread the callback is asked at the same points of every run: at each of them, during the
-/// pass and while it is finished, a true answer is the last one that is asked for.
+/// pass and while it is finished, a true answer is the last one that is asked for. When all is done
+/// nothing is asked any more.
 TEST_F(RandomMeasures, stopWhereverTheyAreAsked) {
     for (const TableKind kind : {TableKind::Median, TableKind::Gini, TableKind::Stats}) {
         const language::BoundProgram program =
@@ -278,7 +279,7 @@ TEST_F(RandomMeasures, stopWhereverTheyAreAsked) {
         EXPECT_FALSE(execution::run(program, options, messages).cancelled);
         const int all = calls;
         EXPECT_GE(all, static_cast<int>(c().district.size() / 65536));
-        for (const int last : {1, 2, all / 2, all - 20, all - 1, all}) {
+        for (const int last : {1, 2, all / 2, all - 20, all - 2, all - 1}) {
             calls = 0;
             stop = last;
             const execution::RunResult result = execution::run(program, options, messages);

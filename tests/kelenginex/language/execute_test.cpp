@@ -62,7 +62,8 @@ TEST(Execute, TellsFaultsAtTheCall) {
         "KEL_E_UNKNOWN_VARIABLE 2:3 bad.spc:3: There is no variable \"SEXX\" in PERSON. Did you "
         "mean "
         "PERSON.SEX?\n"
-        "KEL_W_FILTER_BELOW 3:1 filter.spc:2: The filter is about PERSON: each HOUSEHOLD that has "
+        "KEL_W_FILTER_BELOW 3:1 filter.spc:2: The universal filter is about PERSON: each HOUSEHOLD "
+        "that has "
         "at "
         "least one such PERSON is kept.\n"
         "KEL_E_UNKNOWN_VALUE 5:1 values.spc:2: EXECUTE gives no value for {v2}. Did you mean v1?\n"
@@ -104,6 +105,30 @@ TEST(Execute, SurvivesProgramsThatMultiply) {
     for (const Message& message : census.messages.all())
         full += message.code == static_cast<int>(Error::TooManyCalls) ? 1 : 0;
     EXPECT_EQ(full, 1U);
+}
+
+/// Each of 20 programs gives the next one its value twice: a megabyte after as many doublings.
+TEST(Execute, SurvivesValuesThatMultiply) {
+    Census census;
+    for (int i = 0; i < 19; ++i)
+        census.write("v" + std::to_string(i) + ".spc",
+                     "EXECUTE \"v" + std::to_string(i + 1) + ".spc\" v = {{v}{v}{v}{v}}");
+    census.write("v19.spc", "FREQ AGE TITLE \"{v}\"");
+    census.compile("EXECUTE \"v0.spc\" v = {x}");
+    ASSERT_EQ(census.messages.all().size(), 1U);
+    EXPECT_EQ(census.messages.all()[0].code, static_cast<int>(Error::ValuesTooLong));
+
+    std::string uses = "// ";
+    for (int i = 0; i < 300000; ++i)
+        uses += "{";
+    uses += "\nFREQ AGE TITLE \"";
+    for (int i = 0; i < 100000; ++i)
+        uses += "{v}{";
+    census.write("uses.spc", uses + "\"");
+    census.compile("EXECUTE \"uses.spc\" v = {" + std::string(500000, 'x') + "}");
+    EXPECT_EQ(located(census.messages), "KEL_E_VALUES_TOO_LONG 1:9\n");
+    census.compile("EXECUTE \"uses.spc\" v = {x}");
+    EXPECT_EQ(located(census.messages), "");
 }
 
 TEST(ExecuteCalls, AreReadOneByOne) {

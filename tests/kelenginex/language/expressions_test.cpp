@@ -55,7 +55,18 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Operators, Expressions,
-    ::testing::Values(Meaning{"AGE == 1 OR AGE <== 2 OR AGE >== 3",
+    ::testing::Values(Meaning{"AGE NOT IN (1:5) OR NOT AGE NOT IN (9)",
+                              "(NOT((PERSON.AGE IN 1:5)) OR NOT(NOT((PERSON.AGE IN 9:9))))"},
+                      Meaning{"RENT > 5. AND RENT < 1.e2 AND RENT > 1e-999",
+                              "((HOUSEHOLD.RENT > real 5) AND ((HOUSEHOLD.RENT < real 100) AND "
+                              "(HOUSEHOLD.RENT > real 0)))"},
+                      Meaning{"AGE > -9223372036854775808 AND AGE IN (-9223372036854775808) AND "
+                              "AGE > - -9223372036854775808",
+                              "((PERSON.AGE > -9223372036854775808) AND ((PERSON.AGE IN "
+                              "-9223372036854775808:-9223372036854775808) AND (PERSON.AGE > "
+                              "-(-9223372036854775808))))"},
+                      Meaning{"WORKS\xc2\xa0OR\xe3\x80\x80WORKS", "(PERSON.WORKS OR PERSON.WORKS)"},
+                      Meaning{"AGE == 1 OR AGE <== 2 OR AGE >== 3",
                               "((PERSON.AGE = 1) OR ((PERSON.AGE <= 2) OR (PERSON.AGE >= 3)))"},
                       Meaning{"AGE<>1 AND AGE<=2", "((PERSON.AGE <> 1) AND (PERSON.AGE <= 2))"},
                       Meaning{"AGE>=1 AND AGE>2 OR AGE<3",

@@ -30,8 +30,8 @@ const std::vector<Fault>& tableFaults() {
         {"FREQ AGE OUTFILE xlt \"a\"\nFREQ AGE OUTFILE \"\"\nFREQ AGE OUTFILE \"a.csv\" "
          "utf16\nFREQ AGE OUTGRAPH \"a.bmp\" cake\nFREQ AGE SAVE a\nFREQ AGE TABLESTYLE s",
          "KEL_E_UNEXPECTED 1:18 Found \"xlt\", but expected a type of file, such as XLS or CSV, or "
-         "a file name in quotes. Did you mean xls?\nKEL_E_UNEXPECTED 3:1 Found the reserved word "
-         "FREQ, but expected the name of the file in quotes.\nKEL_E_UNEXPECTED 3:26 Found "
+         "a file name in quotes. Did you mean xls?\nKEL_E_UNEXPECTED 2:18 Found an "
+         "empty text, but expected the name of the file in quotes.\nKEL_E_UNEXPECTED 3:26 Found "
          "\"utf16\", but expected a clause of the table, such as BY or TITLE, or a new "
          "command.\nKEL_E_UNEXPECTED 4:27 Found \"cake\", but expected a clause of the table, such "
          "as BY or TITLE, or a new command.\nKEL_E_UNEXPECTED 5:15 Found \"a\", but expected the "
@@ -46,11 +46,11 @@ const std::vector<Fault>& tableFaults() {
         {"TABLE byAge FREQ AGE TABLE bad FREQ AGEE\nAREALIST PROVINCE, byAgf, bad, NAME, bat, "
          "ROMS\nTABLIST byAgf, bad\nTABOP PERSON.byAge / bad",
          "KEL_E_UNKNOWN_VARIABLE 1:37 There is no variable \"AGEE\". Did you mean "
-         "AGE?\nKEL_E_UNKNOWN_TABLE 2:20 There is no table \"byAgf\" before this place. Did you "
-         "mean byAge?\nKEL_E_UNKNOWN_VARIABLE 2:38 There is no variable "
-         "\"bat\".\nKEL_E_UNKNOWN_VARIABLE 2:43 There is no variable \"ROMS\". Did you mean "
-         "ROOMS?\nKEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did you "
-         "mean byAge?\nKEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this "
+         "AGE?\nKEL_E_UNKNOWN_COLUMN 2:20 There is no variable or table \"byAgf\". Did you mean "
+         "byAge?\nKEL_E_UNKNOWN_COLUMN 2:38 There is no variable or table "
+         "\"bat\".\nKEL_E_UNKNOWN_COLUMN 2:43 There is no variable or table \"ROMS\". Did you "
+         "mean ROOMS?\nKEL_E_UNKNOWN_TABLE 3:9 There is no table \"byAgf\" before this place. Did "
+         "you mean byAge?\nKEL_E_UNKNOWN_TABLE 4:7 There is no table \"PERSON.byAge\" before this "
          "place. Did you mean byAge?\n"},
         {"AREALIST PROVINCE, PERSON.AGE, ROOMS, SEX\nVIEW PERSON, CAUSE, NAME, PROVINSE.*",
          "KEL_E_COLUMN_BELOW 1:20 PERSON.AGE is about PERSON, but the rows are of PROVINCE, which "
@@ -98,9 +98,11 @@ const std::vector<Fault>& tableFaults() {
          "by.\nKEL_E_SORT_COLUMN 2:25 MEDIAN_1 has no column \"Sum\" to be sorted by.\n"},
         {"TABLE a FREQ SEX2\nRUNDEF FILTER AGE > 3\nTABLE b FREQ SEX2\nAREALIST PROVINCE, a, b\n"
          "RUNDEF FILTER AGE > 3\nAREALIST PROVINCE, b\nVIEW PERSON, AGE SENSITIVE 3",
-         "KEL_W_FILTER_BELOW 2:15 The filter is about PERSON: each PROVINCE that has at least one "
+         "KEL_W_FILTER_BELOW 2:15 The universal filter is about PERSON: each PROVINCE that has at "
+         "least one "
          "such PERSON is kept.\nKEL_W_COLUMN_OF_OTHER_RUN 4:20 a was made under another selection "
-         "or universal filter than this list.\nKEL_W_FILTER_BELOW 5:15 The filter is about PERSON: "
+         "or universal filter than this list.\nKEL_W_FILTER_BELOW 5:15 The universal filter is "
+         "about PERSON: "
          "each PROVINCE that has at least one such PERSON is kept.\nKEL_W_NO_EFFECT 7:18 SENSITIVE "
          "has no effect on VIEW: it lists variables, and no table.\n"},
         {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\nAREALIST "
@@ -116,6 +118,14 @@ const std::vector<Fault>& tableFaults() {
         {"FREQ SEX2 OUTFILE xml \"a\" UNICODE",
          "KEL_W_OUTFILE_TYPE 1:19 XML is not written; the file will be CSV.\nKEL_W_OUTFILE_FORMAT "
          "1:27 Files are written in UTF-8, not in UNICODE.\n"},
+        {"TABLE a FREQ SEX2, GRP\nTABOP a / 2\nAREALIST PROVINCE, a, a_2, nobody",
+         "KEL_E_UNKNOWN_TABLE 2:7 There is no table \"a\" before this place. a makes 2 tables, a_1 "
+         "to a_2: name one of them.\nKEL_E_UNKNOWN_COLUMN 3:20 There is no variable or table "
+         "\"a\". a makes 2 tables, a_1 to a_2: name one of them.\nKEL_E_UNKNOWN_COLUMN 3:28 There "
+         "is no variable or table \"nobody\".\n"},
+        {"RUNDEF SELECTION AGE > 5 COUNT HOUSEHOLD",
+         "KEL_W_FILTER_BELOW 1:18 The selection is about PERSON: each HOUSEHOLD that has at least "
+         "one such PERSON is kept.\n"},
         {"VIEW DEATH\n  TITEL \"x\"",
          "KEL_E_UNEXPECTED 2:3 Found \"TITEL\", but expected a clause of the table, such as BY or "
          "TITLE, or a new command. Did you mean TITLE?\n"},

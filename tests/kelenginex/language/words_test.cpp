@@ -3,6 +3,7 @@
 #include "fixture.h"
 #include "language/function_table.h"
 #include "language/keywords.h"
+#include "language/message_reference.h"
 #include "language/message_table.h"
 #include "language/reserved_words.h"
 #include "language/text.h"
@@ -52,6 +53,24 @@ TEST(MessageTable, NamesEachCodeOnce) {
     EXPECT_STREQ(codeName(Severity::Warning, 9999), "");
 }
 
+TEST(MessageTable, IsDocumented) {
+    // After a change: kelx messages > docs/messages.md
+    EXPECT_EQ(test::readFile(std::filesystem::path(KELX_DOCS) / "messages.md"), messageReference());
+    ASSERT_NE(findMessage("e_wrong_sign"), nullptr);
+    EXPECT_EQ(describe(*findMessage("KEL_E_UNKNOWN_ENTITY")),
+              "KEL_E_UNKNOWN_ENTITY\n  There is no entity ....\n  The dictionary has no entity "
+              "with that name or alias.\n");
+    EXPECT_EQ(findMessage("KEL_E"), nullptr);
+}
+
+TEST(MessageTable, KeepsItsNumbers) {
+    EXPECT_EQ(static_cast<int>(Error::RepeatedClause), 13);
+    EXPECT_EQ(findMessage(Severity::Error, 14), nullptr);
+    EXPECT_EQ(static_cast<int>(Error::BadDecimals), 15);
+    EXPECT_EQ(static_cast<int>(Error::SortColumn), 62);
+    EXPECT_EQ(static_cast<int>(Error::WeightIsText), 73);
+}
+
 TEST(MessageTable, FillsPatterns) {
     const Message message = makeMessage(Error::UnknownEntity, {3, 4}, {"\"%1\"", " Hint"});
     EXPECT_EQ(message.text, "There is no entity \"%1\". Hint");
@@ -62,7 +81,7 @@ TEST(MessageTable, FillsPatterns) {
 TEST(Messages, ShowThirtyByPlaceAndCountTheRest) {
     Messages messages;
     for (int line = 40; line > 0; --line)
-        messages.add(makeMessage(Error::NotSupported, {line, 1}, {"X"}));
+        messages.add(makeMessage(Error::BadNumber, {line, 1}, {"X"}));
     for (int line = 1; line <= 3; ++line)
         messages.add(makeMessage(Warning::EmptyInterval, {line, 2}, {"5:1"}));
     EXPECT_EQ(messages.errorCount(), 40u);
@@ -73,6 +92,15 @@ TEST(Messages, ShowThirtyByPlaceAndCountTheRest) {
     EXPECT_EQ(shown[32].position.line, 30);
     EXPECT_EQ(shown.back().text, "and 10 more");
     EXPECT_STREQ(codeName(shown.back().severity, shown.back().code), "KEL_E_MORE");
+}
+
+TEST(Messages, KeepNoMoreThanAnybodyReads) {
+    Messages messages;
+    for (int line = 1; line <= 50000; ++line)
+        messages.add(makeMessage(Error::BadNumber, {line, 2}, {"5a"}));
+    EXPECT_LT(messages.all().size(), 50000U);
+    EXPECT_EQ(messages.errorCount(), 50000U);
+    EXPECT_EQ(messages.forDisplay().back().text, "and 49970 more");
 }
 
 TEST(Messages, CountTheRestOfWarnings) {

@@ -40,7 +40,10 @@ public:
         return text;
     }
     output::TablesOfRun run(std::size_t dimensions, const execution::ProgressCallback& progress) {
-        bound_ = compiled(dictionary, program(dimensions));
+        return run(program(dimensions), progress);
+    }
+    output::TablesOfRun run(const std::string& text, const execution::ProgressCallback& progress) {
+        bound_ = compiled(dictionary, text);
         execution::RunOptions options;
         options.progress = progress;
         language::Messages messages;
@@ -103,6 +106,24 @@ TEST(Wide, tooManyRowsAreRefusedBeforeTheyTakeMemory) {
         FAIL() << "a table of more than 20 million rows was made";
     } catch (const std::runtime_error& error) {
         EXPECT_NE(std::string(error.what()).find("The table wide would have more than 20000000"),
+                  std::string::npos)
+            << error.what();
+    }
+    EXPECT_LT(peakKilobytes() - before, 200 * 1024);
+}
+
+/// 98 000 columns and 2 more leave room for 1020 rows of 100 million values in all.
+TEST(Wide, listsOfTooManyValuesAreRefused) {
+    std::string program = "VIEW PERSON, PERSON.*";
+    for (int i = 1; i < 7000; ++i)
+        program += ", PERSON.*";
+    WideCountry country(1021, 10);
+    const std::int64_t before = peakKilobytes();
+    try {
+        country.run(program, {});
+        FAIL() << "a list of more than 100 million values was made";
+    } catch (const std::runtime_error& error) {
+        EXPECT_NE(std::string(error.what()).find("VIEW_1 would have more than 1020 rows"),
                   std::string::npos)
             << error.what();
     }
