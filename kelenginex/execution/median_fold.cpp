@@ -2,6 +2,7 @@
 // Medians of groups: the values are kept, group after group, and looked through at the end.
 #include "execution/group_fold.h"
 
+#include "execution/measure_figures.h"
 #include "execution/sum.h"
 
 #include <algorithm>
@@ -68,7 +69,7 @@ std::optional<double> medianOf(std::span<Weighted<T>> values, const Less<Weighte
     Sum total;
     for (const auto& one : values)
         total.add(one.weight);
-    const double half = total.value() / 2;
+    const double half = quantileWeight(total.value(), 1, 2);
     Sum running;
     for (const auto& one : values) {
         running.add(one.weight);

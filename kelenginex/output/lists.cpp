@@ -92,6 +92,9 @@ public:
             else
                 addVariable(*column.variable, std::move(list_.columns.at(i)));
         }
+        // A code that has a column of its own is meant by that.
+        if (entity.codeVar != nullptr)
+            addNames(plain(*entity.codeVar), 0, laid_.guide);
         finish();
         return std::move(laid_);
     }
@@ -123,8 +126,6 @@ private:
         add({groups_.back().variable.name, headingOf(entity), ""},
             columnOf(std::move(list_.codes)));
         laid_.guide.names.emplace_back(entity.name, 0);
-        if (entity.codeVar != nullptr)
-            addNames(plain(*entity.codeVar), 0, laid_.guide);
     }
 
     void addLabels(const catalog::Variable& label) {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <map>
 #include <random>
 #include <sys/resource.h>
@@ -130,32 +130,38 @@ TEST(Wide, listsOfTooManyValuesAreRefused) {
     EXPECT_LT(peakKilobytes() - before, 200 * 1024);
 }
 
+/// Tables are laid out on the thread that asks, so its own work between two questions counts,
+/// however busy the machine is.
+double secondsWorked() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
 TEST(Wide, isStoppedWhileItIsLaidOut) {
-    using Clock = std::chrono::steady_clock;
     WideCountry country(2000, 10); // scanned in a moment, laid out in seconds
     int calls = 0;
-    Clock::time_point asked{};
+    double asked = 0;
     const output::TablesOfRun run = country.run(width, [&](int, int elapsed, int) {
         ++calls;
-        asked = Clock::now();
+        asked = secondsWorked();
         return elapsed >= 150;
     });
-    EXPECT_LT(Clock::now() - asked, std::chrono::milliseconds(500)); // the aim is 200
+    EXPECT_LT(secondsWorked() - asked, 0.5); // the aim is 0.2; sanitizers slow it down
     EXPECT_TRUE(run.cancelled);
     EXPECT_TRUE(run.tables.empty());
     EXPECT_GE(calls, 2);
 }
 
 TEST(Wide, tellsProgressWhileItIsLaidOut) {
-    using Clock = std::chrono::steady_clock;
     WideCountry country(2000, 10);
     std::vector<int> told;
-    auto last = Clock::now();
-    Clock::duration longest{};
+    double last = secondsWorked();
+    double longest = 0;
     const output::TablesOfRun run = country.run(11, [&](int, int, int percent) {
         told.push_back(percent);
-        longest = std::max(longest, Clock::now() - last);
-        last = Clock::now();
+        longest = std::max(longest, secondsWorked() - last);
+        last = secondsWorked();
         return false;
     });
     ASSERT_EQ(run.tables.size(), 1U);
@@ -164,7 +170,7 @@ TEST(Wide, tellsProgressWhileItIsLaidOut) {
     EXPECT_EQ(told.back(), 100);
     // Steps in between, not one leap to the end.
     EXPECT_GE(std::count_if(told.begin(), told.end(), [](int p) { return p > 5 && p < 95; }), 3);
-    EXPECT_LT(longest, std::chrono::milliseconds(400)); // the aim is 100, on a machine at rest
+    EXPECT_LT(longest, 0.3); // the aim is 0.1; sanitizers slow it down
 }
 
 } // namespace
