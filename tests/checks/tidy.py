@@ -2,44 +2,63 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Runs clang-tidy on the sources of a build folder, two at a time, and remembers the clean ones.
 
-tidy.py BUILD_FOLDER CACHE_FOLDER
+tidy.py BUILD_FOLDER CACHE_FOLDER [--deep]
+
+--deep lets the path analyser go through calls too, which takes it about three times as long.
 """
 import concurrent.futures
 import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
 
-def headers_digest(top):
-    digest = hashlib.sha256()
-    listed = subprocess.run(["git", "ls-files", "*.h", ".clang-tidy"], cwd=top,
-                            capture_output=True, text=True, check=True)
-    for name in listed.stdout.split():
-        digest.update((top / name).read_bytes())
-    return digest.digest()
+def own_headers(top, build):
+    """The project's headers that each object was made of, by the object's name."""
+    listed = subprocess.run(["ninja", "-C", str(build), "-t", "deps"], capture_output=True,
+                            text=True, check=True).stdout
+    headers, of_object = {}, []
+    for line in listed.splitlines():
+        if line and not line.startswith(" "):
+            of_object = headers.setdefault(line.split(":")[0], [])
+        elif line:
+            path = (build / line.strip()).resolve()
+            if path.is_relative_to(top):
+                of_object.append(path)
+    return headers
 
 
 def main():
-    build, cache = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    top = pathlib.Path.cwd()
+    build, cache = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2])
+    mode = ["-analyzer-config", "mode=shallow"]
+    shallow = [f"--extra-arg={arg}" for word in mode for arg in ("-Xclang", word)]
+    if "--deep" in sys.argv[3:]:
+        shallow = []
+    top = pathlib.Path.cwd().resolve()
     cache.mkdir(parents=True, exist_ok=True)
-    common = headers_digest(top)
+    headers = own_headers(top, build)
     entries = json.loads((build / "compile_commands.json").read_text())
     ours = [e for e in entries if not pathlib.Path(e["file"]).is_relative_to(top / "build")]
+    common = (top / ".clang-tidy").read_bytes() + " ".join(shallow).encode()
+
+    def stamp_of(entry):
+        made = re.search(r" -o (\S+)", entry["command"]).group(1)
+        digest = hashlib.sha256(common + entry["command"].encode())
+        for path in [pathlib.Path(entry["file"]), *headers.get(made, [])]:
+            digest.update(path.read_bytes())
+        return cache / digest.hexdigest()
 
     def check(entry):
-        source = pathlib.Path(entry["file"])
+        source, stamp = pathlib.Path(entry["file"]), stamp_of(entry)
         # The path analyser takes minutes over the macros of test frameworks.
         checks = "-clang-analyzer-*" if source.is_relative_to(top / "tests") else ""
-        key = hashlib.sha256(common + source.read_bytes() + entry["command"].encode()).hexdigest()
-        stamp = cache / key
         if stamp.exists():
             return source, True, ""
         done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), "--checks=" + checks,
-                               "--extra-arg=-Wno-unknown-warning-option", str(source)],
+                               "--extra-arg=-Wno-unknown-warning-option", *shallow, str(source)],
                               capture_output=True, text=True)
         if done.returncode == 0:
             stamp.touch()
