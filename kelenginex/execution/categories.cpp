@@ -6,10 +6,8 @@
 #include "plan/area_codes.h"
 
 #include <algorithm>
-#include <map>
 #include <numeric>
 #include <optional>
-#include <unordered_map>
 
 namespace kelx::execution {
 namespace {
@@ -127,33 +125,78 @@ public:
     explicit DimensionCategories(const language::Expression& expression)
         : names_(namesOf(expression)) {}
 
-    void note(std::uint64_t code) { indices_.emplace(code, 0); }
-    std::uint32_t indexOf(std::uint64_t code) const { return indices_.at(code); }
+    void note(std::uint64_t code) {
+        if (!codes_.empty() && codes_.back() == code)
+            return;
+        if (codes_.size() == most_)
+            settle();
+        codes_.push_back(code);
+    }
+    std::uint32_t indexOf(std::uint64_t code) const {
+        const std::uint64_t place = code - codes_.front();
+        if (place < direct_.size())
+            return direct_[place];
+        const auto found = std::lower_bound(codes_.begin(), codes_.end(), code);
+        return indices_[static_cast<std::size_t>(found - codes_.begin())];
+    }
 
     /// Valid categories in ascending order, then MV, then NA; equal ones are one.
     std::vector<Category> number(Progress& progress) {
-        std::map<Key, std::pair<Category, std::vector<std::uint64_t>>> sorted;
-        for (const auto& [code, index] : indices_) {
+        settle();
+        std::vector<Category> named;
+        named.reserve(codes_.size());
+        for (const std::uint64_t code : codes_) {
             progress.check();
-            Category category = names_->name(code);
-            Key key{category.kind, category.value};
-            auto& place = sorted[std::move(key)];
-            place.first = std::move(category);
-            place.second.push_back(code);
+            named.push_back(names_->name(code));
         }
+        std::vector<std::uint32_t> order(codes_.size());
+        std::iota(order.begin(), order.end(), 0U);
+        const auto isBefore = [&](std::uint32_t a, std::uint32_t b) {
+            progress.check();
+            const Category& x = named[a];
+            const Category& y = named[b];
+            return x.kind != y.kind ? x.kind < y.kind : x.value < y.value;
+        };
+        if (!std::is_sorted(order.begin(), order.end(), isBefore))
+            std::sort(order.begin(), order.end(), isBefore);
+        indices_.resize(codes_.size());
+        std::uint32_t index = 0;
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            index += i > 0 && isBefore(order[i - 1], order[i]) ? 1 : 0;
+            indices_[order[i]] = index;
+        }
+        makeDirect();
         std::vector<Category> result;
-        for (auto& [key, place] : sorted) {
-            for (const std::uint64_t code : place.second)
-                indices_[code] = static_cast<std::uint32_t>(result.size());
-            result.push_back(std::move(place.first));
+        result.reserve(index + 1U);
+        for (const std::uint32_t place : order) {
+            if (indices_[place] == result.size())
+                result.push_back(std::move(named[place]));
         }
         return result;
     }
 
 private:
-    using Key = std::pair<CategoryKind, decltype(Category::value)>;
+    static constexpr std::size_t fewCodes = 4096;
+
+    /// Ascending, each once.
+    void settle() {
+        std::sort(codes_.begin(), codes_.end());
+        codes_.erase(std::unique(codes_.begin(), codes_.end()), codes_.end());
+        most_ = std::max(fewCodes, 2 * codes_.size());
+    }
+
+    /// Codes that lie close together are looked up by their place; that of blanks lies far off.
+    void makeDirect() {
+        while (direct_.size() < codes_.size() &&
+               codes_[direct_.size()] - codes_.front() == direct_.size())
+            direct_.push_back(indices_[direct_.size()]);
+    }
+
     std::unique_ptr<CodeNames> names_;
-    std::unordered_map<std::uint64_t, std::uint32_t> indices_;
+    std::vector<std::uint64_t> codes_;
+    std::size_t most_ = fewCodes;        ///< codes, before they are settled again
+    std::vector<std::uint32_t> indices_; ///< of the codes' categories
+    std::vector<std::uint32_t> direct_;  ///< the same for the codes without a gap from the first on
 };
 
 /// Cells with the numbers of their categories, in any order and perhaps more than once.
@@ -192,7 +235,7 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
     const std::size_t dimensions = loose.dimensions;
     std::vector<std::uint32_t> order(loose.records.size());
     std::iota(order.begin(), order.end(), 0U);
-    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+    const auto isBefore = [&](std::uint32_t a, std::uint32_t b) {
         progress.check();
         const std::uint32_t* x = loose.of(a);
         const std::uint32_t* y = loose.of(b);
@@ -201,7 +244,9 @@ Cells sortedAndJoined(const LooseCells& loose, bool weighted, Progress& progress
                 return x[d] < y[d];
         }
         return a < b;
-    });
+    };
+    if (!std::is_sorted(order.begin(), order.end(), isBefore))
+        std::sort(order.begin(), order.end(), isBefore);
     Cells result(dimensions, weighted);
     result.reserve(order.size());
     if (places != nullptr)

@@ -18,7 +18,7 @@ namespace {
 /// Between two looks at what the threads do.
 constexpr std::chrono::milliseconds shortest{1};
 
-/// The threads of one shareOut(). The caller's only waits and tells the progress.
+/// The threads of one shareOut().
 class Crew {
 public:
     Crew(std::size_t items, const MakeWorker& makeWorker, Progress& progress)
@@ -28,13 +28,16 @@ public:
         workOn(*makeWorker_(), [this] { return !progress_.poll(); });
     }
 
-    void runThreads(std::size_t count) {
+    void runThreads(std::size_t count, Caller caller) {
+        const std::size_t more = caller == Caller::Works ? count - 1 : count;
         std::vector<std::thread> threads;
-        threads.reserve(count);
-        while (threads.size() < count && start(threads)) {
+        threads.reserve(more);
+        while (threads.size() < more && start(threads)) {
         }
         if (threads.empty())
             return runAlone();
+        if (caller == Caller::Works)
+            takePart();
         wait();
         for (std::thread& thread : threads)
             thread.join();
@@ -53,6 +56,19 @@ private:
         }
         ++running_;
         return true;
+    }
+
+    /// Work on the calling thread, which goes on asking the callback.
+    void takePart() {
+        try {
+            workOn(*makeWorker_(), [this] {
+                if (progress_.poll())
+                    stop(nullptr);
+                return !stop_.load(std::memory_order_relaxed);
+            });
+        } catch (...) {
+            stop(std::current_exception());
+        }
     }
 
     void threadMain() {
@@ -140,14 +156,14 @@ unsigned threadsFor(unsigned asked) {
     return asked != 0 ? asked : std::max(1U, std::thread::hardware_concurrency());
 }
 
-void shareOut(std::size_t items, unsigned threads, const MakeWorker& makeWorker,
-              Progress& progress) {
+void shareOut(std::size_t items, unsigned threads, const MakeWorker& makeWorker, Progress& progress,
+              Caller caller) {
     const std::size_t count = std::min<std::size_t>(items, threadsFor(threads));
     Crew crew(items, makeWorker, progress);
     if (count == 1)
         crew.runAlone();
     else if (count > 1)
-        crew.runThreads(count);
+        crew.runThreads(count, caller);
     progress.checkNow();
 }
 

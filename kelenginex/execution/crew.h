@@ -31,12 +31,15 @@ public:
 };
 using MakeWorker = std::function<std::unique_ptr<CrewWorker>()>;
 
+/// What the calling thread does meanwhile: it asks the callback, and can be one of the threads
+/// where every item asks goOn often enough for that.
+enum class Caller { Waits, Works };
+
 /// Works on the items 0 to items - 1, begun in their order, on so many threads or, where the
-/// system gives no more, on fewer; a worker is made in each. The caller's thread asks the callback
-/// meanwhile. The stage of the progress is the caller's to begin, and the workers' to add to.
-/// Throws what a worker throws, and Cancelled.
-void shareOut(std::size_t items, unsigned threads, const MakeWorker& makeWorker,
-              Progress& progress);
+/// system gives no more, on fewer; a worker is made in each. The stage of the progress is the
+/// caller's to begin, and the workers' to add to. Throws what a worker throws, and Cancelled.
+void shareOut(std::size_t items, unsigned threads, const MakeWorker& makeWorker, Progress& progress,
+              Caller caller = Caller::Waits);
 
 using ItemWork = std::function<void(std::size_t item, const GoOn& goOn)>;
 

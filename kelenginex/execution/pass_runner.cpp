@@ -134,7 +134,7 @@ private:
         shareOut(
             chunks_.size(), static_cast<unsigned>(workers_.size()),
             [this] { return std::make_unique<Scanner>(*this, *workers_[started_.fetch_add(1)]); },
-            progress_);
+            progress_, Caller::Works);
         for (const auto& worker : workers_) {
             merge(*worker, false, [this] { return !progress_.poll(); });
             progress_.checkNow();

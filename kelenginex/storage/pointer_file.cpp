@@ -95,9 +95,24 @@ private:
     std::array<std::uint64_t, 2> offsets_;
 };
 
+/// Parents have about as many children everywhere: so the search begins where the child would be
+/// by its share, and goes on in steps that double, which stay in few pages of a large file.
 template <class Offset>
-std::uint64_t lastNotAbove(const Offset* offsets, std::uint64_t count, std::uint64_t child) {
-    const auto* above = std::upper_bound(offsets, offsets + count, child);
+std::uint64_t lastNotAbove(const Offset* offsets, std::uint64_t parents, std::uint64_t child) {
+    const auto share = static_cast<double>(child) / static_cast<double>(offsets[parents]);
+    const auto guess =
+        std::min(static_cast<std::uint64_t>(share * static_cast<double>(parents)), parents - 1);
+    std::uint64_t low = guess;
+    std::uint64_t high = guess + 1;
+    for (std::uint64_t step = 1; offsets[low] > child; step *= 2) {
+        high = low;
+        low -= std::min(step, low);
+    }
+    for (std::uint64_t step = 1; offsets[high] <= child; step *= 2) {
+        low = high;
+        high += std::min(step, parents - high);
+    }
+    const auto* above = std::upper_bound(offsets + low, offsets + high, child);
     return static_cast<std::uint64_t>(above - offsets) - 1;
 }
 
@@ -114,8 +129,7 @@ std::shared_ptr<const PointerFile> PointerFile::single(std::uint64_t children) {
 std::uint64_t PointerFile::parentOf(std::uint64_t child) const {
     if (child >= children_)
         throw std::out_of_range("a record beyond the last child has no parent");
-    return isWide() ? lastNotAbove(wide_, parents_ + 1, child)
-                    : lastNotAbove(narrow_, parents_ + 1, child);
+    return isWide() ? lastNotAbove(wide_, parents_, child) : lastNotAbove(narrow_, parents_, child);
 }
 
 /// Offsets are written narrow until one does not fit; then the file is begun again, wide.

@@ -52,6 +52,43 @@ TEST(Crew, doesEachItemOnce) {
     }
 }
 
+/// Counts its items by the thread that works on them.
+class ThreadCounter : public execution::CrewWorker {
+public:
+    explicit ThreadCounter(std::atomic<int>& done, std::atomic<int>& own)
+        : done_(done), own_(own), isOwn_(std::this_thread::get_id() == caller) {}
+    bool work(std::size_t, const GoOn& goOn) override {
+        ++done_;
+        own_ += isOwn_ ? 1 : 0;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return goOn();
+    }
+    static inline std::thread::id caller;
+
+private:
+    std::atomic<int>& done_;
+    std::atomic<int>& own_;
+    bool isOwn_;
+};
+
+TEST(Crew, callingThreadTakesPartWhereItMay) {
+    using execution::Caller;
+    ThreadCounter::caller = std::this_thread::get_id();
+    for (const Caller caller : {Caller::Waits, Caller::Works}) {
+        std::atomic<int> done{0}, own{0};
+        int asked = 0;
+        const auto make = [&] { return std::make_unique<ThreadCounter>(done, own); };
+        Progress progress([&](int, int, int) { return ++asked == 3; });
+        EXPECT_THROW(execution::shareOut(100000, 2, make, progress, caller), execution::Cancelled);
+        EXPECT_EQ(asked, 3);
+        EXPECT_LT(done, 100000);
+        Progress silent({});
+        execution::shareOut(100, 2, make, silent, caller);
+        EXPECT_EQ(own > 0, caller == Caller::Works);
+        EXPECT_GT(done, own);
+    }
+}
+
 TEST(Crew, goesOnWithFewerThreadsThanWanted) {
     const NoThreads none;
     EXPECT_THROW(std::thread([] {}).join(), std::system_error);
