@@ -4,6 +4,7 @@
 #include "catalog/names.h"
 #include "catalog/value_rule.h"
 #include "storage/bytes.h"
+#include "storage/coding.h"
 #include "storage/error.h"
 
 #include <algorithm>
@@ -159,7 +160,7 @@ private:
     }
 
     std::int64_t integer(std::uint64_t code) const {
-        return static_cast<std::int64_t>(static_cast<std::uint64_t>(info_.base) + code);
+        return storage::decodeValue(info_.base, code);
     }
 
     std::string valueText(std::uint64_t code) const {

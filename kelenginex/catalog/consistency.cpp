@@ -12,6 +12,7 @@
 #include <map>
 #include <mutex>
 #include <set>
+#include <system_error>
 #include <thread>
 
 namespace kelx::catalog {
@@ -251,12 +252,17 @@ private:
         }
     }
 
-    /// The calling thread waits and tells how far the others are.
+    /// The calling thread waits and tells how far the others are. Where the system gives no thread
+    /// it does the work.
     void lookThroughColumns() {
-        const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
+        const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+        const std::size_t wanted = std::min(cores, variables_.size());
         std::vector<std::thread> threads;
-        for (unsigned i = 0; i < std::min<std::size_t>(cores, variables_.size()); ++i) {
-            threads.emplace_back([this] { work(); });
+        threads.reserve(wanted);
+        while (threads.size() < wanted && start(threads)) {
+        }
+        if (threads.empty()) {
+            work();
         }
         try {
             std::unique_lock lock(mutex_);
@@ -275,6 +281,16 @@ private:
             throw;
         }
         join(threads);
+    }
+
+    /// False where the system gives no more threads.
+    bool start(std::vector<std::thread>& threads) {
+        try {
+            threads.emplace_back([this] { work(); });
+        } catch (const std::system_error&) {
+            return false;
+        }
+        return true;
     }
 
     static void join(std::vector<std::thread>& threads) {
@@ -328,6 +344,17 @@ private:
         }
     }
 
+    /// Those of codes are faults, and told as such.
+    static void noteBlanks(const VariableCheck& check, ConsistencyReport& report) {
+        const Variable& variable = *check.variable;
+        if (check.column == nullptr || check.column->info().blanks == 0 ||
+            variable.entity->codeVar == &variable) {
+            return;
+        }
+        report.blanks.push_back({variable.entity->name, variable.name, variable.filePath().string(),
+                                 check.column->info().blanks, check.column->info().records});
+    }
+
     ConsistencyReport report() {
         ConsistencyReport report;
         report.variables = variables_.size();
@@ -339,6 +366,7 @@ private:
                       std::back_inserter(report.findings));
             for (VariableCheck& variable : variables_) {
                 if (variable.variable->entity == entity) {
+                    noteBlanks(variable, report);
                     std::move(variable.findings.begin(), variable.findings.end(),
                               std::back_inserter(report.findings));
                 }

@@ -23,8 +23,16 @@ struct Finding {
     std::string found; ///< in words, with the first records
 };
 
+/// What is worth knowing of a variable that is no code: a blank is a value as any other.
+struct Blanks {
+    std::string entity, variable, file;
+    std::uint64_t blanks = 0;
+    std::uint64_t records = 0;
+};
+
 struct ConsistencyReport {
     std::vector<Finding> findings; ///< in the order of the dictionary, unnamed files last
+    std::vector<Blanks> blanks;    ///< of variables that have some
     std::uint64_t entities = 0;
     std::uint64_t variables = 0;
     std::uint64_t records = 0; ///< of all entities whose number is known

@@ -117,6 +117,31 @@ auto findNamed(const Range& range, const std::string& name) -> decltype(&*range[
 
 } // namespace
 
+bool Range::contains(double value) const {
+    switch (kind) {
+    case 1:
+        return value > minimum && value < maximum;
+    case 2:
+        return value > minimum && value <= maximum;
+    case 3:
+        return value >= minimum && value < maximum;
+    case 5:
+        return value == minimum;
+    case 6:
+        return value <= maximum;
+    case 7:
+        return value < maximum;
+    case 8:
+        return value >= minimum;
+    case 9:
+        return value > minimum;
+    case 10:
+        return true;
+    default:
+        return value >= minimum && value <= maximum;
+    }
+}
+
 std::string Variable::fullName() const {
     return entity != nullptr ? entity->name + "." + name : name;
 }

@@ -29,6 +29,8 @@ struct Range {
     int kind = 4;
     double minimum = 0;
     double maximum = 0;
+
+    bool contains(double value) const;
 };
 
 /// Where a variable stands in the lines of a text that its dictionary describes.

@@ -7,35 +7,6 @@
 
 namespace kelx::catalog {
 
-namespace {
-
-bool contains(const Range& range, double value) {
-    switch (range.kind) {
-    case 1:
-        return value > range.minimum && value < range.maximum;
-    case 2:
-        return value > range.minimum && value <= range.maximum;
-    case 3:
-        return value >= range.minimum && value < range.maximum;
-    case 4:
-        return value >= range.minimum && value <= range.maximum;
-    case 5:
-        return value == range.minimum;
-    case 6:
-        return value <= range.maximum;
-    case 7:
-        return value < range.maximum;
-    case 8:
-        return value >= range.minimum;
-    case 9:
-        return value > range.minimum;
-    default:
-        return true;
-    }
-}
-
-} // namespace
-
 ValueRule::ValueRule(const Variable& variable)
     : notapp_(variable.notapp), missing_(variable.missing) {
     takeLabels(variable);
@@ -67,7 +38,7 @@ bool ValueRule::isSpecial(double value) const {
 bool ValueRule::expects(double value) const {
     return !set_ || isSpecial(value) ||
            std::any_of(ranges_.begin(), ranges_.end(),
-                       [&](const Range& range) { return contains(range, value); }) ||
+                       [&](const Range& range) { return range.contains(value); }) ||
            std::binary_search(labelled_.begin(), labelled_.end(), value);
 }
 

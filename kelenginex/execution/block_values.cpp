@@ -46,32 +46,6 @@ std::string textOf(const Constant& constant) {
     return storage::numberText(numberOf(constant));
 }
 
-/// The kinds of ranges as dictionary files number them.
-bool holds(const catalog::Range& range, double value) {
-    switch (range.kind) {
-    case 1:
-        return value > range.minimum && value < range.maximum;
-    case 2:
-        return value > range.minimum && value <= range.maximum;
-    case 3:
-        return value >= range.minimum && value < range.maximum;
-    case 5:
-        return value == range.minimum;
-    case 6:
-        return value <= range.maximum;
-    case 7:
-        return value < range.maximum;
-    case 8:
-        return value >= range.minimum;
-    case 9:
-        return value > range.minimum;
-    case 10:
-        return true;
-    default:
-        return value >= range.minimum && value <= range.maximum;
-    }
-}
-
 void markMissing(BlockValues& to, std::size_t at) {
     if (to.states[at] != state::valid)
         return;
@@ -266,7 +240,7 @@ void ValueRule::dropOutside(std::size_t begin, BlockValues& to) const {
         if (value == variable_.missing || value == variable_.notapp)
             continue;
         if (std::none_of(ranges_.begin(), ranges_.end(),
-                         [&](const catalog::Range& range) { return holds(range, value); }))
+                         [&](const catalog::Range& range) { return range.contains(value); }))
             markMissing(to, i);
     }
 }

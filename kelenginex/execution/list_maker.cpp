@@ -2,7 +2,7 @@
 #include "execution/list_maker.h"
 
 #include "execution/list_column.h"
-#include "execution/record_filter.h"
+#include "execution/record_weights.h"
 #include "plan/area_codes.h"
 
 #include <algorithm>
@@ -26,14 +26,7 @@ public:
     }
     void add(Frames& frames, const std::uint8_t* mask) override {
         const Frame& frame = frames.baseFrame();
-        if (filter_) {
-            if (mask != nullptr)
-                mask_.assign(mask, mask + frame.count);
-            else
-                mask_.assign(frame.count, truth);
-            filter_->apply(frames, mask_.data());
-            mask = mask_.data();
-        }
+        mask = passingMask(frames, mask, filter_.get(), nullptr, mask_);
         for (std::size_t i = 0; i < frame.count; ++i) {
             if (mask == nullptr || mask[i] != 0)
                 records.push_back(frame.begin + i);

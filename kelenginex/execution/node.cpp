@@ -73,13 +73,10 @@ std::unique_ptr<Node> NodePool::makeMergedOr(const Expression& expression) {
 std::unique_ptr<Node> NodePool::make(const Expression& expression) {
     if (auto test = makeCodeTest(expression))
         return test;
-    if (expression.operation == Operation::Switch) {
-        const auto nodeOf = [&](const Expression& value) -> Node& {
-            return argument(value, expression);
-        };
-        if (auto choice = makeCodedSwitch(expression, nodeOf))
-            return choice;
-    }
+    if (expression.operation == Operation::Switch)
+        return makeSwitch(expression, [&](const Expression& part) -> Node& {
+            return argument(part, expression);
+        });
     if (expression.operation == Operation::Or) {
         if (auto merged = makeMergedOr(expression))
             return merged;
@@ -108,8 +105,6 @@ std::unique_ptr<Node> NodePool::make(const Expression& expression) {
         return makeFunction(expression.function, std::move(arguments), expression.entity);
     case Operation::Recode:
         return makeRecode(expression, std::move(arguments));
-    case Operation::Switch:
-        return makeSwitch(std::move(arguments), expression.entity);
     case Operation::Number:
     case Operation::SampleRandom:
     case Operation::SampleSystematic:

@@ -60,6 +60,7 @@ public:
     /// The node with values for its own entity's records.
     Node& own(const language::Expression& expression);
     const LowerConditions* lower() const { return lower_; }
+    std::size_t size() const { return nodes_.size(); } ///< how many nodes there are
 
 private:
     std::unique_ptr<Node> make(const language::Expression& expression);
@@ -95,9 +96,7 @@ std::unique_ptr<Node> makeFunction(const std::string& name, std::vector<Node*> a
 std::unique_ptr<Node> makeRecode(const language::Expression& expression,
                                  std::vector<Node*> arguments);
 using NodeOf = std::function<Node&(const language::Expression&)>;
-/// Null where a case is no test of codes, or of another variable than the others.
-std::unique_ptr<Node> makeCodedSwitch(const language::Expression& expression, const NodeOf& nodeOf);
-std::unique_ptr<Node> makeSwitch(std::vector<Node*> arguments, const Entity* entity);
+std::unique_ptr<Node> makeSwitch(const language::Expression& expression, const NodeOf& nodeOf);
 /// NUMBER, SAMPLE and the record's number.
 std::unique_ptr<Node> makeRecordNode(const language::Expression& expression);
 

@@ -16,25 +16,6 @@ bool isLeaf(const Expression& expression) {
            expression.operation == Operation::CompoundCode;
 }
 
-/// What a part asks: whether the operand is in one of the intervals. No operand: something else.
-struct Question {
-    const Expression* operand = nullptr;
-    std::vector<language::Interval> intervals;
-};
-
-Question questionOf(const Expression& part) {
-    if (part.operation == Operation::In && isLeaf(*part.arguments[0]))
-        return {part.arguments[0].get(), part.intervals};
-    if (part.operation != Operation::Equal)
-        return {};
-    for (std::size_t i = 0; i < 2; ++i) {
-        const Expression& other = *part.arguments[1 - i];
-        if (isLeaf(*part.arguments[i]) && other.operation == Operation::Constant)
-            return {part.arguments[i].get(), {{other.constant, other.constant}}};
-    }
-    return {};
-}
-
 std::unique_ptr<Expression> inOf(const Expression& operand,
                                  std::vector<language::Interval> intervals) {
     auto leaf = std::make_unique<Expression>();
@@ -103,6 +84,19 @@ private:
 };
 
 } // namespace
+
+Question questionOf(const Expression& condition) {
+    if (condition.operation == Operation::In && isLeaf(*condition.arguments[0]))
+        return {condition.arguments[0].get(), condition.intervals};
+    if (condition.operation != Operation::Equal)
+        return {};
+    for (std::size_t i = 0; i < 2; ++i) {
+        const Expression& other = *condition.arguments[1 - i];
+        if (isLeaf(*condition.arguments[i]) && other.operation == Operation::Constant)
+            return {condition.arguments[i].get(), {{other.constant, other.constant}}};
+    }
+    return {};
+}
 
 OrParts orPartsOf(const Expression& expression) {
     Collector collector;

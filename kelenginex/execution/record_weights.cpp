@@ -3,6 +3,22 @@
 
 namespace kelx::execution {
 
+const std::uint8_t* passingMask(Frames& frames, const std::uint8_t* mask, RecordFilter* filter,
+                                Weights* weights, std::vector<std::uint8_t>& buffer) {
+    if (filter == nullptr && weights == nullptr)
+        return mask;
+    const std::size_t count = frames.baseFrame().count;
+    if (mask != nullptr)
+        buffer.assign(mask, mask + count);
+    else
+        buffer.assign(count, truth);
+    if (filter != nullptr)
+        filter->apply(frames, buffer.data());
+    if (weights != nullptr)
+        weights->dropInvalid(frames, buffer.data());
+    return buffer.data();
+}
+
 RecordWeights::RecordWeights(const language::TableCommand& command, const Entity& unit,
                              NodePool& nodes)
     : weights_(command, unit, nodes) {
@@ -13,19 +29,8 @@ RecordWeights::RecordWeights(const language::TableCommand& command, const Entity
 const std::uint8_t* RecordWeights::mask(Frames& frames, const std::uint8_t* mask) {
     if (weights_.any())
         weights_.find(frames);
-    const bool checked = weights_.any() && weights_.mayBeInvalid();
-    if (!filter_ && !checked)
-        return mask;
-    const std::size_t count = frames.baseFrame().count;
-    if (mask != nullptr)
-        mask_.assign(mask, mask + count);
-    else
-        mask_.assign(count, truth);
-    if (filter_)
-        filter_->apply(frames, mask_.data());
-    if (checked)
-        weights_.dropInvalid(frames, mask_.data());
-    return mask_.data();
+    return passingMask(frames, mask, filter_.get(), weights_.mayBeInvalid() ? &weights_ : nullptr,
+                       mask_);
 }
 
 } // namespace kelx::execution

@@ -13,6 +13,11 @@
 
 namespace kelx::execution {
 
+/// The mask without the records that the filter or the weights, found for the step, leave out,
+/// where they are there; in the buffer where it is not the one that was given. Null takes all.
+const std::uint8_t* passingMask(Frames& frames, const std::uint8_t* mask, RecordFilter* filter,
+                                Weights* weights, std::vector<std::uint8_t>& buffer);
+
 /// Filter, weight and tally of one table. One for each thread.
 class RecordWeights {
 public:

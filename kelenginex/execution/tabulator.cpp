@@ -2,6 +2,7 @@
 #include "execution/tabulator.h"
 
 #include "execution/kernels.h"
+#include "execution/record_weights.h"
 #include "execution/result.h"
 #include "execution/typed_data.h"
 
@@ -130,22 +131,11 @@ void Tabulator::add(Frames& frames, const std::uint8_t* mask) {
 const std::uint8_t* Tabulator::ownMask(Frames& frames, const std::uint8_t* mask) {
     const bool inParts = shape_.dense() && weights_.exact();
     const bool checked = weights_.any() && weights_.mayBeInvalid() && !inParts;
-    if (!filter_ && !checked)
-        return mask;
     if (filter_ && mask == nullptr && !checked) {
         if (const std::uint8_t* ready = filter_->mask(frames))
             return ready;
     }
-    const std::size_t count = frames.baseFrame().count;
-    if (mask != nullptr)
-        mask_.assign(mask, mask + count);
-    else
-        mask_.assign(count, truth);
-    if (filter_)
-        filter_->apply(frames, mask_.data());
-    if (checked)
-        weights_.dropInvalid(frames, mask_.data());
-    return mask_.data();
+    return passingMask(frames, mask, filter_.get(), checked ? &weights_ : nullptr, mask_);
 }
 
 void Tabulator::findStretches(Frames& frames) {

@@ -21,6 +21,15 @@ std::size_t stepOf(const RunOptions& options) {
     return std::clamp<std::size_t>(options.blockRecords, 1, storage::recordsPerBlock);
 }
 
+/// A step asks every node of an expression, so it is small where there are many: it must not take
+/// long until the next question whether to go on.
+std::size_t stepFor(const RunOptions& options, std::size_t nodes) {
+    constexpr std::size_t mostValues = std::size_t{1} << 26; // some 50 milliseconds
+    constexpr std::size_t fewestRecords = 256;
+    return std::min(stepOf(options),
+                    std::max(fewestRecords, mostValues / std::max<std::size_t>(nodes, 1)));
+}
+
 /// What the threads of one definition share.
 struct Making {
     const Definition& definition;
@@ -41,6 +50,7 @@ public:
           nodes_(&making.lower), value_(nodes_.at(*making.definition.value, making.entity())) {
         for (const auto& condition : making.definition.filters)
             filters_.push_back(makeFilter(condition, making.entity(), nodes_));
+        step_ = stepFor(making.options, nodes_.size());
     }
 
     bool work(std::size_t block, const GoOn& goOn) override {
@@ -48,7 +58,7 @@ public:
         const std::size_t size = making_.builder.size(block);
         BlockValues values = rule_.begin();
         for (std::size_t done = 0; done < size;) {
-            const std::size_t count = std::min(stepOf(making_.options), size - done);
+            const std::size_t count = std::min(step_, size - done);
             frames_.move(first + done, count);
             rule_.add(value_.value(frames_), findMask(), count, values);
             making_.progress.add(count);
@@ -76,6 +86,7 @@ private:
     NodePool nodes_;
     Node& value_;
     std::vector<std::unique_ptr<RecordFilter>> filters_;
+    std::size_t step_ = 0;
     std::vector<std::uint8_t> mask_;
 };
 

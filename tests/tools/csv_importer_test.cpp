@@ -289,6 +289,37 @@ TEST_F(ImportTest, RefusesAFaultyCodebook) {
               "codebook.csv:17:1: error: the level GHOST has no file");
 }
 
+TEST_F(ImportTest, TakesCodesOfAFieldThatIsDescribedAlready) {
+    std::string book = codebook;
+    const auto replace = [&](const std::string& row, const std::string& by) {
+        const auto at = book.find(row);
+        ASSERT_NE(at, std::string::npos) << row;
+        book.replace(at, row.size(), by);
+    };
+    replace("person,age,integer,99,", "person,age,code,99,");
+    replace("town,share,real,-1,None,notapp\n",
+            "town,share,real,,Share,\ntown,share,code,-1,None,notapp\n");
+    replace("person,sex,code,2,", "person,sex,,2,");
+    folder.write("codebook.csv", book);
+    using Labels = std::vector<std::pair<std::string, std::string>>;
+    const auto dictionary = import();
+    const catalog::Variable& age = *dictionary->findEntity("PERSON")->findVariable("AGE");
+    EXPECT_EQ(age.label, "Age");
+    EXPECT_EQ(age.missing, 99);
+    EXPECT_EQ(age.valueLabels, (Labels{{"99", "Unknown"}}));
+    const catalog::Variable& share = *dictionary->findEntity("TOWN")->findVariable("SHARE");
+    EXPECT_EQ(share.type, storage::ValueType::Real);
+    EXPECT_EQ(share.notapp, -1);
+    EXPECT_EQ(dictionary->findEntity("PERSON")->findVariable("SEX")->valueLabels,
+              (Labels{{"1", "Male"}, {"2", "Female"}}));
+
+    const std::string head = "level,field,type,code,label,is_missing\ntown,s,text(3),,,\n";
+    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code,1,A,\n"),
+              "codebook.csv:3:8: error: \"code\" is not the type that S got before");
+    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code text(2),01,A,\n"),
+              "codebook.csv:3:8: error: \"code text(2)\" is not the type that S got before");
+}
+
 TEST_F(ImportTest, KeepsWhatIsThere) {
     import();
     const auto before = TemporaryFolder::contents(folder.path() / "out");

@@ -107,6 +107,14 @@ TEST_F(KelxTest, ChecksADatabase) {
     const Outcome sound = kelx("check @/sample/sample.dicx");
     EXPECT_EQ(sound.status, 0) << sound.err;
     EXPECT_THAT(sound.out, testing::EndsWith(": 0 errors, 0 warnings\n"));
+    // As many blanks as a program counts, where every missing value is blank.
+    const json counted = json::parse(kelx("run @/sample/sample.kxdb --format json "
+                                          "-e 'COUNT PERSON FILTER MISSING(PERSON.INCOME)'")
+                                         .out);
+    const json& blanks = counted[0]["rows"][0][1];
+    EXPECT_GT(blanks, 0);
+    EXPECT_THAT(sound.out, HasSubstr("PERSON_INCOME.kbf: note: PERSON.INCOME: " + blanks.dump() +
+                                     " of 3000 values are blank\n"));
 
     std::filesystem::copy(folder->path() / "sample", folder->path() / "damaged");
     std::filesystem::remove(path("damaged/PERSON_AGE.kbf"));
@@ -119,6 +127,9 @@ TEST_F(KelxTest, ChecksADatabase) {
     EXPECT_EQ(told["warnings"], 1);
     EXPECT_EQ(told["records"],
               json::parse(kelx("check @/sample/sample.kxdb --json").out)["records"]);
+    ASSERT_EQ(told["blanks"].size(), 1u);
+    EXPECT_EQ(told["blanks"][0]["variable"], "INCOME");
+    EXPECT_EQ(told["blanks"][0]["blanks"], blanks);
     ASSERT_EQ(told["findings"].size(), 2u);
     EXPECT_EQ(told["findings"][0]["variable"], "AGE");
     EXPECT_EQ(told["findings"][1]["check"], "Orphans");

@@ -77,6 +77,14 @@ bool sameType(const FieldPlan& a, const FieldPlan& b) {
     return a.role == b.role && a.type == b.type && a.coded == b.coded && a.width == b.width;
 }
 
+/// Whether the type of a row with a code fits a field that is described already: it repeats it, or
+/// says "code" of what got its type without that word.
+bool fitsCode(const FieldPlan& field, const FieldPlan& row, const std::string& type) {
+    const bool bare = type == "CODE" && field.type == ValueType::Real;
+    return row.coded && field.role == FieldRole::Value && !field.coded &&
+           (bare || (row.type == field.type && row.width == field.width));
+}
+
 class CodebookReader {
 public:
     explicit CodebookReader(const std::filesystem::path& file) : csv_(file) {
@@ -173,7 +181,9 @@ private:
         for (FieldPlan& field : owner.fields) {
             if (field.name != plan.name)
                 continue;
-            if (typed && !sameType(field, plan))
+            const bool fits = sameType(field, plan) ||
+                              (!text(Code).empty() && fitsCode(field, plan, upperCase(text(Type))));
+            if (typed && !fits)
                 fail(Type,
                      inQuotes(text(Type)) + " is not the type that " + field.name + " got before");
             return field;

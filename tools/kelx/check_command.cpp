@@ -47,6 +47,13 @@ void printAsJson(const catalog::ConsistencyReport& report, const fs::path& datab
                                     {"file", finding.file},
                                     {"check", finding.check},
                                     {"found", finding.found}});
+    told["blanks"] = nlohmann::ordered_json::array();
+    for (const catalog::Blanks& variable : report.blanks)
+        told["blanks"].push_back({{"entity", variable.entity},
+                                  {"variable", variable.variable},
+                                  {"file", variable.file},
+                                  {"blanks", variable.blanks},
+                                  {"records", variable.records}});
     printJson(told);
 }
 
@@ -59,6 +66,9 @@ void printText(const catalog::ConsistencyReport& report, const fs::path& databas
                       << ": ";
         std::cout << finding.found << '\n';
     }
+    for (const catalog::Blanks& variable : report.blanks)
+        std::cout << variable.file << ": note: " << variable.entity << '.' << variable.variable
+                  << ": " << variable.blanks << " of " << variable.records << " values are blank\n";
     std::cout << database.string() << ": " << report.entities << " entities, " << report.variables
               << " variables, " << report.records
               << " records: " << report.count(FindingSeverity::Error) << " errors, "

@@ -24,14 +24,14 @@ public:
     virtual ~TKelConfig();
     virtual std::string engineCode() = 0;   ///< key of the setting
     virtual bool stopAtWarnings() = 0;      ///< warnings end a compilation
-    virtual std::string pluginFolder() = 0; ///< folder of extensions
+    virtual std::string pluginFolder() = 0; ///< folder of extensions; not used, there are none
     virtual bool autoWeight() = 0;          ///< weight variables apply by themselves
     virtual int defaultQuantiles() = 0;     ///< groups where a program names no number
     virtual bool showProgress() = 0;        ///< call the timer callback
-    virtual std::string workFolder() = 0;   ///< folder for temporary files, empty: system's
-    virtual int memoryLimit() = 0;          ///< limit for kept variables, in MB
-    virtual bool sensitiveByDefault() = 0;  ///< small cells hidden without being asked
+    virtual std::string workFolder() = 0;   ///< not used: files are made where they are to stand
+    virtual int memoryLimit() = 0;          ///< not used: kept variables take what they need
+    virtual bool sensitiveByDefault() = 0;  ///< not used: cells are hidden where SENSITIVE says so
     virtual bool tab_show_intermediate();   ///< tables used only by others are outputs too
-    virtual bool strictTypes() = 0;         ///< refuse implied conversions
+    virtual bool strictTypes() = 0;         ///< not used: the language converts as it says
     virtual std::shared_ptr<TKelUIProvider> uiProvider() = 0;
 };

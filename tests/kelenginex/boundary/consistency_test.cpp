@@ -2,10 +2,12 @@
 // Each kind of damage, made on purpose, is told; a sound database has no findings.
 #include "boundary_fixture.h"
 
+#include "catalog/consistency.h"
 #include "catalog/reader.h"
 #include "storage/column_writer.h"
 #include "storage/posix_io.h"
 
+#include <algorithm>
 #include <chrono>
 
 using namespace kelx;
@@ -197,6 +199,25 @@ TEST_F(ConsistencyTest, TellsValuesOutsideLabelsAndRanges) {
                                         "outside labels and ranges: \"South\" in record 2",
                                         "Warning|PERSON|AGE|age.kbf|Values|1 value outside labels "
                                         "and ranges: 31 in record 2"));
+}
+
+// Notes beside the findings: a blank is a value as any other.
+TEST_F(ConsistencyTest, CountsTheBlanksOfVariablesThatAreNoCodes) {
+    rewrite("age.kbf", {10, -1, 30, -1, -1});
+    rewriteTexts("prov.kbf", {"", "07"});
+    EXPECT_THAT(findings(),
+                ElementsAre("Error|PROVINCE|PROV|prov.kbf|Blanks|1 code is blank: record 1"));
+    const auto dictionary = catalog::readDictionary(folder / "sample.kxdb", {});
+    const catalog::ConsistencyReport own = catalog::checkConsistency(*dictionary);
+    const auto age =
+        std::find_if(own.blanks.begin(), own.blanks.end(),
+                     [](const catalog::Blanks& blanks) { return blanks.variable == "AGE"; });
+    ASSERT_NE(age, own.blanks.end());
+    EXPECT_EQ(age->entity, "PERSON");
+    EXPECT_EQ(age->blanks, 3U);
+    EXPECT_EQ(age->records, 5U);
+    for (const catalog::Blanks& blanks : own.blanks)
+        EXPECT_NE(blanks.variable, "PROV");
 }
 
 // Faults beyond the first block, more than can be shown, on several threads.
