@@ -183,6 +183,13 @@ TEST_F(RunsTest, AreasThatBreakTheRunAreTheirCompoundCode) {
     EXPECT_EQ(output.method(), eTableMethod::AVERAGE);
 }
 
+// Whatever the configuration answers: kelx gives the same.
+TEST_F(RunsTest, QuantilesWithoutANumberAreFourParts) {
+    execute("QUANTILE PERSON.AGE BY PERSON.SEX");
+    ASSERT_NE(config->defaultQuantiles(), 4);
+    EXPECT_EQ(session->outputs().at(0)->dataset()->fieldCount(), 1 + 3);
+}
+
 TEST_F(RunsTest, TablesOfTablesAreShownAsTheConfigurationSays) {
     const std::string program = "TABLE a AS FREQ PERSON.SEX\nTABLE b AS TABOP OF a * 2\n"
                                 "TABLE c AS AREALIST PROVINCE, a";
@@ -242,6 +249,16 @@ TEST_F(ExecuteTest, RunsProgramsOneAfterTheOther) {
     EXPECT_THAT(test::rowsOf(*execute_->outputs()[2]->dataset()), ElementsAre("PERSON|5"));
     EXPECT_TRUE(std::filesystem::exists(folder / "sub" / "one.json"));
     EXPECT_TRUE(listener.errors.empty());
+}
+
+// As tools write it when a style is chosen.
+TEST_F(ExecuteTest, AStyleBeforeTheCallsHoldsForAllOfThem) {
+    execute_->execute("DEFINE\n TABLESTYLE \"styles/a.json\"\nEXECUTE \"sub/two.spc\" name = {T}, "
+                      "what = {PROVINCE}\nTABLESTYLE \"b.json\"\nEXECUTE \"sub/two.spc\" name = "
+                      "{U}, what = {PERSON}");
+    EXPECT_EQ(namesOf(), "T U ");
+    EXPECT_EQ(execute_->outputs()[0]->options().style, (folder / "styles" / "a.json").string());
+    EXPECT_EQ(execute_->outputs()[1]->options().style, (folder / "b.json").string());
 }
 
 TEST_F(ExecuteTest, FaultsPointToTheCallAndNothingIsRun) {

@@ -137,10 +137,9 @@ TEST(Tables, AreKeptWhereAFileOrTheConfigurationWantsThem) {
 
 TEST(Tables, TakeTheAutomaticWeightForMeasures) {
     Census census;
-    census.options.defaultQuantiles = 5;
     EXPECT_EQ(summary(census.compile("QUANTILE AGE BY SEX2\nMEDIAN ROOMS\nVIEW PERSON, AGE\n"
                                      "AVERAGE AGE WEIGHT WEIGHT2 TALLY ROOMS")),
-              "QUANTILE_1 PERSON: QUANTILE 5 PERSON.AGE BY PERSON.SEX2 weight HOUSEHOLD.WEIGHT\n"
+              "QUANTILE_1 PERSON: QUANTILE 4 PERSON.AGE BY PERSON.SEX2 weight HOUSEHOLD.WEIGHT\n"
               "MEDIAN_1 HOUSEHOLD: MEDIAN HOUSEHOLD.ROOMS weight HOUSEHOLD.WEIGHT\n"
               "VIEW_1 PERSON: VIEW PERSON.AGE\n"
               "AVERAGE_1 PERSON: AVERAGE PERSON.AGE weight PERSON.WEIGHT2 tally HOUSEHOLD.ROOMS\n");
