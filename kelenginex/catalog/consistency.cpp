@@ -225,6 +225,8 @@ private:
             tell(checkColumn(*check.variable, *check.column, families ? pointers.get() : nullptr,
                              stop_),
                  check);
+        } catch (const storage::FileError& fault) {
+            check.find(FindingSeverity::Error, "File", reasonOf(fault));
         } catch (const std::exception& fault) {
             check.find(FindingSeverity::Error, "File", fault.what());
         }
