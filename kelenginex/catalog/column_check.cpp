@@ -4,7 +4,6 @@
 #include "catalog/names.h"
 #include "catalog/value_rule.h"
 #include "storage/bytes.h"
-#include "storage/error.h"
 
 #include <algorithm>
 #include <bit>
@@ -14,6 +13,12 @@
 #include <unordered_set>
 
 namespace kelx::catalog {
+
+std::string reasonOf(const storage::FileError& fault) {
+    const std::string text = fault.what();
+    const std::string prefix = fault.file().string() + ": ";
+    return text.starts_with(prefix) ? text.substr(prefix.size()) : text;
+}
 
 namespace {
 
@@ -81,7 +86,7 @@ public:
                 const std::size_t count = column_.zone(block).records;
                 look(begin, column_.read(begin, count, scratch), count);
             } catch (const storage::FileError& fault) {
-                note(faults_.blocks, [&] { return std::string(fault.what()); });
+                note(faults_.blocks, [&] { return reasonOf(fault); });
             }
         }
         return std::move(faults_);

@@ -94,6 +94,8 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
         return cursor_.skipToCommand();
     }
     cursor_.take();
+    if (!hasName_ && (cursor_.atEnd() || cursor_.atCommand()))
+        return; // the kind was meant as a name, and told
     table.kind = kind.keyword;
     table.kindWord = wordOf(kind);
     table.dimensions.emplace_back();
@@ -107,8 +109,7 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
         cursor_.skipToClause();
     }
     if (!hasSubject_ && (placesOf(subject.keyword) & isTableClause) == 0) {
-        if (hasName_) // else the word is the name, perhaps, and the kind is missing
-            cursor_.unexpected(expectedBy(table.kind));
+        cursor_.unexpected(expectedBy(table.kind));
         table.complete = false;
         hasSubject_ = true;
     }

@@ -318,6 +318,11 @@ TEST_F(KelxTest, ImportsAndConverts) {
     const Outcome import = kelx("import @/again/again.kxdb" + levels);
     ASSERT_EQ(import.status, 0) << import.err;
     EXPECT_THAT(import.out, HasSubstr("PERSON: 3000 records\n"));
+    EXPECT_EQ(kelx("import @/again/again.kxdb" + levels).err,
+              "kelx: error: " + path("again/again.kxdb") +
+                  ": exists already; --overwrite replaces it\n");
+    EXPECT_THAT(kelx("import @/again/other.kxdb" + levels).err,
+                testing::StartsWith("kelx: error: " + path("again/other.kxdb") + ": its file "));
     EXPECT_EQ(kelx("convert @/again/again.kxdb @/csv2 --csv").status, 0);
     EXPECT_EQ(TemporaryFolder::contents(folder->path() / "csv"),
               TemporaryFolder::contents(folder->path() / "csv2"));

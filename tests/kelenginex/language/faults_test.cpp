@@ -27,16 +27,17 @@ const std::vector<Fault> faults = {
      "Did you mean AVERAGE?\n"
      "KEL_E_UNEXPECTED 2:11 Found \"WHERE\", but expected a clause of the table, such as BY or "
      "TITLE, or a new command. Did you mean FILTER?\n"
+     "KEL_E_NOT_A_CONDITION 3:18 FILTER takes a condition, but this is a number.\n"
      "KEL_E_UNEXPECTED 3:22 Found \"Between\", but expected a clause of the table, such as BY or "
      "TITLE, or a new command. Did you mean IN (low : high)?\n"},
-    {"TABLE FREQ\nFREQ AGE", "KEL_E_UNEXPECTED 1:7 Found the reserved word FREQ, but expected the "
-                             "name of the table.\n"},
+    {"FREQ AGE TABLE FREQ", "KEL_E_UNEXPECTED 1:16 Found the reserved word FREQ, but expected the "
+                            "name of the table.\n"},
     {"RUNDEF title\nTITLE \"T\" TITLE \"U\"",
-     "KEL_E_UNEXPECTED 2:1 Found \"TITLE\", but expected the title in quotes.\n"
+     "KEL_E_UNEXPECTED 2:1 Found the reserved word TITLE, but expected the title in quotes.\n"
      "KEL_E_REPEATED_CLAUSE 2:11 TITLE is given twice for one command.\n"},
     {"DEFINE PERSON.A AS RECODE SEX2 (1 : 2 = 1) VALUELABELS 1 \"F\" 2 \"M\" 1 \"G\"\n"
      "DEFINE PERSON.B AS A LIKE A VALUELABELS 1 \"H\"",
-     "KEL_W_GIVEN_TWICE 1:70 The label of 1 is given twice: the last one is taken.\n"},
+     "KEL_W_GIVEN_TWICE 1:68 The label of 1 is given twice: the last one is taken.\n"},
     {"FREQ SEX2 /* x\n*", "KEL_E_UNTERMINATED_COMMENT 1:11 The comment that begins here is never "
                           "closed with */.\n"},
     {"EXECUTE \"a.spc\" x = {3",
