@@ -82,6 +82,7 @@ BoundProgram TKelExecute::Data::compile(const ExecuteCall& call, Messages& messa
     auto options = kelx::boundary::compileOptions(model);
     options.baseFolder = call.file.parent_path();
     options.programFile = call.file;
+    options.tableStyle = call.tableStyle;
     Messages found;
     BoundProgram program;
     try {

@@ -33,9 +33,6 @@ language::CompileOptions compileOptions(const catalog::Dictionary& dictionary) {
     if (config != nullptr) {
         options.autoWeight = config->autoWeight();
         options.showIntermediate = config->tab_show_intermediate();
-        if (config->defaultQuantiles() > 1) {
-            options.defaultQuantiles = config->defaultQuantiles();
-        }
     }
     return options;
 }

@@ -5,7 +5,6 @@
 #include "catalog/value_rule.h"
 #include "storage/bytes.h"
 #include "storage/coding.h"
-#include "storage/error.h"
 
 #include <algorithm>
 #include <bit>
@@ -15,6 +14,12 @@
 #include <unordered_set>
 
 namespace kelx::catalog {
+
+std::string reasonOf(const storage::FileError& fault) {
+    const std::string text = fault.what();
+    const std::string prefix = fault.file().string() + ": ";
+    return text.starts_with(prefix) ? text.substr(prefix.size()) : text;
+}
 
 namespace {
 
@@ -82,7 +87,7 @@ public:
                 const std::size_t count = column_.zone(block).records;
                 look(begin, column_.read(begin, count, scratch), count);
             } catch (const storage::FileError& fault) {
-                note(faults_.blocks, [&] { return std::string(fault.what()); });
+                note(faults_.blocks, [&] { return reasonOf(fault); });
             }
         }
         return std::move(faults_);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalog/model.h"
+#include "storage/error.h"
 #include "storage/pointer_file.h"
 
 #include <atomic>
@@ -11,6 +12,9 @@
 #include <vector>
 
 namespace kelx::catalog {
+
+/// The reason alone; a finding has the file in a place of its own.
+std::string reasonOf(const storage::FileError& fault);
 
 /// Faults of one kind: how many, and the first of them in words.
 struct FaultCount {

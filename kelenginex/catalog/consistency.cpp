@@ -21,13 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The reason alone; the finding has the file in a place of its own.
-std::string reasonOf(const storage::FileError& fault) {
-    const std::string text = fault.what();
-    const std::string prefix = fault.file().string() + ": ";
-    return text.starts_with(prefix) ? text.substr(prefix.size()) : text;
-}
-
 std::string inWords(const FaultCount& faults, const std::string& one, const std::string& many) {
     std::string text = std::to_string(faults.count) + " " + (faults.count == 1 ? one : many) + ": ";
     for (std::size_t i = 0; i < faults.first.size(); ++i) {
@@ -226,6 +219,8 @@ private:
             tell(checkColumn(*check.variable, *check.column, families ? pointers.get() : nullptr,
                              stop_),
                  check);
+        } catch (const storage::FileError& fault) {
+            check.find(FindingSeverity::Error, "File", reasonOf(fault));
         } catch (const std::exception& fault) {
             check.find(FindingSeverity::Error, "File", fault.what());
         }

@@ -205,8 +205,8 @@ struct TableCommand {
     std::vector<ListColumn> columns;   ///< of AreaList and View
     std::vector<std::size_t> operands; ///< tables of Tabop and Tablist; they come earlier
     ExpressionPtr operation;           ///< of Tabop
-    /// The entity whose records are counted: the lowest among dimensions, measure, weight and
-    /// tally; the listed one; null for Tabop and Tablist.
+    /// The entity whose records are counted: the lowest among dimensions, area break, measure,
+    /// weight and tally; the listed one; null for Tabop and Tablist.
     const Entity* unit = nullptr;
     ExpressionPtr filter; ///< the table's own
     ExpressionPtr weight; ///< in force: own, RUNDEF's or automatic; null for none
@@ -225,6 +225,13 @@ struct TableCommand {
     bool isNeeded = true;  ///< false: neither an output nor read by another table
     std::string text;      ///< the command as written
 };
+
+/// The areas that break the table down before its own variables; null for none.
+inline const Entity* areaBreakOf(const TableCommand& command) {
+    const bool canBreak = command.kind == TableKind::Frequency ||
+                          (command.kind >= TableKind::Average && command.kind <= TableKind::Gini);
+    return canBreak && !command.isHidden ? command.settings->areaBreak : nullptr;
+}
 
 /// What a program asks for, in order. Expressions point into the dictionary, which must outlive it.
 struct BoundProgram {

@@ -87,7 +87,15 @@ private:
         if (const std::string* value = find(name))
             replace(open, close + 1, *value);
         else if (tellUnknownAt != nullptr)
-            result_.unknown.push_back({std::string(name), *tellUnknownAt});
+            addUnknown(name, *tellUnknownAt);
+    }
+
+    void addUnknown(std::string_view name, const Position& position) {
+        const auto [found, isNew] = unknown_.emplace(lowerCase(name), result_.unknown.size());
+        if (isNew)
+            result_.unknown.push_back({std::string(name), position});
+        else
+            ++result_.unknown[found->second].places;
     }
 
     const std::string* find(std::string_view name) {
@@ -119,6 +127,7 @@ private:
     const CallValues& values_;
     std::unordered_map<std::string, std::size_t> index_; ///< of the values, names in lower case
     std::vector<bool> used_;
+    std::unordered_map<std::string, std::size_t> unknown_; ///< in lower case, in the result
     std::vector<Token> tokens_;
     std::size_t at_ = 0;
     bool inExecute_ = false; ///< what follows may be values of an EXECUTE
@@ -127,6 +136,10 @@ private:
 };
 
 } // namespace
+
+std::string CalledText::Unknown::inWords() const {
+    return places > 1 ? ", which stands at " + std::to_string(places) + " places" : "";
+}
 
 CalledText putValues(std::string_view program, const CallValues& values) {
     return Putter(program, values).run();

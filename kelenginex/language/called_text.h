@@ -4,6 +4,7 @@
 
 #include "language/messages.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,7 +18,10 @@ struct CalledText {
     /// A {name} without a value; it is left as it stands.
     struct Unknown {
         std::string name;
-        Position position;
+        Position position; ///< the first one
+        std::size_t places = 1;
+
+        std::string inWords() const; ///< of more places than one: what a message tells of them
     };
     std::string text;
     std::vector<Unknown> unknown;

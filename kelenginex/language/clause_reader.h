@@ -31,6 +31,8 @@ public:
     void startCommand() { given_.clear(); }
     /// False for the second of two equal clauses of a command, which is reported.
     bool firstTime(const Token& clause);
+    /// It was not there to be read: another one may still come.
+    void forget(const Token& clause) { given_.erase(clause.keyword); }
     /// Takes the word and tells why it cannot stand here, unless it was reported already; false.
     bool misplaced(const std::string& reason);
     /// False for a word that is no clause of the place; it is taken and reported.

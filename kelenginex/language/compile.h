@@ -6,6 +6,7 @@
 #include "language/messages.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace kelx::language {
@@ -15,8 +16,8 @@ struct CompileOptions {
     bool autoWeight = true;            ///< weight variables apply unless a program says otherwise
     std::filesystem::path baseFolder;  ///< relative file names of the program resolve against it
     std::filesystem::path programFile; ///< where the program stands; empty for a mere text
-    bool showIntermediate = false;     ///< tables that others are made of are outputs too
-    int defaultQuantiles = 4;          ///< parts of QUANTILE without a number
+    std::optional<std::string> tableStyle; ///< where the program names none; absolute
+    bool showIntermediate = false;         ///< tables that others are made of are outputs too
 };
 
 /// Lexes, parses and checks a program (UTF-8). Faults go to messages; where there are errors the

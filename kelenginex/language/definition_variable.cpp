@@ -8,6 +8,7 @@
 
 #include <system_error>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace kelx::language {
 
@@ -159,6 +160,7 @@ void DefinitionVariable::addLabels(const ast::Definition& ast, Variable& variabl
         return;
     auto& labels = variable.valueLabels;
     std::unordered_map<std::string, std::size_t> places;
+    std::unordered_set<std::string> given; // unlike those of LIKE
     for (std::size_t i = 0; i < labels.size(); ++i)
         places.emplace(labels[i].first, i);
     for (const ast::ValueLabel& entry : ast.valueLabels) {
@@ -167,6 +169,9 @@ void DefinitionVariable::addLabels(const ast::Definition& ast, Variable& variabl
             reportValue("VALUELABELS", variable, entry.value);
             continue;
         }
+        if (!given.insert(*code).second)
+            context_.report(Warning::GivenTwice, entry.value.position,
+                            {"The label of " + entry.value.text, "the last one is taken"});
         const auto [place, isNew] = places.emplace(*code, labels.size());
         if (isNew)
             labels.emplace_back(*code, entry.label);

@@ -36,6 +36,23 @@ ExecuteCall callOf(const ast::Execute& execute, const CompileOptions& options, M
     return call;
 }
 
+/// As tools write it: DEFINE alone, then the style of all tables.
+bool atStyle(const TokenCursor& cursor) {
+    const std::size_t ahead = cursor.peek().is(Keyword::Define) ? 1 : 0;
+    return cursor.peek(ahead).is(Keyword::Tablestyle);
+}
+
+bool readStyle(TokenCursor& cursor, const CompileOptions& options,
+               std::optional<std::string>& style) {
+    cursor.takeKeyword(Keyword::Define);
+    cursor.take();
+    std::string file;
+    if (!cursor.takeFileName(file, "the name of a style file in quotes"))
+        return false;
+    style = resolvedFile(file, options.baseFolder).string();
+    return true;
+}
+
 [[noreturn]] void refuse(const ExecuteCall& call, const Message& message) {
     throw std::runtime_error(call.fileName + ":" + std::to_string(message.position.line) + ": " +
                              message.text);
@@ -50,12 +67,17 @@ std::vector<ExecuteCall> readExecuteCalls(const std::string& text, const Compile
         return calls;
     const std::vector<Token> tokens = tokenize(text, {}, messages);
     TokenCursor cursor(tokens, messages);
+    std::optional<std::string> style;
     while (!cursor.atEnd()) {
-        if (!cursor.peek().is(Keyword::Execute)) {
+        if (atStyle(cursor)) {
+            if (readStyle(cursor, options, style))
+                continue;
+        } else if (!cursor.peek().is(Keyword::Execute)) {
             cursor.unexpected("EXECUTE and the file name of a program", {"EXECUTE"});
             cursor.take();
         } else if (const std::optional<ast::Execute> execute = parseExecute(cursor)) {
             calls.push_back(callOf(*execute, options, messages));
+            calls.back().tableStyle = style;
             continue;
         }
         while (!cursor.atEnd() && !cursor.peek().is(Keyword::Execute))
@@ -81,7 +103,8 @@ std::string programOf(const ExecuteCall& call) {
                                  {inQuotes(call.fileName), std::to_string(longestProgram)}));
     if (!called.unknown.empty()) {
         const CalledText::Unknown& first = called.unknown.front();
-        refuse(call, makeMessage(Error::UnknownValue, first.position, {first.name, ""}));
+        refuse(call,
+               makeMessage(Error::UnknownValue, first.position, {first.name, "", first.inWords()}));
     }
     return std::move(called.text);
 }

@@ -5,6 +5,7 @@
 #include "language/compile.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,11 +16,13 @@ struct ExecuteCall {
     std::filesystem::path file; ///< absolute; the program's own names are relative to its folder
     std::string fileName;       ///< as written
     std::vector<std::pair<std::string, std::string>> values;
-    Position position; ///< of the EXECUTE
+    Position position;                       ///< of the EXECUTE
+    std::optional<std::string> tableStyle{}; ///< told before it; absolute
 };
 
-/// The EXECUTE commands of a text, which may hold nothing else; faults go to messages, a missing
-/// program too. Relative names are taken from options.baseFolder.
+/// The EXECUTE commands of a text, which may hold nothing else but a style of tables, with or
+/// without DEFINE before it; faults go to messages, a missing program too. Relative names are taken
+/// from options.baseFolder.
 std::vector<ExecuteCall> readExecuteCalls(const std::string& text, const CompileOptions& options,
                                           Messages& messages);
 

@@ -29,13 +29,15 @@ struct Symbol {
 };
 
 /// Longer ones first. A "=" may be doubled, as where "=" was replaced by "==" in "<=" or "==".
-constexpr std::array<Symbol, 21> symbols = {{{"\xe2\x89\xa0", "<>", true},
+constexpr std::array<Symbol, 23> symbols = {{{"\xe2\x89\xa0", "<>", true},
                                              {"\xe2\x89\xa4", "<=", true},
                                              {"\xe2\x89\xa5", ">=", true},
                                              {"<>", "<>"},
                                              {"<=", "<="},
                                              {">=", ">="},
                                              {"!=", "<>", true},
+                                             {"&&", "AND", true},
+                                             {"||", "OR", true},
                                              {"=<", "<=", true},
                                              {"=>", ">=", true},
                                              {"=", "="},
@@ -415,7 +417,7 @@ private:
 
     void addOpenText(std::size_t length) {
         messages_.add(makeMessage(Error::UnterminatedString, position_));
-        add(TokenKind::Text, length);
+        add(TokenKind::Text, length).isReported = true;
     }
 
     /// Place of the brace that closes the one here.
@@ -452,10 +454,17 @@ private:
             std::size_t length = symbol.written.size();
             while (symbol.written.back() == '=' && peek(length) == '=')
                 ++length;
-            add(TokenKind::Symbol, length).text = symbol.meant;
+            Token& token = add(TokenKind::Symbol, length);
+            token.text = symbol.meant;
+            if (keywordOf(symbol.meant) != Keyword::None) {
+                token.kind = TokenKind::Word;
+                token.keyword = keywordOf(symbol.meant);
+                token.reserved = true;
+            }
             return;
         }
-        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek()), ""}));
+        const char* hint = peek() == ';' ? " Commands need no sign between them." : "";
+        messages_.add(makeMessage(Error::UnknownCharacter, position_, {visible(peek()), hint}));
         add(TokenKind::Invalid, 1);
     }
 

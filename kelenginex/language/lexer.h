@@ -30,6 +30,7 @@ struct Token {
     Keyword keyword = Keyword::None; ///< None next to a "."
     bool reserved = false;           ///< cannot stand alone as a name
     bool firstOnLine = false;
+    bool isReported = false; ///< is at fault, and that was told
     std::string_view text;
     std::size_t begin = 0;  ///< byte offset in the program
     std::size_t length = 0; ///< in the program; `text` differs for `==`

@@ -27,6 +27,10 @@ bool isOfSameRun(const RunSettings& a, const RunSettings& b) {
            std::equal(x.areas.begin(), x.areas.end(), y.areas.begin(), y.areas.end(), isSameArea);
 }
 
+std::string isOfOther(const Entity& counted, const Entity& listed) {
+    return "it counts " + counted.name + ", which does not lie in " + listed.name;
+}
+
 } // namespace
 
 bool ListChecker::check(const ast::Table& table, TableCommand& command) {
@@ -177,7 +181,7 @@ std::optional<std::string> ListChecker::unfit(std::size_t number, const Entity& 
     if (table.dimensions.size() > 1)
         return "it has more than one variable";
     if (!entity.isAncestorOf(*table.unit))
-        return "it counts " + table.unit->name + ", which does not lie in " + entity.name;
+        return isOfOther(*table.unit, entity);
     return std::nullopt;
 }
 
@@ -190,24 +194,25 @@ bool ListChecker::addTable(std::size_t number, Position position, TableCommand& 
     if (!isOfSameRun(*tables_.table(number).settings, *command.settings))
         context_.report(Warning::ColumnOfOtherRun, position, {tables_.table(number).name});
     TableCommand hidden = tables_.table(number);
+    hidden.isHidden = true;
+    tables_.useAsColumn(number);
+    if (!place(number, command, hidden, position))
+        return false;
     TableFacts facts = tables_.facts(number);
     hidden.dimensions.insert(hidden.dimensions.begin(),
                              ExpressionChecker::recordNumber(entity, position));
     if (hidden.kind == TableKind::Count)
         hidden.kind = TableKind::Frequency;
-    hidden.isHidden = true;
     hidden.isOutput = false;
     hidden.isNeeded = true;
     hidden.sort.reset();
     hidden.outfile.reset();
     hidden.jsonFiles.clear();
-    if (!takeWeights(command, facts, hidden) || !tables_.hasRoomForColumn(position) ||
-        !tables_.hasRoomFor(hidden, position))
+    if (!tables_.hasRoomForColumn(position) || !tables_.hasRoomFor(hidden, position))
         return false;
     distinguish(number, hidden.name);
     raise(hidden.sensitive, command.sensitive);
     hidden.sensitive = placer_.protection().of(hidden);
-    tables_.useAsColumn(number);
     const std::size_t at = tables_.size();
     tables_.add(std::move(hidden), std::move(facts));
     command.columns.push_back({nullptr, at, position});
@@ -224,19 +229,20 @@ void ListChecker::distinguish(std::size_t number, std::string& name) {
         name += "_" + std::to_string(taken);
 }
 
-bool ListChecker::takeWeights(const TableCommand& list, const TableFacts& facts,
-                              TableCommand& hidden) {
-    if (list.weight != nullptr && !facts.ownWeight) {
-        if (!placer_.include(hidden, *list.weight))
-            return false;
-        hidden.weight = list.weight;
-    }
-    if (list.tally != nullptr && hidden.tally == nullptr) {
-        if (!placer_.include(hidden, *list.tally))
-            return false;
-        hidden.tally = list.tally;
-    }
-    return true;
+/// The list's weight and tally may change what the table counts, as may its area break, which the
+/// column has not.
+bool ListChecker::place(std::size_t number, const TableCommand& list, TableCommand& hidden,
+                        Position position) {
+    const TableCommand& table = tables_.table(number);
+    if (list.weight == nullptr && list.tally == nullptr && areaBreakOf(table) == nullptr)
+        return true;
+    if (!placer_.placeColumn(hidden, tables_.facts(number).ownWeight, list, position))
+        return false;
+    if (list.countEntity->isAncestorOf(*hidden.unit))
+        return true;
+    context_.report(Error::TableColumn, position,
+                    {table.name, isOfOther(*hidden.unit, *list.countEntity)});
+    return false;
 }
 
 void ListChecker::tellUseless(const ast::Table& table, const TableCommand& command) {

@@ -36,7 +36,8 @@ private:
     bool addVariable(const Variable& variable, Position position, TableCommand& command);
     bool addTable(std::size_t number, Position position, TableCommand& command);
     std::optional<std::string> unfit(std::size_t number, const Entity& entity) const;
-    bool takeWeights(const TableCommand& list, const TableFacts& facts, TableCommand& hidden);
+    bool place(std::size_t number, const TableCommand& list, TableCommand& hidden,
+               Position position);
     /// Variables of that name in the rows' entity or above it.
     std::vector<const Variable*> inReach(const std::string& name, const Entity& entity) const;
     void reportUnknown(const ast::Name& name, TableCommand& command);

@@ -85,6 +85,7 @@ enum class Error : int {
     TooManyDimensions,
     TooMuchText,
     WeightIsText,
+    AreaBreakBranch,
 };
 
 /// Codes of warnings; the same rule.
@@ -106,6 +107,7 @@ enum class Warning : int {
     OutfileFormat,
     SavedAsNumbers,
     ColumnOfOtherRun,
+    GivenTwice,
 };
 
 /// A line of the table.

@@ -39,6 +39,7 @@ private:
     void parseRunName(ast::RunDefinition& run);
     std::size_t runNameWords() const;
     bool parseRunClause(ast::RunDefinition& run);
+    bool parseRunValue(ast::RunDefinition& run, const Token& clause);
     bool parseRunWeight(ast::RunDefinition& run, const Token& clause);
     bool parseSelection(ast::RunDefinition& run);
     bool parseInlineSelection(ast::RunDefinition& run);
@@ -159,6 +160,14 @@ bool Parser::parseRunClause(ast::RunDefinition& run) {
     cursor_.take();
     if (!clauses_.firstTime(clause))
         return false;
+    if (parseRunValue(run, clause))
+        return true;
+    if (cursor_.peek().is(clause.keyword)) // as where the name of the run is the word
+        clauses_.forget(clause);
+    return false;
+}
+
+bool Parser::parseRunValue(ast::RunDefinition& run, const Token& clause) {
     switch (clause.keyword) {
     case Keyword::Title:
         return clauses_.readText(run.title, "the title in quotes");

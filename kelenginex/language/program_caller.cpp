@@ -59,9 +59,10 @@ CalledText ProgramCaller::putValues(const ast::Execute& command, const std::stri
         names.push_back(name);
     }
     CalledText called = language::putValues(text, values);
-    for (auto& [name, position] : called.unknown) {
-        position.source = source;
-        context_.report(Error::UnknownValue, position, {name, hint(name, names)});
+    for (CalledText::Unknown& unknown : called.unknown) {
+        unknown.position.source = source;
+        context_.report(Error::UnknownValue, unknown.position,
+                        {unknown.name, hint(unknown.name, names), unknown.inWords()});
     }
     tellUnused(command, called);
     return called;

@@ -19,6 +19,16 @@ std::size_t sizeOf(const AreaSelection& selection) {
     return bytes;
 }
 
+/// What a selection without a label goes by: its codes, the first ones of many.
+std::string labelOf(const std::vector<AreaSelection::Area>& areas) {
+    constexpr std::size_t most = 10;
+    std::string label;
+    for (std::size_t i = 0; i < std::min(most, areas.size()); ++i)
+        label += (i > 0 ? ", " : "") + areas[i].code;
+    return areas.size() > most ? label + " and " + std::to_string(areas.size() - most) + " more"
+                               : label;
+}
+
 std::size_t sizeOf(const RunSettings& settings) {
     std::size_t bytes = sizeof(settings) + settings.name.size();
     for (const auto* text : {&settings.title, &settings.filterLabel, &settings.tableStyle,
@@ -94,7 +104,7 @@ CheckedSettings RunChecker::check(const ast::RunDefinition& run) {
         settings.areaBreak = areaBreak(*run.areaBreak);
     if (!std::holds_alternative<std::monostate>(run.selection))
         settings.selection = selection(run);
-    if (run.selectionLabel) {
+    if (run.selectionLabel && !run.selectionLabel->empty()) {
         if (!settings.selection)
             settings.selection.emplace();
         settings.selection->label = *run.selectionLabel;
@@ -166,6 +176,8 @@ AreaSelection RunChecker::fromFile(const std::string& file, Position position) {
         for (const std::string& code : group.codes)
             result.areas.push_back({entity, code, position});
     }
+    if (result.label.empty())
+        result.label = labelOf(result.areas);
     if (!context_.mayKeep(sizeOf(result), position))
         result.areas.clear();
     return result;

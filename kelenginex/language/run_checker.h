@@ -24,7 +24,7 @@ void checkAreas(CheckerContext& context, const CheckedSettings& run, const Entit
 class RunChecker {
 public:
     RunChecker(CheckerContext& context, ExpressionChecker& expressions)
-        : context_(context), expressions_(expressions) {}
+        : context_(context), expressions_(expressions), tableStyle_(context.options().tableStyle) {}
 
     /// What holds before any RUNDEF.
     CheckedSettings defaults() const;

@@ -126,7 +126,10 @@ SortChecker::Found SortChecker::find(const ast::Sort& sort, const TableCommand& 
 
 bool SortChecker::take(const ast::Sort& sort, const TableFacts& facts, TableCommand& command) {
     if (isCrosstab(command, facts)) {
-        context_.report(Warning::SortCrosstab, sort.position);
+        const bool byBreak = facts.dimensions.size() == 1;
+        context_.report(
+            Warning::SortCrosstab, sort.position,
+            {byBreak ? ", and AREABREAK adds " + facts.areaBreak->name + " to this one" : ""});
         return true;
     }
     if (command.kind == TableKind::Count)

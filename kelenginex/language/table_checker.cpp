@@ -85,13 +85,17 @@ void TableChecker::check(const ast::Table& table, const CheckedSettings& setting
     command.title = table.title;
     command.decimals = table.decimals;
     command.sensitive = table.sensitive;
-    command.quantiles = table.quantiles.value_or(
-        std::clamp(context_.options().defaultQuantiles, ast::leastQuantiles, ast::mostQuantiles));
+    command.quantiles = table.quantiles.value_or(command.quantiles);
     command.text =
         trimmed(context_.program().substr(table.span.begin, table.span.end - table.span.begin));
     command.name = table.kindWord; // for messages, until it has its own
     if (!checkCommand(model))
         tables_.expect(table);
+}
+
+void TableChecker::finish() {
+    tables_.tellNames();
+    placer_.tellFilters(program_.tables);
 }
 
 bool TableChecker::checkCommand(Model& model) {
@@ -359,7 +363,7 @@ bool TableChecker::addOne(TableCommand command, const Model& model, std::size_t 
 bool TableChecker::takeSort(TableCommand& command, const TableFacts& facts, const Model& model) {
     TableFacts placed = facts;
     if (command.operands.empty())
-        placed.areaBreak = command.settings->areaBreak;
+        placed.areaBreak = areaBreakOf(command);
     return sorts_.take(*model.table.sort, placed, command);
 }
 

@@ -26,7 +26,7 @@ public:
 
     /// Adds the tables of one command: lists of variables make their product.
     void check(const ast::Table& table, const CheckedSettings& settings);
-    void finish() { tables_.tellNames(); } ///< at the end of the program
+    void finish(); ///< at the end of the program
 
 private:
     using List = std::vector<ExpressionPtr>;

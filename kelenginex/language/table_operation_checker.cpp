@@ -58,10 +58,11 @@ std::optional<std::size_t> TableOperationChecker::operand(const ast::Name& name,
     return number;
 }
 
-TableOperationChecker::Built TableOperationChecker::refuse(const ast::Node& node) {
+TableOperationChecker::Built TableOperationChecker::refuse(const ast::Node& node,
+                                                           const char* reason) {
     const std::string source(
         context_.program().substr(node.span.begin, node.span.end - node.span.begin));
-    context_.report(Error::TableOperator, node.position, {inQuotes(simplified(source))});
+    context_.report(Error::TableOperator, node.position, {inQuotes(simplified(source)) + reason});
     return nullptr;
 }
 
@@ -139,7 +140,7 @@ bool TableOperationChecker::checkTabop(const ast::Table& table, TableCommand& co
     if (built == nullptr)
         return false;
     if (command.operands.empty()) {
-        refuse(*table.operation);
+        refuse(*table.operation, ", which names no table");
         return false;
     }
     if (!haveSameShape(command, table.operation->position))
@@ -178,6 +179,9 @@ bool TableOperationChecker::checkTablist(const ast::Table& table, TableCommand& 
     bool good = !table.names.empty();
     for (const ast::Name& name : table.names) {
         const std::optional<std::size_t> number = operand(name, command);
+        if (number && std::count(command.operands.begin(), command.operands.end(), *number) > 1)
+            context_.report(Warning::GivenTwice, name.position,
+                            {inQuotes(name.name), "its columns have the same names"});
         good = number && standBeside(name, *number, command) && good;
     }
     if (!good)

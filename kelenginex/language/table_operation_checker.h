@@ -26,7 +26,7 @@ private:
 
     Built build(const ast::Node& node, TableCommand& command);
     Built buildFigure(const ast::Node& node, TableCommand& command);
-    Built refuse(const ast::Node& node);
+    Built refuse(const ast::Node& node, const char* reason = "");
     std::optional<std::size_t> operand(const ast::Name& name, TableCommand& command);
     bool haveSameShape(const TableCommand& command, Position position);
     bool standBeside(const ast::Name& name, std::size_t number, const TableCommand& command);

@@ -67,23 +67,24 @@ void TableParser::parse(ast::Program& program) {
     const Token& first = cursor_.peek();
     table.position = first.position;
     table.span.begin = first.begin;
-    if (cursor_.takeKeyword(Keyword::Table))
-        parseName(table);
+    hasName_ = !cursor_.takeKeyword(Keyword::Table) || parseName(table);
     parseKind(table, program);
 }
 
 /// A kind of table is the name where another kind follows it. A form whose name was left blank
 /// writes AS at once.
-void TableParser::parseName(ast::Table& table) {
+bool TableParser::parseName(ast::Table& table) {
     const bool named = cursor_.peek().kind == TokenKind::Word && !cursor_.peek().is(Keyword::As) &&
                        !((placesOf(cursor_.peek().keyword) & isTableKind) != 0 &&
                          !cursor_.peek(1).is(Keyword::As) &&
                          (placesOf(cursor_.peek(1).keyword) & isTableKind) == 0);
     if (named)
         table.name = std::string(cursor_.take().text);
-    else if (!cursor_.peek().is(Keyword::As))
+    const bool faulty = !named && !cursor_.peek().is(Keyword::As);
+    if (faulty)
         cursor_.unexpected("the name of the table");
     cursor_.takeKeyword(Keyword::As);
+    return !faulty;
 }
 
 void TableParser::parseKind(ast::Table& table, ast::Program& program) {
@@ -93,6 +94,8 @@ void TableParser::parseKind(ast::Table& table, ast::Program& program) {
         return cursor_.skipToCommand();
     }
     cursor_.take();
+    if (!hasName_ && (cursor_.atEnd() || cursor_.atCommand()))
+        return; // the kind was meant as a name, and told
     table.kind = kind.keyword;
     table.kindWord = wordOf(kind);
     table.dimensions.emplace_back();

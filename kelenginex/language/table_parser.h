@@ -17,7 +17,7 @@ public:
     void parse(ast::Program& program);
 
 private:
-    void parseName(ast::Table& table);
+    bool parseName(ast::Table& table);
     void parseKind(ast::Table& table, ast::Program& program);
     void parseQuantiles(ast::Table& table);
 
@@ -38,6 +38,7 @@ private:
 
     ClauseReader& clauses_;
     TokenCursor& cursor_;
+    bool hasName_ = true;     ///< where TABLE asks for one
     bool hasSubject_ = false; ///< or a fault in it was told
 };
 

@@ -15,11 +15,8 @@ const Variable* automaticWeight(const Entity* entity) {
     return entity == nullptr ? nullptr : entity->weightVar;
 }
 
-/// A count has one figure for each record, and so must its weight.
-bool weighsBelow(const TableCommand& command) {
-    const Entity* weighted = command.weight->entity;
-    return weighted != nullptr && weighted != command.countEntity &&
-           command.countEntity->isAncestorOf(*weighted);
+bool liesBelow(const Entity* entity, const Entity& other) {
+    return entity != nullptr && entity != &other && other.isAncestorOf(*entity);
 }
 
 bool isList(const TableCommand& command) {
@@ -36,6 +33,8 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
         if (!include(command, *dimension))
             return false;
     }
+    if (!include(command, areaBreakOf(command)))
+        return false;
     if (!isList(command) &&
         ((command.tally != nullptr && !include(command, *command.tally)) || !placeWeight(command)))
         return false;
@@ -55,6 +54,31 @@ bool TablePlacer::place(TableCommand& command, const CheckedSettings& settings) 
     return checkFilter(command, run.selection->expression, "selection");
 }
 
+bool TablePlacer::placeColumn(TableCommand& command, bool ownWeight, const TableCommand& list,
+                              Position position) {
+    if (command.kind == TableKind::Count && list.tally != nullptr &&
+        liesBelow(list.tally->entity, *command.countEntity)) {
+        context_.report(Error::TableColumn, position,
+                        {command.name, "it counts " + command.countEntity->name +
+                                           ", and the tally is about " + list.tally->entity->name +
+                                           ", which lies below"});
+        return false;
+    }
+    if (!ownWeight)
+        command.weight = list.weight;
+    if (command.tally == nullptr)
+        command.tally = list.tally;
+    return place(command, {command.settings, position});
+}
+
+bool TablePlacer::include(TableCommand& command, const Entity* areaBreak) {
+    if (areaBreak == nullptr || lower(command.unit, areaBreak))
+        return true;
+    context_.report(Error::AreaBreakBranch, command.position,
+                    {areaBreak->name, command.unit->name});
+    return false;
+}
+
 bool TablePlacer::include(TableCommand& command, const Expression& part) {
     if (lower(command.unit, part.entity))
         return true;
@@ -69,7 +93,9 @@ bool TablePlacer::placeWeight(TableCommand& command) {
         command.weight = run.weight;
     if (command.weight != nullptr) {
         const bool own = command.weight != run.weight;
-        if (command.kind == TableKind::Count && weighsBelow(command)) {
+        // A count has one figure for each record, and so must its weight.
+        if (command.kind == TableKind::Count &&
+            liesBelow(command.weight->entity, *command.countEntity)) {
             context_.report(Error::WeightBelow, own ? command.weight->position : command.position,
                             {command.weight->entity->name, command.countEntity->name});
             return false;
@@ -98,15 +124,31 @@ bool TablePlacer::checkFilter(const TableCommand& command, const ExpressionPtr& 
     if (filter == nullptr || filter->entity == nullptr ||
         filter->entity->isAncestorOf(*command.unit))
         return true;
-    const bool below = command.unit->isAncestorOf(*filter->entity);
-    const bool isNew = told_.emplace(filter, command.unit).second;
-    if (isNew && below)
-        context_.report(Warning::FilterBelow, filter->position,
-                        {filter->entity->name, command.unit->name, what});
-    else if (isNew)
+    if (command.unit->isAncestorOf(*filter->entity))
+        return true;
+    if (told_.emplace(filter, command.unit).second)
         context_.report(Error::FilterBranch, filter->position,
                         {what, filter->entity->name, command.unit->name});
-    return below;
+    return false;
+}
+
+void TablePlacer::tellFilter(const Entity& unit, const ExpressionPtr& filter,
+                             const std::string& what) {
+    if (filter != nullptr && liesBelow(filter->entity, unit) && told_.emplace(filter, &unit).second)
+        context_.report(Warning::FilterBelow, filter->position,
+                        {filter->entity->name, unit.name, what});
+}
+
+void TablePlacer::tellFilters(const std::vector<TableCommand>& tables) {
+    for (const TableCommand& table : tables) {
+        if (table.unit == nullptr || !table.isNeeded)
+            continue;
+        const RunSettings& run = *table.settings;
+        tellFilter(*table.unit, table.filter, "filter");
+        tellFilter(*table.unit, run.filter, "universal filter");
+        if (run.selection)
+            tellFilter(*table.unit, run.selection->expression, "selection");
+    }
 }
 
 } // namespace kelx::language

@@ -11,6 +11,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace kelx::language {
 
@@ -21,14 +22,24 @@ public:
 
     /// Sets unit, weight and `sensitive`. False where a fault was reported.
     bool place(TableCommand& command, const CheckedSettings& settings);
-    /// The unit becomes the part's entity where that is lower; false for one of another branch,
-    /// which is reported.
-    bool include(TableCommand& command, const Expression& part);
+    /// Settles anew what a table counts that is the column of a list, which gives it `weight` and
+    /// `tally` where they are not null; `ownWeight` says that it keeps its own. False where a fault
+    /// was reported.
+    bool placeColumn(TableCommand& command, bool ownWeight, const TableCommand& list,
+                     Position position);
+    /// Warns, at the end of the program, of filters and selections that lie below what the tables
+    /// that are made count.
+    void tellFilters(const std::vector<TableCommand>& tables);
 
     TableProtection& protection() { return protection_; }
 
 private:
+    /// The unit becomes the part's entity where that is lower; false for one of another branch,
+    /// which is reported.
+    bool include(TableCommand& command, const Expression& part);
+    bool include(TableCommand& command, const Entity* areaBreak);
     bool placeWeight(TableCommand& command);
+    void tellFilter(const Entity& unit, const ExpressionPtr& filter, const std::string& what);
     bool checkFilter(const TableCommand& command, const ExpressionPtr& filter,
                      const std::string& what);
 

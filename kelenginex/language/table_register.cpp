@@ -59,8 +59,8 @@ void TableRegister::add(TableCommand command, TableFacts facts) {
         context_.noteTable(command.name);
         byName_[lowerCase(command.name)].push_back(program_.tables.size());
     }
-    if (command.settings->areaBreak != nullptr && command.kind != TableKind::Count)
-        facts.areaBreak = command.settings->areaBreak;
+    if (command.operands.empty())
+        facts.areaBreak = areaBreakOf(command);
     program_.tables.push_back(std::move(command));
     facts_.push_back(std::move(facts));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "language/token_cursor.h"
 
+#include "language/other_words.h"
 #include "language/text.h"
 
 #include <algorithm>
@@ -78,7 +79,11 @@ void TokenCursor::unexpected(const std::string& expected, const std::vector<std:
         return;
     reportedAt_ = at_;
     std::string hint;
-    if (messages_.wantsHints() && peek().kind == TokenKind::Word && peek().is(Keyword::None))
+    const bool isWord =
+        messages_.wantsHints() && peek().kind == TokenKind::Word && peek().is(Keyword::None);
+    if (isWord)
+        hint = ourWordFor(peek().text);
+    if (hint.empty() && isWord)
         hint = nearest(peek().text, words);
     report(Error::Unexpected, peek().position,
            {describe(peek()), expected, hint.empty() ? "" : " Did you mean " + hint + "?"});

@@ -46,7 +46,9 @@ public:
     /// token may be a misspelling of. Silent where the token was reported before.
     void unexpected(const std::string& expected, const std::vector<std::string>& words = {});
     /// The token at the cursor was reported, so what is wrong with it otherwise is no news.
-    bool isReported() const { return peek().kind == TokenKind::Invalid || reportedAt_ == at_; }
+    bool isReported() const {
+        return peek().kind == TokenKind::Invalid || peek().isReported || reportedAt_ == at_;
+    }
 
 private:
     bool startsCommandHere() const;

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "output/buffered.h"
 
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace kelx::output {
 namespace {
 
@@ -37,6 +42,19 @@ private:
     std::vector<std::string> texts_;
 };
 
+/// The names of the fields; where tables have one name for their columns, with theirs before it.
+std::vector<std::string> headersOf(const Table& table) {
+    std::map<std::string_view, std::size_t> times;
+    for (const Field& field : table.fields)
+        ++times[field.name];
+    std::vector<std::string> headers;
+    for (const Field& field : table.fields) {
+        const bool plain = times[field.name] == 1 || field.table.empty();
+        headers.push_back(plain ? field.name : field.table + " " + field.name);
+    }
+    return headers;
+}
+
 } // namespace
 
 void writeCsv(const Table& table, const TextSink& sink) {
@@ -44,8 +62,9 @@ void writeCsv(const Table& table, const TextSink& sink) {
     const auto endOf = [&](std::size_t column) {
         return column + 1 < table.fields.size() ? "," : "\r\n";
     };
-    for (std::size_t column = 0; column < table.fields.size(); ++column)
-        out << quoted(table.fields[column].name) << endOf(column);
+    const std::vector<std::string> headers = headersOf(table);
+    for (std::size_t column = 0; column < headers.size(); ++column)
+        out << quoted(headers[column]) << endOf(column);
     const std::vector<CsvColumn> columns(table.columns.begin(), table.columns.end());
     for (std::size_t row = 0; row < static_cast<std::size_t>(table.rows()); ++row) {
         for (std::size_t column = 0; column < columns.size(); ++column) {

@@ -157,6 +157,16 @@ SortGuide guideOf(const RowTable& rows, const Table& table) {
     return guide;
 }
 
+std::optional<std::string> textOf(const language::Expression* expression) {
+    return expression != nullptr ? std::optional(expression->text) : std::nullopt;
+}
+
+std::optional<std::string> universalFilterOf(const language::RunSettings* run) {
+    if (run == nullptr || run->filter == nullptr)
+        return std::nullopt;
+    return run->filterLabel ? run->filterLabel : textOf(run->filter.get());
+}
+
 } // namespace
 
 std::string headingOf(const catalog::Entity& entity) {
@@ -190,31 +200,48 @@ void addNames(const TableVariable& variable, std::size_t column, SortGuide& guid
     }
 }
 
+Circumstances::Circumstances(const TableCommand& command)
+    : unit(command.unit != nullptr ? command.unit : command.countEntity),
+      run(command.settings.get()), filter(command.filter.get()), weight(command.weight.get()),
+      tally(command.tally.get()) {}
+
+void Circumstances::keepCommon(const Circumstances& others) {
+    const auto keep = [](const language::Expression*& own, const language::Expression* other) {
+        if (own == nullptr || other == nullptr || own->text != other->text)
+            own = nullptr;
+    };
+    if (unit != others.unit)
+        unit = nullptr;
+    if (universalFilterOf(run) != universalFilterOf(others.run))
+        run = nullptr;
+    keep(filter, others.filter);
+    keep(weight, others.weight);
+    keep(tally, others.tally);
+}
+
+void Circumstances::tellIn(Table& table) const {
+    table.unit = unit != nullptr ? unit->name : "";
+    table.filter = textOf(filter);
+    table.weight = textOf(weight);
+    table.tally = textOf(tally);
+    table.universalFilter = universalFilterOf(run);
+}
+
 Table described(const TableCommand& command, const catalog::Dictionary& dictionary) {
     const language::RunSettings& settings = *command.settings;
-    const catalog::Entity* unit = command.unit != nullptr ? command.unit : command.countEntity;
     Table table;
     table.name = command.name;
     table.kind = kindName(command.kind);
     table.type = typeOf(command.kind);
     table.method = methodOf(command.kind);
     table.entity = command.countEntity;
-    table.unit = unit != nullptr ? unit->name : "";
     table.database =
         dictionary.label.empty() ? dictionary.file.filename().string() : dictionary.label;
     const bool selected = settings.selection && !settings.selection->label.empty();
     table.area = selected ? settings.selection->label : "All Database";
     table.title = command.title ? command.title : settings.title;
     table.decimals = command.decimals ? command.decimals : settings.decimals;
-    if (command.filter)
-        table.filter = command.filter->text;
-    if (command.weight)
-        table.weight = command.weight->text;
-    if (command.tally)
-        table.tally = command.tally->text;
-    if (settings.filter)
-        table.universalFilter =
-            settings.filterLabel ? *settings.filterLabel : settings.filter->text;
+    Circumstances(command).tellIn(table);
     return table;
 }
 

@@ -8,6 +8,20 @@
 
 namespace kelx::output {
 
+/// What is told of the records behind a table; a null is not told.
+struct Circumstances {
+    const catalog::Entity* unit = nullptr;
+    const language::RunSettings* run = nullptr; ///< its universal filter counts
+    const language::Expression* filter = nullptr;
+    const language::Expression* weight = nullptr;
+    const language::Expression* tally = nullptr;
+
+    explicit Circumstances(const language::TableCommand& command);
+    /// Leaves out what the others have otherwise.
+    void keepCommon(const Circumstances& others);
+    void tellIn(Table& table) const;
+};
+
 /// Name, area, filter and the like. The unit stays empty where the command has none.
 Table described(const language::TableCommand& command, const catalog::Dictionary& dictionary);
 

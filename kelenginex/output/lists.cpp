@@ -240,14 +240,14 @@ private:
             rows.figures.size() > 1 ? " " + rows.figureNames[f] : std::string();
         const std::string& table = rows.command->name;
         if (!crossed)
-            return {table + figure, table + figure, ""};
+            return {table + figure, table + figure, "", table};
         const Category* category = categoryAt(rows, 1, place);
         if (category != nullptr && category->kind == CategoryKind::Valid)
-            return {placeName(category) + figure, category->label + figure, ""};
+            return {placeName(category) + figure, category->label + figure, "", table};
         const char* label = category == nullptr                       ? "$tot$"
                             : category->kind == CategoryKind::Missing ? "$mv$"
                                                                       : "$na$";
-        return {table + " " + placeName(category) + figure, label, ""};
+        return {table + " " + placeName(category) + figure, label, "", table};
     }
 
     void finish() {

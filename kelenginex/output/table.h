@@ -27,6 +27,7 @@ std::string toText(const Value& value);
 
 struct Field {
     std::string name, label, group;
+    std::string table{}; ///< of a list: the column's table, else empty
 };
 
 /// The values of a field, in one of three ways: figures by row; values by row; or, where few values

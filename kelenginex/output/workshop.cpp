@@ -55,6 +55,23 @@ Workshop::Workshop(const language::BoundProgram& program, const catalog::Diction
         for (const std::size_t source : sources)
             ++readers_.at(source);
     }
+    findCircumstances();
+}
+
+/// What is made of tables is told what they have in common. They come earlier.
+void Workshop::findCircumstances() {
+    circumstances_.reserve(program_.tables.size());
+    for (const Command& command : program_.tables) {
+        const std::vector<std::size_t>& operands = command.operands;
+        if (operands.empty()) {
+            circumstances_.emplace_back(command);
+            continue;
+        }
+        Circumstances common = circumstances_[operands.front()];
+        for (const std::size_t operand : operands)
+            common.keepCommon(circumstances_[operand]);
+        circumstances_.push_back(common);
+    }
 }
 
 void Workshop::take(std::size_t index, execution::TableResult result,
@@ -148,6 +165,8 @@ void Workshop::show(std::size_t index, Laid laid, double seconds, execution::Pro
         return;
     if (own.sort && canBeSorted(own, laid.table))
         sortRows(laid, *own.sort, progress);
+    if (isMadeOfTables(own))
+        circumstances_[index].tellIn(laid.table);
     laid.table.command = index;
     laid.table.seconds = seconds + progress.seconds() - start;
     tables_[index] = std::move(laid.table);

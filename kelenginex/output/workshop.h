@@ -38,11 +38,14 @@ private:
     void release(std::size_t index);
     FindRows findRows(const Command& reader, execution::Progress& progress);
 
+    void findCircumstances();
+
     const language::BoundProgram& program_;
     const catalog::Dictionary& dictionary_;
     std::vector<std::vector<std::size_t>> sources_; ///< tables that each one is made of
     std::vector<std::size_t> readers_;              ///< tables that are still to be made of each
     std::vector<std::size_t> waiting_;              ///< not made yet, of those made of others
+    std::vector<Circumstances> circumstances_;
     std::vector<bool> made_;
     std::vector<std::shared_ptr<RowTable>> rows_;
     std::vector<std::shared_ptr<execution::ListResult>> lists_; ///< waiting for their columns

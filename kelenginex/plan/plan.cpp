@@ -18,21 +18,18 @@ public:
     explicit Planner(Selections& selections) : selections_(selections) {}
 
     void add(std::size_t index, const TableCommand& command) {
+        selections_.checkFilter(command.settings->filter, "universal filter");
+        selections_.checkFilter(command.filter, "filter");
         PlannedTable table{index, &command, dimensionsOf(command)};
         passFor(*command.unit, command).tables.push_back(std::move(table));
     }
     Plan take() { return std::move(plan_); }
 
 private:
-    static bool hasDimensions(language::TableKind kind) {
-        return kind == language::TableKind::Frequency ||
-               (kind >= language::TableKind::Average && kind <= language::TableKind::Gini);
-    }
-
     static std::vector<ExpressionPtr> dimensionsOf(const TableCommand& command) {
         std::vector<ExpressionPtr> result = command.dimensions;
-        const Entity* area = command.settings->areaBreak;
-        if (area == nullptr || command.isHidden || !hasDimensions(command.kind))
+        const Entity* area = language::areaBreakOf(command);
+        if (area == nullptr)
             return result;
         const bool isThere = !result.empty() &&
                              result.front()->operation == language::Operation::CompoundCode &&

@@ -231,11 +231,18 @@ const SelectedAreas& Selections::areasOf(const AreaSelection& selection) {
     SelectedAreas found =
         findAreas(selection.expression ? areasNamedBy(*selection.expression) : selection.areas);
     for (const SelectedAreas::Unknown& unknown : found.unknown)
-        tellOf(unknown);
+        tellOf(unknown, "selection lists");
     return areas_.emplace(&selection, std::move(found)).first->second;
 }
 
-void Selections::tellOf(const SelectedAreas::Unknown& unknown) {
+void Selections::checkFilter(const language::ExpressionPtr& filter, const std::string& what) {
+    if (filter == nullptr || !filters_.insert(filter).second)
+        return;
+    for (const SelectedAreas::Unknown& unknown : findAreas(areasNamedBy(*filter)).unknown)
+        tellOf(unknown, what + " names");
+}
+
+void Selections::tellOf(const SelectedAreas::Unknown& unknown, const std::string& names) {
     const auto& [area, similar] = unknown;
     const auto& at = area.position;
     if (!told_.emplace(at.source, at.line, at.column, area.code).second)
@@ -243,7 +250,7 @@ void Selections::tellOf(const SelectedAreas::Unknown& unknown) {
     const std::string hint =
         similar.empty() ? "" : language::didYouMean(language::inQuotes(similar));
     messages_.add(language::makeMessage(language::Warning::UnknownArea, at,
-                                        {area.entity->name, area.code, hint}));
+                                        {area.entity->name, area.code, hint, names}));
 }
 
 } // namespace kelx::plan

@@ -55,13 +55,16 @@ public:
     /// True for a condition that recordsOf() fulfils: one that only chooses areas is as good as a
     /// list of them where the unit lies in all of these.
     bool isByRanges(const Entity& unit, const AreaSelection& selection);
+    /// Warns of areas that a filter names and that there are not; `what` is "filter" or the like.
+    void checkFilter(const language::ExpressionPtr& filter, const std::string& what);
 
 private:
     const SelectedAreas& areasOf(const AreaSelection& selection);
-    void tellOf(const SelectedAreas::Unknown& unknown);
+    void tellOf(const SelectedAreas::Unknown& unknown, const std::string& names);
 
     language::Messages& messages_;
     std::map<const AreaSelection*, SelectedAreas> areas_;
+    std::set<language::ExpressionPtr> filters_; ///< checked
     std::set<std::tuple<std::size_t, std::int64_t, std::int64_t, std::string>>
         told_; ///< unknown areas
 };

@@ -36,12 +36,22 @@ class Maker:
         used = question.dimensions + [v for v in (question.tally, question.weight, *others)
                                       if v not in (None, "auto")]
         question.unit = max((v.entity for v in used), key=lambda e: len(e.line()))
+        if self.random.random() < 0.3:
+            self.break_down(question)
         below = [e for e in self.census.entities.values()
                  if e.is_below(question.unit) or e in question.unit.line()]
         if self.random.random() < 0.5:
             question.filter = self.conditions.about(self.random.choice(below))
         self.add_settings(question, below)
         return question
+
+    def break_down(self, question):
+        """By areas above, at or below what the table is about."""
+        coded = [e for e in self.census.entities.values()
+                 if e.code and (e in question.unit.line() or e.is_below(question.unit))]
+        question.area_break = self.random.choice(coded)
+        if question.area_break.is_below(question.unit):
+            question.unit = question.area_break
 
     def add_settings(self, question, entities):
         if self.random.random() < 0.3:

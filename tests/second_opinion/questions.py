@@ -20,10 +20,13 @@ class Question:
         self.filter = None
         self.universal = None
         self.areas = []           # (entity, compound code)
+        self.area_break = None    # an entity
 
     def run(self):
         text = "".join(definition.command() for definition in self.definitions)
         text += "RUNDEF Random " + ("AUTOWEIGHT" if self.weight == "auto" else "NOWEIGHT")
+        if self.area_break:
+            text += f" AREABREAK {self.area_break.name}"
         if self.areas:
             text += " SELECTION INLINE " + " ".join(f'{e.name} "{c}"' for e, c in self.areas)
         return text + (f" FILTER {self.universal.text}" if self.universal else "")
@@ -36,6 +39,11 @@ class Question:
         if self.weight not in (None, "auto"):
             text += f" WEIGHT {self.weight.program}"
         return text + (f" FILTER {self.filter.text}" if self.filter else "")
+
+    def categories(self):
+        """Of the areas that break the table down, then of its own variables, in SQL."""
+        areas = [code_of(self.area_break)] if self.area_break else []
+        return areas + [variable.category() for variable in self.dimensions]
 
     def is_weighted(self):
         return bool(self.weight_variable() or self.tally)
@@ -62,7 +70,7 @@ class Question:
 
     def found(self, table):
         """Figures by categories: a code, or MV, NA, TOT."""
-        width = len(self.dimensions)
+        width = len(self.categories())
         kinds = {"": None, "tot": "TOT", "mv": "MV", "na": "NA"}
         figures = {}
         for row in table["rows"]:
@@ -80,13 +88,13 @@ class Frequency(Question):
         return "FREQ " + " BY ".join(v.program for v in self.dimensions) + self.clauses()
 
     def expected(self):
-        categories = ", ".join(variable.category() for variable in self.dimensions)
+        categories = self.categories()
         cells = self.census.sql.execute(
-            f"SELECT {categories}, SUM({self.amount()}) FROM m_{self.unit.name} "
-            f"WHERE {self.where()} GROUP BY {', '.join(str(i + 1) for i in range(len(self.dimensions)))}")
+            f"SELECT {', '.join(categories)}, SUM({self.amount()}) FROM m_{self.unit.name} "
+            f"WHERE {self.where()} GROUP BY {', '.join(str(i + 1) for i in range(len(categories)))}")
         cells = {tuple(row[:-1]): [row[-1]] for row in cells}
         cells = with_totals(cells, 0)
-        cells.setdefault(("TOT",) * len(self.dimensions), [])
+        cells.setdefault(("TOT",) * len(categories), [])
         return {key: (measures.add(values),) for key, values in cells.items()}
 
 
@@ -108,7 +116,7 @@ class Measure(Question):
 
     def records(self, first=()):
         """By categories, pairs of weight and value."""
-        columns = list(first) + [v.category() for v in self.dimensions]
+        columns = list(first) + self.categories()
         cells = {}
         for *key, weight, value in self.census.sql.execute(
                 f"SELECT {', '.join([*columns, self.amount(), self.measured.column])} "
@@ -118,7 +126,7 @@ class Measure(Question):
 
     def expected(self):
         cells = with_totals(self.records(), 0)
-        cells.setdefault(("TOT",) * len(self.dimensions), [])
+        cells.setdefault(("TOT",) * len(self.categories()), [])
         return {key: tuple(self.figures(pairs)) for key, pairs in cells.items()}
 
     def figures(self, pairs):

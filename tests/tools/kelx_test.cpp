@@ -149,6 +149,9 @@ TEST_F(KelxTest, ChecksAProgramWithoutRunningIt) {
     const json told = json::parse(kelx("check @/sample/sample.kxdb @/bad.spc --json").out);
     EXPECT_EQ(told["errors"], 1);
     EXPECT_EQ(told["messages"][0]["line"], 2);
+    const std::string name = told["messages"][0]["name"];
+    EXPECT_THAT(bad.err, testing::EndsWith(" [" + name + "]\n"));
+    EXPECT_THAT(kelx("messages " + name).out, HasSubstr("There is no variable"));
     const Outcome good = kelx("check @/sample/sample.kxdb @/sample/population.spc");
     EXPECT_EQ(good.status, 0) << good.err;
     EXPECT_EQ(good.out + good.err, "");
@@ -312,7 +315,8 @@ TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.out, "");
     EXPECT_EQ(refused.err, "-e:1:38: error: PDF files are written by the workbench only; " +
-                               path("sample/x.pdf") + " can be had as CSV or JSON here.\n");
+                               path("sample/x.pdf") +
+                               " can be had as CSV or JSON here. [KEL_E_OUTFILE_WORKBENCH]\n");
 }
 
 TEST_F(KelxTest, ImportsAndConverts) {
@@ -325,6 +329,11 @@ TEST_F(KelxTest, ImportsAndConverts) {
     const Outcome import = kelx("import @/again/again.kxdb" + levels);
     ASSERT_EQ(import.status, 0) << import.err;
     EXPECT_THAT(import.out, HasSubstr("PERSON: 3000 records\n"));
+    EXPECT_EQ(kelx("import @/again/again.kxdb" + levels).err,
+              "kelx: error: " + path("again/again.kxdb") +
+                  ": exists already; --overwrite replaces it\n");
+    EXPECT_THAT(kelx("import @/again/other.kxdb" + levels).err,
+                testing::StartsWith("kelx: error: " + path("again/other.kxdb") + ": its file "));
     EXPECT_EQ(kelx("convert @/again/again.kxdb @/csv2 --csv").status, 0);
     EXPECT_EQ(TemporaryFolder::contents(folder->path() / "csv"),
               TemporaryFolder::contents(folder->path() / "csv2"));
@@ -354,7 +363,7 @@ TEST_F(KelxTest, ImportsAFlatFile) {
     EXPECT_EQ(tolerant.err, refused.err);
     EXPECT_EQ(tolerant.out, "HOUSE: 2 records\n"
                             "    HOUSE: INTEGER\n"
-                            "PERSON: 3 records, 1 rows that cannot be read left out\n"
+                            "PERSON: 3 records, 1 row that cannot be read left out\n"
                             "    AGE: STRING\n"
                             "AGE is STRING: \"x1\" in line 3, column 3 is no number\n");
     EXPECT_EQ(kelx("check @/flat/db.kxdb").status, 0);
@@ -372,18 +381,18 @@ TEST_F(KelxTest, ImportsAFlatFile) {
     EXPECT_EQ(kelx(semi + " --separator x").status, 2);
     EXPECT_EQ(
         kelx("import @/semi/db.kxdb --flat @/semi.csv --separator ';' --levels H:house,P").out,
-        "H: 1 records\n    HOUSE: INTEGER\nP: 2 records\n    AGE: INTEGER, 1 blank\n");
+        "H: 1 record\n    HOUSE: INTEGER\nP: 2 records\n    AGE: INTEGER, 1 blank\n");
     folder->write("tab.csv", "K\tS\n1\t2\n");
     folder->write("tab_book.csv", "level,field,type,code,label,is_missing\nA,K,key integer,,,\n"
                                   "A,S,integer,,,\n");
     const std::string tab = "import @/tab/db.kxdb --codebook @/tab_book.csv --level A=@/tab.csv";
     EXPECT_THAT(kelx(tab).err, HasSubstr("separated by tabs: --separator tab"));
-    EXPECT_EQ(kelx(tab + " --separator tab").out, "A: 1 records\n    K: INTEGER\n    S: INTEGER\n");
+    EXPECT_EQ(kelx(tab + " --separator tab").out, "A: 1 record\n    K: INTEGER\n    S: INTEGER\n");
 
     folder->write("bad.sav", "no such file");
     const Outcome bad = kelx("import @/bad/db.kxdb --flat @/bad.sav");
     EXPECT_EQ(bad.status, 1);
-    EXPECT_THAT(bad.err, HasSubstr("bad.sav: cannot be read: the reader says: "));
+    EXPECT_THAT(bad.err, HasSubstr("bad.sav: cannot be read: it is no .sav file, or "));
     EXPECT_EQ(kelx(import + " --level A=@/a.csv").status, 2);
     EXPECT_EQ(kelx("import @/x.kxdb --levels A").status, 2);
     const Outcome empty = kelx("import @/x.kxdb --flat @/flat.csv --levels \"\"");

@@ -226,7 +226,7 @@ TEST_F(StatisticsTest, TellsFaultsByRowAndVariable) {
     EXPECT_EQ(fault(), "none.sav: cannot be opened");
     folder.write("text.dta", "this is no such file");
     request.data = folder / "text.dta";
-    EXPECT_THAT(fault(), testing::StartsWith("text.dta: cannot be read: the reader says: "));
+    EXPECT_THAT(fault(), testing::StartsWith("text.dta: cannot be read: it is no .dta file, or "));
     request.helper = folder / "nowhere";
     EXPECT_EQ(fault(), "text.dta: cannot be read: the program kelx-statistics is not there");
 }

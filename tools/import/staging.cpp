@@ -73,11 +73,22 @@ Staging::Staging(const fs::path& target, std::vector<std::string> fileNames, boo
     madeTarget_ = fs::create_directories(target_, fault);
     if (fault)
         throw storage::FileError(target_, "the folder cannot be made: " + fault.message());
-    for (const std::string& name : fileNames_)
-        if (!overwrite && fs::exists(target_ / name, fault))
-            throw storage::FileError(target_ / name, "exists already");
+    if (!overwrite)
+        requireNone(target);
     removeStale(target_);
     makeFolder();
+}
+
+void Staging::requireNone(const fs::path& target) const {
+    std::error_code fault;
+    if (fs::exists(target, fault))
+        throw storage::FileError(target, "exists already; --overwrite replaces it");
+    for (const std::string& name : fileNames_) {
+        if (fs::exists(target_ / name, fault))
+            throw storage::FileError(target, "its file " + name +
+                                                 " exists already; --overwrite "
+                                                 "replaces the files of a database");
+    }
 }
 
 void Staging::makeFolder() {

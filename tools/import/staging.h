@@ -25,6 +25,7 @@ public:
     void publish();
 
 private:
+    void requireNone(const std::filesystem::path& target) const;
     void makeFolder();
 
     std::filesystem::path target_, folder_;

@@ -8,6 +8,7 @@
 
 #include <readstat.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <memory>
@@ -248,13 +249,24 @@ Parser makeDataParser(const std::string& encoding) {
     return parser;
 }
 
-bool failed(readstat_error_t error) {
+/// Where the file is none of its kind the library says that it cannot read from it.
+std::string inWords(readstat_error_t error, const std::string& kind) {
+    if (error == READSTAT_ERROR_READ || error == READSTAT_ERROR_PARSE)
+        return "it is no " + kind + " file, or is cut short";
+    if (error == READSTAT_ERROR_UNSUPPORTED_FILE_FORMAT_VERSION)
+        return "it is no " + kind + " file, or of a version that cannot be read";
+    return std::string("the reader says: ") + readstat_error_message(error);
+}
+
+bool failed(readstat_error_t error, std::string kind) {
     if (error == READSTAT_OK)
         return false;
+    std::transform(kind.begin(), kind.end(), kind.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
     const bool isText =
         error == READSTAT_ERROR_CONVERT || error == READSTAT_ERROR_CONVERT_BAD_STRING ||
         error == READSTAT_ERROR_CONVERT_SHORT_STRING || error == READSTAT_ERROR_UNSUPPORTED_CHARSET;
-    tellFault(std::string("the reader says: ") + readstat_error_message(error) +
+    tellFault(inWords(error, kind) +
               (isText ? "; --encoding NAME tells how its texts are written" : ""));
     return true;
 }
@@ -274,7 +286,7 @@ ParseFile parserFor(std::string_view format) {
 /// False where the file cannot be read.
 bool parseFormats(const std::string& file, const std::string& encoding, Parse& parse) {
     const Parser formats = makeParser(encoding);
-    return !failed(readstat_parse_sas7bcat(formats.get(), file.c_str(), &parse));
+    return !failed(readstat_parse_sas7bcat(formats.get(), file.c_str(), &parse), ".sas7bcat");
 }
 
 /// The library converts texts of such a file only where a record in it speaks of encodings, so
@@ -288,7 +300,7 @@ void parseSav(const std::string& file, const std::string& encoding, Parse& parse
     }
     sav.serve(parser.get());
     parse.askForSize(sav);
-    if (failed(readstat_parse_sav(parser.get(), file.c_str(), &parse)))
+    if (failed(readstat_parse_sav(parser.get(), file.c_str(), &parse), ".sav"))
         return;
     const bool allRead =
         sav.cases() >= 0 && parse.rows() == static_cast<std::uint64_t>(sav.cases());
@@ -311,7 +323,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     const Parser parser = makeDataParser(encoding);
-    if (!failed(parseFile(parser.get(), arguments[2].c_str(), &parse)))
+    if (!failed(parseFile(parser.get(), arguments[2].c_str(), &parse), arguments[1]))
         parse.end(false);
     return 0;
 }

@@ -4,6 +4,7 @@
 #include "interrupt.h"
 #include "json_print.h"
 #include "language/compile.h"
+#include "language/message_table.h"
 #include "password.h"
 #include "program_text.h"
 #include "progress_bar.h"
@@ -71,8 +72,8 @@ void printText(const catalog::ConsistencyReport& report, const fs::path& databas
                   << ": " << variable.blanks << " of " << variable.records << " values are blank\n";
     std::cout << database.string() << ": " << report.entities << " entities, " << report.variables
               << " variables, " << report.records
-              << " records: " << report.count(FindingSeverity::Error) << " errors, "
-              << report.count(FindingSeverity::Warning) << " warnings\n";
+              << " records: " << counted(report.count(FindingSeverity::Error), "error") << ", "
+              << counted(report.count(FindingSeverity::Warning), "warning") << '\n';
 }
 
 int checkDatabase(const CheckRequest& request) {
@@ -94,6 +95,7 @@ void printAsJson(const language::Messages& messages, const fs::path& program) {
     for (const language::Message& message : messages.forDisplay())
         told["messages"].push_back(
             {{"severity", message.severity == language::Severity::Error ? "error" : "warning"},
+             {"name", language::codeName(message.severity, message.code)},
              {"line", message.position.line},
              {"column", message.position.column},
              {"text", message.text}});

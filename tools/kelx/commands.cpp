@@ -29,4 +29,8 @@ std::string valueTypeName(storage::ValueType type) {
     return catalog::lowerCase(catalog::typeName(type));
 }
 
+std::string counted(std::uint64_t count, const std::string& one) {
+    return std::to_string(count) + ' ' + one + (count == 1 ? "" : "s");
+}
+
 } // namespace kelx::tool

@@ -4,6 +4,7 @@
 
 #include "storage/column.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -21,6 +22,9 @@ void requireExtension(const std::string& option, const std::filesystem::path& fi
 bool hasExtension(const std::filesystem::path& file, const std::string& extension);
 /// integer, real, string, boolean, none
 std::string valueTypeName(storage::ValueType type);
+
+/// "1 record", "2 records".
+std::string counted(std::uint64_t count, const std::string& one);
 
 /// A subcommand's work; returns the exit status.
 using Action = std::function<int()>;

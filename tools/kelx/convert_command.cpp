@@ -32,12 +32,13 @@ void toCsv(const catalog::Dictionary& dictionary, const ConvertRequest& request)
         report = tools::exportCsv(dictionary, request.target, request.overwrite, bar.until(watch));
     }
     for (const auto& [file, records] : report)
-        std::cout << (request.target / file).string() << ": " << records << " records\n";
+        std::cout << (request.target / file).string() << ": " << counted(records, "record") << '\n';
 }
 
 void toDictionary(catalog::Dictionary& dictionary, const ConvertRequest& request) {
     if (!request.overwrite && fs::exists(request.target))
-        throw std::runtime_error(request.target.string() + ": exists already");
+        throw std::runtime_error(request.target.string() +
+                                 ": exists already; --overwrite replaces it");
     if (dictionary.key && hasExtension(request.target, ".dicx"))
         throw std::runtime_error(request.target.string() +
                                  ": a protected database cannot have a .dicx dictionary");

@@ -22,19 +22,23 @@ void tell(std::uint64_t count, const char* what) {
 }
 
 void print(const ImportReport::Level& level) {
-    std::cout << level.name << ": " << level.records << " records";
+    std::cout << level.name << ": " << counted(level.records, "record");
     if (level.sorted)
         std::cout << ", put into the order of the level above";
-    tell(level.orphans, "orphans left out");
+    tell(level.orphans, level.orphans == 1 ? "orphan left out" : "orphans left out");
     tell(level.duplicates, "with a blank or double key");
-    tell(level.faultyRows, "rows that cannot be read left out");
+    tell(level.faultyRows, level.faultyRows == 1 ? "row that cannot be read left out"
+                                                 : "rows that cannot be read left out");
     std::cout << '\n';
     for (const auto& variable : level.variables) {
         std::cout << "    " << variable.name << ": " << catalog::typeName(variable.type);
         tell(variable.blanks, "blank");
         tell(variable.outside, "outside labels and ranges");
-        tell(variable.faulty, "of them because they do not fit the type");
-        tell(variable.conflicts, "rows that contradict their record's first one");
+        tell(variable.faulty, variable.faulty == 1 ? "of them because it does not fit the type"
+                                                   : "of them because they do not fit the type");
+        tell(variable.conflicts, variable.conflicts == 1
+                                     ? "row that contradicts its record's first one"
+                                     : "rows that contradict their record's first one");
         std::cout << '\n';
     }
 }

@@ -99,7 +99,7 @@ void printText(const catalog::Dictionary& dictionary) {
     std::cout << dictionary.label << (dictionary.key ? " (protected)" : "") << '\n';
     for (const catalog::Entity* entity : dictionary.entities()) {
         const std::string indent(2 * static_cast<std::size_t>(entity->level() - 1), ' ');
-        std::cout << indent << entity->name << ": " << entity->records() << " records\n";
+        std::cout << indent << entity->name << ": " << counted(entity->records(), "record") << '\n';
         for (const auto& variable : entity->variables)
             printVariable(*variable, indent + "    ");
     }

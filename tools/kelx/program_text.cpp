@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "program_text.h"
 
+#include "language/message_table.h"
 #include "storage/error.h"
 
 #include <fstream>
@@ -23,7 +24,8 @@ void printMessages(const language::Messages& messages, const std::string& name) 
     for (const language::Message& message : messages.forDisplay()) {
         const bool isError = message.severity == language::Severity::Error;
         std::cerr << name << ':' << message.position.line << ':' << message.position.column << ": "
-                  << (isError ? "error: " : "warning: ") << message.text << '\n';
+                  << (isError ? "error: " : "warning: ") << message.text << " ["
+                  << language::codeName(message.severity, message.code) << "]\n";
     }
 }
 

@@ -2,6 +2,7 @@
 // What runs leave behind: variables, files, settings of outputs; and lists of programs.
 #include "boundary_fixture.h"
 
+#include <algorithm>
 #include <filesystem>
 
 using namespace kelx;
@@ -183,6 +184,14 @@ TEST_F(RunsTest, AreasThatBreakTheRunAreTheirCompoundCode) {
     EXPECT_EQ(output.method(), eTableMethod::AVERAGE);
 }
 
+// Whatever the configuration answers: kelx gives the same.
+TEST_F(RunsTest, QuantilesWithoutANumberAreFourParts) {
+    execute("QUANTILE PERSON.AGE BY PERSON.SEX");
+    ASSERT_NE(config->defaultQuantiles(), 4);
+    const std::string row = rows().at(0);
+    EXPECT_EQ(std::count(row.begin(), row.end(), '|'), 3) << row;
+}
+
 TEST_F(RunsTest, TablesOfTablesAreShownAsTheConfigurationSays) {
     const std::string program = "TABLE a AS FREQ PERSON.SEX\nTABLE b AS TABOP OF a * 2\n"
                                 "TABLE c AS AREALIST PROVINCE, a";
@@ -242,6 +251,16 @@ TEST_F(ExecuteTest, RunsProgramsOneAfterTheOther) {
     EXPECT_THAT(test::rowsOf(*execute_->outputs()[2]->dataset()), ElementsAre("PERSON|5"));
     EXPECT_TRUE(std::filesystem::exists(folder / "sub" / "one.json"));
     EXPECT_TRUE(listener.errors.empty());
+}
+
+// As tools write it when a style is chosen.
+TEST_F(ExecuteTest, AStyleBeforeTheCallsHoldsForAllOfThem) {
+    execute_->execute("DEFINE\n TABLESTYLE \"styles/a.json\"\nEXECUTE \"sub/two.spc\" name = {T}, "
+                      "what = {PROVINCE}\nTABLESTYLE \"b.json\"\nEXECUTE \"sub/two.spc\" name = "
+                      "{U}, what = {PERSON}");
+    EXPECT_EQ(namesOf(), "T U ");
+    EXPECT_EQ(execute_->outputs()[0]->options().style, (folder / "styles" / "a.json").string());
+    EXPECT_EQ(execute_->outputs()[1]->options().style, (folder / "b.json").string());
 }
 
 TEST_F(ExecuteTest, FaultsPointToTheCallAndNothingIsRun) {

@@ -50,7 +50,7 @@ TEST(Execute, TellsFaultsAtTheCall) {
     census.write("bad.spc", "FREQ PERSON.SEX\n\nFREQ PERSON.SEXX\nFREQ PERSON.AGE FILTER\n");
     census.write("outer.spc", "COUNT PERSON\nEXECUTE \"bad.spc\"");
     census.write("filter.spc", "\nRUNDEF FILTER PERSON.AGE > 3");
-    census.write("values.spc", "FREQ {v1}\nFREQ {v2}\nTITLE \"{v3}\"");
+    census.write("values.spc", "FREQ {v1}\nFREQ {v2}\nTITLE \"{v3}\" FILTER {V3} = {v3}");
     census.write("latin.spc", "FREQ AGE\nTITLE \"n\xf1o\"");
     census.compile("FREQ AGE\n  EXECUTE \"outer.spc\"\nEXECUTE \"filter.spc\"\nFREQ ROOMS\n"
                    "EXECUTE \"values.spc\" v1 = {AGE}, v4 = {AGE}\nEXECUTE \"latin.spc\"");
@@ -67,7 +67,8 @@ TEST(Execute, TellsFaultsAtTheCall) {
         "at "
         "least one such PERSON is kept.\n"
         "KEL_E_UNKNOWN_VALUE 5:1 values.spc:2: EXECUTE gives no value for {v2}. Did you mean v1?\n"
-        "KEL_E_UNKNOWN_VALUE 5:1 values.spc:3: EXECUTE gives no value for {v3}. Did you mean v1?\n"
+        "KEL_E_UNKNOWN_VALUE 5:1 values.spc:3: EXECUTE gives no value for {v3}, which stands at 3 "
+        "places. Did you mean v1?\n"
         "KEL_W_UNUSED_VALUE 5:34 The program \"values.spc\" has no {v4}. Did you mean v2?\n"
         "KEL_E_NOT_UTF8 6:1 latin.spc:2: The program is not valid UTF-8 here. Save it with the "
         "encoding UTF-8.\n");

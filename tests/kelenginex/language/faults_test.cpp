@@ -15,6 +15,29 @@ const std::vector<Fault> faults = {
      "with the encoding UTF-8.\n"},
     {"FREQ SEX2 TITLE \"a\n  FILTER AGE > 5", "KEL_E_UNTERMINATED_STRING 1:17 The text that begins "
                                               "here has no closing quote on its line.\n"},
+    {"FREQ \"abc\nFREQ AGE", "KEL_E_UNTERMINATED_STRING 1:6 The text that begins here has no "
+                             "closing quote on its line.\n"},
+    {"FREQ SEX2 FILTER AGE > 3 && SEX2 = 1 || SEX2 = 2;\nFREQ AGE",
+     "KEL_E_WRONG_SIGN 1:26 \"&&\" is written AND in a program.\n"
+     "KEL_E_WRONG_SIGN 1:38 \"||\" is written OR in a program.\n"
+     "KEL_E_UNKNOWN_CHARACTER 1:49 The character \";\" has no meaning in a program. Commands need "
+     "no sign between them.\n"},
+    {"MEAN AGE\nFREQ SEX2 WHERE AGE > 3\nFREQ SEX2 FILTER AGE Between 3 AND 5",
+     "KEL_E_UNEXPECTED 1:1 Found \"MEAN\", but expected a command, such as RUNDEF, TABLE or FREQ. "
+     "Did you mean AVERAGE?\n"
+     "KEL_E_UNEXPECTED 2:11 Found \"WHERE\", but expected a clause of the table, such as BY or "
+     "TITLE, or a new command. Did you mean FILTER?\n"
+     "KEL_E_NOT_A_CONDITION 3:18 FILTER takes a condition, but this is a number.\n"
+     "KEL_E_UNEXPECTED 3:22 Found \"Between\", but expected a clause of the table, such as BY or "
+     "TITLE, or a new command. Did you mean IN (low : high)?\n"},
+    {"FREQ AGE TABLE FREQ", "KEL_E_UNEXPECTED 1:16 Found the reserved word FREQ, but expected the "
+                            "name of the table.\n"},
+    {"RUNDEF title\nTITLE \"T\" TITLE \"U\"",
+     "KEL_E_UNEXPECTED 2:1 Found the reserved word TITLE, but expected the title in quotes.\n"
+     "KEL_E_REPEATED_CLAUSE 2:11 TITLE is given twice for one command.\n"},
+    {"DEFINE PERSON.A AS RECODE SEX2 (1 : 2 = 1) VALUELABELS 1 \"F\" 2 \"M\" 1 \"G\"\n"
+     "DEFINE PERSON.B AS A LIKE A VALUELABELS 1 \"H\"",
+     "KEL_W_GIVEN_TWICE 1:68 The label of 1 is given twice: the last one is taken.\n"},
     {"FREQ SEX2 /* x\n*", "KEL_E_UNTERMINATED_COMMENT 1:11 The comment that begins here is never "
                           "closed with */.\n"},
     {"EXECUTE \"a.spc\" x = {3",

@@ -43,6 +43,21 @@ TEST(Selection, ReadsAFile) {
     EXPECT_EQ(told(census.messages), "");
 }
 
+TEST(Selection, GoesByItsCodesWhereItHasNoLabel) {
+    Census census;
+    const auto labelOf = [&](const std::string& codes) {
+        census.write("s_sel.json", "{\"label\": \"\", \"selections\": [{\"entity\": \"DISTRICT\", "
+                                   "\"codes\": [" +
+                                       codes + "]}]}");
+        return census.compile("RUNDEF SELECTION \"s_sel.json\" SELECTIONLABEL \"\"")
+            .lastSettings->selection->label;
+    };
+    EXPECT_EQ(labelOf("\"0101\", \"0102\""), "0101, 0102");
+    EXPECT_EQ(labelOf("\"1\",\"2\",\"3\",\"4\",\"5\",\"6\",\"7\",\"8\",\"9\",\"10\",\"11\",\"12\""),
+              "1, 2, 3, 4, 5, 6, 7, 8, 9, 10 and 2 more");
+    EXPECT_EQ(labelOf(""), ""); // all areas
+}
+
 TEST(Selection, TellsWhatIsWrongWithAFile) {
     struct Bad {
         const char* content;

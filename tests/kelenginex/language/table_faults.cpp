@@ -77,7 +77,8 @@ const std::vector<Fault>& tableFaults() {
          "in each cell.\nKEL_E_TABLE_OPERAND 3:11 The table v cannot be used here: it is a "
          "list.\nKEL_E_UNKNOWN_TABLE 3:15 There is no table \"nothing\" before this "
          "place.\nKEL_E_TABLE_OPERATOR 4:7 TABOP calculates with tables, numbers, + - * / and "
-         "parentheses; here stands \"3 * (2 - 1)\".\nKEL_E_TABLE_OPERATOR 5:7 TABOP calculates "
+         "parentheses; here stands \"3 * (2 - 1)\", which names no "
+         "table.\nKEL_E_TABLE_OPERATOR 5:7 TABOP calculates "
          "with tables, numbers, + - * / and parentheses; here stands \"a > "
          "1\".\nKEL_E_TABLE_OPERATOR 6:7 TABOP calculates with tables, numbers, + - * / and "
          "parentheses; here stands \"SQRT(a)\".\nKEL_E_TABLE_OPERATOR 7:11 TABOP calculates with "
@@ -105,6 +106,14 @@ const std::vector<Fault>& tableFaults() {
          "about PERSON: "
          "each PROVINCE that has at least one such PERSON is kept.\nKEL_W_NO_EFFECT 7:18 SENSITIVE "
          "has no effect on VIEW: it lists variables, and no table.\n"},
+        {"RUNDEF AREABREAK DEATH\nFREQ SEX2 FREQ ROOMS COUNT PERSON",
+         "KEL_E_AREA_BREAK_BRANCH 2:1 AREABREAK is about DEATH, but the table counts PERSON, which "
+         "is neither above nor below it.\n"},
+        {"TABLE a FREQ SEX2\nTABOP 5\nTABLIST a, A",
+         "KEL_E_TABLE_OPERATOR 2:7 TABOP calculates with tables, numbers, + - * / and parentheses; "
+         "here stands \"5\", which names no table.\nKEL_W_GIVEN_TWICE 3:12 \"A\" is given twice: "
+         "its "
+         "columns have the same names.\n"},
         {"TABLE a FREQ SEX2 TABLE NAME FREQ GRP\nTABOP a FILTER AGE > 3 WEIGHT 2 TALLY 3\nAREALIST "
          "PROVINCE, NAME WEIGHT 3 TALLY AGE\nFREQ SEX2 BY GRP SORT DESC SEX2",
          "KEL_W_NO_EFFECT 2:9 FILTER has no effect on TABOP: the tables that it is made of have "

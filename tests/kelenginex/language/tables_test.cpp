@@ -94,10 +94,11 @@ INSTANTIATE_TEST_SUITE_P(
              "SUM_1 HOUSEHOLD: SUM 1 BY HOUSEHOLD.ROOMS\n"},
         // Words of the language as names, where what follows tells.
         Good{"TABLE sum AS SUM AGE BY SEX2 TABLE freq AVERAGE AGE BY SEX2 TABLE view VIEW NATION\n"
-             "TABLE title TABLIST sum, freq,\nsum SORT DESC freq 2 10",
+             "TABLE max AS MAX AGE BY SEX2 TABLE title TABLIST sum, freq,\nmax SORT DESC freq 2 10",
              "sum PERSON: SUM PERSON.AGE BY PERSON.SEX2 silent\n"
              "freq PERSON: AVERAGE PERSON.AGE BY PERSON.SEX2 silent\n"
-             "view NATION: VIEW\ntitle -: TABLIST #0 #1 #0 sort freq/2 desc limit 10\n"},
+             "view NATION: VIEW\nmax PERSON: MAX PERSON.AGE BY PERSON.SEX2 silent\n"
+             "title -: TABLIST #0 #1 #3 sort freq/2 desc limit 10\n"},
         Good{"TABLE a FREQ AGE TABLE b FREQ AGE TABLE c TABOP -(a + 1.5) * 2 / b TABLE d TABOP c - "
              "a\n"
              "TABLE e TABLIST d, a SORT AGE",
@@ -137,10 +138,9 @@ TEST(Tables, AreKeptWhereAFileOrTheConfigurationWantsThem) {
 
 TEST(Tables, TakeTheAutomaticWeightForMeasures) {
     Census census;
-    census.options.defaultQuantiles = 5;
     EXPECT_EQ(summary(census.compile("QUANTILE AGE BY SEX2\nMEDIAN ROOMS\nVIEW PERSON, AGE\n"
                                      "AVERAGE AGE WEIGHT WEIGHT2 TALLY ROOMS")),
-              "QUANTILE_1 PERSON: QUANTILE 5 PERSON.AGE BY PERSON.SEX2 weight HOUSEHOLD.WEIGHT\n"
+              "QUANTILE_1 PERSON: QUANTILE 4 PERSON.AGE BY PERSON.SEX2 weight HOUSEHOLD.WEIGHT\n"
               "MEDIAN_1 HOUSEHOLD: MEDIAN HOUSEHOLD.ROOMS weight HOUSEHOLD.WEIGHT\n"
               "VIEW_1 PERSON: VIEW PERSON.AGE\n"
               "AVERAGE_1 PERSON: AVERAGE PERSON.AGE weight PERSON.WEIGHT2 tally HOUSEHOLD.ROOMS\n");
@@ -285,7 +285,8 @@ TEST(AreaBreak, CountsAsADimension) {
                    "TABLE f TABLIST b, e");
     EXPECT_EQ(
         told(census.messages),
-        "KEL_W_SORT_CROSSTAB 3:19 A table of several variables is not sorted.\n"
+        "KEL_W_SORT_CROSSTAB 3:19 A table of several variables is not sorted, and AREABREAK "
+        "adds PROVINCE to this one.\n"
         "KEL_E_TABLE_SHAPES 4:15 a and b have different variables: TABOP takes tables of equal "
         "shape.\n"
         "KEL_E_TABLIST_TABLE 7:20 e cannot stand beside b in a TABLIST: it has more than two "

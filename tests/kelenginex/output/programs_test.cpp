@@ -75,6 +75,16 @@ TEST_F(Programs, areaListsWithColumnsOfTables) {
               (Texts{"02,South,2,1,3", "01,North,1,2,3", "03,Sud-Oué,1,1,2"}));
 }
 
+TEST_F(Programs, csvHeadersTellTheTablesOfAListApart) {
+    run("TABLE m AS FREQ PERSON.SEX\nTABLE n AS FREQ PERSON.SEX WEIGHT 2\n"
+        "TABLE o AS AVERAGE PERSON.AGE\nAREALIST PROVINCE, m, n, o");
+    const std::string csv = output::asCsv(tables_[0]);
+    EXPECT_EQ(csv.substr(0, csv.find('\r')),
+              "PROVINCE.CMPCODE,PROVINCE.NAME,m 1. Male,m 2. Female,m Total,n 1. Male,n 2. Female,"
+              "n Total,o");
+    EXPECT_EQ(namesOf(tables_[0])[5], "1. Male"); // the workbench has headings for them
+}
+
 TEST_F(Programs, areaListsTellWhatTheirTablesCount) {
     const std::string shared = "TABLE m AS FREQ PERSON.SEX FILTER PERSON.AGE < 20\n"
                                "TABLE n AS COUNT PERSON FILTER PERSON.AGE < 20\n";
