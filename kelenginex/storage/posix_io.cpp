@@ -13,6 +13,9 @@ namespace kelx::storage {
 
 namespace {
 
+/// As many as the system itself follows.
+constexpr int mostLinks = 40;
+
 std::filesystem::path folderOf(const std::filesystem::path& file) {
     const auto folder = file.parent_path();
     return folder.empty() ? std::filesystem::path(".") : folder;
@@ -35,11 +38,33 @@ void failWithErrno(const std::filesystem::path& file, const std::string& what) {
 }
 
 std::filesystem::path targetOf(const std::filesystem::path& file) {
+    std::filesystem::path target = file;
+    std::error_code fault;
+    for (int i = 0; i < mostLinks && std::filesystem::is_symlink(target, fault); ++i) {
+        const auto next = std::filesystem::read_symlink(target, fault);
+        if (fault)
+            return file;
+        target = target.parent_path() / next;
+    }
+    return target;
+}
+
+std::filesystem::path realFile(const std::filesystem::path& file) {
+    std::error_code fault;
+    const auto target = std::filesystem::absolute(targetOf(file), fault);
+    const auto folder = std::filesystem::weakly_canonical(target.parent_path(), fault);
+    if (fault || target.filename().empty())
+        return std::filesystem::absolute(file, fault).lexically_normal();
+    return (folder / target.filename()).lexically_normal();
+}
+
+void requireReplaceable(const std::filesystem::path& file) {
     std::error_code ignored;
-    if (!std::filesystem::is_symlink(file, ignored))
-        return file;
-    const auto target = std::filesystem::weakly_canonical(file, ignored);
-    return ignored ? file : target;
+    const auto status = std::filesystem::status(file, ignored);
+    if (std::filesystem::is_directory(status))
+        throw FileError(file, "cannot be written: it is a folder");
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw FileError(file, "cannot be written: it is no regular file");
 }
 
 TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "storage/staged_files.h"
 
-#include "storage/error.h"
 #include "storage/posix_io.h"
 
 #include <cerrno>
@@ -34,6 +33,7 @@ StagedFiles::~StagedFiles() {
 
 fs::path StagedFiles::stage(const fs::path& file) {
     const fs::path target = targetOf(file);
+    requireFree(target);
     const TemporaryFile created = createTemporaryBeside(target);
     add(created.name, target);
     struct stat old {};
@@ -48,16 +48,34 @@ void StagedFiles::write(const fs::path& file, const std::function<void(const fs:
     try {
         writer(staged);
     } catch (const FileError& error) {
-        const std::string problem = error.what();
-        const std::string prefix = staged.string() + ": ";
-        if (problem.starts_with(prefix))
-            throw FileError(file, problem.substr(prefix.size()));
+        throwOfTarget(error);
         throw;
     }
 }
 
+/// The writer may have staged more files, such as a description.
+void StagedFiles::throwOfTarget(const FileError& error) const {
+    const std::string problem = error.what();
+    for (const Entry& entry : entries_) {
+        const std::string prefix = entry.staged.string() + ": ";
+        if (problem.starts_with(prefix))
+            throw FileError(entry.file, problem.substr(prefix.size()));
+    }
+}
+
 void StagedFiles::add(const fs::path& staged, const fs::path& file) {
-    entries_.push_back({staged, targetOf(file), {}, false, false});
+    const fs::path target = targetOf(file);
+    requireFree(target);
+    entries_.push_back({staged, target, realFile(target), {}, false, false});
+}
+
+void StagedFiles::requireFree(const fs::path& target) const {
+    requireReplaceable(target);
+    const fs::path real = realFile(target);
+    for (const Entry& entry : entries_) {
+        if (entry.real == real)
+            throw FileError(target, "would be written twice, the second time over the first");
+    }
 }
 
 void StagedFiles::publish() {
@@ -71,6 +89,7 @@ void StagedFiles::publish() {
 
 void StagedFiles::publishAll() {
     for (Entry& entry : entries_) {
+        requireReplaceable(entry.file); // something may have come in between
         keepOld(entry);
         if (::rename(entry.staged.c_str(), entry.file.c_str()) != 0)
             failWithErrno(entry.file, "cannot be written");
@@ -88,7 +107,6 @@ void StagedFiles::keepOld(Entry& entry) {
         entry.isNew = errno == ENOENT;
 }
 
-/// Where two have had one name, the first one knows what stood there before.
 void StagedFiles::takeBack() {
     for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
         if (!entry->published)

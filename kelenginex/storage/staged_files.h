@@ -2,6 +2,8 @@
 // Several files that appear together or not at all.
 #pragma once
 
+#include "storage/error.h"
+
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -18,7 +20,8 @@ public:
     StagedFiles& operator=(const StagedFiles&) = delete;
 
     /// Where to write a file whose parts are complete and synced when they stand there. A link is
-    /// followed; the file keeps the mode of one that it replaces.
+    /// followed; the file keeps the mode of one that it replaces. Refuses what is no regular file,
+    /// and a second file for one place, whatever its name.
     std::filesystem::path stage(const std::filesystem::path& file);
     /// Stages a file and has it written; what goes wrong is told of the name that it is to have.
     void write(const std::filesystem::path& file,
@@ -33,10 +36,13 @@ public:
 private:
     struct Entry {
         std::filesystem::path staged, file;
+        std::filesystem::path real;   ///< file under its one name
         std::filesystem::path backup; ///< a second name of the file that was replaced
         bool isNew = false;           ///< there was no such file
         bool published = false;
     };
+    void throwOfTarget(const FileError& error) const;
+    void requireFree(const std::filesystem::path& target) const;
     static void keepOld(Entry& entry);
     void publishAll();
     void takeBack();

@@ -76,6 +76,8 @@ Staging::Staging(const fs::path& target, std::vector<std::string> fileNames, boo
     for (const std::string& name : fileNames_)
         if (!overwrite && fs::exists(target_ / name, fault))
             throw storage::FileError(target_ / name, "exists already");
+        else
+            storage::requireReplaceable(target_ / name);
     removeStale(target_);
     makeFolder();
 }

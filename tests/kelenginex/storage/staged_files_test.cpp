@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/atomic_file.h"
 #include "storage/staged_files.h"
 #include "storage_fixture.h"
 
@@ -8,6 +9,7 @@
 namespace kelx::testing {
 
 using StagedFilesTest = StorageTest;
+using ::testing::HasSubstr;
 using ::testing::UnorderedElementsAre;
 
 namespace {
@@ -93,6 +95,46 @@ TEST_F(StagedFilesTest, FaultsNameTheFileThatIsMeant) {
     }
 }
 
+TEST_F(StagedFilesTest, FaultsOfADescriptionNameItsOwnFile) {
+    StagedFiles files;
+    try {
+        files.write(path("a"), [&](const std::filesystem::path& staged) {
+            files.add(staged.string() + ".desc", path("a.desc"));
+            throw FileError(staged.string() + ".desc", "is full");
+        });
+        FAIL() << "no fault";
+    } catch (const FileError& fault) {
+        EXPECT_EQ(fault.what(), path("a.desc").string() + ": is full");
+    }
+}
+
+TEST_F(StagedFilesTest, OnlyRegularFilesAreReplaced) {
+    ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", path("link"));
+    StagedFiles files;
+    EXPECT_THAT(faultOf([&] { files.stage(path("pipe")); }), HasSubstr("no regular file"));
+    EXPECT_THAT(faultOf([&] { files.stage(path("link")); }), HasSubstr("no regular file"));
+    EXPECT_THAT(faultOf([&] { AtomicFile file(path("link")); }), HasSubstr("no regular file"));
+    write(files.stage(path("late")), "new");
+    ASSERT_EQ(::mkfifo(path("late").c_str(), 0600), 0);
+    EXPECT_THAT(faultOf([&] { files.publish(); }), HasSubstr("no regular file"));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("pipe")));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("late")));
+}
+
+TEST_F(StagedFilesTest, OnePlaceTakesOneFile) {
+    std::filesystem::create_symlink("c", path("to_c")); // which is not there
+    std::filesystem::create_symlink(".", path("here"));
+    StagedFiles files;
+    write(files.stage(path("c")), "first");
+    for (const char* name : {"c", "to_c", "here/c", "here/to_c"})
+        EXPECT_THAT(faultOf([&] { files.stage(path(name)); }), HasSubstr("twice")) << name;
+    write(files.stage(path("d")), "other");
+    files.publish();
+    EXPECT_EQ(read(path("c")), "first");
+    EXPECT_THAT(names(), UnorderedElementsAre("c", "d", "to_c", "here"));
+}
+
 TEST_F(StagedFilesTest, ALinkIsFollowed) {
     write(path("real"), "old");
     std::filesystem::create_symlink(path("real"), path("link"));
@@ -101,6 +143,16 @@ TEST_F(StagedFilesTest, ALinkIsFollowed) {
     files.publish();
     EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
     EXPECT_EQ(read(path("real")), "new");
+}
+
+TEST_F(StagedFilesTest, ALinkToNothingYetIsFollowed) {
+    std::filesystem::create_directory(path("sub"));
+    std::filesystem::create_symlink("sub/later", path("link"));
+    StagedFiles files;
+    write(files.stage(path("link")), "new");
+    files.publish();
+    EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
+    EXPECT_EQ(read(path("sub") / "later"), "new");
 }
 
 } // namespace kelx::testing
