@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -188,6 +189,34 @@ TEST_F(KelxTest, OutputThatIsLostIsAFault) {
     }
 }
 
+TEST_F(KelxTest, WhatIsSavedIsToldWhereOutputIsLost) {
+    ASSERT_EQ(kelx("sample @/full --persons 1000").status, 0);
+    const Outcome lost =
+        kelx("run @/full/sample.kxdb -e 'DEFINE PERSON.OLD AS PERSON.AGE > 64 SAVE "
+             "\"old\" FREQ PERSON.OLD SAVE \"t\"' >/dev/full");
+    EXPECT_EQ(lost.status, 1);
+    EXPECT_EQ(lost.err, "kelx: PERSON.OLD was saved all the same\n"
+                        "kelx: " +
+                            path("full/t.json") +
+                            " was written all the same\n"
+                            "kelx: error: standard output cannot be written to its end\n");
+    EXPECT_TRUE(std::filesystem::exists(path("full/old.kbf")));
+    EXPECT_TRUE(std::filesystem::exists(path("full/t.json")));
+}
+
+TEST_F(KelxTest, ALimitOnFilesIsAFaultAndLeavesNothing) {
+    ASSERT_EQ(kelx("sample @/limited --persons 3000").status, 0);
+    const auto before = TemporaryFolder::contents(folder->path() / "limited");
+    folder->write("limited.sh", "ulimit -f 1\nexec \"$@\"\n"); // 512 or 1024 bytes
+    const std::string command =
+        "sh " + path("limited.sh") + " " KELX_PROGRAM " run " + path("limited/sample.kxdb") +
+        " -e 'DEFINE PERSON.A AS PERSON.AGE SAVE \"a\"' >" + path("out") + " 2>" + path("err");
+    const int status = std::system(command.c_str());
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
+    EXPECT_THAT(folder->read("err"), HasSubstr("File too large"));
+    EXPECT_EQ(TemporaryFolder::contents(folder->path() / "limited"), before);
+}
+
 TEST_F(KelxTest, SignalsEndTheWorkAndLeaveNothing) {
     for (const int signal : {SIGINT, SIGTERM}) {
         const auto target = folder->path() / ("stopped-" + std::to_string(signal));
@@ -244,6 +273,26 @@ TEST_F(KelxTest, WritesTheFilesOfAProgram) {
     EXPECT_THAT(several, HasSubstr("\r\n\r\nb_2\r\nPERSON.LITERATE,"));
     // The saved variable is known from now on.
     EXPECT_EQ(kelx("run @/kept/sample.kxdb -e 'FREQ PERSON.ADULT'").status, 0);
+}
+
+TEST_F(KelxTest, TablesOfTheRunDoNotReplaceEachOther) {
+    ASSERT_EQ(kelx("sample @/twice --persons 1000").status, 0);
+    const std::string run = "run @/twice/sample.kxdb --format csv --out @/twice -e ";
+    const Outcome refused = kelx(run + "'FREQ PERSON.AGE FREQ PERSON.SEX OUTFILE \"FREQ_1.csv\"'");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("FREQ_1.csv: would be written twice"));
+    EXPECT_FALSE(std::filesystem::exists(path("twice/FREQ_1.csv")));
+    std::filesystem::create_symlink("d.csv", path("twice/c.csv"));
+    ASSERT_EQ(kelx("run @/twice/sample.kxdb -e 'TABLE a FREQ PERSON.AGE OUTFILE \"c.csv\" "
+                   "TABLE b FREQ PERSON.SEX OUTFILE \"d.csv\"'")
+                  .status,
+              0);
+    const std::string both = folder->read("twice/d.csv");
+    EXPECT_THAT(both, StartsWith("a\r\nPERSON.AGE,"));
+    EXPECT_THAT(both, HasSubstr("\r\n\r\nb\r\nPERSON.SEX,"));
+    ASSERT_EQ(::mkfifo(path("twice/FREQ_1.csv").c_str(), 0600), 0);
+    EXPECT_THAT(kelx(run + "'FREQ PERSON.AGE'").err, HasSubstr("no regular file"));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("twice/FREQ_1.csv")));
 }
 
 TEST_F(KelxTest, RunsAtOnceLoseNoVariableOfEachOther) {

@@ -15,6 +15,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
 #include <memory>
 #include <new>
 #include <optional>
@@ -89,6 +90,25 @@ output::TablesOfRun makeTables(const language::BoundProgram& program,
     return made;
 }
 
+/// Files are there when standard output turns out to be full.
+void tellWrittenWhereOutputIsLost(const language::BoundProgram& program) {
+    std::cout.flush();
+    if (std::cout)
+        return;
+    for (const language::Definition& definition : program.definitions) {
+        if (definition.save)
+            std::cerr << "kelx: " << definition.variable->fullName() << " was saved all the same\n";
+    }
+    for (const language::TableCommand& command : program.tables) {
+        if (!command.isOutput)
+            continue;
+        if (command.outfile)
+            std::cerr << "kelx: " << command.outfile->path << " was written all the same\n";
+        for (const std::string& file : command.jsonFiles)
+            std::cerr << "kelx: " << file << " was written all the same\n";
+    }
+}
+
 int run(const RunRequest& request) {
     const std::string name = request.program.empty() ? "-e" : request.program.string();
     const std::string text = request.program.empty() ? request.text : readProgram(request.program);
@@ -109,6 +129,7 @@ int run(const RunRequest& request) {
     if (messages.hasErrors())
         return failure;
     print(made.tables, request.printing);
+    tellWrittenWhereOutputIsLost(program);
     return success;
 }
 
