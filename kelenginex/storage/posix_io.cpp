@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <random>
+#include <sys/file.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -25,7 +26,7 @@ std::string randomName() {
     static constexpr char letters[] = "abcdefghijklmnopqrstuvwxyz0123456789";
     thread_local std::random_device device;
     std::uniform_int_distribution<std::size_t> any(0, sizeof(letters) - 2);
-    std::string name = ".kelx-";
+    std::string name = ".kelx-" + std::to_string(::getpid()) + "-";
     for (int i = 0; i < 12; ++i)
         name += letters[any(device)];
     return name + ".tmp";
@@ -72,8 +73,10 @@ TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {
         TemporaryFile created{folderOf(file) / randomName(), -1};
         created.descriptor =
             ::open(created.name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (created.descriptor >= 0)
+        if (created.descriptor >= 0) {
+            static_cast<void>(::flock(created.descriptor, LOCK_EX | LOCK_NB)); // see leftovers.h
             return created;
+        }
         if (errno != EEXIST)
             break;
     }

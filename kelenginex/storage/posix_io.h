@@ -25,7 +25,9 @@ std::filesystem::path realFile(const std::filesystem::path& file);
 /// folder is never replaced.
 void requireReplaceable(const std::filesystem::path& file);
 
-/// A new, empty file with a name of its own in the folder of file.
+/// A new, empty file with a name of its own in the folder of file. The name has the number of the
+/// process, which holds the file while the descriptor is open, so that what it leaves behind when
+/// it is killed can be told from what is in use.
 struct TemporaryFile {
     std::filesystem::path name;
     int descriptor = -1;

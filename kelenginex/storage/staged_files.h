@@ -31,7 +31,12 @@ public:
     /// Gives all their names, in the order of their staging. Where one cannot have it, those that
     /// had their names before stand as they were; on a file system without second names for a file
     /// they stand as they are now, but are never lost.
-    void publish();
+    /// A journal goes before, where one is asked for. Calls afterEach each time that one has its
+    /// name.
+    void publish(const std::function<void()>& afterEach = {});
+    /// The files belong together: where the process is killed halfway, who next locks or reads this
+    /// folder finishes what is left. The caller has locked it.
+    void keepJournal(const std::filesystem::path& folder) { journalFolder_ = folder; }
 
 private:
     struct Entry {
@@ -40,13 +45,17 @@ private:
         std::filesystem::path backup; ///< a second name of the file that was replaced
         bool isNew = false;           ///< there was no such file
         bool published = false;
+        int held = -1; ///< descriptor of the staged file, locked
     };
+    void hold(const std::filesystem::path& staged);
     void throwOfTarget(const FileError& error) const;
     void requireFree(const std::filesystem::path& target) const;
     static void keepOld(Entry& entry);
-    void publishAll();
+    void writeJournal() const;
+    void publishAll(const std::function<void()>& afterEach);
     void takeBack();
     std::vector<Entry> entries_;
+    std::filesystem::path journalFolder_;
 };
 
 } // namespace kelx::storage

@@ -370,6 +370,24 @@ TEST_F(KelxTest, ASignalWhileVariablesAreSavedLeavesNothing) {
     EXPECT_EQ(TemporaryFolder::contents(base), before);
 }
 
+TEST_F(KelxTest, WhatAKilledRunLeavesIsNamedAndRemoved) {
+    ASSERT_EQ(kelx("sample @/dead --persons 3000").status, 0);
+    const auto base = folder->path() / "dead";
+    {
+        const kelx::storage::FolderLock lock(base / "sample.kxdb", {}); // where the run waits
+        statusAfter(SIGKILL,
+                    {"run", (base / "sample.kxdb").string(), "-e",
+                     "DEFINE PERSON.X AS PERSON.AGE SAVE \"x.bin\""},
+                    path("err"), [&] { return hasStaging(base); });
+    }
+    EXPECT_TRUE(hasStaging(base));
+    EXPECT_THAT(kelx("check @/dead/sample.kxdb").out,
+                HasSubstr(".tmp: warning: a program that was stopped has left it behind"));
+    EXPECT_EQ(kelx("run @/dead/sample.kxdb -e 'DEFINE PERSON.Y AS PERSON.AGE SAVE \"y\"'").status,
+              0);
+    EXPECT_FALSE(hasStaging(base));
+}
+
 TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {
     const Outcome refused =
         kelx("run @/sample/sample.kxdb -e 'COUNT PERSON FREQ PERSON.SEX OUTFILE PDF \"x.pdf\"'");
