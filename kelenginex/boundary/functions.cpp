@@ -11,6 +11,8 @@
 #include "catalog/reader.h"
 #include "language/message_table.h"
 #include "language/reserved_words.h"
+#include "storage/folder_lock.h"
+#include "storage/posix_io.h"
 
 #include <chrono>
 #include <ctime>
@@ -41,6 +43,17 @@ void requireDictionary(const std::shared_ptr<TKelDictionary>& dictionary) {
     if (dictionary == nullptr) {
         throw std::invalid_argument("There is no open dictionary.");
     }
+}
+
+/// Where the file is gone or spoilt there is nothing that could be lost.
+void takeFromFile(kelx::boundary::DictionaryState& state) {
+    std::unique_ptr<kelx::catalog::Dictionary> current;
+    try {
+        current = kelx::catalog::readAgain(*state.dictionary);
+    } catch (const std::runtime_error&) {
+        return;
+    }
+    state.takeFromFile(*current);
 }
 
 } // namespace
@@ -75,7 +88,12 @@ std::shared_ptr<TKelDictionary> readDictionary(const std::string& path,
 
 void saveDictionary(const std::shared_ptr<TKelDictionary>& dictionary, const std::string& path) {
     requireDictionary(dictionary);
-    auto& model = *KelBoundaryAccess::state(*dictionary).dictionary;
+    auto& state = KelBoundaryAccess::state(*dictionary);
+    auto& model = *state.dictionary;
+    const kelx::storage::FolderLock lock(path, {});
+    if (kelx::storage::realFile(path) == kelx::storage::realFile(model.file)) {
+        takeFromFile(state);
+    }
     const std::string created = model.created;
     const std::string updated = model.updated;
     model.updated = now();
@@ -84,6 +102,7 @@ void saveDictionary(const std::shared_ptr<TKelDictionary>& dictionary, const std
     }
     try {
         kelx::catalog::saveDictionary(model, path);
+        state.noteFile(model);
     } catch (...) {
         model.created = created;
         model.updated = updated;

@@ -6,6 +6,7 @@
 #include "execution/progress.h"
 #include "output/files.h"
 #include "output/run.h"
+#include "output/saved_dictionary.h"
 #include "output/saved_variables.h"
 
 #include <algorithm>
@@ -77,9 +78,14 @@ ProgramRun runProgram(const language::BoundProgram& program, DictionaryState& st
         options.progress = std::move(progress);
     }
     ProgramRun run;
+    // A column that is written anew and what the file says of it must not part, whatever the user
+    // answers when the dictionary is to be saved.
+    output::SavedDictionary saved;
     const auto writeFiles = [&](const std::vector<output::Table>& tables,
                                 storage::StagedFiles& files, execution::Progress& more) {
-        output::stageFiles(output::jsonFiles(tables, program), files, [&] { more.checkNow(); });
+        const storage::Pulse pulse = [&] { more.checkNow(); };
+        output::stageFiles(output::jsonFiles(tables, program), files, pulse);
+        saved.stage(program, *state.dictionary, output::Joined::Replaced, files, pulse);
     };
     auto made = output::runTables(program, *state.dictionary, options, messages, writeFiles);
     run.cancelled = made.cancelled;
@@ -87,6 +93,10 @@ ProgramRun runProgram(const language::BoundProgram& program, DictionaryState& st
         return run;
     }
     output::joinSavedVariables(program, *state.dictionary);
+    if (saved.staged() != nullptr) {
+        state.takeFromFile(*saved.staged());
+        state.noteFile(*saved.staged());
+    }
     state.refresh();
     for (output::Table& table : made.tables) {
         const auto& command = program.tables[table.command];

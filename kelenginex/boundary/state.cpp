@@ -13,6 +13,7 @@ namespace kelx::boundary {
 DictionaryState::DictionaryState(TKelDictionary* owner_,
                                  std::unique_ptr<catalog::Dictionary> dictionary_)
     : owner(owner_), dictionary(std::move(dictionary_)) {
+    noteFile(*dictionary);
     refresh();
 }
 
@@ -85,6 +86,54 @@ void DictionaryState::remove(catalog::Variable& variable) {
     std::erase_if(variable.entity->variables,
                   [&](const auto& element) { return element.get() == &variable; });
     touch();
+    refresh();
+}
+
+DictionaryState::Data DictionaryState::dataOf(const catalog::Variable& variable) {
+    return {variable.fileName, variable.type, variable.size, variable.notapp, variable.missing};
+}
+
+DictionaryState::DataByName DictionaryState::dataOf(const catalog::Dictionary& dictionary) {
+    DataByName known;
+    for (const catalog::Entity* entity : dictionary.entities()) {
+        for (const auto& variable : entity->variables) {
+            known.insert_or_assign(
+                {catalog::lowerCase(entity->name), catalog::lowerCase(variable->name)},
+                dataOf(*variable));
+        }
+    }
+    return known;
+}
+
+void DictionaryState::describe(catalog::Variable& variable, const catalog::Variable& asInFile) {
+    variable.fileName = asInFile.fileName;
+    variable.type = asInFile.type;
+    variable.size = asInFile.size;
+    variable.notapp = asInFile.notapp;
+    variable.missing = asInFile.missing;
+    variable.raw = asInFile.raw;
+    variable.closeColumn();
+}
+
+void DictionaryState::takeFromFile(const catalog::Dictionary& asInFile) {
+    for (const catalog::Entity* entity : asInFile.entities()) {
+        catalog::Entity* const own = dictionary->findEntity(entity->name);
+        for (const auto& variable : entity->variables) {
+            const auto known = inFile_.find(
+                {catalog::lowerCase(entity->name), catalog::lowerCase(variable->name)});
+            const bool isNew = known == inFile_.end();
+            if (own == nullptr || (!isNew && known->second == dataOf(*variable))) {
+                continue;
+            }
+            catalog::Variable* place = own->findVariable(variable->name);
+            if (place == nullptr && isNew) {
+                place = own->addVariable(std::make_unique<catalog::Variable>());
+                place->copyDescription(*variable);
+            } else if (place != nullptr && !isNew) {
+                describe(*place, *variable);
+            }
+        }
+    }
     refresh();
 }
 

@@ -9,8 +9,12 @@
 
 #include "catalog/model.h"
 
+#include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace kelx::boundary {
@@ -34,9 +38,30 @@ public:
     void remove(catalog::Variable& variable);
     void touch() { dictionary->dirty = true; }
 
+    /// Remembers what the dictionary's file says of the data, as that dictionary was written or
+    /// read.
+    void noteFile(const catalog::Dictionary& asInFile) { inFile_ = dataOf(asInFile); }
+    /// Takes over what others have written to the file since then: variables that they have saved,
+    /// and how data are described that they have written anew. What was removed here stays away.
+    void takeFromFile(const catalog::Dictionary& asInFile);
+
 private:
+    /// Where the values of a variable are, and how they are to be read.
+    struct Data {
+        std::string fileName;
+        catalog::ValueType type;
+        int size;
+        std::optional<double> notapp, missing;
+        bool operator==(const Data&) const = default;
+    };
+    using DataByName = std::map<std::pair<std::string, std::string>, Data>;
+    static Data dataOf(const catalog::Variable& variable);
+    static DataByName dataOf(const catalog::Dictionary& dictionary);
+    static void describe(catalog::Variable& variable, const catalog::Variable& asInFile);
+
     void wrap(catalog::Entity& entity, TKelEntity* parent);
 
+    DataByName inFile_;
     std::unordered_map<const catalog::Entity*, std::unique_ptr<TKelEntity>> entities_;
     std::unordered_map<const catalog::Variable*, std::unique_ptr<TKelVariable>> variables_;
 };

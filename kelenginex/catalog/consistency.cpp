@@ -5,6 +5,7 @@
 #include "catalog/names.h"
 #include "catalog/type_names.h"
 #include "storage/error.h"
+#include "storage/leftovers.h"
 
 #include <algorithm>
 #include <chrono>
@@ -336,6 +337,10 @@ private:
         for (const fs::path& file : orphans) {
             report.findings.push_back({FindingSeverity::Warning, "", "", file.string(), "Orphans",
                                        "no variable and no entity names this file"});
+        }
+        for (const fs::path& file : storage::leftoversIn(folder)) {
+            report.findings.push_back({FindingSeverity::Warning, "", "", file.string(), "Orphans",
+                                       "a program that was stopped has left it behind"});
         }
     }
 

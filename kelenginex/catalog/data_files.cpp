@@ -3,6 +3,7 @@
 
 #include "catalog/names.h"
 #include "storage/error.h"
+#include "storage/posix_io.h"
 
 #include <algorithm>
 #include <system_error>
@@ -101,9 +102,7 @@ void describeFromData(Dictionary& dictionary) {
 }
 
 fs::path realFile(const fs::path& file) {
-    std::error_code ignored;
-    const fs::path real = fs::weakly_canonical(file, ignored);
-    return ignored ? file.lexically_normal() : real;
+    return storage::realFile(file);
 }
 
 FileOwners::FileOwners(const Dictionary& dictionary) {

@@ -6,7 +6,9 @@
 #include "catalog/names.h"
 #include "storage/atomic_file.h"
 #include "storage/error.h"
+#include "storage/folder_lock.h"
 #include "storage/kxdb_file.h"
+#include "storage/posix_io.h"
 
 #include <algorithm>
 #include <fstream>
@@ -96,6 +98,7 @@ void write(const Dictionary& dictionary, const fs::path& file, const fs::path& n
 
 std::unique_ptr<Dictionary> readAgain(const Dictionary& earlier) {
     const fs::path& file = earlier.file;
+    storage::awaitWholeFolderOf(file);
     std::unique_ptr<Dictionary> dictionary;
     if (isDicx(file)) {
         dictionary = parseDicx(readText(file), file);
@@ -114,6 +117,7 @@ std::unique_ptr<Dictionary> readDictionary(const fs::path& file, const Questions
         throw std::runtime_error("The file of the dictionary has no name.");
     }
     const fs::path path = absoluteFile(file);
+    storage::awaitWholeFolderOf(path);
     auto dictionary = isDicx(path) ? parseDicx(readText(path), path) : readBinary(path, questions);
     askForDataFolder(*dictionary, questions);
     describeFromData(*dictionary);
@@ -131,6 +135,7 @@ void saveDictionary(Dictionary& dictionary, const fs::path& file) {
 }
 
 void stageDictionary(const Dictionary& dictionary, storage::StagedFiles& files) {
+    files.keepJournal(storage::targetOf(dictionary.file).parent_path());
     files.write(dictionary.file,
                 [&](const fs::path& staged) { write(dictionary, staged, dictionary.file); });
 }

@@ -30,7 +30,8 @@ std::unique_ptr<Dictionary> readAgain(const Dictionary& earlier);
 /// that are relative are rewritten where the folder changes, so that they go on to mean the same.
 void saveDictionary(Dictionary& dictionary, const std::filesystem::path& file);
 
-/// Writes a dictionary to its own file, staged; it is then as saved. It must stay in its folder.
+/// Writes a dictionary to its own file, staged; it is then as saved. It must stay in its folder,
+/// which the caller has locked: the files are to appear together even where the process is killed.
 void stageDictionary(const Dictionary& dictionary, storage::StagedFiles& files);
 
 // The two forms by themselves.

@@ -35,6 +35,12 @@ OutputFile::Format formatOf(const std::string& type) {
     return type == "pdf" ? OutputFile::Format::Pdf : OutputFile::Format::Csv;
 }
 
+TargetFiles::Form targetForm(OutputFile::Format format) {
+    if (format == OutputFile::Format::Xlsx)
+        return TargetFiles::Form::Xlsx;
+    return format == OutputFile::Format::Pdf ? TargetFiles::Form::Pdf : TargetFiles::Form::Csv;
+}
+
 void takeOutfile(const ast::OutFile& out, CheckerContext& context, TableCommand& command) {
     const std::string type = typeOf(out);
     const std::string path = absolute(out.file, context);
@@ -72,11 +78,17 @@ void takeFiles(const ast::Table& table, CheckerContext& context, TableCommand& c
 }
 
 void noteFiles(const ast::Table& table, const TableCommand& command, CheckerContext& context) {
+    using Form = TargetFiles::Form;
+    TargetFiles& files = context.files();
     if (command.outfile)
-        context.files().written(command.outfile->path, table.outfile->filePosition);
+        files.written(command.outfile->path, targetForm(command.outfile->format),
+                      command.outfile->overwrite, table.outfile->filePosition);
     bool ofOutfile = table.outfile && !command.outfile; // JSON, which comes first
     for (const std::string& file : command.jsonFiles) {
-        context.files().written(file, ofOutfile ? table.outfile->filePosition : table.savePosition);
+        if (ofOutfile)
+            files.written(file, Form::Json, table.outfile->overwrite, table.outfile->filePosition);
+        else
+            files.written(file, Form::Json, false, table.savePosition);
         ofOutfile = false;
     }
 }

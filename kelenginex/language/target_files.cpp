@@ -3,11 +3,13 @@
 
 #include "catalog/names.h"
 #include "language/checker_context.h"
+#include "language/table_json.h"
 #include "language/text.h"
 
 #include <algorithm>
 #include <array>
 #include <system_error>
+#include <utility>
 
 namespace kelx::language {
 
@@ -27,9 +29,15 @@ bool isKept(const fs::path& file) {
     return std::find(kept.begin(), kept.end(), endingOf(file)) != kept.end();
 }
 
-std::string missingFolder(const fs::path& file) {
+/// What stands in the way of any file there.
+std::string placeProblemOf(const fs::path& real) {
     std::error_code ignored;
-    const fs::path folder = file.parent_path();
+    const fs::path folder = real.parent_path();
+    const fs::file_status status = fs::status(real, ignored);
+    if (fs::is_directory(status))
+        return "it is a folder";
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        return "it is no regular file";
     return fs::is_directory(folder, ignored) ? std::string()
                                              : "there is no folder " + folder.string();
 }
@@ -40,24 +48,45 @@ void TargetFiles::read(const fs::path& file) {
     read_.insert(catalog::realFile(file));
 }
 
-void TargetFiles::written(const fs::path& file, Position position) {
-    written_.insert({file, position});
+void TargetFiles::written(const fs::path& file, Form form, bool overwrite, Position position) {
+    written_.push_back({file, form, overwrite, position});
 }
 
 void TargetFiles::report(CheckerContext& context) const {
     if (written_.empty())
         return;
     const catalog::FileOwners owners(dictionary_);
-    for (const auto& [file, position] : written_) {
-        const std::string problem = problemOf(file, owners);
-        if (!problem.empty())
-            context.report(Error::TargetFile, position, {file.string(), problem});
+    std::map<fs::path, Form> forms;
+    std::set<std::pair<std::string, std::string>> told; // tables of one command share a place
+    for (const Target& target : written_) {
+        const std::string problem = problemOf(target, owners, forms);
+        const Position& at = target.position;
+        const std::string place = std::to_string(at.source) + ' ' + std::to_string(at.line) + ' ' +
+                                  std::to_string(at.column);
+        if (!problem.empty() && told.insert({target.file.string(), place}).second)
+            context.report(Error::TargetFile, at, {target.file.string(), problem});
     }
 }
 
-std::string TargetFiles::problemOf(const fs::path& file, const catalog::FileOwners& owners) const {
-    const fs::path real = catalog::realFile(file);
+std::string TargetFiles::problemOf(const Target& target, const catalog::FileOwners& owners,
+                                   std::map<fs::path, Form>& forms) const {
+    const fs::path real = catalog::realFile(target.file);
     std::error_code ignored;
+    if (std::string problem = keptProblemOf(target.file, real, owners); !problem.empty())
+        return problem;
+    if (std::string problem = placeProblemOf(real); !problem.empty())
+        return problem;
+    if (forms.emplace(real, target.form).first->second != target.form)
+        return "another table goes to the same file in another form";
+    if (target.form == Form::Json && !target.overwrite && fs::exists(real, ignored) &&
+        !isTableJson(real))
+        return "it is no table that was written before; write OVERWRITE behind OUTFILE JSON to "
+               "replace it";
+    return {};
+}
+
+std::string TargetFiles::keptProblemOf(const fs::path& file, const fs::path& real,
+                                       const catalog::FileOwners& owners) const {
     if (const auto& owned = owners.of(real); !owned.empty())
         return "it belongs to the database, as a file of " + owned.front();
     if (read_.contains(real))
@@ -65,27 +94,29 @@ std::string TargetFiles::problemOf(const fs::path& file, const catalog::FileOwne
     if (isKept(file) || isKept(real))
         return "a name that ends in " + endingOf(isKept(file) ? file : real) +
                " is that of data or of a program";
-    if (fs::is_directory(real, ignored))
-        return "it is a folder";
-    return missingFolder(real);
+    return {};
+}
+
+std::string TargetFiles::saveProblemOf(const fs::path& file, const std::string& fullName) {
+    if (!owners_)
+        owners_.emplace(dictionary_);
+    const fs::path real = catalog::realFile(file);
+    for (const fs::path& each : {real, fs::path(real).concat(".desc")}) {
+        for (const std::string& owner : owners_->of(each)) {
+            if (!catalog::sameName(owner, fullName))
+                return "it holds the data of " + owner;
+        }
+    }
+    if (endingOf(real) != endingOf(file))
+        return "it is a link to " + real.string();
+    if (dictionary_.key && endingOf(real) == ".bin")
+        return "it would not be protected as its database is, which a .kbf file is";
+    return placeProblemOf(real);
 }
 
 bool TargetFiles::checkSave(const fs::path& file, const std::string& fullName, Position position,
                             CheckerContext& context) {
-    if (!owners_)
-        owners_.emplace(dictionary_);
-    const fs::path real = catalog::realFile(file);
-    std::string problem;
-    for (const fs::path& each : {real, fs::path(real).concat(".desc")}) {
-        for (const std::string& owner : owners_->of(each)) {
-            if (!catalog::sameName(owner, fullName))
-                problem = "it holds the data of " + owner;
-        }
-    }
-    if (problem.empty() && endingOf(real) != endingOf(file))
-        problem = "it is a link to " + real.string();
-    if (problem.empty())
-        problem = missingFolder(real);
+    const std::string problem = saveProblemOf(file, fullName);
     if (!problem.empty())
         context.report(Error::TargetFile, position, {file.string(), problem});
     return problem.empty();

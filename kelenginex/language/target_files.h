@@ -6,10 +6,10 @@
 #include "language/messages.h"
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace kelx::language {
@@ -23,8 +23,9 @@ public:
 
     /// A program or a selection of the run.
     void read(const std::filesystem::path& file);
-    /// A table's file, absolute.
-    void written(const std::filesystem::path& file, Position position);
+    /// A table's file, absolute. Tables of one form may share a file.
+    enum class Form { Json, Csv, Xlsx, Pdf };
+    void written(const std::filesystem::path& file, Form form, bool overwrite, Position position);
     /// Reports tables' files that cannot be written to.
     void report(CheckerContext& context) const;
     /// A data file that the variable of that full name is to be saved to; false where that cannot
@@ -35,20 +36,20 @@ public:
 private:
     struct Target {
         std::filesystem::path file;
+        Form form;
+        bool overwrite;
         Position position;
-        bool operator<(const Target& other) const {
-            return std::tie(file, position.source, position.line, position.column) <
-                   std::tie(other.file, other.position.source, other.position.line,
-                            other.position.column);
-        }
     };
-    std::string problemOf(const std::filesystem::path& file,
-                          const catalog::FileOwners& owners) const;
+    std::string problemOf(const Target& target, const catalog::FileOwners& owners,
+                          std::map<std::filesystem::path, Form>& forms) const;
+    std::string keptProblemOf(const std::filesystem::path& file, const std::filesystem::path& real,
+                              const catalog::FileOwners& owners) const;
+    std::string saveProblemOf(const std::filesystem::path& file, const std::string& fullName);
 
     const catalog::Dictionary& dictionary_;
     std::optional<catalog::FileOwners> owners_;
     std::set<std::filesystem::path> read_;
-    std::set<Target> written_;
+    std::vector<Target> written_;
 };
 
 } // namespace kelx::language

@@ -3,6 +3,7 @@
 
 #include "language/message_table.h"
 #include "storage/atomic_file.h"
+#include "storage/posix_io.h"
 
 #include <algorithm>
 
@@ -11,8 +12,10 @@ namespace {
 
 void addFile(const std::filesystem::path& path, TableFile::Form form, const Table& table,
              std::vector<TableFile>& files) {
-    const auto known = std::find_if(files.begin(), files.end(),
-                                    [&](const TableFile& file) { return file.path == path; });
+    const auto real = storage::realFile(path);
+    const auto known = std::find_if(files.begin(), files.end(), [&](const TableFile& file) {
+        return storage::realFile(file.path) == real;
+    });
     if (known == files.end())
         files.push_back({path, form, {&table}});
     else

@@ -4,9 +4,11 @@
 #include "catalog/data_files.h"
 #include "catalog/names.h"
 #include "storage/error.h"
+#include "storage/posix_io.h"
 
 #include <algorithm>
 #include <memory>
+#include <string>
 
 namespace kelx::output {
 namespace {
@@ -27,34 +29,34 @@ catalog::Entity& entityFor(const catalog::Variable& made, const catalog::Diction
     if (entity == nullptr)
         throw storage::FileError(dictionary.file,
                                  "has no entity " + made.entity->name + " any more");
+    if (entity->records() != made.entity->records())
+        throw storage::FileError(dictionary.file,
+                                 "by now has " + std::to_string(entity->records()) +
+                                     " records of " + entity->name + ", and not the " +
+                                     std::to_string(made.entity->records()) +
+                                     " that the program was run on; run it again");
     return *entity;
 }
 
 void requireOwn(const language::Definition& definition, const catalog::Dictionary& dictionary,
                 const catalog::FileOwners& owners) {
     const std::string name = definition.variable->fullName();
-    for (const std::string& owner : owners.of(catalog::realFile(definition.save->file))) {
+    for (const std::string& owner : owners.of(storage::realFile(definition.save->file))) {
         if (!catalog::sameName(owner, name))
             throw storage::FileError(dictionary.file, "by now has the data of " + owner + " in " +
                                                           definition.save->file.string());
     }
 }
 
-} // namespace
-
-bool savesVariables(const language::BoundProgram& program) {
-    return std::any_of(program.definitions.begin(), program.definitions.end(),
-                       [](const auto& definition) { return definition.save.has_value(); });
-}
-
-std::size_t joinSavedVariables(const language::BoundProgram& program,
-                               catalog::Dictionary& dictionary) {
+template <class Wanted>
+std::size_t join(const language::BoundProgram& program, catalog::Dictionary& dictionary,
+                 const Wanted& isWanted) {
     if (!savesVariables(program))
         return 0;
     const catalog::FileOwners owners(dictionary);
     std::size_t joined = 0;
     for (const language::Definition& definition : program.definitions) {
-        if (!definition.save)
+        if (!definition.save || !isWanted(definition))
             continue;
         const catalog::Variable& made = *definition.variable;
         requireOwn(definition, dictionary, owners);
@@ -68,6 +70,26 @@ std::size_t joinSavedVariables(const language::BoundProgram& program,
     }
     dictionary.dirty = dictionary.dirty || joined > 0;
     return joined;
+}
+
+} // namespace
+
+bool savesVariables(const language::BoundProgram& program) {
+    return std::any_of(program.definitions.begin(), program.definitions.end(),
+                       [](const auto& definition) { return definition.save.has_value(); });
+}
+
+std::size_t joinSavedVariables(const language::BoundProgram& program,
+                               catalog::Dictionary& dictionary) {
+    return join(program, dictionary, [](const auto&) { return true; });
+}
+
+std::size_t joinReplacedVariables(const language::BoundProgram& program,
+                                  catalog::Dictionary& dictionary) {
+    const catalog::FileOwners owners(dictionary);
+    return join(program, dictionary, [&](const language::Definition& definition) {
+        return !owners.of(storage::realFile(definition.save->file)).empty();
+    });
 }
 
 } // namespace kelx::output

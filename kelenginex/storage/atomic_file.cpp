@@ -16,6 +16,7 @@ constexpr std::size_t bufferSize = 256 * 1024;
 } // namespace
 
 AtomicFile::AtomicFile(const std::filesystem::path& file) : file_(targetOf(file)) {
+    requireReplaceable(file_);
     auto created = createTemporaryBeside(file_);
     temporary_ = std::move(created.name);
     descriptor_ = created.descriptor;

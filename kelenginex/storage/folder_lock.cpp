@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "storage/folder_lock.h"
 
+#include "storage/change_journal.h"
+#include "storage/leftovers.h"
 #include "storage/posix_io.h"
 
 #include <cerrno>
@@ -12,13 +14,28 @@
 
 namespace kelx::storage {
 
-FolderLock::FolderLock(const std::filesystem::path& file, const Pulse& pulse) {
-    const std::filesystem::path folder = std::filesystem::absolute(targetOf(file)).parent_path();
-    descriptor_ = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor_ < 0)
+namespace {
+
+std::filesystem::path folderOf(const std::filesystem::path& file) {
+    return std::filesystem::absolute(targetOf(file)).parent_path();
+}
+
+int openFolder(const std::filesystem::path& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
         failWithErrno(folder, "cannot be opened");
+    return descriptor;
+}
+
+} // namespace
+
+FolderLock::FolderLock(const std::filesystem::path& file, const Pulse& pulse) {
+    const std::filesystem::path folder = folderOf(file);
+    descriptor_ = openFolder(folder);
     try {
         wait(pulse);
+        finishChange(folder);
+        removeLeftovers(folder);
     } catch (...) {
         ::close(descriptor_);
         throw;
@@ -35,6 +52,25 @@ void FolderLock::wait(const Pulse& pulse) const {
         if (pulse)
             pulse();
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+void awaitWholeFolderOf(const std::filesystem::path& file) {
+    constexpr int mostWaits = 500;
+    const std::filesystem::path folder = folderOf(file);
+    for (int i = 0; hasJournal(folder) && i < mostWaits; ++i) {
+        const int descriptor = openFolder(folder);
+        const bool isBusy = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        try {
+            if (!isBusy)
+                finishChange(folder);
+        } catch (...) {
+            ::close(descriptor);
+            throw;
+        }
+        ::close(descriptor);
+        if (isBusy)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
 }
 

@@ -9,10 +9,12 @@
 namespace kelx::storage {
 
 /// The folder of a file, held by one process at a time as long as this lives; nothing is left
-/// behind. Where the file system knows no locks nothing is held.
+/// behind. Where the file system knows no locks nothing is held. Who gets the folder finishes a
+/// change that a killed process has begun there, and removes its temporary files.
 class FolderLock {
 public:
-    /// Waits for others, with a pulse meanwhile. Throws FileError where there is no such folder.
+    /// Waits for others, with a pulse meanwhile. Throws FileError where there is no such folder, or
+    /// where a change cannot be finished.
     FolderLock(const std::filesystem::path& file, const Pulse& pulse);
     ~FolderLock();
     FolderLock(const FolderLock&) = delete;
@@ -22,5 +24,9 @@ private:
     void wait(const Pulse& pulse) const;
     int descriptor_ = -1;
 };
+
+/// Before files of a folder are read: lets a change that is going on there come to its end, and
+/// finishes one whose process was killed. Throws FileError where that cannot be done.
+void awaitWholeFolderOf(const std::filesystem::path& file);
 
 } // namespace kelx::storage

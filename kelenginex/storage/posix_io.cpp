@@ -6,12 +6,16 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <random>
+#include <sys/file.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace kelx::storage {
 
 namespace {
+
+/// As many as the system itself follows.
+constexpr int mostLinks = 40;
 
 std::filesystem::path folderOf(const std::filesystem::path& file) {
     const auto folder = file.parent_path();
@@ -22,7 +26,7 @@ std::string randomName() {
     static constexpr char letters[] = "abcdefghijklmnopqrstuvwxyz0123456789";
     thread_local std::random_device device;
     std::uniform_int_distribution<std::size_t> any(0, sizeof(letters) - 2);
-    std::string name = ".kelx-";
+    std::string name = ".kelx-" + std::to_string(::getpid()) + "-";
     for (int i = 0; i < 12; ++i)
         name += letters[any(device)];
     return name + ".tmp";
@@ -35,11 +39,33 @@ void failWithErrno(const std::filesystem::path& file, const std::string& what) {
 }
 
 std::filesystem::path targetOf(const std::filesystem::path& file) {
+    std::filesystem::path target = file;
+    std::error_code fault;
+    for (int i = 0; i < mostLinks && std::filesystem::is_symlink(target, fault); ++i) {
+        const auto next = std::filesystem::read_symlink(target, fault);
+        if (fault)
+            return file;
+        target = target.parent_path() / next;
+    }
+    return target;
+}
+
+std::filesystem::path realFile(const std::filesystem::path& file) {
+    std::error_code fault;
+    const auto target = std::filesystem::absolute(targetOf(file), fault);
+    const auto folder = std::filesystem::weakly_canonical(target.parent_path(), fault);
+    if (fault || target.filename().empty())
+        return std::filesystem::absolute(file, fault).lexically_normal();
+    return (folder / target.filename()).lexically_normal();
+}
+
+void requireReplaceable(const std::filesystem::path& file) {
     std::error_code ignored;
-    if (!std::filesystem::is_symlink(file, ignored))
-        return file;
-    const auto target = std::filesystem::weakly_canonical(file, ignored);
-    return ignored ? file : target;
+    const auto status = std::filesystem::status(file, ignored);
+    if (std::filesystem::is_directory(status))
+        throw FileError(file, "cannot be written: it is a folder");
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw FileError(file, "cannot be written: it is no regular file");
 }
 
 TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {
@@ -47,8 +73,10 @@ TemporaryFile createTemporaryBeside(const std::filesystem::path& file) {
         TemporaryFile created{folderOf(file) / randomName(), -1};
         created.descriptor =
             ::open(created.name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (created.descriptor >= 0)
+        if (created.descriptor >= 0) {
+            static_cast<void>(::flock(created.descriptor, LOCK_EX | LOCK_NB)); // see leftovers.h
             return created;
+        }
         if (errno != EEXIST)
             break;
     }

@@ -2,6 +2,8 @@
 // Drives the command line as a process, as a script would.
 #include "kelx_fixture.h"
 
+#include "storage/folder_lock.h"
+
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
@@ -9,6 +11,7 @@
 #include <fcntl.h>
 #include <functional>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -202,6 +205,34 @@ TEST_F(KelxTest, OutputThatIsLostIsAFault) {
     }
 }
 
+TEST_F(KelxTest, WhatIsSavedIsToldWhereOutputIsLost) {
+    ASSERT_EQ(kelx("sample @/full --persons 1000").status, 0);
+    const Outcome lost =
+        kelx("run @/full/sample.kxdb -e 'DEFINE PERSON.OLD AS PERSON.AGE > 64 SAVE "
+             "\"old\" FREQ PERSON.OLD SAVE \"t\"' >/dev/full");
+    EXPECT_EQ(lost.status, 1);
+    EXPECT_EQ(lost.err, "kelx: PERSON.OLD was saved all the same\n"
+                        "kelx: " +
+                            path("full/t.json") +
+                            " was written all the same\n"
+                            "kelx: error: standard output cannot be written to its end\n");
+    EXPECT_TRUE(std::filesystem::exists(path("full/old.kbf")));
+    EXPECT_TRUE(std::filesystem::exists(path("full/t.json")));
+}
+
+TEST_F(KelxTest, ALimitOnFilesIsAFaultAndLeavesNothing) {
+    ASSERT_EQ(kelx("sample @/limited --persons 3000").status, 0);
+    const auto before = TemporaryFolder::contents(folder->path() / "limited");
+    folder->write("limited.sh", "ulimit -f 1\nexec \"$@\"\n"); // 512 or 1024 bytes
+    const std::string command =
+        "sh " + path("limited.sh") + " " KELX_PROGRAM " run " + path("limited/sample.kxdb") +
+        " -e 'DEFINE PERSON.A AS PERSON.AGE SAVE \"a\"' >" + path("out") + " 2>" + path("err");
+    const int status = std::system(command.c_str());
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
+    EXPECT_THAT(folder->read("err"), HasSubstr("File too large"));
+    EXPECT_EQ(TemporaryFolder::contents(folder->path() / "limited"), before);
+}
+
 TEST_F(KelxTest, SignalsEndTheWorkAndLeaveNothing) {
     for (const int signal : {SIGINT, SIGTERM}) {
         const auto target = folder->path() / ("stopped-" + std::to_string(signal));
@@ -260,6 +291,26 @@ TEST_F(KelxTest, WritesTheFilesOfAProgram) {
     EXPECT_EQ(kelx("run @/kept/sample.kxdb -e 'FREQ PERSON.ADULT'").status, 0);
 }
 
+TEST_F(KelxTest, TablesOfTheRunDoNotReplaceEachOther) {
+    ASSERT_EQ(kelx("sample @/twice --persons 1000").status, 0);
+    const std::string run = "run @/twice/sample.kxdb --format csv --out @/twice -e ";
+    const Outcome refused = kelx(run + "'FREQ PERSON.AGE FREQ PERSON.SEX OUTFILE \"FREQ_1.csv\"'");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("FREQ_1.csv: would be written twice"));
+    EXPECT_FALSE(std::filesystem::exists(path("twice/FREQ_1.csv")));
+    std::filesystem::create_symlink("d.csv", path("twice/c.csv"));
+    ASSERT_EQ(kelx("run @/twice/sample.kxdb -e 'TABLE a FREQ PERSON.AGE OUTFILE \"c.csv\" "
+                   "TABLE b FREQ PERSON.SEX OUTFILE \"d.csv\"'")
+                  .status,
+              0);
+    const std::string both = folder->read("twice/d.csv");
+    EXPECT_THAT(both, StartsWith("a\r\nPERSON.AGE,"));
+    EXPECT_THAT(both, HasSubstr("\r\n\r\nb\r\nPERSON.SEX,"));
+    ASSERT_EQ(::mkfifo(path("twice/FREQ_1.csv").c_str(), 0600), 0);
+    EXPECT_THAT(kelx(run + "'FREQ PERSON.AGE'").err, HasSubstr("no regular file"));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("twice/FREQ_1.csv")));
+}
+
 TEST_F(KelxTest, RunsAtOnceLoseNoVariableOfEachOther) {
     ASSERT_EQ(kelx("sample @/shared --persons 1000").status, 0);
     std::vector<pid_t> runs;
@@ -280,6 +331,30 @@ TEST_F(KelxTest, RunsAtOnceLoseNoVariableOfEachOther) {
              "SUM PERSON.X3 SUM PERSON.X4 SUM PERSON.X5 SUM PERSON.X6 "
              "SUM PERSON.X7 SUM PERSON.X8'");
     EXPECT_EQ(all.status, 0) << all.err;
+}
+
+TEST_F(KelxTest, AVariableOfADatabaseThatWasReplacedIsNotSaved) {
+    namespace fs = std::filesystem;
+    ASSERT_EQ(kelx("sample @/first --persons 3000").status, 0);
+    ASSERT_EQ(kelx("sample @/second --persons 1000").status, 0);
+    pid_t run = 0;
+    {
+        const kelx::storage::FolderLock lock(path("first/sample.kxdb"), {});
+        run = start(
+            {"run", path("first/sample.kxdb"), "-e", "DEFINE PERSON.X AS PERSON.AGE SAVE \"x\""},
+            path("err"));
+        while (!hasStaging(path("first")) && ::waitpid(run, nullptr, WNOHANG) == 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        for (const auto& entry : fs::directory_iterator(path("second")))
+            if (entry.is_regular_file())
+                fs::rename(entry.path(), fs::path(path("first")) / entry.path().filename());
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(run, &status, 0), run);
+    EXPECT_EQ(WEXITSTATUS(status), 1);
+    EXPECT_THAT(folder->read("err"), HasSubstr(" records of PERSON, and not the "));
+    EXPECT_FALSE(fs::exists(path("first/x.kbf")));
+    EXPECT_FALSE(hasStaging(path("first")));
 }
 
 TEST_F(KelxTest, ARunThatCannotWriteItsTablesChangesNothing) {
@@ -307,6 +382,24 @@ TEST_F(KelxTest, ASignalWhileVariablesAreSavedLeavesNothing) {
               128 + SIGINT);
     EXPECT_EQ(folder->read("err"), "kelx: interrupted; nothing was written\n");
     EXPECT_EQ(TemporaryFolder::contents(base), before);
+}
+
+TEST_F(KelxTest, WhatAKilledRunLeavesIsNamedAndRemoved) {
+    ASSERT_EQ(kelx("sample @/dead --persons 3000").status, 0);
+    const auto base = folder->path() / "dead";
+    {
+        const kelx::storage::FolderLock lock(base / "sample.kxdb", {}); // where the run waits
+        statusAfter(SIGKILL,
+                    {"run", (base / "sample.kxdb").string(), "-e",
+                     "DEFINE PERSON.X AS PERSON.AGE SAVE \"x.bin\""},
+                    path("err"), [&] { return hasStaging(base); });
+    }
+    EXPECT_TRUE(hasStaging(base));
+    EXPECT_THAT(kelx("check @/dead/sample.kxdb").out,
+                HasSubstr(".tmp: warning: a program that was stopped has left it behind"));
+    EXPECT_EQ(kelx("run @/dead/sample.kxdb -e 'DEFINE PERSON.Y AS PERSON.AGE SAVE \"y\"'").status,
+              0);
+    EXPECT_FALSE(hasStaging(base));
 }
 
 TEST_F(KelxTest, RefusesFormatsOfTheWorkbenchBeforeItRuns) {

@@ -5,6 +5,7 @@
 #include "import/replacement.h"
 #include "import/staging.h"
 #include "import/values.h"
+#include "storage/folder_lock.h"
 
 #include <optional>
 
@@ -85,6 +86,7 @@ void DatabaseBuilder::write(const std::function<void(const fs::path& folder)>& w
     dictionary_.dataFolder = staging.folder();
     writeData(staging.folder());
     catalog::saveDictionary(dictionary_, dictionary_.file);
+    const storage::FolderLock lock(target_.database, {}); // programs that run may be saving
     staging.publish();
     if (replaced)
         replaced->removeLeftovers();

@@ -49,6 +49,7 @@ void limit(__rlimit_resource resource, std::uint64_t soft, std::uint64_t hard) {
         ::_exit(notStarted);
     ::close_range(STDERR_FILENO + 1, ~0U, 0);
     ::signal(SIGPIPE, SIG_DFL);
+    ::signal(SIGXFSZ, SIG_DFL);
     // An interrupt from the terminal is the parent's to answer.
     ::signal(SIGINT, SIG_IGN);
     ::execv(program, arguments);

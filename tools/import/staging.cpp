@@ -75,6 +75,8 @@ Staging::Staging(const fs::path& target, std::vector<std::string> fileNames, boo
         throw storage::FileError(target_, "the folder cannot be made: " + fault.message());
     if (!overwrite)
         requireNone(target);
+    for (const std::string& name : fileNames_)
+        storage::requireReplaceable(target_ / name);
     removeStale(target_);
     makeFolder();
 }

@@ -4,6 +4,7 @@
 #include "interrupt.h"
 #include "password.h"
 #include "progress_bar.h"
+#include "storage/folder_lock.h"
 
 #include <CLI/CLI.hpp>
 
@@ -42,6 +43,7 @@ void toDictionary(catalog::Dictionary& dictionary, const ConvertRequest& request
     if (dictionary.key && hasExtension(request.target, ".dicx"))
         throw std::runtime_error(request.target.string() +
                                  ": a protected database cannot have a .dicx dictionary");
+    const storage::FolderLock lock(request.target, {});
     catalog::saveDictionary(dictionary, fs::absolute(request.target));
 }
 

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -47,6 +48,7 @@ int withOutput(int status) {
 } // namespace
 
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a limit on files is told like a full disk
     CLI::App app("Census microdata: make databases, look at them, run programs on them.", "kelx");
     app.set_version_flag("--version", "kelx " KELX_VERSION);
     app.require_subcommand(1);

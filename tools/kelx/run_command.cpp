@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "catalog/reader.h"
 #include "commands.h"
 #include "execution/progress.h"
 #include "interrupt.h"
 #include "language/compile.h"
 #include "output/files.h"
 #include "output/run.h"
-#include "output/saved_variables.h"
+#include "output/saved_dictionary.h"
 #include "password.h"
 #include "program_text.h"
 #include "progress_bar.h"
-#include "storage/folder_lock.h"
 #include "table_printer.h"
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
 #include <memory>
 #include <new>
-#include <optional>
 #include <stdexcept>
 
 namespace kelx::tool {
@@ -46,23 +44,14 @@ public:
         output::stageFiles(output::csvFiles(tables, program_), files, pulse);
         output::stageFiles(output::jsonFiles(tables, program_), files, pulse);
         stageFiles(tables, printing_, files, pulse);
-        if (output::savesVariables(program_))
-            stageDictionary(files, pulse);
+        saved_.stage(program_, dictionary_, output::Joined::All, files, pulse);
     }
 
 private:
-    /// Others may have saved variables since it was read, and must wait until it is written.
-    void stageDictionary(storage::StagedFiles& files, const storage::Pulse& pulse) {
-        lock_.emplace(dictionary_.file, pulse);
-        const auto current = catalog::readAgain(dictionary_);
-        output::joinSavedVariables(program_, *current);
-        catalog::stageDictionary(*current, files);
-    }
-
     const language::BoundProgram& program_;
     const catalog::Dictionary& dictionary_;
     const TablePrinting& printing_;
-    std::optional<storage::FolderLock> lock_;
+    output::SavedDictionary saved_;
 };
 
 output::TablesOfRun makeTables(const language::BoundProgram& program,
@@ -89,6 +78,25 @@ output::TablesOfRun makeTables(const language::BoundProgram& program,
     return made;
 }
 
+/// Files are there when standard output turns out to be full.
+void tellWrittenWhereOutputIsLost(const language::BoundProgram& program) {
+    std::cout.flush();
+    if (std::cout)
+        return;
+    for (const language::Definition& definition : program.definitions) {
+        if (definition.save)
+            std::cerr << "kelx: " << definition.variable->fullName() << " was saved all the same\n";
+    }
+    for (const language::TableCommand& command : program.tables) {
+        if (!command.isOutput)
+            continue;
+        if (command.outfile)
+            std::cerr << "kelx: " << command.outfile->path << " was written all the same\n";
+        for (const std::string& file : command.jsonFiles)
+            std::cerr << "kelx: " << file << " was written all the same\n";
+    }
+}
+
 int run(const RunRequest& request) {
     const std::string name = request.program.empty() ? "-e" : request.program.string();
     const std::string text = request.program.empty() ? request.text : readProgram(request.program);
@@ -109,6 +117,7 @@ int run(const RunRequest& request) {
     if (messages.hasErrors())
         return failure;
     print(made.tables, request.printing);
+    tellWrittenWhereOutputIsLost(program);
     return success;
 }
 

@@ -7,6 +7,7 @@
 #include "sample/household.h"
 #include "sample/sample_dictionary.h"
 #include "storage/column_writer.h"
+#include "storage/folder_lock.h"
 #include "storage/pointer_file.h"
 
 #include <stdexcept>
@@ -179,6 +180,7 @@ SampleReport writeSample(const SampleRequest& request) {
         dictionary->file = staging.folder() / name;
         catalog::saveDictionary(*dictionary, dictionary->file);
     }
+    const storage::FolderLock lock(folder / "sample.kxdb", {}); // programs that run may be saving
     staging.publish();
     return report;
 }

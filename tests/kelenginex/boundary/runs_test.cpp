@@ -88,6 +88,51 @@ TEST_F(RunsTest, ASavedVariableTakesThePlaceOfTheFormer) {
     EXPECT_THAT(rows(), Not(Contains("4|4||1")));
 }
 
+TEST_F(RunsTest, ColumnsWrittenAnewFitTheFileUnsaved) {
+    const std::string tens = "DEFINE PERSON.TENS AS PERSON.AGE / 10 TYPE INTEGER SAVE \"g.kbf\" ";
+    execute(tens + "NOTAPP 1");
+    EXPECT_EQ(named(open()->findEntity("PERSON")->variables(), "TENS"), nullptr);
+    kel::saveDictionary(dictionary, file("sample.kxdb"));
+    execute(tens + "OVERWRITE NOTAPP 4\nDEFINE PERSON.MORE AS 1 SAVE \"more.kbf\"");
+    EXPECT_TRUE(dictionary->isDirty());
+    // The user does not want the dictionary saved.
+    dictionary = open();
+    EXPECT_EQ(named(person().variables(), "MORE"), nullptr);
+    execute("FREQ PERSON.TENS");
+    EXPECT_THAT(rows(), Contains("1|1||1"));
+    EXPECT_THAT(rows(), Contains("0|__na__|na|1"));
+    EXPECT_THAT(rows(), Not(Contains("4|4||1")));
+}
+
+TEST_F(RunsTest, SavingKeepsWhatOthersHaveSavedMeanwhile) {
+    const std::string tens = "DEFINE PERSON.TENS AS PERSON.AGE / 10 TYPE INTEGER SAVE \"g.kbf\" ";
+    execute(tens + "NOTAPP 1");
+    kel::saveDictionary(dictionary, file("sample.kxdb"));
+    const auto ours = open();
+    execute(tens + "OVERWRITE NOTAPP 4\nDEFINE PERSON.MORE AS 1 SAVE \"more.kbf\"");
+    kel::saveDictionary(dictionary, file("sample.kxdb"));
+    ours->findEntity("PERSON")->setLabel("Ours");
+    kel::saveDictionary(ours, file("sample.kxdb"));
+    EXPECT_NE(named(ours->findEntity("PERSON")->variables(), "MORE"), nullptr);
+    dictionary = open();
+    EXPECT_EQ(person().label(), "Ours");
+    execute("FREQ PERSON.TENS FREQ PERSON.MORE");
+    EXPECT_THAT(rows(0), Contains("1|1||1"));
+    EXPECT_THAT(rows(0), Contains("0|__na__|na|1"));
+    EXPECT_THAT(rows(1), Contains("1|1||5"));
+}
+
+TEST_F(RunsTest, SavingDoesNotBringBackFormerNames) {
+    execute("DEFINE PERSON.MORE AS 1 SAVE \"more.kbf\"");
+    kel::saveDictionary(dictionary, file("sample.kxdb"));
+    dictionary = open();
+    named(person().variables(), "MORE")->setName("OTHER");
+    kel::saveDictionary(dictionary, file("sample.kxdb"));
+    dictionary = open();
+    EXPECT_EQ(named(person().variables(), "MORE"), nullptr);
+    EXPECT_NE(named(person().variables(), "OTHER"), nullptr);
+}
+
 TEST_F(RunsTest, ARunThatDoesNotEndWellAddsNothing) {
     const std::string program = "DEFINE PERSON.OLD AS PERSON.AGE > 25 SAVE \"old.kbf\"\n"
                                 "FREQ PERSON.OLD SAVE \"t.json\"";

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace kelx::language {
 
@@ -261,6 +262,59 @@ TEST(Files, ThatTheRunReadsAreNotWritten) {
     EXPECT_THAT(all, testing::Not(testing::HasSubstr("other.json")));
     census.options.programFile = census.write("main.txt", "");
     EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE csv \"main.txt\""), "KEL_E_TARGET_FILE 1:23\n");
+}
+
+TEST(Files, ReplaceNoPipes) {
+    Census census;
+    const std::filesystem::path folder = census.options.baseFolder;
+    ASSERT_EQ(::mkfifo((folder / "p.csv").c_str(), 0600), 0);
+    std::filesystem::create_symlink("p.csv", folder / "to_p.json");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE \"p.csv\""), "KEL_E_TARGET_FILE 1:19\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE \"to_p.json\" OVERWRITE"),
+              "KEL_E_TARGET_FILE 1:19\n");
+    ASSERT_EQ(::mkfifo((folder / "p.kbf").c_str(), 0600), 0);
+    EXPECT_EQ(refused(census, "DEFINE PERSON.P AS 1 SAVE \"p.kbf\" OVERWRITE\nFREQ SEX2"),
+              "KEL_E_TARGET_FILE 1:27\n");
+}
+
+TEST(Files, HoldTablesOfOneForm) {
+    Census census;
+    const std::filesystem::path folder = census.options.baseFolder;
+    std::filesystem::create_symlink("later.csv", folder / "link.csv"); // to nothing yet
+    std::filesystem::create_symlink(".", folder / "sub");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE csv \"h.json\" SAVE \"h.json\""),
+              "KEL_E_TARGET_FILE 1:37\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE xls \"link.csv\"\nFREQ GRP OUTFILE \"later.csv\""),
+              "KEL_E_TARGET_FILE 2:18\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE pdf \"k.csv\"\nFREQ GRP OUTFILE \"sub/k.csv\""),
+              "KEL_E_TARGET_FILE 2:18\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE \"link.csv\"\nFREQ GRP OUTFILE \"later.csv\""),
+              "");
+}
+
+TEST(Files, InJsonReplaceTablesAlone) {
+    Census census;
+    census.write("s_sel.json", R"({"label": "l", "areas": []})");
+    census.write("name.json", R"({"name":"X","areas":[]})");
+    census.write("one.json", R"({"name":"a \" b","title":"t \\","kind":"FREQ","method":"count")");
+    census.write("two.json",
+                 "[\n{\"name\":\"\",\"title\":null,\"kind\":\"FREQ\",\"method\":\"count\"");
+    census.write("cut.json", R"({"name":"a \)");
+    for (const char* name : {"s_sel.json", "name.json", "cut.json"}) {
+        const std::string file = std::string("\"") + name + '"';
+        EXPECT_EQ(refused(census, "FREQ SEX2 SAVE " + file), "KEL_E_TARGET_FILE 1:16\n") << name;
+        EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE " + file), "KEL_E_TARGET_FILE 1:19\n");
+        EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE " + file + " OVERWRITE"), "");
+    }
+    EXPECT_EQ(refused(census, "FREQ SEX2 SAVE \"one.json\" OUTFILE \"two.json\""), "");
+}
+
+TEST(Files, OfProtectedDatabasesAreNotBare) {
+    Census census;
+    census.dictionary.key = storage::Secret::derive("x", storage::Secret::newRecipe());
+    EXPECT_EQ(refused(census, "DEFINE PERSON.P AS 1 SAVE \"p.bin\"\nFREQ SEX2"),
+              "KEL_E_TARGET_FILE 1:27\n");
+    EXPECT_EQ(refused(census, "DEFINE PERSON.P AS 1 SAVE \"p.kbf\"\nFREQ SEX2"), "");
 }
 
 TEST(Files, OfOtherKindsAreToldToBeCsv) {

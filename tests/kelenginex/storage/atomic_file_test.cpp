@@ -114,7 +114,7 @@ TEST_F(AtomicFileTest, NamesTheFileThatCannotBeWritten) {
                     AtomicFile out(path("folder"));
                     out.commit();
                 }),
-                HasSubstr("cannot be replaced"));
+                HasSubstr("it is a folder"));
     AtomicFile out(path("a"));
     out.write("abc");
     EXPECT_THROW(out.writeAt(2, std::as_bytes(std::span("xx", 2))), FileError);

@@ -1,13 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/atomic_file.h"
+#include "storage/change_journal.h"
+#include "storage/folder_lock.h"
+#include "storage/leftovers.h"
 #include "storage/staged_files.h"
 #include "storage_fixture.h"
 
+#include <fcntl.h>
 #include <fstream>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace kelx::testing {
 
 using StagedFilesTest = StorageTest;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAre;
 
 namespace {
@@ -93,6 +104,158 @@ TEST_F(StagedFilesTest, FaultsNameTheFileThatIsMeant) {
     }
 }
 
+TEST_F(StagedFilesTest, FaultsOfADescriptionNameItsOwnFile) {
+    StagedFiles files;
+    try {
+        files.write(path("a"), [&](const std::filesystem::path& staged) {
+            files.add(staged.string() + ".desc", path("a.desc"));
+            throw FileError(staged.string() + ".desc", "is full");
+        });
+        FAIL() << "no fault";
+    } catch (const FileError& fault) {
+        EXPECT_EQ(fault.what(), path("a.desc").string() + ": is full");
+    }
+}
+
+TEST_F(StagedFilesTest, OnlyRegularFilesAreReplaced) {
+    ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", path("link"));
+    StagedFiles files;
+    EXPECT_THAT(faultOf([&] { files.stage(path("pipe")); }), HasSubstr("no regular file"));
+    EXPECT_THAT(faultOf([&] { files.stage(path("link")); }), HasSubstr("no regular file"));
+    EXPECT_THAT(faultOf([&] { AtomicFile file(path("link")); }), HasSubstr("no regular file"));
+    write(files.stage(path("late")), "new");
+    ASSERT_EQ(::mkfifo(path("late").c_str(), 0600), 0);
+    EXPECT_THAT(faultOf([&] { files.publish(); }), HasSubstr("no regular file"));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("pipe")));
+    EXPECT_TRUE(std::filesystem::is_fifo(path("late")));
+}
+
+TEST_F(StagedFilesTest, OnePlaceTakesOneFile) {
+    std::filesystem::create_symlink("c", path("to_c")); // which is not there
+    std::filesystem::create_symlink(".", path("here"));
+    StagedFiles files;
+    write(files.stage(path("c")), "first");
+    for (const char* name : {"c", "to_c", "here/c", "here/to_c"})
+        EXPECT_THAT(faultOf([&] { files.stage(path(name)); }), HasSubstr("twice")) << name;
+    write(files.stage(path("d")), "other");
+    files.publish();
+    EXPECT_EQ(read(path("c")), "first");
+    EXPECT_THAT(names(), UnorderedElementsAre("c", "d", "to_c", "here"));
+}
+
+/// Ends a process in the middle of a change, after so many files have their names.
+class KilledChange : public StorageTest {
+protected:
+    void changeKilledAfter(int renames) {
+        for (const char* name : {"a", "b", "sub/c"})
+            write(path(name), "old");
+        const pid_t child = ::fork();
+        if (child == 0) {
+            StagedFiles files;
+            for (const char* name : {"a", "b", "sub/c", "new"})
+                files.write(path(name), [](const std::filesystem::path& staged) {
+                    AtomicFile out(staged);
+                    out.write(std::string_view("new"));
+                    out.commit();
+                });
+            files.keepJournal(path("a").parent_path());
+            files.publish([&] {
+                if (--renames == 0)
+                    ::_exit(0);
+            });
+            ::_exit(1);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        ASSERT_EQ(status, 0);
+    }
+    void expectNew() const {
+        for (const char* name : {"a", "b", "sub/c", "new"})
+            EXPECT_EQ(read(path(name)), "new") << name;
+    }
+};
+
+TEST_F(KilledChange, IsFinishedByWhoLocksTheFolder) {
+    std::filesystem::create_directory(path("sub"));
+    for (int renames = 1; renames <= 4; ++renames) {
+        SCOPED_TRACE(renames);
+        std::filesystem::remove(path("new"));
+        changeKilledAfter(renames);
+        EXPECT_EQ(read(path("new")), renames == 4 ? "new" : "");
+        EXPECT_FALSE(leftoversIn(path("a").parent_path()).empty());
+        const FolderLock lock(path("a"), {});
+        expectNew();
+        EXPECT_THAT(names(), UnorderedElementsAre("a", "b", "new", "sub"));
+    }
+}
+
+TEST_F(KilledChange, IsFinishedByWhoReads) {
+    std::filesystem::create_directory(path("sub"));
+    changeKilledAfter(2);
+    awaitWholeFolderOf(path("a"));
+    expectNew();
+}
+
+TEST_F(KilledChange, IsNotFinishedWhereAFolderIsInTheWay) {
+    std::filesystem::create_directory(path("sub"));
+    changeKilledAfter(1);
+    std::filesystem::remove(path("b"));
+    std::filesystem::create_directory(path("b"));
+    EXPECT_THAT(faultOf([&] { awaitWholeFolderOf(path("a")); }), HasSubstr("b: "));
+    std::filesystem::remove(path("b"));
+    awaitWholeFolderOf(path("a"));
+    expectNew();
+}
+
+TEST_F(StagedFilesTest, AJournalMovesTemporaryFilesInTheirFolderAlone) {
+    using namespace std::string_literals;
+    std::filesystem::create_directory(path("sub"));
+    const auto folder = path("a").parent_path();
+    write(path("victim"), "old");
+    write(path("file"), "theirs");
+    write(path(".kelx-1-x.tmp"), "theirs");
+    for (const std::string& bad :
+         {"kelx journal 1\n"s + ".\0file\0victim\0"s + "end\n",
+          "kelx journal 1\n"s + "sub\0../.kelx-1-x.tmp\0victim\0"s + "end\n",
+          "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0../victim\0"s + "end\n",
+          "kelx journal 1\n"s + ".\0.kelx-1-x.tmp\0victim"s + "end\n", ""s, "kelx journal 1\n"s}) {
+        write(path(".kelx-journal"), bad);
+        EXPECT_THAT(faultOf([&] { finishChange(folder); }), HasSubstr("damaged")) << bad;
+    }
+    write(path(".kelx-journal"), "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0victim\0"s + "end\n");
+    finishChange(folder); // no such file there
+    EXPECT_EQ(read(path("victim")), "old");
+    EXPECT_FALSE(std::filesystem::exists(path("sub") / "victim"));
+}
+
+TEST_F(StagedFilesTest, WhatIsInUseIsNotLeftBehind) {
+    const auto folder = path("a").parent_path();
+    int gone = 0;
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(0);
+    ASSERT_EQ(::waitpid(child, &gone, 0), child);
+    const std::string old = ".kelx-" + std::to_string(child) + "-abc.tmp";
+    for (const std::string& name :
+         {old, old + ".desc", old + ".old", std::string(".kelx-x.tmp"), old + ".kbf", "data" + old})
+        write(path(name), "x");
+    StagedFiles files;
+    const auto staged = files.stage(path("a"));
+    EXPECT_THAT(leftoversIn(folder),
+                ElementsAre(path(old), path(old + ".desc"), path(old + ".old")));
+    {
+        const int held = ::open(path(old).c_str(), O_RDONLY);
+        ASSERT_EQ(::flock(held, LOCK_EX), 0); // as a process elsewhere does
+        EXPECT_THAT(leftoversIn(folder), IsEmpty());
+        ::close(held);
+    }
+    const FolderLock lock(path("a"), {});
+    EXPECT_TRUE(std::filesystem::exists(staged));
+    EXPECT_THAT(names(), UnorderedElementsAre(staged.filename().string(), ".kelx-x.tmp",
+                                              old + ".kbf", "data" + old));
+}
+
 TEST_F(StagedFilesTest, ALinkIsFollowed) {
     write(path("real"), "old");
     std::filesystem::create_symlink(path("real"), path("link"));
@@ -101,6 +264,16 @@ TEST_F(StagedFilesTest, ALinkIsFollowed) {
     files.publish();
     EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
     EXPECT_EQ(read(path("real")), "new");
+}
+
+TEST_F(StagedFilesTest, ALinkToNothingYetIsFollowed) {
+    std::filesystem::create_directory(path("sub"));
+    std::filesystem::create_symlink("sub/later", path("link"));
+    StagedFiles files;
+    write(files.stage(path("link")), "new");
+    files.publish();
+    EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
+    EXPECT_EQ(read(path("sub") / "later"), "new");
 }
 
 } // namespace kelx::testing
