@@ -230,17 +230,18 @@ int onValue(int row, readstat_variable_t* variable, readstat_value_t value, void
 using Parser = std::unique_ptr<readstat_parser_t, decltype(&readstat_parser_free)>;
 using ParseFile = readstat_error_t (*)(readstat_parser_t*, const char*, void*);
 
-Parser makeParser(const std::string& encoding) {
+/// The library keeps the encoding's name, which must live on; an empty one is none.
+Parser makeParser(const char* encoding) {
     Parser parser(readstat_parser_init(), readstat_parser_free);
     if (parser == nullptr)
         std::exit(1);
     readstat_set_value_label_handler(parser.get(), onLabel);
-    if (!encoding.empty())
-        readstat_set_file_character_encoding(parser.get(), encoding.c_str());
+    if (*encoding != '\0')
+        readstat_set_file_character_encoding(parser.get(), encoding);
     return parser;
 }
 
-Parser makeDataParser(const std::string& encoding) {
+Parser makeDataParser(const char* encoding) {
     Parser parser = makeParser(encoding);
     readstat_set_metadata_handler(parser.get(), onMetadata);
     readstat_set_variable_handler(parser.get(), onVariable);
@@ -285,7 +286,7 @@ ParseFile parserFor(std::string_view format) {
 
 /// False where the file cannot be read.
 bool parseFormats(const std::string& file, const std::string& encoding, Parse& parse) {
-    const Parser formats = makeParser(encoding);
+    const Parser formats = makeParser(encoding.c_str());
     return !failed(readstat_parse_sas7bcat(formats.get(), file.c_str(), &parse), ".sas7bcat");
 }
 
@@ -322,7 +323,7 @@ int main(int argc, char** argv) {
         parseSav(arguments[2], encoding, parse);
         return 0;
     }
-    const Parser parser = makeDataParser(encoding);
+    const Parser parser = makeDataParser(encoding.c_str());
     if (!failed(parseFile(parser.get(), arguments[2].c_str(), &parse), arguments[1]))
         parse.end(false);
     return 0;
