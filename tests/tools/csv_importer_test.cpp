@@ -290,6 +290,12 @@ TEST_F(ImportTest, RefusesAFaultyCodebook) {
 }
 
 TEST_F(ImportTest, TakesCodesOfAFieldThatIsDescribedAlready) {
+    const std::string head = "level,field,type,code,label,is_missing\ntown,s,text(3),,,\n";
+    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code,1,A,\n"),
+              "codebook.csv:3:8: error: \"code\" is not the type that S got before");
+    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code text(2),01,A,\n"),
+              "codebook.csv:3:8: error: \"code text(2)\" is not the type that S got before");
+
     std::string book = codebook;
     const auto replace = [&](const std::string& row, const std::string& by) {
         const auto at = book.find(row);
@@ -312,12 +318,6 @@ TEST_F(ImportTest, TakesCodesOfAFieldThatIsDescribedAlready) {
     EXPECT_EQ(share.notapp, -1);
     EXPECT_EQ(dictionary->findEntity("PERSON")->findVariable("SEX")->valueLabels,
               (Labels{{"1", "Male"}, {"2", "Female"}}));
-
-    const std::string head = "level,field,type,code,label,is_missing\ntown,s,text(3),,,\n";
-    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code,1,A,\n"),
-              "codebook.csv:3:8: error: \"code\" is not the type that S got before");
-    EXPECT_EQ(faultWith("codebook.csv", head + "town,s,code text(2),01,A,\n"),
-              "codebook.csv:3:8: error: \"code text(2)\" is not the type that S got before");
 }
 
 TEST_F(ImportTest, KeepsWhatIsThere) {
