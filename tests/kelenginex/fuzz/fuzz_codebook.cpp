@@ -5,20 +5,10 @@
 #include "import/codebook.h"
 #include "import/values.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 using namespace kelx::testing;
 namespace tools = kelx::tools;
 
 namespace {
-
-void promise(bool kept, const char* what) {
-    if (kept)
-        return;
-    std::fprintf(stderr, "the codebook reader broke its promise: %s\n", what);
-    std::abort();
-}
 
 void check(const tools::LevelPlan& level) {
     int keys = 0;

@@ -4,8 +4,6 @@
 
 #include "import/csv_reader.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <string_view>
 
@@ -13,13 +11,6 @@ using namespace kelx::testing;
 namespace tools = kelx::tools;
 
 namespace {
-
-void promise(bool kept, const char* what) {
-    if (kept)
-        return;
-    std::fprintf(stderr, "the CSV reader broke its promise: %s\n", what);
-    std::abort();
-}
 
 bool isBefore(const tools::Place& a, const tools::Place& b) {
     return a.line < b.line || (a.line == b.line && a.column < b.column);

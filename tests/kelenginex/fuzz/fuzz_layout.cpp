@@ -6,20 +6,10 @@
 #include "import/dicx_layout.h"
 #include "storage/error.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 using namespace kelx::testing;
 namespace tools = kelx::tools;
 
 namespace {
-
-void promise(bool kept, const char* what) {
-    if (kept)
-        return;
-    std::fprintf(stderr, "the reader of layouts broke its promise: %s\n", what);
-    std::abort();
-}
 
 void check(const tools::DicxLayout& layout) {
     const std::size_t fields = layout.text.fields.size();

@@ -8,21 +8,12 @@
 #include "storage/utf8.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 
 using namespace kelx::testing;
 namespace tools = kelx::tools;
 
 namespace {
-
-void promise(bool kept, const char* what) {
-    if (kept)
-        return;
-    std::fprintf(stderr, "the reader of frames broke its promise: %s\n", what);
-    std::abort();
-}
 
 class Bytes : public tools::FrameBytes {
 public:

@@ -5,6 +5,8 @@
 #include "consume.h"
 #include "support/temporary_folder.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -29,6 +31,14 @@ inline const InputFile& inputFile() {
 
 inline std::string inputBytes(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
+}
+
+/// What a reader says of any input, be it what it will.
+inline void promise(bool kept, const char* what) {
+    if (kept)
+        return;
+    std::fprintf(stderr, "a reader broke its promise: %s\n", what);
+    std::abort();
 }
 
 } // namespace kelx::testing

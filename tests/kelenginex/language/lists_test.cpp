@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Area lists and views: variables and tables as columns.
 #include "fixture.h"
-#include "language/text.h"
 
 #include <gtest/gtest.h>
 
@@ -15,14 +14,7 @@ struct GoodList {
 class Lists : public ::testing::TestWithParam<GoodList> {};
 
 TEST_P(Lists, BindAsWritten) {
-    Census census;
-    census.options.autoWeight = false;
-    for (const std::string& text :
-         {std::string(GetParam().program), simplified(GetParam().program)}) {
-        const BoundProgram program = census.compile(text);
-        EXPECT_EQ(told(census.messages), "") << text;
-        EXPECT_EQ(summary(program), GetParam().tables) << text;
-    }
+    expectTables(GetParam().program, GetParam().tables);
 }
 
 INSTANTIATE_TEST_SUITE_P(

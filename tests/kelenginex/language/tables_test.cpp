@@ -2,7 +2,6 @@
 // Measures, TABOP and TABLIST, as written and with their blanks simplified, as assistants read
 // them.
 #include "fixture.h"
-#include "language/text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,14 +17,7 @@ struct Good {
 class GoodTables : public ::testing::TestWithParam<Good> {};
 
 TEST_P(GoodTables, BindAsWritten) {
-    Census census;
-    census.options.autoWeight = false;
-    for (const std::string& text :
-         {std::string(GetParam().program), simplified(GetParam().program)}) {
-        const BoundProgram program = census.compile(text);
-        EXPECT_EQ(told(census.messages), "") << text;
-        EXPECT_EQ(summary(program), GetParam().tables) << text;
-    }
+    expectTables(GetParam().program, GetParam().tables);
 }
 
 INSTANTIATE_TEST_SUITE_P(
