@@ -91,6 +91,8 @@ std::string TargetFiles::keptProblemOf(const fs::path& file, const fs::path& rea
         return "it belongs to the database, as a file of " + owned.front();
     if (read_.contains(real))
         return "the run reads it";
+    if (real.filename().string().starts_with(".kelx-"))
+        return "names that begin with .kelx- are those of files under way";
     if (isKept(file) || isKept(real))
         return "a name that ends in " + endingOf(isKept(file) ? file : real) +
                " is that of data or of a program";

@@ -23,6 +23,15 @@ catalog::Variable& placeFor(const std::string& name, catalog::Entity& entity) {
                : *entity.addVariable(std::make_unique<catalog::Variable>());
 }
 
+/// Whether the records of both are those of the same files. A copy of the file counts as another.
+bool isSameHierarchy(const catalog::Entity* a, const catalog::Entity* b) {
+    for (; a != nullptr && b != nullptr && a->parent != nullptr; a = a->parent, b = b->parent) {
+        if (b->parent == nullptr || a->pointers()->identity() != b->pointers()->identity())
+            return false;
+    }
+    return true;
+}
+
 /// Of the dictionary that is joined, which need not be the program's own.
 catalog::Entity& entityFor(const catalog::Variable& made, const catalog::Dictionary& dictionary) {
     catalog::Entity* entity = dictionary.findEntity(made.entity->name);
@@ -35,6 +44,9 @@ catalog::Entity& entityFor(const catalog::Variable& made, const catalog::Diction
                                      " records of " + entity->name + ", and not the " +
                                      std::to_string(made.entity->records()) +
                                      " that the program was run on; run it again");
+    if (!isSameHierarchy(entity, made.entity))
+        throw storage::FileError(dictionary.file,
+                                 "was replaced while the program ran; run it again");
     return *entity;
 }
 

@@ -7,11 +7,14 @@
 #include "storage/posix_io.h"
 
 #include <cerrno>
+#include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kelx::storage {
@@ -59,8 +62,28 @@ std::string_view takeFileName(std::string_view& text, const fs::path& journal) {
     return name;
 }
 
+std::uint64_t takeNumber(std::string_view& text, const fs::path& journal) {
+    const std::string_view digits = takeName(text, journal);
+    std::uint64_t number = 0;
+    const auto [stop, fault] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (fault != std::errc() || stop != digits.data() + digits.size())
+        failDamaged(journal);
+    return number;
+}
+
+/// A move, and the number by which the system knows the file under either name.
+struct JournalMove : StagedMove {
+    std::uint64_t number;
+};
+
+std::uint64_t numberOf(const fs::path& file) {
+    struct stat status {};
+    return ::lstat(file.c_str(), &status) == 0 && S_ISREG(status.st_mode) ? status.st_ino : 0;
+}
+
 /// Nothing moves but a temporary file of ours, to another name in its own folder.
-std::vector<StagedMove> readJournal(const fs::path& folder) {
+std::vector<JournalMove> readJournal(const fs::path& folder) {
     const fs::path journal = journalIn(folder);
     const std::string content = contentOf(journal);
     std::string_view text = content;
@@ -68,28 +91,39 @@ std::vector<StagedMove> readJournal(const fs::path& folder) {
         failDamaged(journal);
     text.remove_prefix(head.size());
     text.remove_suffix(tail.size());
-    std::vector<StagedMove> moves;
+    std::vector<JournalMove> moves;
     while (!text.empty()) {
-        const fs::path place = folder / takeName(text, journal);
+        const fs::path part = takeName(text, journal);
         const std::string_view staged = takeFileName(text, journal);
         const std::string_view file = takeFileName(text, journal);
-        if (!isTemporaryName(staged))
+        if (!isTemporaryName(staged) || part.is_absolute())
             failDamaged(journal);
-        moves.push_back({place / staged, place / file});
+        const fs::path place = folder / part;
+        moves.push_back({{place / staged, place / file}, takeNumber(text, journal)});
     }
     return moves;
 }
 
-void finish(const StagedMove& move) {
-    std::error_code ignored;
-    const auto status = fs::symlink_status(move.staged, ignored);
-    if (!fs::is_regular_file(status))
-        return; // it has its name by now
+constexpr const char* stopped = "a program was stopped while it changed the database, which ";
+
+bool isMoved(const JournalMove& move) {
+    return numberOf(move.staged) == 0;
+}
+
+/// A file that has gone may only have gone to its name.
+void requirePossible(const JournalMove& move) {
+    if (isMoved(move) && numberOf(move.file) != move.number)
+        throw FileError(move.file, std::string(stopped) +
+                                       "cannot be finished since a file of it is gone; take the "
+                                       "database from a copy");
+}
+
+void finish(const JournalMove& move) {
+    if (isMoved(move))
+        return;
     requireReplaceable(move.file);
     if (::rename(move.staged.c_str(), move.file.c_str()) != 0)
-        failWithErrno(move.file,
-                      "a program was stopped while it changed the database, which cannot "
-                      "be finished");
+        failWithErrno(move.file, std::string(stopped) + "cannot be finished");
     syncFolderOf(move.file);
 }
 
@@ -101,9 +135,10 @@ void writeJournal(const fs::path& folder, const std::vector<StagedMove>& moves) 
     const fs::path base = realFile(folder / ".kelx-journal").parent_path();
     for (const StagedMove& move : moves) {
         const fs::path place = realFile(move.file).parent_path();
-        for (const fs::path& part :
-             {place.lexically_relative(base), move.staged.filename(), move.file.filename()}) {
-            out.write(part.string());
+        for (const std::string& part :
+             {place.lexically_relative(base).string(), move.staged.filename().string(),
+              move.file.filename().string(), std::to_string(numberOf(move.staged))}) {
+            out.write(part);
             out.write(std::string_view("\0", 1));
         }
     }
@@ -123,7 +158,10 @@ bool hasJournal(const fs::path& folder) {
 void finishChange(const fs::path& folder) {
     if (!hasJournal(folder))
         return;
-    for (const StagedMove& move : readJournal(folder))
+    const std::vector<JournalMove> moves = readJournal(folder);
+    for (const JournalMove& move : moves)
+        requirePossible(move);
+    for (const JournalMove& move : moves)
         finish(move);
     removeJournal(folder);
 }

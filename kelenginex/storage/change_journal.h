@@ -18,7 +18,8 @@ void removeJournal(const std::filesystem::path& folder);
 bool hasJournal(const std::filesystem::path& folder);
 
 /// Does what is left of a change whose process has ended, where there is one. The caller has locked
-/// the folder. Throws FileError where that cannot be done, and then all stays as it is.
+/// the folder. Throws FileError where that cannot be done. Where a staged file is gone and is not
+/// what stands under its name, nothing is moved; else the journal stays, to be tried again.
 void finishChange(const std::filesystem::path& folder);
 
 } // namespace kelx::storage

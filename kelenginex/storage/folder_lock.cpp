@@ -2,6 +2,7 @@
 #include "storage/folder_lock.h"
 
 #include "storage/change_journal.h"
+#include "storage/error.h"
 #include "storage/leftovers.h"
 #include "storage/posix_io.h"
 
@@ -27,14 +28,22 @@ int openFolder(const std::filesystem::path& folder) {
     return descriptor;
 }
 
+constexpr std::chrono::milliseconds pauseOfWaits{10};
+
+[[noreturn]] void throwBusy(const std::filesystem::path& folder) {
+    throw FileError(folder, "is being changed by another program; try again when that has ended");
+}
+
 } // namespace
 
 FolderLock::FolderLock(const std::filesystem::path& file, const Pulse& pulse) {
     const std::filesystem::path folder = folderOf(file);
     descriptor_ = openFolder(folder);
     try {
-        wait(pulse);
-        finishChange(folder);
+        if (wait(folder, pulse))
+            finishChange(folder);
+        else if (hasJournal(folder))
+            throwBusy(folder);
         removeLeftovers(folder);
     } catch (...) {
         ::close(descriptor_);
@@ -46,21 +55,29 @@ FolderLock::~FolderLock() {
     ::close(descriptor_);
 }
 
-void FolderLock::wait(const Pulse& pulse) const {
-    while (::flock(descriptor_, LOCK_EX | LOCK_NB) != 0 &&
-           (errno == EWOULDBLOCK || errno == EINTR)) {
+/// False where the file system knows no locks.
+bool FolderLock::wait(const std::filesystem::path& folder, const Pulse& pulse) const {
+    constexpr int mostWaits = 1000;
+    for (int i = 0; ::flock(descriptor_, LOCK_EX | LOCK_NB) != 0; ++i) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return false;
         if (pulse)
             pulse();
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        else if (i >= mostWaits)
+            throwBusy(folder);
+        std::this_thread::sleep_for(pauseOfWaits);
     }
+    return true;
 }
 
 void awaitWholeFolderOf(const std::filesystem::path& file) {
     constexpr int mostWaits = 500;
     const std::filesystem::path folder = folderOf(file);
-    for (int i = 0; hasJournal(folder) && i < mostWaits; ++i) {
+    for (int i = 0; hasJournal(folder); ++i) {
+        if (i >= mostWaits)
+            throwBusy(folder);
         const int descriptor = openFolder(folder);
-        const bool isBusy = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        const bool isBusy = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0;
         try {
             if (!isBusy)
                 finishChange(folder);
@@ -70,7 +87,7 @@ void awaitWholeFolderOf(const std::filesystem::path& file) {
         }
         ::close(descriptor);
         if (isBusy)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            std::this_thread::sleep_for(pauseOfWaits);
     }
 }
 

@@ -28,6 +28,7 @@ MappedFile::MappedFile(const std::filesystem::path& file) : file_(file) {
         throw FileError(file, "is not a regular file");
     }
     size_ = static_cast<std::size_t>(status.st_size);
+    identity_ = {status.st_dev, status.st_ino, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
     if (size_ > 0) {
         void* data = ::mmap(nullptr, size_, PROT_READ, MAP_SHARED, descriptor, 0);
         const int problem = errno;

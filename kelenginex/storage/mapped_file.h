@@ -13,6 +13,13 @@
 
 namespace kelx::storage {
 
+/// What tells a file from another one that has its name later.
+struct FileIdentity {
+    std::uint64_t device = 0, number = 0;
+    std::int64_t changedSeconds = 0, changedNanoseconds = 0;
+    bool operator==(const FileIdentity&) const = default;
+};
+
 /// A whole regular file mapped for reading. Throws FileError.
 class MappedFile {
 public:
@@ -26,11 +33,13 @@ public:
     std::span<const std::byte> part(std::uint64_t offset, std::uint64_t length,
                                     const char* what) const;
     const std::filesystem::path& file() const { return file_; }
+    const FileIdentity& identity() const { return identity_; }
 
 private:
     std::filesystem::path file_;
     const std::byte* data_ = nullptr;
     std::size_t size_ = 0;
+    FileIdentity identity_;
 };
 
 /// The first 24 bytes of every binary file of ours. The last 8 of its header hold its hash.

@@ -59,6 +59,7 @@ public:
             narrow_ = reinterpret_cast<const std::uint32_t*>(offsets.data());
         checkOrder();
     }
+    std::optional<FileIdentity> identity() const override { return map_.identity(); }
 
 private:
     void checkHeader() const {

@@ -2,9 +2,12 @@
 // Which records of an entity belong to which record of the entity above.
 #pragma once
 
+#include "storage/mapped_file.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace kelx::storage {
 
@@ -28,8 +31,10 @@ public:
     std::uint64_t first(std::uint64_t parent) const {
         return wide_ != nullptr ? wide_[parent] : narrow_[parent];
     }
-    /// The parent of a child record, by binary search.
+    /// The parent of a child record.
     std::uint64_t parentOf(std::uint64_t child) const;
+    /// Of the file; none for single().
+    virtual std::optional<FileIdentity> identity() const { return std::nullopt; }
 
 protected:
     std::uint64_t parents_ = 0;

@@ -338,26 +338,31 @@ TEST_F(KelxTest, RunsAtOnceLoseNoVariableOfEachOther) {
 
 TEST_F(KelxTest, AVariableOfADatabaseThatWasReplacedIsNotSaved) {
     namespace fs = std::filesystem;
-    ASSERT_EQ(kelx("sample @/first --persons 3000").status, 0);
-    ASSERT_EQ(kelx("sample @/second --persons 1000").status, 0);
-    pid_t run = 0;
-    {
-        const kelx::storage::FolderLock lock(path("first/sample.kxdb"), {});
-        run = start(
-            {"run", path("first/sample.kxdb"), "-e", "DEFINE PERSON.X AS PERSON.AGE SAVE \"x\""},
-            path("err"));
-        while (!hasStaging(path("first")) && ::waitpid(run, nullptr, WNOHANG) == 0)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        for (const auto& entry : fs::directory_iterator(path("second")))
-            if (entry.is_regular_file())
-                fs::rename(entry.path(), fs::path(path("first")) / entry.path().filename());
+    for (const auto& [other, problem] :
+         {std::pair<std::string, std::string>("1000", " records of PERSON, and not the "),
+          {"3000 --seed 2", "was replaced while the program ran"}}) {
+        SCOPED_TRACE(other);
+        ASSERT_EQ(kelx("sample @/first --persons 3000 --overwrite").status, 0);
+        ASSERT_EQ(kelx("sample @/second --overwrite --persons " + other).status, 0);
+        pid_t run = 0;
+        {
+            const kelx::storage::FolderLock lock(path("first/sample.kxdb"), {});
+            run = start({"run", path("first/sample.kxdb"), "-e",
+                         "DEFINE PERSON.X AS PERSON.AGE SAVE \"x\""},
+                        path("err"));
+            while (!hasStaging(path("first")) && ::waitpid(run, nullptr, WNOHANG) == 0)
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            for (const auto& entry : fs::directory_iterator(path("second")))
+                if (entry.is_regular_file())
+                    fs::rename(entry.path(), fs::path(path("first")) / entry.path().filename());
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(run, &status, 0), run);
+        EXPECT_EQ(WEXITSTATUS(status), 1);
+        EXPECT_THAT(folder->read("err"), HasSubstr(problem));
+        EXPECT_FALSE(fs::exists(path("first/x.kbf")));
+        EXPECT_FALSE(hasStaging(path("first")));
     }
-    int status = 0;
-    ASSERT_EQ(::waitpid(run, &status, 0), run);
-    EXPECT_EQ(WEXITSTATUS(status), 1);
-    EXPECT_THAT(folder->read("err"), HasSubstr(" records of PERSON, and not the "));
-    EXPECT_FALSE(fs::exists(path("first/x.kbf")));
-    EXPECT_FALSE(hasStaging(path("first")));
 }
 
 TEST_F(KelxTest, ARunThatCannotWriteItsTablesChangesNothing) {

@@ -208,6 +208,22 @@ TEST_F(KilledChange, IsNotFinishedWhereAFolderIsInTheWay) {
     expectNew();
 }
 
+TEST_F(KilledChange, IsNotTakenForDoneWhereItsFilesAreGone) {
+    std::filesystem::create_directory(path("sub"));
+    changeKilledAfter(1);
+    removeLeftovers(path("sub")); // by who knows nothing of the journal beside
+    EXPECT_THAT(faultOf([&] { awaitWholeFolderOf(path("a")); }), HasSubstr("is gone"));
+    EXPECT_EQ(read(path("b")), "old");
+}
+
+TEST_F(KilledChange, IsLeftToAProcessThatHoldsTheFolder) {
+    std::filesystem::create_directory(path("sub"));
+    const FolderLock lock(path("a"), {});
+    changeKilledAfter(1);
+    EXPECT_THAT(faultOf([&] { awaitWholeFolderOf(path("a")); }), HasSubstr("is being changed"));
+    EXPECT_EQ(read(path("b")), "old");
+}
+
 TEST_F(StagedFilesTest, AJournalMovesTemporaryFilesInTheirFolderAlone) {
     using namespace std::string_literals;
     std::filesystem::create_directory(path("sub"));
@@ -216,15 +232,19 @@ TEST_F(StagedFilesTest, AJournalMovesTemporaryFilesInTheirFolderAlone) {
     write(path("file"), "theirs");
     write(path(".kelx-1-x.tmp"), "theirs");
     for (const std::string& bad :
-         {"kelx journal 1\n"s + ".\0file\0victim\0"s + "end\n",
-          "kelx journal 1\n"s + "sub\0../.kelx-1-x.tmp\0victim\0"s + "end\n",
-          "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0../victim\0"s + "end\n",
-          "kelx journal 1\n"s + ".\0.kelx-1-x.tmp\0victim"s + "end\n", ""s, "kelx journal 1\n"s}) {
+         {"kelx journal 1\n"s + ".\0file\0victim\0001\0"s + "end\n",
+          "kelx journal 1\n"s + "sub\0../.kelx-1-x.tmp\0victim\0001\0"s + "end\n",
+          "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0../victim\0001\0"s + "end\n",
+          "kelx journal 1\n"s + ".\0.kelx-1-x.tmp\0victim\0001"s + "end\n",
+          "kelx journal 1\n"s + ".\0.kelx-1-x.tmp\0victim\0x1\0"s + "end\n",
+          "kelx journal 1\n"s + folder.string() + "\0.kelx-1-x.tmp\0victim\0001\0"s + "end\n", ""s,
+          "kelx journal 1\n"s}) {
         write(path(".kelx-journal"), bad);
         EXPECT_THAT(faultOf([&] { finishChange(folder); }), HasSubstr("damaged")) << bad;
     }
-    write(path(".kelx-journal"), "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0victim\0"s + "end\n");
-    finishChange(folder); // no such file there
+    write(path(".kelx-journal"),
+          "kelx journal 1\n"s + "sub\0.kelx-1-x.tmp\0victim\0001\0"s + "end\n");
+    EXPECT_THAT(faultOf([&] { finishChange(folder); }), HasSubstr("is gone")); // no such file there
     EXPECT_EQ(read(path("victim")), "old");
     EXPECT_FALSE(std::filesystem::exists(path("sub") / "victim"));
 }
