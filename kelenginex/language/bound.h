@@ -139,6 +139,7 @@ struct Definition {
     std::vector<ExpressionPtr> filters; ///< of a `value`: where one fails, `otherwise` stands
     std::optional<Constant> otherwise;  ///< DEFAULT, also where nothing is chosen; none: MV
     std::optional<SaveClause> save;
+    std::shared_ptr<const RunSettings> settings; ///< in force where it stands
     Position position;
     std::string text;  ///< the command as written
     bool used = false; ///< by a table, by a variable that is used, or because it is saved

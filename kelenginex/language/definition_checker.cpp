@@ -52,6 +52,7 @@ void DefinitionChecker::check(const ast::Definition& ast, const CheckedSettings&
         return expectNames(ast.name.entity, ast);
     Definition definition;
     definition.position = ast.position;
+    definition.settings = run.settings;
     definition.text =
         trimmed(context_.program().substr(ast.span.begin, ast.span.end - ast.span.begin));
     context_.setDefining(owner->name, ast.name.name);

@@ -128,6 +128,12 @@ NodePtr balanced(std::vector<NodePtr>& operands, std::size_t begin, std::size_t 
     return node;
 }
 
+/// Elsewhere the word for IN with an interval.
+bool isBetween(const Token& token) {
+    return token.kind == TokenKind::Word && token.is(Keyword::None) &&
+           lowerCase(token.text) == "between";
+}
+
 } // namespace
 
 NodePtr ExpressionParser::tooDeep(Position position) {
@@ -211,9 +217,14 @@ NodePtr ExpressionParser::parseComparison() {
     NodePtr left = parseSum();
     while (left != nullptr) {
         const Token& word = cursor_.peek();
-        const bool isNot = word.is(Keyword::Not) && cursor_.peek(1).is(Keyword::In);
+        const bool isNot = word.is(Keyword::Not) &&
+                           (cursor_.peek(1).is(Keyword::In) || isBetween(cursor_.peek(1)));
         if (isNot)
             cursor_.take();
+        if (isBetween(cursor_.peek())) { // what stands before it is no expression of its own
+            cursor_.unexpected("an operator, such as = or IN");
+            return nullptr;
+        }
         if (cursor_.takeKeyword(Keyword::In)) {
             left = parseIn(std::move(left));
             if (isNot && left != nullptr)

@@ -167,6 +167,12 @@ std::optional<std::string> universalFilterOf(const language::RunSettings* run) {
     return run->filterLabel ? run->filterLabel : textOf(run->filter.get());
 }
 
+std::string_view areaOf(const language::RunSettings& run) {
+    if (run.selection && !run.selection->label.empty())
+        return run.selection->label;
+    return "All Database";
+}
+
 } // namespace
 
 std::string headingOf(const catalog::Entity& entity) {
@@ -202,8 +208,8 @@ void addNames(const TableVariable& variable, std::size_t column, SortGuide& guid
 
 Circumstances::Circumstances(const TableCommand& command)
     : unit(command.unit != nullptr ? command.unit : command.countEntity),
-      run(command.settings.get()), filter(command.filter.get()), weight(command.weight.get()),
-      tally(command.tally.get()) {}
+      area(areaOf(*command.settings)), run(command.settings.get()), filter(command.filter.get()),
+      weight(command.weight.get()), tally(command.tally.get()) {}
 
 void Circumstances::keepCommon(const Circumstances& others) {
     const auto keep = [](const language::Expression*& own, const language::Expression* other) {
@@ -212,6 +218,8 @@ void Circumstances::keepCommon(const Circumstances& others) {
     };
     if (unit != others.unit)
         unit = nullptr;
+    if (area != others.area)
+        area = "Several areas";
     if (universalFilterOf(run) != universalFilterOf(others.run))
         run = nullptr;
     keep(filter, others.filter);
@@ -221,6 +229,7 @@ void Circumstances::keepCommon(const Circumstances& others) {
 
 void Circumstances::tellIn(Table& table) const {
     table.unit = unit != nullptr ? unit->name : "";
+    table.area = area;
     table.filter = textOf(filter);
     table.weight = textOf(weight);
     table.tally = textOf(tally);
@@ -237,8 +246,6 @@ Table described(const TableCommand& command, const catalog::Dictionary& dictiona
     table.entity = command.countEntity;
     table.database =
         dictionary.label.empty() ? dictionary.file.filename().string() : dictionary.label;
-    const bool selected = settings.selection && !settings.selection->label.empty();
-    table.area = selected ? settings.selection->label : "All Database";
     table.title = command.title ? command.title : settings.title;
     table.decimals = command.decimals ? command.decimals : settings.decimals;
     Circumstances(command).tellIn(table);

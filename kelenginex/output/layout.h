@@ -6,18 +6,21 @@
 #include "output/sorting.h"
 #include "output/table.h"
 
+#include <string_view>
+
 namespace kelx::output {
 
 /// What is told of the records behind a table; a null is not told.
 struct Circumstances {
     const catalog::Entity* unit = nullptr;
+    std::string_view area;
     const language::RunSettings* run = nullptr; ///< its universal filter counts
     const language::Expression* filter = nullptr;
     const language::Expression* weight = nullptr;
     const language::Expression* tally = nullptr;
 
     explicit Circumstances(const language::TableCommand& command);
-    /// Leaves out what the others have otherwise.
+    /// Leaves out what the others have otherwise. Areas are told in any case.
     void keepCommon(const Circumstances& others);
     void tellIn(Table& table) const;
 };

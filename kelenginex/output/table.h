@@ -83,7 +83,7 @@ struct Table : Form {
     int dimension = 0;
     std::string unit;     ///< entity whose records are counted; empty where there is no one such
     std::string database; ///< label of the database, else its file name
-    std::string area;     ///< selection label, else "All Database"
+    std::string area;     ///< selection label, else "All Database", or "Several areas"
     std::optional<std::string> title, filter, weight, tally, universalFilter;
     std::optional<int> decimals;
     /// As it was done: the field that was sorted by where the program names none or one by number.

@@ -76,6 +76,27 @@ private:
     Plan plan_;
 };
 
+/// What the run asks of gathered records stands among the filters too.
+std::string nameOf(const ExpressionPtr& filter, const RunSettings* settings) {
+    if (settings != nullptr && filter == settings->filter)
+        return "universal filter";
+    const bool selects =
+        settings != nullptr && settings->selection && filter == settings->selection->expression;
+    return selects ? "selection" : "filter";
+}
+
+void checkFilters(const language::Definition& definition, Selections& selections) {
+    const auto check = [&](const std::vector<ExpressionPtr>& filters) {
+        for (const ExpressionPtr& filter : filters)
+            selections.checkFilter(filter, nameOf(filter, definition.settings.get()));
+    };
+    check(definition.filters);
+    for (const auto* aggregate : {&definition.numerator, &definition.denominator}) {
+        if (*aggregate)
+            check((*aggregate)->filters);
+    }
+}
+
 } // namespace
 
 Plan makePlan(const language::BoundProgram& program, Selections& selections) {
@@ -83,6 +104,10 @@ Plan makePlan(const language::BoundProgram& program, Selections& selections) {
     for (std::size_t i = 0; i < program.tables.size(); ++i) {
         if (program.tables[i].isNeeded && program.tables[i].unit != nullptr)
             planner.add(i, program.tables[i]);
+    }
+    for (const language::Definition& definition : program.definitions) {
+        if (definition.used)
+            checkFilters(definition, selections);
     }
     return planner.take();
 }

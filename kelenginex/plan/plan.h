@@ -32,7 +32,8 @@ struct Plan {
     std::vector<Pass> passes;
 };
 
-/// Throws storage::FileError where codes or pointers cannot be read.
+/// Warns of areas that there are not and that filters name, those of the variables made too. Throws
+/// storage::FileError where codes or pointers cannot be read.
 Plan makePlan(const language::BoundProgram& program, Selections& selections);
 
 } // namespace kelx::plan

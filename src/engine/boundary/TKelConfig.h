@@ -26,7 +26,7 @@ public:
     virtual bool stopAtWarnings() = 0;      ///< warnings end a compilation
     virtual std::string pluginFolder() = 0; ///< folder of extensions; not used, there are none
     virtual bool autoWeight() = 0;          ///< weight variables apply by themselves
-    virtual int defaultQuantiles() = 0;     ///< groups where a program names no number
+    virtual int defaultQuantiles() = 0;     ///< not used: the language says that there are 4
     virtual bool showProgress() = 0;        ///< call the timer callback
     virtual std::string workFolder() = 0;   ///< not used: files are made where they are to stand
     virtual int memoryLimit() = 0;          ///< not used: kept variables take what they need

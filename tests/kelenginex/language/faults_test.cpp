@@ -22,14 +22,16 @@ const std::vector<Fault> faults = {
      "KEL_E_WRONG_SIGN 1:38 \"||\" is written OR in a program.\n"
      "KEL_E_UNKNOWN_CHARACTER 1:49 The character \";\" has no meaning in a program. Commands need "
      "no sign between them.\n"},
-    {"MEAN AGE\nFREQ SEX2 WHERE AGE > 3\nFREQ SEX2 FILTER AGE Between 3 AND 5",
+    {"MEAN AGE\nFREQ SEX2 WHERE AGE > 3\nFREQ SEX2 FILTER AGE Between 3 AND 5\n"
+     "DEFINE PERSON.OLD AS AGE NOT BETWEEN 3 AND 5\nFREQ OLD",
      "KEL_E_UNEXPECTED 1:1 Found \"MEAN\", but expected a command, such as RUNDEF, TABLE or FREQ. "
      "Did you mean AVERAGE?\n"
      "KEL_E_UNEXPECTED 2:11 Found \"WHERE\", but expected a clause of the table, such as BY or "
      "TITLE, or a new command. Did you mean FILTER?\n"
-     "KEL_E_NOT_A_CONDITION 3:18 FILTER takes a condition, but this is a number.\n"
-     "KEL_E_UNEXPECTED 3:22 Found \"Between\", but expected a clause of the table, such as BY or "
-     "TITLE, or a new command. Did you mean IN (low : high)?\n"},
+     "KEL_E_UNEXPECTED 3:22 Found \"Between\", but expected an operator, such as = or IN. Did you "
+     "mean IN (low : high)?\n"
+     "KEL_E_UNEXPECTED 4:30 Found \"BETWEEN\", but expected an operator, such as = or IN. Did you "
+     "mean IN (low : high)?\n"},
     {"FREQ AGE TABLE FREQ", "KEL_E_UNEXPECTED 1:16 Found the reserved word FREQ, but expected the "
                             "name of the table.\n"},
     {"RUNDEF title\nTITLE \"T\" TITLE \"U\"",
