@@ -78,7 +78,9 @@ private:
         const double value = asReal(constant);
         const bool up = operation == Operation::Greater || operation == Operation::GreaterEqual;
         const bool down = operation == Operation::Less || operation == Operation::LessEqual;
-        bounds_.push_back({down ? -infinity : value, up ? infinity : value});
+        const double low = down ? -infinity : value;
+        const double high = up ? infinity : value;
+        bounds_.push_back({low, high});
     }
 
     bool take(const Expression& operand) {

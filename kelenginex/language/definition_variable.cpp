@@ -72,7 +72,7 @@ std::optional<catalog::Range> rangeOf(const Interval& interval) {
 std::size_t sizeOf(const Variable& variable) {
     std::size_t bytes = variable.label.size() + variable.ranges.size() * sizeof(catalog::Range);
     for (const auto& [code, label] : variable.valueLabels)
-        bytes += sizeof(code) + sizeof(label) + code.size() + label.size();
+        bytes += 2 * sizeof(std::string) + code.size() + label.size();
     return bytes;
 }
 

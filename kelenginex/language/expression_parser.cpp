@@ -445,7 +445,7 @@ NodePtr ExpressionParser::parseNumber(const Token* minus) {
 std::optional<Constant> ExpressionParser::readNumber(const Token& number, bool minus) {
     const std::string text = (minus ? "-" : "") + std::string(number.text);
     if (text.find_first_of(".eE") != std::string::npos) {
-        const std::optional<Constant> real = realOf(text);
+        std::optional<Constant> real = realOf(text);
         if (!real)
             cursor_.report(Error::RealTooLarge, number.position, {inQuotes(text)});
         return real;

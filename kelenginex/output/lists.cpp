@@ -49,7 +49,7 @@ struct Conditions {
 
 std::string rawHeading(const Group& group) {
     const catalog::Variable* variable = group.variable.variable;
-    const std::string label = variable != nullptr ? variable->label : group.variable.label;
+    std::string label = variable != nullptr ? variable->label : group.variable.label;
     if (group.table.empty())
         return label;
     return (group.variable.label.empty() ? group.table : group.table + " " + group.variable.label) +
