@@ -53,7 +53,7 @@ protected:
 
     SmallCountry country_;
     std::vector<std::shared_ptr<ListResult>> results_;
-    const ListValue none_;
+    const ListValue none_{};
 };
 
 TEST_F(Lists, haveCodesLabelsAndColumns) {

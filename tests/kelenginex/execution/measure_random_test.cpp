@@ -17,7 +17,6 @@ using language::TableKind;
 /// Six districts of persons, with values of all kinds by a fixed generator.
 class DistrictCountry : public TestDatabase {
 public:
-    static constexpr std::size_t households = 420000;
     static constexpr double infinity = std::numeric_limits<double>::infinity();
 
     DistrictCountry() {
