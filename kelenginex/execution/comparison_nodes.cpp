@@ -78,9 +78,11 @@ private:
         const double value = asReal(constant);
         const bool up = operation == Operation::Greater || operation == Operation::GreaterEqual;
         const bool down = operation == Operation::Less || operation == Operation::LessEqual;
-        const double low = down ? -infinity : value;
-        const double high = up ? infinity : value;
-        bounds_.push_back({low, high});
+        bounds_.push_back({value, value});
+        if (down)
+            bounds_.back().low = -infinity;
+        if (up)
+            bounds_.back().high = infinity;
     }
 
     bool take(const Expression& operand) {

@@ -91,7 +91,7 @@ MeasureRows measure(catalog::Dictionary& dictionary, const MeasureQuestion& ques
                     const std::vector<std::size_t>& blocks) {
     execution::RunOptions options;
     options.threads = 1;
-    const MeasureRows first = measureWith(dictionary, question, options);
+    MeasureRows first = measureWith(dictionary, question, options);
     const unsigned threads[] = {2, 3};
     for (std::size_t i = 0; i < std::max(blocks.size(), std::size(threads)); ++i) {
         options.threads = threads[i % std::size(threads)];
