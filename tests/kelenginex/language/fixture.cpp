@@ -4,9 +4,6 @@
 #include "catalog/names.h"
 #include "catalog/type_names.h"
 #include "language/message_table.h"
-#include "language/text.h"
-
-#include <gtest/gtest.h>
 
 namespace kelx::language {
 
@@ -294,16 +291,6 @@ std::string summary(const BoundProgram& program) {
         result += "\n";
     }
     return result;
-}
-
-void expectTables(const std::string& program, const std::string& tables) {
-    Census census;
-    census.options.autoWeight = false;
-    for (const std::string& text : {program, simplified(program)}) {
-        const BoundProgram bound = census.compile(text);
-        EXPECT_EQ(told(census.messages), "") << text;
-        EXPECT_EQ(summary(bound), tables) << text;
-    }
 }
 
 } // namespace kelx::language

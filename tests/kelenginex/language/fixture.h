@@ -48,7 +48,5 @@ std::string shape(const Definition& definition);
 std::string definitions(const BoundProgram& program); ///< one line for each
 /// "FREQ_1 PERSON: PERSON.SEX BY PERSON.AGE weight HOUSEHOLD.WEIGHT", one line a table.
 std::string summary(const BoundProgram& program);
-/// That a program gives these tables, as it stands and simplified, and there is nothing to tell.
-void expectTables(const std::string& program, const std::string& tables);
 
 } // namespace kelx::language

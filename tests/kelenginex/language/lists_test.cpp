@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Area lists and views: variables and tables as columns.
+#include "expect_tables.h"
 #include "fixture.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Measures, TABOP and TABLIST, as written and with their blanks simplified, as assistants read
 // them.
+#include "expect_tables.h"
 #include "fixture.h"
 
 #include <gmock/gmock.h>
