@@ -194,6 +194,24 @@ void TKelEntity::setMetadata(const std::string& metadata) {
     d->touch();
 }
 
+int TKelEntity::tag() const {
+    return d->entity->tag;
+}
+
+void TKelEntity::setTag(int tag) {
+    d->entity->tag = tag;
+    d->touch();
+}
+
+std::optional<int> TKelEntity::sensitive() const {
+    return d->entity->sensitive;
+}
+
+void TKelEntity::setSensitive(const std::optional<int>& cases) {
+    d->entity->sensitive = cases;
+    d->touch();
+}
+
 std::string TKelEntity::fullFileName() {
     return d->entity->filePath().string();
 }

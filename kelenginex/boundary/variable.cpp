@@ -262,3 +262,12 @@ const std::vector<TKelRange>& TKelVariable::ranges() const {
 std::optional<int> TKelVariable::sensitive() const {
     return d->variable->sensitive;
 }
+
+bool TKelVariable::hidden() const {
+    return d->variable->hidden;
+}
+
+void TKelVariable::setHidden(bool hidden) {
+    d->variable->hidden = hidden;
+    d->touch();
+}

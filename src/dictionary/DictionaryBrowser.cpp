@@ -2,13 +2,13 @@
 #include "dictionary/DictionaryBrowser.h"
 
 #include "app/widgets/ReadOnlyTable.h"
-#include "dictionary/EntityTreeModel.h"
-#include "dictionary/ValueLabelModel.h"
-#include "dictionary/VariableFilter.h"
-#include "dictionary/VariableTableModel.h"
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
+#include "dictionary/views/EntityTreeModel.h"
+#include "dictionary/views/ValueLabelModel.h"
+#include "dictionary/views/VariableFilter.h"
+#include "dictionary/views/VariableTableModel.h"
 
 #include <QAction>
 #include <QEvent>

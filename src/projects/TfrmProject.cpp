@@ -4,6 +4,8 @@
 #include "dictionary/mirror/TKpEntity.h"
 #include "kel.h"
 
+#include <utility>
+
 TfrmProject& TfrmProject::instance() {
     static TfrmProject project;
     return project;
@@ -38,14 +40,16 @@ void TfrmProject::close() {
     outputs_.clear();
     session_.reset();
     execute_.reset();
-    root_.reset();
+    if (root_)
+        setRoot(nullptr);
     dictionary_.reset();
     dictionaryPath_.clear();
     allPathsFound_ = true;
 }
 
 void TfrmProject::setRoot(std::shared_ptr<TKpEntity> root) {
-    root_ = std::move(root);
+    const std::shared_ptr<TKpEntity> before = std::exchange(root_, std::move(root));
+    emit mirrorRebuilt();
 }
 
 void TfrmProject::setRun(std::shared_ptr<TKelSession> session, std::vector<TKelOutput*> outputs) {

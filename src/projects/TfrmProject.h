@@ -3,6 +3,7 @@
 // only; the forms that edit a project stand above.
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -17,7 +18,9 @@ class TKpEntity;
 enum class DictionaryKind { LegacyProject = 0, Dicx = 1, Kxdb = 2, Project = 3 };
 
 /// One for the process. Used on the GUI thread, except for stageDictionary() while a load runs.
-class TfrmProject {
+class TfrmProject : public QObject {
+    Q_OBJECT
+
 public:
     static TfrmProject& instance();
 
@@ -36,7 +39,11 @@ public:
     QString dictionaryPath() const { return dictionaryPath_; }
     DictionaryKind dictionaryKind() const { return kind_; }
     const std::shared_ptr<TKelDictionary>& dictionary() const { return dictionary_; }
-    TKpEntity* root() const { return root_.get(); } ///< the mirror; null where nothing is open
+    void setDictionaryKind(DictionaryKind kind) { kind_ = kind; }
+    /// The mirror; null where nothing is open. It is rebuilt whole: who holds on to the old one may
+    /// go on reading it until mirrorRebuilt() tells to look its names up again.
+    const std::shared_ptr<TKpEntity>& mirror() const { return root_; }
+    TKpEntity* root() const { return root_.get(); }
     void setRoot(std::shared_ptr<TKpEntity> root);
     bool allPathsFound() const { return allPathsFound_; }
     void setAllPathsFound(bool found) { allPathsFound_ = found; }
@@ -44,6 +51,9 @@ public:
     const std::vector<TKelOutput*>& outputs() const { return outputs_; }
     void setRun(std::shared_ptr<TKelSession> session, std::vector<TKelOutput*> outputs);
     void setExecute(std::shared_ptr<TKelExecute> execute);
+
+signals:
+    void mirrorRebuilt(); ///< root() is another tree now, or none
 
 private:
     TfrmProject() = default;

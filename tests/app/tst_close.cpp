@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "EngineCalls.h"
 #include "app/MainWindow.h"
-#include "app/dialogs/Messages.h"
+#include "app/messages/Messages.h"
 #include "engine/TKelConfigImpl.h"
 #include "engine/UIInvoker.h"
 #include "kel.h"
@@ -19,7 +19,10 @@ private slots:
     void closingWithNothingOpenAsksNothing() {
         kel::init(std::make_shared<TKelConfigImpl>());
         int messages = 0;
-        answerMessages([&](MessageKind, const QString&) { return ++messages > 0; });
+        answerMessages([&](MessageKind, const QString&) {
+            ++messages;
+            return Choice::Yes;
+        });
         {
             MainWindow window;
             QCOMPARE(MainWindow::instance(), &window);

@@ -4,7 +4,7 @@
 #include "EngineCalls.h"
 #include "app/MainWindow.h"
 #include "app/dialogs/KelvoraFileDialog.h"
-#include "app/dialogs/Messages.h"
+#include "app/messages/Messages.h"
 #include "app/settings/KelSystem.h"
 #include "engine/TKelConfigImpl.h"
 #include "engine/UIInvoker.h"
@@ -36,7 +36,7 @@ class TestMainWindow : public QObject {
     QTemporaryDir folder_;
     std::unique_ptr<MainWindow> window_;
     QStringList messages_;
-    bool answer_ = false;
+    Choice answer_ = Choice::No;
 
     template <typename Widget>
     Widget* find(const char* name) const {
@@ -327,9 +327,9 @@ private slots:
         TKelDictionary& dictionary = *TfrmProject::instance().dictionary();
         dictionary.findEntity("PERSON")->setLabel("Inhabitant");
         dictionary.setDirty(true);
-        answer_ = true;
+        answer_ = Choice::Yes;
         openByKeyboard(folder_.filePath("small.kxdb"));
-        answer_ = false;
+        answer_ = Choice::No;
         QCOMPARE(messages_, QStringList("Do you want to save the changes in the dictionary?"));
         const auto saved = kel::readDictionary(path.toStdString(), nullptr, true);
         QCOMPARE(saved->findEntity("PERSON")->label(), "Inhabitant");
@@ -372,7 +372,7 @@ private slots:
     void closingAsksOnceAndEndsTheEngineOnce() {
         runSex();
         TfrmProject::instance().dictionary()->setDirty(true);
-        answer_ = false;
+        answer_ = Choice::No;
         QVERIFY(window_->close());
         QCOMPARE(messages_, QStringList("Do you want to save the changes in the dictionary?"));
         QCOMPARE(destroyCalls(), 1);

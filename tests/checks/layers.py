@@ -18,15 +18,29 @@ BOUNDARY = ["src/engine/boundary"]
 ALLOWED["src/engine"] = BOUNDARY
 ALLOWED["src/dictionary/mirror"] = BOUNDARY
 ALLOWED["src/projects"] = BOUNDARY + ["src/dictionary/mirror"]
-ALLOWED["src/app/settings"] = []
-ALLOWED["src/app/dialogs"] = ["src/app/settings"]
+ALLOWED["src/app/messages"] = []
+ALLOWED["src/app/settings"] = ["src/app/messages"]
+ALLOWED["src/app/dialogs"] = ["src/app/messages", "src/app/settings"]
 ALLOWED["src/app/widgets"] = []
-ALLOWED["src/preferences"] = ["src/app/settings"]
-ALLOWED["src/dictionary"] = BOUNDARY + ["src/dictionary/mirror", "src/projects",
-                                        "src/app/widgets"]
+ALLOWED["src/app/shell"] = []
+ALLOWED["src/app/ribbon/tt"] = []
+# What every form may use.
+FORMS = ["src/app/messages", "src/app/settings", "src/app/dialogs", "src/app/widgets",
+         "src/app/shell"]
+ALLOWED["src/app/ribbon"] = FORMS + ["src/app/ribbon/tt"]
+ALLOWED["src/preferences"] = FORMS + ["src/app/ribbon/tt"]
+ALLOWED["src/dictionary/loading"] = BOUNDARY + FORMS + ["src/dictionary/mirror", "src/projects"]
+ALLOWED["src/dictionary/views"] = BOUNDARY + FORMS + ["src/dictionary/mirror"]
+ALLOWED["src/dictionary/properties"] = BOUNDARY + FORMS + ["src/dictionary/mirror",
+                                                           "src/dictionary/views"]
+ALLOWED["src/dictionary"] = BOUNDARY + FORMS + [
+    "src/dictionary/mirror", "src/projects", "src/dictionary/loading", "src/dictionary/views",
+    "src/dictionary/properties"]
 ALLOWED["src/results"] = BOUNDARY + ["src/app/widgets"]
-WORKBENCH = ["src/engine", "src/dictionary/mirror", "src/projects", "src/app/settings",
-             "src/app/dialogs", "src/app/widgets", "src/preferences", "src/dictionary", "src/results"]
+WORKBENCH = FORMS + [
+    "src/engine", "src/dictionary/mirror", "src/projects", "src/app/ribbon/tt", "src/app/ribbon",
+    "src/preferences", "src/dictionary/loading", "src/dictionary/views",
+    "src/dictionary/properties", "src/dictionary", "src/results"]
 ALLOWED["src/app"] = BOUNDARY + WORKBENCH
 
 ALLOWED["tools/import"] = EVERY_LAYER

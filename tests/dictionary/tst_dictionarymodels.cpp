@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/DictionaryBrowser.h"
-#include "dictionary/EntityTreeModel.h"
-#include "dictionary/ValueLabelModel.h"
-#include "dictionary/VariableFilter.h"
-#include "dictionary/VariableTableModel.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
+#include "dictionary/views/EntityTreeModel.h"
+#include "dictionary/views/ValueLabelModel.h"
+#include "dictionary/views/VariableFilter.h"
+#include "dictionary/views/VariableTableModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QLabel>

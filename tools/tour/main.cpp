@@ -2,7 +2,7 @@
 #include "Tour.h"
 #include "app/MainWindow.h"
 #include "app/Startup.h"
-#include "app/dialogs/Messages.h"
+#include "app/messages/Messages.h"
 #include "app/settings/KelSystem.h"
 
 #include <QApplication>
@@ -40,9 +40,9 @@ QString makeSample(const QString& folder) {
 }
 
 /// Nobody is there to answer: messages go to the standard error, and the step then fails.
-bool refuse(MessageKind /*kind*/, const QString& text) {
+Choice refuse(MessageKind /*kind*/, const QString& text) {
     std::fprintf(stderr, "%s\n", qPrintable(text));
-    return false;
+    return Choice::No;
 }
 
 int takePictures(const QString& folder, const QString& dictionary) {

@@ -31,9 +31,34 @@ QString KelvoraFileDialog::openFile(const QString& filter) const {
     else
         path =
             QFileDialog::getOpenFileName(QApplication::activeWindow(), caption_, folder_, filter);
+    remember(path);
+    return path;
+}
+
+QString KelvoraFileDialog::saveFile(const QString& filter, const QString& suffix,
+                                    const QString& proposal) const {
+    QString path;
+    if (auto answer = std::exchange(preparedAnswer(), std::nullopt)) {
+        path = *answer;
+    } else {
+        // The suffix goes to the dialog, so that its question is about the file that is written.
+        QFileDialog dialog(QApplication::activeWindow(), caption_, folder_, filter);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setDefaultSuffix(suffix);
+        if (!proposal.isEmpty())
+            dialog.selectFile(proposal);
+        if (dialog.exec() == QDialog::Accepted)
+            path = dialog.selectedFiles().value(0);
+    }
+    if (!path.isEmpty() && !path.endsWith(suffix, Qt::CaseInsensitive))
+        path += suffix;
+    remember(path);
+    return path;
+}
+
+void KelvoraFileDialog::remember(const QString& path) const {
     if (!path.isEmpty())
         KelSystem::instance().setDirectoryFor(kind_, QFileInfo(path).absolutePath());
-    return path;
 }
 
 void KelvoraFileDialog::answerNext(const QString& path) {

@@ -12,10 +12,18 @@ public:
     /// The chosen existing file, whose folder is remembered; empty where the user cancels.
     QString openFile(const QString& filter) const;
 
+    /// The file to write, ending in the suffix (".json"), which is added where the user leaves it
+    /// out; its folder is remembered. Empty where the user cancels. The dialog asks before a file
+    /// that exists is taken.
+    QString saveFile(const QString& filter, const QString& suffix,
+                     const QString& proposal = {}) const;
+
     /// The next dialog is not shown and gives this path, for tests and tours.
     static void answerNext(const QString& path);
 
 private:
+    void remember(const QString& path) const;
+
     QString kind_;
     QString folder_;
     QString caption_;

@@ -88,6 +88,7 @@ void copyVariable(const TKelVariable& source, TKpVariable& mirror) {
     copyValueLabels(source, mirror);
     mirror.size = source.size();
     mirror.decimals = source.decimals().value_or(0);
+    mirror.hidden = source.hidden();
     mirror.ranges =
         std::make_shared<QList<TKelRange>>(source.ranges().begin(), source.ranges().end());
 }
@@ -122,6 +123,8 @@ void copyEntity(TKelEntity& source, TKpEntity& mirror) {
             mirror.fileName = text(parent->fileName());
         mirror.parentName = text(parent->name());
     }
+    mirror.tag = source.tag();
+    mirror.sensitive = source.sensitive().has_value();
     mirror.documentation = text(source.documentation());
     mirror.refCode = variableName(source.codeVar());
     mirror.refLabel = variableName(source.labelVar());

@@ -50,6 +50,7 @@ public:
     std::shared_ptr<QList<TKelRange>> ranges;
     std::shared_ptr<QList<ValueLabelElement>> valueLabels; ///< null until a label is added
     int stateFlag = 1;
-    bool local = false; ///< made by a program, not part of the database
+    bool local = false;  ///< made by a program, not part of the database
+    bool hidden = false; ///< marked so by the user
     bool fileExists = false;
 };

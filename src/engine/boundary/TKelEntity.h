@@ -6,6 +6,7 @@
 #include "KelTypes.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,12 @@ public:
                                                        const std::string& childEntityName);
     virtual bool isReadOnly(); ///< true where records cannot be changed; false for a mirror
     virtual std::string nameText();
+
+    int tag() const; ///< the user's mark, negative where there is none
+    void setTag(int tag);
+    /// The number of cases below which figures about the entity are hidden.
+    std::optional<int> sensitive() const;
+    void setSensitive(const std::optional<int>& cases);
 
     const std::vector<TKelVariable*>& variables() const;
     const std::vector<TKelEntity*>& children() const;

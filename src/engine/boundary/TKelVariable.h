@@ -67,6 +67,8 @@ public:
     std::optional<int> decimals() const;
     const std::vector<TKelRange>& ranges() const;
     std::optional<int> sensitive() const; ///< the number of cases below which cells are hidden
+    bool hidden() const;                  ///< a mark for lists of variables; has no other effect
+    void setHidden(bool hidden);
 
 private:
     friend struct KelBoundaryAccess;

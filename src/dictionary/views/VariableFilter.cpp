@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "dictionary/VariableFilter.h"
+#include "dictionary/views/VariableFilter.h"
 
-#include "dictionary/VariableTableModel.h"
+#include "dictionary/views/VariableTableModel.h"
 
 VariableFilter::VariableFilter(QObject* parent) : QSortFilterProxyModel(parent) {
     setSortCaseSensitivity(Qt::CaseInsensitive);

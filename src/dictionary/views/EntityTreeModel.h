@@ -2,7 +2,7 @@
 // The entities of the open dictionary as a tree: name and number of records.
 #pragma once
 
-#include "dictionary/RowIcon.h"
+#include "dictionary/views/RowIcon.h"
 
 #include <QAbstractItemModel>
 

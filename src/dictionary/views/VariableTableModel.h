@@ -2,7 +2,7 @@
 // The variables of one entity as a table.
 #pragma once
 
-#include "dictionary/RowIcon.h"
+#include "dictionary/views/RowIcon.h"
 
 #include <QAbstractTableModel>
 #include <QList>

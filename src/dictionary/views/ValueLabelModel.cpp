@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "dictionary/ValueLabelModel.h"
+#include "dictionary/views/ValueLabelModel.h"
 
 #include "dictionary/mirror/TKpVariable.h"
 

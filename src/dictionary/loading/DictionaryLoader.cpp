@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "dictionary/DictionaryLoader.h"
+#include "dictionary/loading/DictionaryLoader.h"
 
 #include "TKelDictionary.h"
-#include "dictionary/LoadThread.h"
+#include "dictionary/loading/LoadThread.h"
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/MirrorBuilder.h"
 #include "dictionary/mirror/TKpEntity.h"

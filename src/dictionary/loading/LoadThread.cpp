@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "dictionary/LoadThread.h"
+#include "dictionary/loading/LoadThread.h"
 
 #include "kel.h"
 #include "projects/TfrmProject.h"

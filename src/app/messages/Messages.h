@@ -7,14 +7,19 @@
 #include <functional>
 
 enum class MessageKind { Error, Information, Warning, Question };
+enum class Choice { Yes, No, Cancel };
 
 void showError(const QString& text);
 void showInformation(const QString& text);
 void showWarning(const QString& text);
-/// True for Yes. There is no Cancel.
+/// Shows rich text, for words of ours only: never for what files or users say.
+void showRichInformation(const QString& text);
+/// True for Yes. There is no Cancel; Escape means No.
 bool askYesNo(const QString& title, const QString& text);
+/// Escape means Cancel.
+Choice askYesNoCancel(const QString& title, const QString& text);
 
 /// Takes the user's place: gets every message, and its answer counts for questions.
-using MessageAnswer = std::function<bool(MessageKind, const QString& text)>;
+using MessageAnswer = std::function<Choice(MessageKind, const QString& text)>;
 /// An empty function gives the boxes back to the user.
 void answerMessages(MessageAnswer answer);
