@@ -127,6 +127,12 @@ void MainWindow::connectLoader() {
     connect(loader_, &DictionaryLoader::aboutToReplace, this, &MainWindow::dropViews);
     connect(loader_, &DictionaryLoader::loaded, this, &MainWindow::showLoaded);
     connect(loader_, &DictionaryLoader::failed, this, &MainWindow::showLoadFailure);
+    connect(loader_, &DictionaryLoader::validationFailed, this, &MainWindow::showLoadFailure);
+    for (auto ended : {&DictionaryLoader::invalid, &DictionaryLoader::refused})
+        connect(loader_, ended, this, [this] {
+            showStatus(tr("Invalid Dictionary"), false);
+            updateActions();
+        });
 }
 
 void MainWindow::updateActions() {
@@ -160,11 +166,11 @@ void MainWindow::chooseDictionary() {
         openFile(path, QFileInfo(path).suffix());
 }
 
-void MainWindow::openFile(const QString& path, const QString& extension) {
+void MainWindow::openFile(const QString& path, const QString& /*extension*/) {
     if (isLoading())
         return;
     askSaveDictionary();
-    if (!loader_->start(path, extension)) {
+    if (!loader_->start(path)) {
         showError(tr("Archivo no válido"));
         return;
     }
