@@ -41,10 +41,14 @@ DictionaryKind kindOf(const QString& path) {
     return path.endsWith(".dicx") ? DictionaryKind::Dicx : DictionaryKind::Kxdb;
 }
 
-/// The weighted frequencies of SEX as the engine makes them.
-QString frequencies() {
-    const ProgramRun run = runProgram(project().dictionary(), "FREQ PERSON.SEX");
+/// What the engine makes of a program with one table.
+QString tableOf(const QString& program) {
+    const ProgramRun run = runProgram(project().dictionary(), program);
     return run.succeeded ? QString::fromStdString(run.outputs.front()->asJson()) : run.failure;
+}
+
+QString frequencies() {
+    return tableOf("FREQ PERSON.SEX"); // weighted by the household
 }
 
 /// The element that a path of names leads to, the first of each name.
@@ -220,6 +224,29 @@ private slots:
         QCOMPARE(entity("KIDS")->name, "KIDS");
         QVERIFY(entity("KIDS")->isVirtual);
         QCOMPARE(entity("KIDS")->engineEntity->fileName(), "");
+    }
+
+    // Nothing but the dictionary tells how a file of plain values is to be read.
+    void plainValuesKeepTheirForm() {
+        open("small.kxdb");
+        DictionaryUtil().writeDicx(path("plain.dicx"), *project().dictionary(), *project().root());
+        QByteArray xml = contentOf(path("plain.dicx"));
+        const QByteArray plain =
+            "<variable><name>ROOM</name><varType>INTEGER</varType><filename>room.bin</filename>"
+            "<varDicChoice><datasetType>INT</datasetType><datasetSize>2</datasetSize>"
+            "</varDicChoice></variable>";
+        xml.insert(xml.indexOf("<variable>", xml.indexOf("<name>PERSON</name>")), plain);
+        write("plain.dicx", xml);
+        write("room.bin", QByteArray("\1\0\2\0\1\0\1\0\2\0\2\0\2\0", 14));
+        open("plain.dicx");
+        const auto rooms = [] { return tableOf("FREQ PERSON.ROOM"); };
+        const QString before = rooms();
+        DictionarySaver(project()).save();
+        QVERIFY(QFile::remove(path("room.bin.desc")));
+        open("plain.dicx");
+        QCOMPARE(variable("PERSON.ROOM")->typeName, "INTEGER");
+        QCOMPARE(rooms(), before);
+        QVERIFY2(before.startsWith("{"), qPrintable(before));
     }
 
     void savedVariableStaysLocal() {
