@@ -2,6 +2,7 @@
 #include "app/messages/Messages.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QMessageBox>
 
 namespace {
@@ -19,9 +20,11 @@ QString translated(const char* text) {
 /// program shows the wait cursor.
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
                                 QMessageBox::StandardButtons buttons,
-                                Qt::TextFormat format = Qt::PlainText) {
+                                Qt::TextFormat format = Qt::PlainText, QCheckBox* tick = nullptr) {
     QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
     box.setTextFormat(format);
+    if (tick != nullptr)
+        box.setCheckBox(tick);
     if (buttons.testFlag(QMessageBox::No) && !buttons.testFlag(QMessageBox::Cancel))
         box.setEscapeButton(QMessageBox::No);
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
@@ -30,6 +33,8 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, co
     const int answer = box.exec();
     if (waiting)
         QGuiApplication::restoreOverrideCursor();
+    if (tick != nullptr)
+        tick->setParent(nullptr); // the caller's, not the box's
     return static_cast<QMessageBox::StandardButton>(answer);
 }
 
@@ -39,6 +44,20 @@ void show(MessageKind kind, QMessageBox::Icon icon, const QString& title, const 
         answerer()(kind, text);
     else
         ask(icon, title, text, QMessageBox::Ok, format);
+}
+
+constexpr QMessageBox::StandardButtons yesNoCancel =
+    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+
+Choice choiceOf(QMessageBox::StandardButton button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return Choice::Yes;
+    case QMessageBox::No:
+        return Choice::No;
+    default:
+        return Choice::Cancel;
+    }
 }
 
 } // namespace
@@ -73,15 +92,18 @@ bool askYesNo(const QString& title, const QString& text) {
 Choice askYesNoCancel(const QString& title, const QString& text) {
     if (answerer())
         return answerer()(MessageKind::Question, text);
-    switch (ask(QMessageBox::Question, title, text,
-                QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
-    case QMessageBox::Yes:
-        return Choice::Yes;
-    case QMessageBox::No:
-        return Choice::No;
-    default:
-        return Choice::Cancel;
-    }
+    return choiceOf(ask(QMessageBox::Question, title, text, yesNoCancel));
+}
+
+Choice askYesNoCancel(const QString& title, const QString& text, const QString& boxText,
+                      bool& ticked) {
+    if (answerer())
+        return answerer()(MessageKind::Question, text);
+    QCheckBox tick(boxText);
+    const Choice choice =
+        choiceOf(ask(QMessageBox::Question, title, text, yesNoCancel, Qt::PlainText, &tick));
+    ticked = tick.isChecked();
+    return choice;
 }
 
 void answerMessages(MessageAnswer answer) {

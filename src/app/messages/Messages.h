@@ -19,6 +19,10 @@ bool askYesNo(const QString& title, const QString& text);
 /// Escape means Cancel.
 Choice askYesNoCancel(const QString& title, const QString& text);
 
+/// The same with a box that the user may tick; ticked tells whether that was done.
+Choice askYesNoCancel(const QString& title, const QString& text, const QString& boxText,
+                      bool& ticked);
+
 /// Takes the user's place: gets every message, and its answer counts for questions.
 using MessageAnswer = std::function<Choice(MessageKind, const QString& text)>;
 /// An empty function gives the boxes back to the user.
