@@ -7,7 +7,7 @@
 #include "app/StartPage.h"
 #include "app/WorkArea.h"
 #include "app/messages/Messages.h"
-#include "app/ribbon/tt/Styles.h"
+#include "app/ribbon/tt/Style.h"
 #include "app/settings/KelSystem.h"
 #include "dictionary/TfrmDictionary.h"
 #include "dictionary/mirror/TKpEntity.h"
@@ -83,10 +83,19 @@ void MainWindow::setupWorkArea() {
 }
 
 void MainWindow::setupToolbar() {
-    ribbon_ = new RibbonHost(*this, *workArea_, system_, this);
+    ribbon_ = new RibbonHost(*this, *workArea_, system_);
     connect(startPage_, &StartPage::openRequested, ribbon_, &RibbonHost::chooseDictionary);
     connect(this, &MainWindow::signalDictIsDirty, ribbon_, &RibbonHost::setDirty);
-    applyStyle();
+    connect(this, &MainWindow::windowTitleChanged, this, &MainWindow::handle_window_title_change);
+    connect(ribbon_, &RibbonHost::readingDictionary, this, &MainWindow::readingDictionary);
+    connect(ribbon_, &RibbonHost::dictionaryFile, this, &MainWindow::on_openRecentDictionary);
+    connect(ribbon_, &RibbonHost::projectFile, this, &MainWindow::on_openRecentProject);
+    connect(ribbon_, &RibbonHost::saveDictionary, this, &MainWindow::saveOpenDictionary);
+    connect(ribbon_, &RibbonHost::saveAsDictionary, this, &MainWindow::saveAsOpenDictionary);
+    connect(ribbon_, &RibbonHost::locateDictionary, this, &MainWindow::locateFiles);
+    connect(ribbon_, &RibbonHost::closeAllDictionary, this, &MainWindow::on_closeAllDictionary);
+    connect(ribbon_, &RibbonHost::preferences, this, &MainWindow::onClickInPreferences);
+    rebuildToolbars();
 }
 
 void MainWindow::connectOpener() {
@@ -94,6 +103,7 @@ void MainWindow::connectOpener() {
     connect(opener_, &FileOpener::opened, this, &MainWindow::onOpened);
     connect(opener_, &FileOpener::closed, this, &MainWindow::closeAll);
     connect(opener_, &FileOpener::failed, this, &MainWindow::showNothingOpen);
+    connect(opener_, &FileOpener::began, this, &MainWindow::rebuildToolbars);
     connect(opener_, &FileOpener::dirtyChanged, this, &MainWindow::on_dictIsDirtyReceived);
     connect(opener_, &FileOpener::quickViewVariable, this, &MainWindow::onQuickViewVariable);
     connect(opener_, &FileOpener::quickViewEntity, this, &MainWindow::onQuickViewEntity);
@@ -136,7 +146,13 @@ bool MainWindow::hasWindows() const {
 }
 
 void MainWindow::rebuildToolbars() {
-    ribbon_->rebuild();
+    RibbonHost::State state;
+    state.loading = isLoading();
+    state.dictionaryOpen = !state.loading && TfrmProject::instance().isOpen();
+    state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
+                            opener_->dictionary()->isDirty();
+    state.recentDictionaries = mainController_->recentDictionaries();
+    ribbon_->rebuild(state);
 }
 
 void MainWindow::openFile(const QString& path, const QString& extension) {
@@ -172,7 +188,7 @@ void MainWindow::loadLastOpened() {
     if (!system_.loadLast() || system_.lastOpened().isEmpty() || !file.exists())
         return;
     openRecentProcessFile(QDir::toNativeSeparators(file.filePath()));
-    ribbon_->select(RibbonHost::FilePage);
+    ribbon_->select(FilePage);
 }
 
 void MainWindow::onOpened(const QString& path, bool found) {
@@ -183,7 +199,7 @@ void MainWindow::onOpened(const QString& path, bool found) {
     const QString name = QString::fromStdString(project.dictionary()->name());
     startPage_->showDictionary(label.isEmpty() ? name : label, path, *project.root());
     rebuildToolbars();
-    ribbon_->select(found ? RibbonHost::FilePage : RibbonHost::DictionaryPage);
+    ribbon_->select(found ? FilePage : DictionaryPage);
 }
 
 void MainWindow::closeAll() {
@@ -191,7 +207,7 @@ void MainWindow::closeAll() {
     workArea_->closeAllSubWindows();
     resultsManager_ = nullptr;
     showNothingOpen();
-    ribbon_->select(RibbonHost::ProjectPage);
+    ribbon_->select(ProjectPage);
 }
 
 void MainWindow::showNothingOpen() {
@@ -210,6 +226,11 @@ void MainWindow::saveAsOpenDictionary() {
     emit saveAsClick();
     if (opener_->dictionary() != nullptr && !isLoading())
         opener_->dictionary()->on_saveAsDictionary();
+}
+
+void MainWindow::locateFiles() {
+    if (opener_->dictionary() != nullptr && !isLoading())
+        opener_->dictionary()->locateFiles();
 }
 
 void MainWindow::on_closeAllDictionary() {
@@ -334,7 +355,7 @@ void MainWindow::onClickInPreferences() {
         workArea_->setActiveSubWindow(open);
         return;
     }
-    auto* preferences = new ConfigDialog(system_, tt::styleNames());
+    auto* preferences = new ConfigDialog(system_, tt::StyleNames());
     connectPreferences(*preferences);
     QMdiSubWindow* frame = workArea_->addWindow(preferences);
     frame->setObjectName(preferencesName);
@@ -342,17 +363,9 @@ void MainWindow::onClickInPreferences() {
 }
 
 void MainWindow::connectPreferences(ConfigDialog& preferences) {
-    connect(&preferences, &ConfigDialog::menuColorChanged, this, &MainWindow::applyStyle);
-    connect(&preferences, &ConfigDialog::settingsReset, this, [this] {
-        applyStyle();
-        rebuildToolbars();
-    });
+    connect(&preferences, &ConfigDialog::menuColorChanged, this, &MainWindow::rebuildToolbars);
+    connect(&preferences, &ConfigDialog::settingsReset, this, &MainWindow::rebuildToolbars);
     connect(&preferences, &ConfigDialog::maxLastFilesChanged, this, &MainWindow::rebuildToolbars);
-}
-
-void MainWindow::applyStyle() {
-    QApplication::setPalette(tt::palette(tt::styleName(system_.menuColor())));
-    rebuildToolbars();
 }
 
 bool MainWindow::askSaveDictionary() {

@@ -69,6 +69,7 @@ public slots:
     void readingDictionary(const QString& path, const QString& extension);
     void saveOpenDictionary();
     void saveAsOpenDictionary();
+    void locateFiles();
     void on_closeAllDictionary();
     void on_dictIsDirtyReceived(bool dirty);
     void on_dictIsSaved();
@@ -102,7 +103,6 @@ private:
     bool askSaveDictionary(); ///< false where the changes could not be saved
     bool endRun();            ///< false where the window stays open
     void changeLanguage();
-    void applyStyle();
     void connectPreferences(ConfigDialog& preferences);
     QDockWidget* quickViewDock(const QString& title);
 

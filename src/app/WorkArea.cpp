@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/WorkArea.h"
 
+#include "app/ribbon/WorkAreaModes.h"
+
 #include <QEvent>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -10,22 +12,14 @@ WorkArea::WorkArea(QWidget* parent) : QMdiArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setBackground(palette().brush(QPalette::Window));
-    setTabs();
-}
-
-void WorkArea::setTabs() {
-    setViewMode(QMdiArea::TabbedView);
-    setTabsClosable(true);
-    setTabsMovable(true);
-    setTabShape(QTabWidget::Rounded);
-    setDocumentMode(true);
+    workarea::showTabs(*this);
 }
 
 void WorkArea::toggleTabs() {
     if (viewMode() == QMdiArea::TabbedView)
-        setViewMode(QMdiArea::SubWindowView);
+        workarea::showWindows(*this);
     else
-        setTabs();
+        workarea::showTabs(*this);
 }
 
 QMdiSubWindow* WorkArea::addWindow(QWidget* content) {

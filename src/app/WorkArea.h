@@ -21,8 +21,7 @@ public:
     /// Asks each window that holds unsaved work to close; false where one of them stays.
     bool closeModified();
 
-    void setTabs(); ///< tabs that can be closed and moved
-    void toggleTabs();
+    void toggleTabs(); ///< tabs that can be closed and moved, or windows
     void setEmptyPage(QWidget* page); ///< becomes its owner
 
 protected:

@@ -178,18 +178,26 @@ void TfrmDictionary::showMirror() {
 void TfrmDictionary::on_selectedEntityKelTreeView(TKpEntity* entity) {
     if (entity == nullptr || closing_)
         return;
-    const bool first = !variablesDock_;
-    if (first)
+    if (!variablesDock_)
         makeVariablesDock();
+    const bool first = currentEntity_.isEmpty();
+    if (!properties_->showEntity(entity)) {
+        treeView_->selectEntity(currentEntity_); // its unsaved edits need mending
+        return;
+    }
+    currentEntity_ = entity->name;
     variablesPane_->setEntity(TfrmProject::instance().mirror(), entity);
-    properties_->showEntity(entity);
     if (first)
-        variablesDock_->raise();
+        variablesDock_->raise(); // before the properties, which share its place
 }
 
 void TfrmDictionary::on_selectedVariableTableView(TKpVariable* variable) {
-    if (variable != nullptr && !closing_)
-        properties_->showVariable(variable);
+    if (variable == nullptr || closing_)
+        return;
+    if (properties_->showVariable(variable))
+        currentVariable_ = variable->name;
+    else
+        variablesPane_->table()->selectVariable(currentVariable_);
 }
 
 void TfrmDictionary::showProperties(TKpVariable* variable) {

@@ -93,6 +93,8 @@ private:
     QPointer<QDockWidget> variablesDock_;
     QPointer<KelTreeView> treeView_;
     QPointer<VariablesPane> variablesPane_;
+    QString currentEntity_;   ///< by name, since the mirror is rebuilt
+    QString currentVariable_; ///< of the current entity
     bool dirty_ = false;
     bool closing_ = false;
 };
