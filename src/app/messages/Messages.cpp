@@ -15,13 +15,9 @@ QString translated(const char* text) {
     return QCoreApplication::translate("Messages", text);
 }
 
-/// Plain text unless told otherwise, since texts quote what files hold. The arrow, since a busy
-/// program shows the wait cursor.
-QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
-                                QMessageBox::StandardButtons buttons,
-                                Qt::TextFormat format = Qt::PlainText) {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
-    box.setTextFormat(format);
+/// With the arrow, since a busy program shows the wait cursor.
+QMessageBox::StandardButton run(QMessageBox& box) {
+    const QMessageBox::StandardButtons buttons = box.standardButtons();
     if (buttons.testFlag(QMessageBox::No) && !buttons.testFlag(QMessageBox::Cancel))
         box.setEscapeButton(QMessageBox::No);
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
@@ -31,6 +27,15 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, co
     if (waiting)
         QGuiApplication::restoreOverrideCursor();
     return static_cast<QMessageBox::StandardButton>(answer);
+}
+
+/// Plain text unless told otherwise, since texts quote what files hold.
+QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+                                QMessageBox::StandardButtons buttons,
+                                Qt::TextFormat format = Qt::PlainText) {
+    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    box.setTextFormat(format);
+    return run(box);
 }
 
 void show(MessageKind kind, QMessageBox::Icon icon, const QString& title, const QString& text,
@@ -68,6 +73,17 @@ bool askYesNo(const QString& title, const QString& text) {
         return answerer()(MessageKind::Question, text) == Choice::Yes;
     return ask(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
+}
+
+bool askYesNoRich(const QString& title, const QString& html, const QString& informative) {
+    if (answerer())
+        return answerer()(MessageKind::Question, html + '\n' + informative) == Choice::Yes;
+    QMessageBox box(QMessageBox::Information, title, html, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::RichText);
+    box.setInformativeText(informative);
+    box.setDefaultButton(QMessageBox::Yes);
+    return run(box) == QMessageBox::Yes;
 }
 
 Choice askYesNoCancel(const QString& title, const QString& text) {
