@@ -238,6 +238,20 @@ private slots:
         QVERIFY(!folder.messages.first().contains("%s"));
     }
 
+    void aFullDiskLeavesTheOldFile() {
+        const SettingsFolder folder;
+        const QString path = folder.base() + "/a.json";
+        const QJsonObject old{{"a", 1}};
+        QVERIFY(writeJsonFile(path, old));
+        for (const int length : {6000, 60000}) { // less and more than one buffer
+            const FileSizeLimit limit(2000);
+            QVERIFY(!writeJsonFile(path, {{"a", QString(length, 'x')}}));
+        }
+        QCOMPARE(folder.messages.size(), 2);
+        QCOMPARE(readJsonFile(path), old);
+        QCOMPARE(QDir(folder.base()).entryList(QDir::Files), QStringList("a.json"));
+    }
+
     void theXmlFormGoesBothWays() {
         const SettingsFolder folder;
         const QString path = folder.base() + "/old.xml";

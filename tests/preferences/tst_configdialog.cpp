@@ -196,7 +196,10 @@ private slots:
 
     void nothingIsCutOff() {
         const Preferences preferences;
-        for (const QWidget* widget : preferences.dialog->findChildren<QWidget*>())
+        const auto* list = preferences.control<QListWidget>("pageList");
+        QVERIFY(list->viewport()->width() >= list->sizeHintForColumn(0));
+        for (const QWidget* widget :
+             preferences.control<QWidget>("GeneralPage")->findChildren<QWidget*>())
             if (widget->isVisible() && !widget->objectName().startsWith("qt_"))
                 QVERIFY2(widget->width() >= widget->minimumSizeHint().width() &&
                              widget->height() >= widget->minimumSizeHint().height(),

@@ -2,6 +2,7 @@
 #include "app/settings/JsonFile.h"
 
 #include "app/messages/Messages.h"
+#include "app/settings/WholeFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -62,7 +63,7 @@ QJsonObject readJsonFile(const QString& path) {
 bool writeJsonFile(const QString& path, const QJsonObject& object) {
     const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Indented);
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && writeThrough(file, text) && file.commit())
         return true;
     showError(translated(QT_TRANSLATE_NOOP("JsonFile", "Error %s sending event"))
                   .replace(QStringLiteral("%s"), file.errorString()));

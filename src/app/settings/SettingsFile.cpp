@@ -3,6 +3,7 @@
 
 #include "app/settings/JsonFile.h"
 #include "app/settings/SetBasis.h"
+#include "app/settings/WholeFile.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -35,7 +36,8 @@ bool writeTree(QIODevice& device, const Saving& saving) {
     if (!test.open(QIODevice::ReadWrite | QIODevice::Text))
         return false;
     test.close();
-    return device.write(text) == text.size();
+    auto* target = qobject_cast<QFileDevice*>(&device);
+    return target != nullptr && writeThrough(*target, text);
 }
 
 /// QSettings may come back to a write that failed; without values there is nothing to write.
@@ -79,6 +81,20 @@ QSettings::Format jsonFormat() {
     return format;
 }
 
+/// One QSettings for each save, whose status then tells of this save alone. Its construction may
+/// write already: QSettings remembers what an earlier one could not get rid of.
+bool setOff(const QString& base, const QString& group, const QString& key, const QVariant& value) {
+    QSettings::setPath(jsonFormat(), QSettings::UserScope, base);
+    QSettings settings(jsonFormat(), QSettings::UserScope, QLatin1String(organisation),
+                       QLatin1String(application));
+    settings.setFallbacksEnabled(false);
+    settings.beginGroup(group);
+    settings.setValue(key, value);
+    settings.endGroup();
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
 } // namespace
 
 QString settingsFilePath(const QString& base) {
@@ -89,16 +105,8 @@ QString settingsFilePath(const QString& base) {
 bool writeSettingsFile(const QString& base, const SettingsValues& values, const QString& group,
                        const QString& key, const QVariant& value) {
     const Saving saving{settingsFilePath(base), values};
-    QSettings::setPath(jsonFormat(), QSettings::UserScope, base);
-    // One for each save, whose status then tells of this save alone.
-    QSettings settings(jsonFormat(), QSettings::UserScope, QLatin1String(organisation),
-                       QLatin1String(application));
-    settings.setFallbacksEnabled(false);
-    settings.beginGroup(group);
-    settings.setValue(key, value);
-    settings.endGroup();
     currentSaving() = &saving;
-    settings.sync();
+    const bool saved = setOff(base, group, key, value);
     currentSaving() = nullptr;
-    return settings.status() == QSettings::NoError;
+    return saved;
 }
