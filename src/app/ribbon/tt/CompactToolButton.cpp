@@ -36,18 +36,15 @@ qsizetype bestBreak(const QString& label, const QFontMetrics& metrics) {
 
 CompactToolButton::CompactToolButton(QAction* action, ToolButtonPopupMode popupMode,
                                      QWidget* parent)
-    : QToolButton(parent) {
+    : QToolButton(parent), popupMode_(popupMode) {
     // A click on the ribbon leaves the focus where the user works.
     setFocusPolicy(Qt::TabFocus);
     setProperty("class", QStringLiteral("TTToolButtonStyle"));
     setObjectName(action->objectName());
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    setPopupMode(popupMode);
     setDefaultAction(action);
-    if (action->menu() != nullptr)
-        setMenu(action->menu());
-    ShowLabel();
+    ShowAction();
 }
 
 QString CompactToolButton::TwoLines(const QString& label, bool hasMenu, const QFontMetrics& metrics,
@@ -76,13 +73,13 @@ QSize CompactToolButton::sizeHint() const {
 
 void CompactToolButton::actionEvent(QActionEvent* event) {
     QToolButton::actionEvent(event);
-    ShowLabel();
+    ShowAction();
 }
 
 void CompactToolButton::changeEvent(QEvent* event) {
     QToolButton::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        ShowLabel();
+        ShowAction();
 }
 
 void CompactToolButton::keyPressEvent(QKeyEvent* event) {
@@ -95,7 +92,7 @@ void CompactToolButton::keyPressEvent(QKeyEvent* event) {
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (menu() != nullptr && popupMode() == InstantPopup)
+        if (defaultAction()->menu() != nullptr && popupMode_ == InstantPopup)
             showMenu();
         else
             click();
@@ -105,11 +102,15 @@ void CompactToolButton::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void CompactToolButton::ShowLabel() {
+void CompactToolButton::ShowAction() {
     const QAction* action = defaultAction();
     if (action == nullptr)
         return;
-    setText(TwoLines(action->iconText(), menu() != nullptr, fontMetrics(), LabelWidth()));
+    const bool hasMenu = action->menu() != nullptr;
+    // A tool button whose action has a menu takes a mode of its own, and stays enabled.
+    setPopupMode(popupMode_);
+    setEnabled(action->isEnabled());
+    setText(TwoLines(action->iconText(), hasMenu, fontMetrics(), LabelWidth()));
     setAccessibleName(action->iconText());
     setAccessibleDescription(action->toolTip());
 }

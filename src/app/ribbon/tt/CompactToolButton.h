@@ -29,7 +29,9 @@ protected:
 
 private:
     int LabelWidth() const; ///< room that every button has
-    void ShowLabel();
+    void ShowAction();
+
+    ToolButtonPopupMode popupMode_;
 };
 
 } // namespace tt
