@@ -23,7 +23,7 @@ class DictionaryLoader : public QObject {
 public:
     explicit DictionaryLoader(QObject* parent = nullptr);
     /// With another schema for .dicx files than the program's own.
-    DictionaryLoader(const QUrl& schema, QObject* parent);
+    explicit DictionaryLoader(const QUrl& schema, QObject* parent = nullptr);
     ~DictionaryLoader() override;
 
     /// False, with nothing begun and no signal, where the name ends neither in .dicx nor in .kxdb

@@ -10,8 +10,8 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// One missing file. Accepted with a file that fits the item, Skipped for No; Cancel, Escape and the
-/// window's own button reject, which ends the whole walk.
+/// One missing file. Accepted with a file that fits the item, Skipped for No; Cancel, Escape and
+/// the window's own button reject, which ends the whole walk.
 class LocatePaths : public QDialog {
     Q_OBJECT
 
