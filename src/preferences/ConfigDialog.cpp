@@ -14,7 +14,11 @@
 #include <QVBoxLayout>
 
 namespace {
+
 Q_LOGGING_CATEGORY(preferencesLog, "Preferences")
+
+constexpr int widestPage = 90; // characters
+
 } // namespace
 
 ConfigDialog::ConfigDialog(KelSystem& system, const QStringList& menuColors, QWidget* parent)
@@ -45,6 +49,7 @@ void ConfigDialog::layOut() {
     auto* row = new QHBoxLayout;
     row->addWidget(list_);
     row->addWidget(pages_, 1);
+    row->addStretch(); // a wide work area must not pull the fields apart
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &ConfigDialog::reject);
@@ -68,7 +73,7 @@ void ConfigDialog::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
     else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        fitList();
+        fitToFont();
     QDialog::changeEvent(event);
 }
 
@@ -76,10 +81,11 @@ void ConfigDialog::retranslate() {
     setWindowTitle(tr("Kelx Preferences"));
     list_->setAccessibleName(tr("Pages"));
     list_->item(0)->setText(tr("General"));
-    fitList();
+    fitToFont();
 }
 
-void ConfigDialog::fitList() {
+void ConfigDialog::fitToFont() {
+    pages_->setMaximumWidth(widestPage * fontMetrics().averageCharWidth());
     list_->setFixedWidth(list_->sizeHintForColumn(0) + 2 * list_->frameWidth() +
                          2 * fontMetrics().averageCharWidth());
 }

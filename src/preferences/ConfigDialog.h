@@ -34,7 +34,7 @@ private:
     void makeList();
     void layOut();
     void retranslate();
-    void fitList();
+    void fitToFont();
 
     QListWidget* list_;
     QStackedWidget* pages_;

@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QTimer>
 
 #include <chrono>
 
@@ -29,6 +28,10 @@ QUpdater::QUpdater(QString tool, QObject* parent) : QObject(parent), tool_(std::
     connect(&process_, &QProcess::readyReadStandardOutput, this, &QUpdater::gather);
     connect(&process_, &QProcess::finished, this,
             [this](int, QProcess::ExitStatus status) { evaluate(status); });
+    nextTry_.setSingleShot(true);
+    connect(&nextTry_, &QTimer::timeout, this, &QUpdater::offer);
+    quit_.setSingleShot(true);
+    connect(&quit_, &QTimer::timeout, QCoreApplication::instance(), &QCoreApplication::quit);
 }
 
 QUpdater::~QUpdater() {
@@ -78,7 +81,7 @@ void QUpdater::evaluate(QProcess::ExitStatus status) {
 
 void QUpdater::offer() {
     if (busy_ && busy_()) {
-        QTimer::singleShot(untilNextTry, this, &QUpdater::offer);
+        nextTry_.start(untilNextTry);
         return;
     }
     const QString news = "<h3>" + tr("New version has been released!") + "</h3>";
@@ -87,5 +90,5 @@ void QUpdater::offer() {
             tr("Would you like to download the update now? Current application will be close")) &&
         QProcess::startDetached(tool_, {QStringLiteral("--start-updater")},
                                 QFileInfo(tool_).absolutePath()))
-        QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
+        quit_.start(0);
 }

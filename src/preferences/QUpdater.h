@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QProcess>
+#include <QTimer>
 
 #include <functional>
 
@@ -38,4 +39,6 @@ private:
     std::function<bool()> busy_;
     QByteArray output_;
     QProcess process_;
+    QTimer nextTry_; ///< while the program is busy
+    QTimer quit_;    ///< once the tool has taken over
 };

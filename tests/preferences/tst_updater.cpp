@@ -110,7 +110,7 @@ private slots:
         QTimer guard;
         connect(&guard, &QTimer::timeout, &guard, [] { QApplication::exit(overdue); });
         guard.start(20000);
-        QTimer::singleShot(0, &updater, &QUpdater::start);
+        updater.start();
         QCOMPARE(QApplication::exec(), 0);
         QCOMPARE(questions_.size(), 1);
         QVERIFY(questions_.first().startsWith("<h3>New version has been released!</h3>"));

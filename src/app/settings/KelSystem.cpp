@@ -125,7 +125,7 @@ void KelSystem::readList(QStringList& out, const QString& key, const QString& ar
                          const QString& group) const {
     out.clear();
     const QJsonArray array = groupOf(group).value(arrayName).toArray();
-    for (const QJsonValue& entry : array)
+    for (const QJsonValue entry : array)
         if (entry.toObject().contains(key))
             out += entry.toObject().value(key).toString();
 }

@@ -51,7 +51,7 @@ bool writeSettings(QIODevice& device, const QSettings::SettingsMap&) {
 }
 
 void takePreferences(const QJsonArray& preferences, QSettings::SettingsMap& map) {
-    for (const QJsonValue& entry : preferences) {
+    for (const QJsonValue entry : preferences) {
         const QJsonObject object = entry.toObject();
         for (auto member = object.begin(); member != object.end(); ++member)
             if (member->isBool() || member->isString())
