@@ -36,3 +36,11 @@ void NameEdit::show(QLineEdit* edit, const QString& text) {
         edit->setCursorPosition(0);
     }
 }
+
+QLineEdit* NameEdit::bound(const char* objectName, QString& text) {
+    auto* edit = new QLineEdit(text);
+    edit->setObjectName(QLatin1String(objectName));
+    QObject::connect(edit, &QLineEdit::textChanged, edit,
+                     [&text](const QString& typed) { text = typed; });
+    return edit;
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Validators of the edits in which names and marks are typed.
+// The edits in which names and marks are typed.
 #pragma once
 
 class QLineEdit;
@@ -14,5 +14,8 @@ void acceptDigits(QLineEdit* edit);
 void clear(QLineEdit* edit, const QString& inForce);
 /// Sets the text where it is another, so that the cursor stays.
 void show(QLineEdit* edit, const QString& text);
+
+/// An edit that shows the text, which must outlive it, and writes back what is typed.
+QLineEdit* bound(const char* objectName, QString& text);
 
 } // namespace NameEdit
