@@ -34,7 +34,7 @@ namespace {
 MainWindow* theWindow = nullptr;
 
 const QString preferencesName = QStringLiteral("Preferences");
-const QString quickViewName = QStringLiteral("InfoProperties");
+const QString quickViewName = QStringLiteral("VarProperties");
 
 bool saves(const QString& program) {
     static const QRegularExpression clause(
@@ -314,32 +314,26 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
     return QMainWindow::eventFilter(object, event);
 }
 
-QDockWidget* MainWindow::quickViewDock(const QString& title) {
-    auto* frame = docks_->find(quickViewName);
-    if (frame == nullptr) {
-        frame = new QDockWidget(this);
-        frame->setObjectName(quickViewName);
-        frame->setWidget(new InfoProperties(quickViewName));
-        addDockRight(frame);
+InfoProperties& MainWindow::quickView() {
+    auto* view = qobject_cast<InfoProperties*>(docks_->find(quickViewName));
+    if (view == nullptr) {
+        view = new InfoProperties(this);
+        view->setObjectName(quickViewName);
+        addDockRight(view);
     }
-    frame->setWindowTitle(title);
-    frame->show();
-    frame->raise();
-    return frame;
+    view->show();
+    view->raise();
+    return *view;
 }
 
 void MainWindow::onQuickViewVariable(TKpVariable* variable) {
-    if (variable == nullptr)
-        return;
-    QDockWidget* frame = quickViewDock(variable->entityName + '.' + variable->name);
-    qobject_cast<InfoProperties*>(frame->widget())->showVariable(*variable);
+    if (variable != nullptr)
+        quickView().showVariable(*variable);
 }
 
 void MainWindow::onQuickViewEntity(TKpEntity* entity) {
-    if (entity == nullptr)
-        return;
-    QDockWidget* frame = quickViewDock(entity->name);
-    qobject_cast<InfoProperties*>(frame->widget())->showEntity(*entity);
+    if (entity != nullptr)
+        quickView().showEntity(TfrmProject::instance().root(), *entity);
 }
 
 void MainWindow::onCloseInfoAppProperties() {

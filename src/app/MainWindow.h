@@ -104,7 +104,7 @@ private:
     bool endRun();            ///< false where the window stays open
     void changeLanguage();
     void connectPreferences(ConfigDialog& preferences);
-    QDockWidget* quickViewDock(const QString& title);
+    InfoProperties& quickView();
 
     KelSystem& system_;
     std::unique_ptr<DockAreas> docks_;

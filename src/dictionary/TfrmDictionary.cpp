@@ -14,6 +14,7 @@
 #include "dictionary/loading/LocatePaths.h"
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
+#include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/properties/TfrmProperties.h"
 #include "dictionary/views/KelTreeView.h"
 #include "dictionary/views/KelVariablesTableView.h"

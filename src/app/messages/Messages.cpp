@@ -16,15 +16,9 @@ QString translated(const char* text) {
     return QCoreApplication::translate("Messages", text);
 }
 
-/// Plain text unless told otherwise, since texts quote what files hold. The arrow, since a busy
-/// program shows the wait cursor.
-QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
-                                QMessageBox::StandardButtons buttons,
-                                Qt::TextFormat format = Qt::PlainText, QCheckBox* tick = nullptr) {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
-    box.setTextFormat(format);
-    if (tick != nullptr)
-        box.setCheckBox(tick);
+/// With the arrow, since a busy program shows the wait cursor.
+QMessageBox::StandardButton run(QMessageBox& box) {
+    const QMessageBox::StandardButtons buttons = box.standardButtons();
     if (buttons.testFlag(QMessageBox::No) && !buttons.testFlag(QMessageBox::Cancel))
         box.setEscapeButton(QMessageBox::No);
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
@@ -33,9 +27,16 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, co
     const int answer = box.exec();
     if (waiting)
         QGuiApplication::restoreOverrideCursor();
-    if (tick != nullptr)
-        tick->setParent(nullptr); // the caller's, not the box's
     return static_cast<QMessageBox::StandardButton>(answer);
+}
+
+/// Plain text unless told otherwise, since texts quote what files hold.
+QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+                                QMessageBox::StandardButtons buttons,
+                                Qt::TextFormat format = Qt::PlainText) {
+    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    box.setTextFormat(format);
+    return run(box);
 }
 
 void show(MessageKind kind, QMessageBox::Icon icon, const QString& title, const QString& text,
@@ -89,6 +90,17 @@ bool askYesNo(const QString& title, const QString& text) {
            QMessageBox::Yes;
 }
 
+bool askYesNoRich(const QString& title, const QString& html, const QString& informative) {
+    if (answerer())
+        return answerer()(MessageKind::Question, html + '\n' + informative) == Choice::Yes;
+    QMessageBox box(QMessageBox::Information, title, html, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::RichText);
+    box.setInformativeText(informative);
+    box.setDefaultButton(QMessageBox::Yes);
+    return run(box) == QMessageBox::Yes;
+}
+
 Choice askYesNoCancel(const QString& title, const QString& text) {
     if (answerer())
         return answerer()(MessageKind::Question, text);
@@ -99,10 +111,12 @@ Choice askYesNoCancel(const QString& title, const QString& text, const QString& 
                       bool& ticked) {
     if (answerer())
         return answerer()(MessageKind::Question, text);
-    QCheckBox tick(boxText);
-    const Choice choice =
-        choiceOf(ask(QMessageBox::Question, title, text, yesNoCancel, Qt::PlainText, &tick));
-    ticked = tick.isChecked();
+    QMessageBox box(QMessageBox::Question, title, text, yesNoCancel, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    auto* tick = new QCheckBox(boxText, &box);
+    box.setCheckBox(tick);
+    const Choice choice = choiceOf(run(box));
+    ticked = tick->isChecked();
     return choice;
 }
 

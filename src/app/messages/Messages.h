@@ -16,6 +16,8 @@ void showWarning(const QString& text);
 void showRichInformation(const QString& text);
 /// True for Yes. There is no Cancel; Escape means No.
 bool askYesNo(const QString& title, const QString& text);
+/// As askYesNo, with rich text of ours, a second text below it, and Yes as default.
+bool askYesNoRich(const QString& title, const QString& html, const QString& informative);
 /// Escape means Cancel.
 Choice askYesNoCancel(const QString& title, const QString& text);
 
