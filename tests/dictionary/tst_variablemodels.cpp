@@ -382,10 +382,6 @@ private slots:
     void textsSortAsTheLanguageDoes() {
         QFETCH(QString, language);
         const QLocale before;
-        VariablesDictionaryProxyModel proxy;
-        proxy.setSourceModel(model_.get());
-        proxy.sort(Model::LabelColumn, Qt::AscendingOrder); // keys of the language before
-        QLocale::setDefault(QLocale(language));
         QStringList labels{"ñandú",  "nata",    "obra", "Zebra", "zebra", "cote",
                            "coté",   "côte",    "côté", "a b",   "a-b",   "ab",
                            "Straße", "strasse", "_x",   "x y",   "X",     "x"};
@@ -394,7 +390,10 @@ private slots:
             addVariable(root.get(), "V", "", "", label, -1);
         model_->setRoot(root);
         model_->setEntity(root.get());
-        proxy.sort(-1, Qt::AscendingOrder);
+        VariablesDictionaryProxyModel proxy;
+        proxy.setSourceModel(model_.get());
+        proxy.sort(Model::LabelColumn, Qt::AscendingOrder); // in the language before
+        QLocale::setDefault(QLocale(language));
         proxy.sort(Model::LabelColumn, Qt::AscendingOrder);
         std::stable_sort(labels.begin(), labels.end(), [](const QString& a, const QString& b) {
             return QString::localeAwareCompare(a, b) < 0;
