@@ -263,10 +263,10 @@ private slots:
 
     void windowsTileSideBySideAndAboveOneAnother() {
         const QList<QMdiSubWindow*> windows = threeWindows();
-        const QRect room = area_->viewport()->rect();
         windows[1]->showMinimized();
         click("Window-vertical");
         QCOMPARE(area_->viewMode(), QMdiArea::SubWindowView);
+        const QRect room = area_->viewport()->rect();
         int x = 0;
         for (const QMdiSubWindow* window : windows) {
             QCOMPARE(window->geometry().topLeft(), QPoint(x, 0));
@@ -284,9 +284,9 @@ private slots:
 
     void windowsCascadeMinimiseAndComeBack() {
         const QList<QMdiSubWindow*> windows = threeWindows();
-        const QRect room = area_->viewport()->rect();
         click("Window-cascade");
         QCOMPARE(area_->viewMode(), QMdiArea::SubWindowView);
+        const QRect room = area_->viewport()->rect();
         QSet<QPair<int, int>> corners;
         for (const QMdiSubWindow* window : windows)
             corners += {window->x(), window->y()};
