@@ -4,6 +4,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPointer>
+#include <QTabBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -53,9 +54,18 @@ void DockAreas::addLeft(QDockWidget* dock) {
         setWidths({dock}, {treeWidth_});
     } else if (neighbour != nullptr) {
         window_.tabifyDockWidget(neighbour, dock);
+        keepTabTitles();
     } else {
         window_.splitDockWidget(tree, dock, Qt::Horizontal);
         setWidths({tree, dock}, {treeWidth_, wantedWidth(*dock)});
+    }
+}
+
+/// Short names stay whole beside long ones; what does not fit can be scrolled to.
+void DockAreas::keepTabTitles() {
+    for (QTabBar* bar : window_.findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly)) {
+        bar->setElideMode(Qt::ElideNone);
+        bar->setUsesScrollButtons(true);
     }
 }
 

@@ -21,6 +21,7 @@ public:
 
 private:
     QList<QDockWidget*> docksIn(Qt::DockWidgetArea area) const;
+    void keepTabTitles();
     void setWidths(const QList<QDockWidget*>& docks, const QList<int>& widths);
 
     QMainWindow& window_;

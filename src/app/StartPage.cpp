@@ -112,6 +112,7 @@ QWidget* StartPage::makeOverview() {
     entities_->setFocusPolicy(Qt::ClickFocus);
     entities_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     entities_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    entities_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // labels give way
     layout->addWidget(title_);
     layout->addWidget(path_);
     layout->addSpacing(fontMetrics().height());

@@ -26,9 +26,7 @@ protected:
     }
 
 private:
-    void retranslate() {
-        setWindowTitle(QCoreApplication::translate("TfrmDictionary", title_));
-    }
+    void retranslate() { setWindowTitle(QCoreApplication::translate("TfrmDictionary", title_)); }
 
     const char* title_;
 };

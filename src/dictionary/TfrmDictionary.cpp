@@ -139,8 +139,7 @@ void TfrmDictionary::connectTree() {
 
 void TfrmDictionary::tellPath() {
     if (entityDock_)
-        entityDock_->setToolTip(
-            QDir::toNativeSeparators(TfrmProject::instance().dictionaryPath()));
+        entityDock_->setToolTip(QDir::toNativeSeparators(TfrmProject::instance().dictionaryPath()));
 }
 
 void TfrmDictionary::makeVariablesDock() {
@@ -282,10 +281,9 @@ void TfrmDictionary::on_saveAsDictionary() {
     if (!project.isOpen() || !settlePending())
         return;
     const QString suffix = DictionarySaver::suffixFor(project.dictionaryKind());
-    const QString path =
-        KelvoraFileDialog(QStringLiteral("DICTIONARY"), QString(), tr("Save file"))
-            .saveFile(tr("Files (*%1)").arg(suffix), suffix,
-                      QFileInfo(project.dictionaryPath()).fileName());
+    const QString path = KelvoraFileDialog(QStringLiteral("DICTIONARY"), QString(), tr("Save file"))
+                             .saveFile(tr("Files (*%1)").arg(suffix), suffix,
+                                       QFileInfo(project.dictionaryPath()).fileName());
     if (path.isEmpty())
         return;
     shell_.showStatus(tr("Saving..."), true);
@@ -332,7 +330,8 @@ bool TfrmDictionary::confirmClose() {
         return false;
     if (!isDirty())
         return true;
-    switch (askYesNoCancel(tr("Confirm"), tr("Dictionary has been modified. Save modifications?"))) {
+    switch (
+        askYesNoCancel(tr("Confirm"), tr("Dictionary has been modified. Save modifications?"))) {
     case Choice::Yes:
         return save();
     case Choice::No:

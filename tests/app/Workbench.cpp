@@ -88,8 +88,7 @@ void Workbench::select(const QString& entity, const QString& variable) const {
 
 void Workbench::chooseFromMenu(QAbstractItemView* view, const char* action) const {
     const QPoint place = view->visualRect(view->currentIndex()).center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place,
-                            view->viewport()->mapToGlobal(place));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
     QApplication::sendEvent(view->viewport(), &event);
     QTRY_VERIFY(openMenu() != nullptr);
     QMenu* menu = openMenu();

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main job through the real window, as a user does it. Figures are counted by hand from the
-// records in support/SmallDatabase.h.
+// Opening, running and closing through the real window, as a user does it. Figures are counted by
+// hand from the records in support/SmallDatabase.h.
 #include "EngineCalls.h"
-#include "app/MainWindow.h"
-#include "app/dialogs/KelvoraFileDialog.h"
-#include "app/messages/Messages.h"
+#include "Workbench.h"
+#include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
-#include "engine/TKelConfigImpl.h"
-#include "engine/UIInvoker.h"
 #include "kel.h"
+#include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
 #include "support/ModalAnswer.h"
 #include "support/SmallDatabase.h"
@@ -16,283 +14,235 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDir>
 #include <QDockWidget>
 #include <QFile>
-#include <QFont>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTabWidget>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
 class TestMainWindow : public QObject {
     Q_OBJECT
 
-    QTemporaryDir folder_;
-    std::unique_ptr<MainWindow> window_;
-    QStringList messages_;
-    Choice answer_ = Choice::No;
+    std::unique_ptr<Workbench> bench_;
 
-    template <typename Widget>
-    Widget* find(const char* name) const {
-        return window_->findChild<Widget*>(QLatin1String(name));
-    }
+    QMdiArea& area() const { return *bench_->find<QMdiArea>("workArea"); }
+    tt::TabToolbar& ribbon() const { return *bench_->find<tt::TabToolbar>("ribbon"); }
 
-    /// No window manager does it here once a dialog has gone.
-    void activate() const {
-        window_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    void openByKeyboard(const QString& path) const {
-        activate();
-        KelvoraFileDialog::answerNext(path);
-        QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
-        QTRY_VERIFY_WITH_TIMEOUT(!window_->isLoading(), 20000);
-    }
-
-    void select(const QStringList& entities, const QString& variable) const {
-        activate();
-        const auto* tree = find<QTreeView>("entityTree");
-        QModelIndex place;
-        for (const QString& name : entities) {
-            const auto found = tree->model()->match(tree->model()->index(0, 0, place),
-                                                    Qt::DisplayRole, name, 1, Qt::MatchExactly);
-            QVERIFY2(!found.isEmpty(), qPrintable(name));
-            place = found.first();
-        }
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(place).center());
-        const auto* table = find<QTableView>("variableTable");
-        const auto rows = table->model()->match(table->model()->index(0, 0), Qt::DisplayRole,
-                                                variable, 1, Qt::MatchExactly);
-        QVERIFY2(!rows.isEmpty(), qPrintable(variable));
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
-                          table->visualRect(rows.first()).center());
-    }
-
-    void selectSex() const { select({"COUNTRY", "DISTRICT", "HOUSEHOLD", "PERSON"}, "SEX"); }
-
-    void openSmall() const {
-        if (TfrmProject::instance().dictionaryPath() != folder_.filePath("small.kxdb"))
-            openByKeyboard(folder_.filePath("small.kxdb"));
-        QVERIFY(TfrmProject::instance().allPathsFound());
+    /// Opens, after the windows of the work area have gone.
+    void open(const QString& path) const {
+        area().closeAllSubWindows();
+        bench_->openByKeyboard(path);
     }
 
     void runSex() const {
-        openSmall();
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QCOMPARE(frequencyRows().size(), 4);
+        bench_->openSmall();
+        bench_->select("PERSON", "SEX");
+        bench_->frequency();
+        QCOMPARE(bench_->frequencyRows().size(), 4);
     }
 
-    QStringList frequencyRows() const {
-        const QAbstractItemModel* model = find<QTableView>("frequencyTable")->model();
-        QStringList rows;
-        for (int row = 0; row < model->rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < model->columnCount(); ++column)
-                cells += model->index(row, column).data().toString();
-            rows += cells.join('|');
-        }
-        return rows;
+    QStringList leftDocks() const {
+        QStringList names;
+        for (const QDockWidget* dock : bench_->window().findChildren<QDockWidget*>())
+            if (bench_->window().dockWidgetArea(const_cast<QDockWidget*>(dock)) ==
+                Qt::LeftDockWidgetArea)
+                names += dock->objectName();
+        names.sort();
+        return names;
     }
 
 private slots:
-    void initTestCase() {
-        UIInvoker::instance();
-        kel::init(std::make_shared<TKelConfigImpl>());
-        kel::setupLocale("en");
-        writeSmallDatabase(folder_.path());
-        answerMessages([this](MessageKind, const QString& text) {
-            messages_ += text;
-            return answer_;
-        });
-        window_ = std::make_unique<MainWindow>();
-        window_->setWindowTitle("KelXProcess 67f53c7a");
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    void init() { messages_.clear(); }
-
-    void cleanupTestCase() { answerMessages({}); }
+    void initTestCase() { bench_ = std::make_unique<Workbench>(); }
+    void init() { bench_->messages.clear(); }
 
     void windowStartsEmpty() {
-        QCOMPARE(MainWindow::instance(), window_.get());
-        QCOMPARE(find<QTreeView>("entityTree")->model()->rowCount(), 0);
-        QVERIFY(!find<QAction>("actionFrequency")->isEnabled());
-        QVERIFY(!find<QDockWidget>("resultDock")->isVisible());
+        QCOMPARE(MainWindow::instance(), &bench_->window());
+        QCOMPARE(leftDocks(), QStringList());
+        QCOMPARE(bench_->windowNames(), QStringList());
+        QVERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
+        QCOMPARE(ribbon().CurrentTab(), 0);
     }
 
-    void wrongExtensionIsRefused() {
-        openByKeyboard(folder_.filePath("small.txt"));
-        QCOMPARE(messages_, QStringList("Archivo no válido"));
+    void whatIsNoDictionaryIsRefused() {
+        bench_->openByKeyboard(bench_->folder() + "/small.txt");
+        QCOMPARE(bench_->messages, QStringList("Archivo no válido"));
+        bench_->messages.clear();
+        QDir(bench_->folder()).mkdir("folder.dicx");
+        bench_->openByKeyboard(bench_->folder() + "/folder.dicx");
+        QCOMPARE(bench_->messages.size(), 1);
+        QVERIFY(bench_->messages[0].contains("folder.dicx"));
         QVERIFY(!TfrmProject::instance().isOpen());
     }
 
-    void dictionaryOpensThroughTheMenu() {
-        openByKeyboard(folder_.filePath("small.kxdb"));
-        QCOMPARE(messages_, QStringList());
-        QVERIFY(TfrmProject::instance().isOpen());
-        QCOMPARE(TfrmProject::instance().dictionaryKind(), DictionaryKind::Kxdb);
-        QVERIFY(TfrmProject::instance().allPathsFound());
-        QCOMPARE(find<QLabel>("dictionaryLabel")->text(), "small.kxdb");
-        QCOMPARE(window_->windowTitle(), "KelXProcess 67f53c7a");
+    void dictionaryOpensFromTheKeyboard() {
+        open(bench_->smallPath());
+        QCOMPARE(bench_->messages, QStringList());
+        const TfrmProject& project = TfrmProject::instance();
+        QCOMPARE(project.dictionaryKind(), DictionaryKind::Kxdb);
+        QVERIFY(project.allPathsFound());
+        QCOMPARE(bench_->find<QLabel>("dictionaryLabel")->text(), "small.kxdb");
+        QCOMPARE(bench_->window().windowTitle(), "KelXProcess 67f53c7a");
         QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
-        QCOMPARE(KelSystem::instance().directoryFor("DICTIONARY"), folder_.path());
+        QCOMPARE(ribbon().CurrentTab(), 2);
+        QVERIFY(leftDocks().contains("Dictionary"));
+        QVERIFY(leftDocks().contains("Variables"));
+        const KelSystem& system = KelSystem::instance();
+        QCOMPARE(system.directoryFor("DICTIONARY"), bench_->folder());
+        QCOMPARE(system.recentDictionaries().value(0), bench_->smallPath());
+        // Stored at once: a crash later on forgets nothing.
+        QVariant last;
+        system.readValue(last, "lastOpened", "kelSystem", "");
+        QCOMPARE(last.toString(), bench_->smallPath());
+        // What the empty work area tells of it.
+        const auto* entities = bench_->find<QTableView>("overviewEntities");
+        QVERIFY(entities->isVisible());
+        QCOMPARE(entities->model()->rowCount(), 4);
+        QCOMPARE(entities->model()->index(3, 2).data().toString(), "7");
     }
 
     void frequencyShowsWeightedFigures() {
         runSex();
-        QCOMPARE(messages_, QStringList());
-        QVERIFY(find<QDockWidget>("resultDock")->isVisible());
-        QStringList rows = frequencyRows();
-        rows.sort();
-        QCOMPARE(rows, QStringList({"1|Male|2.50|26.3", "2|Female|7.00|73.7", "|Missing|1.00|",
-                                    "|Total|9.50|100.0"}));
-        QVERIFY(find<QLabel>("frequencyNote")->text().contains("Unit of count: PERSON"));
-        QVERIFY(find<QLabel>("frequencyNote")->text().contains("HOUSEHOLD.WEIGHT"));
-        QVERIFY(find<QLabel>("frequencyTitle")->text().contains("PERSON.SEX"));
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(bench_->windowNames(), QStringList("ResultsManager"));
+        QCOMPARE(bench_->frequencyRows(), QStringList({"1|Male|2.50|26.3", "2|Female|7.00|73.7",
+                                                       "|Missing|1.00|", "|Total|9.50|100.0"}));
+        QVERIFY(bench_->find<QLabel>("frequencyNote")->text().contains("Unit of count: PERSON"));
+        QVERIFY(bench_->find<QLabel>("frequencyNote")->text().contains("HOUSEHOLD.WEIGHT"));
     }
 
-    void keyboardAloneMakesATable() {
-        openSmall();
-        auto* tree = find<QTreeView>("entityTree");
-        tree->setFocus();
-        QTest::keyClick(tree, Qt::Key_End); // PERSON, the last entity
-        QTest::keyClick(window_.get(), Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), "rooms");
-        QCOMPARE(find<QLabel>("variableCount")->text(), "0 of 3");
-        QTest::keyClick(tree, Qt::Key_Up);
-        QCOMPARE(find<QLabel>("variableCount")->text(), "1 of 2");
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QStringList rows = frequencyRows();
-        rows.sort();
-        QCOMPARE(rows, QStringList({"2||2.50|55.6", "3||2.00|44.4", "|Total|4.50|100.0"}));
-        find<QLineEdit>("variableFilter")->clear();
+    void treeMenuCountsEveryVariable() {
+        bench_->openSmall();
+        auto* tree = bench_->find<QTreeView>("TreeViewDictionary");
+        QVERIFY(Workbench::click(tree, "HOUSEHOLD"));
+        const auto* list = bench_->find<QAbstractItemView>("resultList");
+        const int before = list != nullptr ? list->model()->rowCount() : 0;
+        bench_->chooseFromMenu(tree, "actionFrequency");
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(bench_->find<QAbstractItemView>("resultList")->model()->rowCount(), before + 2);
     }
 
-    void totalIsBoldAndNumbersStandRight() {
+    void resultsComeBackAfterTheirTabWasClosed() {
         runSex();
-        const QAbstractItemModel* model = find<QTableView>("frequencyTable")->model();
-        QCOMPARE(model->rowCount(), 4);
-        for (int row = 0; row < model->rowCount(); ++row) {
-            const QModelIndex index = model->index(row, 2);
-            QCOMPARE(index.data(Qt::FontRole).value<QFont>().bold(),
-                     index.siblingAtColumn(1).data().toString() == "Total");
-            QVERIFY(index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+        const int tables = bench_->find<QAbstractItemView>("resultList")->model()->rowCount();
+        for (int round = 0; round < 2; ++round) {
+            area().closeAllSubWindows();
+            QTRY_COMPARE(bench_->windowNames(), QStringList());
+            QVERIFY(bench_->find<QWidget>("startPage")->isVisible());
+            bench_->window().onShowResults();
+            QCOMPARE(bench_->windowNames(), QStringList("ResultsManager"));
         }
+        QCOMPARE(bench_->find<QAbstractItemView>("resultList")->model()->rowCount(), tables);
     }
 
     void copiedTableKeepsFullPrecision() {
         runSex();
-        find<QAction>("actionCopyTable")->trigger();
+        bench_->find<QAction>("actionCopyTable")->trigger();
         const QString text = QGuiApplication::clipboard()->text();
         QVERIFY(text.contains("Code\tLabel\tWeighted count\tPercent\n"));
         QVERIFY(text.contains("1\tMale\t2.5\t26.315789473684"));
-        QVERIFY(text.contains("Unit of count: PERSON"));
-    }
-
-    void frequencyWithoutWeightCounts() {
-        openSmall();
-        select({"COUNTRY", "DISTRICT"}, "ZONE");
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QStringList rows = frequencyRows();
-        rows.sort();
-        QCOMPARE(rows, QStringList({"1||2|100.0", "|Total|2|100.0"}));
-        QVERIFY(find<QLabel>("frequencyNote")->text().contains("Not weighted"));
     }
 
     void programFaultIsToldAndKeepsTheTable() {
         runSex();
-        const QStringList before = frequencyRows();
-        window_->runFrequency("PERSON.NOSUCH");
-        QCOMPARE(messages_.size(), 1);
-        QVERIFY2(messages_[0].startsWith("1: KEL_E_"), qPrintable(messages_[0]));
-        QCOMPARE(frequencyRows(), before);
+        const QStringList before = bench_->frequencyRows();
+        bench_->window().runProgram("FREQ PERSON.NOSUCH");
+        QCOMPARE(bench_->messages.size(), 1);
+        QVERIFY2(bench_->messages[0].startsWith("1: KEL_E_"), qPrintable(bench_->messages[0]));
+        QCOMPARE(bench_->frequencyRows(), before);
         QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
     }
 
-    void badFileKeepsTheOpenDictionary() {
-        openSmall();
-        QFile bad(folder_.filePath("bad.kxdb"));
+    void openWindowsStandAgainstAnotherDictionary() {
+        runSex();
+        bench_->openByKeyboard(bench_->folder() + "/small.dicx");
+        QCOMPARE(bench_->messages,
+                 QStringList("Please, close all the windows from the application work area before "
+                             "changing the dictionary"));
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), bench_->smallPath());
+        bench_->messages.clear();
+        area().closeAllSubWindows();
+        bench_->window().onClickInPreferences();
+        QCOMPARE(bench_->windowNames(), QStringList("KelxPreferencesDialog"));
+        bench_->openByKeyboard(bench_->folder() + "/small.dicx");
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), bench_->folder() + "/small.dicx");
+        QCOMPARE(TfrmProject::instance().dictionaryKind(), DictionaryKind::Dicx);
+    }
+
+    void unreadableFileLeavesNothingOpen() {
+        bench_->openSmall();
+        QFile bad(bench_->folder() + "/bad.kxdb");
         QVERIFY(bad.open(QIODevice::WriteOnly));
         bad.write("this is no dictionary");
         bad.close();
-        openByKeyboard(bad.fileName());
-        QTRY_COMPARE(messages_.size(), 1);
-        QVERIFY2(messages_[0].contains("bad.kxdb"), qPrintable(messages_[0]));
-        QCOMPARE(TfrmProject::instance().dictionaryPath(), folder_.filePath("small.kxdb"));
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QCOMPARE(frequencyRows().size(), 4);
+        open(bad.fileName());
+        QTRY_COMPARE(bench_->messages.size(), 1);
+        QVERIFY2(bench_->messages[0].contains("bad.kxdb"), qPrintable(bench_->messages[0]));
+        QVERIFY(!TfrmProject::instance().isOpen());
+        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+        QTRY_COMPARE(leftDocks(), QStringList());
+        QVERIFY(!KelSystem::instance().recentDictionaries().contains(bad.fileName()));
+    }
+
+    void brokenTextFormEndsWithAWordInTheStatusBar() {
+        QFile bad(bench_->folder() + "/broken.dicx");
+        QVERIFY(bad.open(QIODevice::WriteOnly));
+        bad.write("<kelDictionary_XML><general>");
+        bad.close();
+        open(bad.fileName());
+        QCOMPARE(bench_->messages, QStringList());
+        QVERIFY(!TfrmProject::instance().isOpen());
+        QCOMPARE(bench_->window().findChild<QStatusBar*>()->currentMessage(), "Invalid Dictionary");
     }
 
     void missingFilesAreTold() {
         const QTemporaryDir other;
         writeSmallDatabase(other.path());
         QVERIFY(QFile::remove(other.filePath("PERSON_AGE.kbf")));
-        openByKeyboard(other.filePath("small.dicx"));
-        QTRY_COMPARE(messages_.size(), 1);
-        QVERIFY(messages_[0].startsWith("Some variable and/or entity paths could not be found!"));
-        QVERIFY(messages_[0].contains("PERSON.AGE"));
-        QVERIFY(!messages_[0].contains("PERSON.SEX"));
+        open(other.filePath("small.kxdb"));
+        QTRY_COMPARE(bench_->messages,
+                     QStringList("Some variable and/or entity paths could not be found!\nPlease, "
+                                 "press Locate button in the Dictionary ToolBar"));
         QVERIFY(!TfrmProject::instance().allPathsFound());
-        QCOMPARE(TfrmProject::instance().dictionaryKind(), DictionaryKind::Dicx);
-        // The results of the dictionary before went with it.
-        QCOMPARE(frequencyRows(), QStringList());
-        messages_.clear();
-        openByKeyboard(folder_.filePath("small.kxdb"));
-        QVERIFY(TfrmProject::instance().allPathsFound());
-    }
-
-    void missingEntityFileIsTold() {
-        const QTemporaryDir other;
-        writeSmallDatabase(other.path());
-        QVERIFY(QFile::remove(other.filePath("PERSON.kpt")));
-        openByKeyboard(other.filePath("small.kxdb"));
-        QTRY_COMPARE(messages_.size(), 1);
-        QVERIFY2(messages_[0].endsWith("\n\nPERSON"), qPrintable(messages_[0]));
-        messages_.clear();
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QCOMPARE(messages_.size(), 1);
-        QVERIFY2(messages_[0].contains("PERSON.kpt"), qPrintable(messages_[0]));
-        QVERIFY(!find<QDockWidget>("resultDock")->isVisible());
+        QCOMPARE(ribbon().CurrentTab(), 1);
     }
 
     void dataFolderOfTheUserIsKept() {
         const QTemporaryDir alone;
         const QString path = alone.filePath("small.kxdb");
-        QVERIFY(QFile::copy(folder_.filePath("small.kxdb"), path));
+        QVERIFY(QFile::copy(bench_->smallPath(), path));
         answerNextDialog([this](QDialog& dialog) {
             QCOMPARE(dialog.windowTitle(), "Select data folder to SMALL");
-            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(folder_.path());
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(bench_->folder());
             dialog.accept();
         });
-        openByKeyboard(path);
-        QCOMPARE(messages_, QStringList());
+        open(path);
+        QCOMPARE(bench_->messages, QStringList());
         QCOMPARE(TfrmProject::instance().dictionaryPath(), path);
         QVERIFY(TfrmProject::instance().allPathsFound());
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QCOMPARE(messages_, QStringList());
-        QCOMPARE(frequencyRows().size(), 4);
+        bench_->select("PERSON", "SEX");
+        bench_->frequency();
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(bench_->frequencyRows().size(), 4);
     }
 
     void refusedDataFolderEndsTheLoad() {
-        openSmall();
         const QTemporaryDir alone;
-        QVERIFY(QFile::copy(folder_.filePath("small.kxdb"), alone.filePath("small.kxdb")));
+        QVERIFY(QFile::copy(bench_->smallPath(), alone.filePath("small.kxdb")));
         answerNextDialog([](QDialog& dialog) { dialog.reject(); });
-        openByKeyboard(alone.filePath("small.kxdb"));
-        QTRY_COMPARE(messages_, QStringList("Missing data location."));
-        QCOMPARE(TfrmProject::instance().dictionaryPath(), folder_.filePath("small.kxdb"));
+        open(alone.filePath("small.kxdb"));
+        QTRY_COMPARE(bench_->messages, QStringList("Missing data location."));
+        QVERIFY(!TfrmProject::instance().isOpen());
     }
 
     void passwordOpensAProtectedDatabase() {
@@ -300,84 +250,128 @@ private slots:
         writeSmallDatabase(other.path(), "s3cret");
         const QString path = other.filePath("small.kxdb");
         const auto answer = [this, &path](const QString& password) {
-            messages_.clear();
+            bench_->messages.clear();
             answerNextDialog([password](QDialog& dialog) {
                 QTest::keyClicks(dialog.findChild<QLineEdit*>("password"), password);
                 QTest::keyClick(&dialog, Qt::Key_Return);
             });
-            openByKeyboard(path);
+            open(path);
         };
-        answer("wrong");
-        QTRY_COMPARE(messages_, QStringList("Wrong password."));
+        for (const char* wrong : {"wrong", "Wrong", "s3cret "}) {
+            answer(wrong);
+            QTRY_COMPARE(bench_->messages, QStringList("Wrong password."));
+        }
         answer("");
-        QTRY_COMPARE(messages_, QStringList("Missing password."));
+        QTRY_COMPARE(bench_->messages, QStringList("Missing password."));
         answer("s3cret");
-        QCOMPARE(messages_, QStringList());
+        QCOMPARE(bench_->messages, QStringList());
         QCOMPARE(TfrmProject::instance().dictionaryPath(), path);
-        selectSex();
-        QTest::keyClick(window_.get(), Qt::Key_F9);
-        QCOMPARE(frequencyRows().size(), 4);
     }
 
-    void changesAreSavedBeforeTheNextOneOpens() {
-        const QTemporaryDir other;
-        writeSmallDatabase(other.path());
-        const QString path = other.filePath("small.kxdb");
-        openByKeyboard(path);
-        TKelDictionary& dictionary = *TfrmProject::instance().dictionary();
-        dictionary.findEntity("PERSON")->setLabel("Inhabitant");
-        dictionary.setDirty(true);
-        answer_ = Choice::Yes;
-        openByKeyboard(folder_.filePath("small.kxdb"));
-        answer_ = Choice::No;
-        QCOMPARE(messages_, QStringList("Do you want to save the changes in the dictionary?"));
-        const auto saved = kel::readDictionary(path.toStdString(), nullptr, true);
-        QCOMPARE(saved->findEntity("PERSON")->label(), "Inhabitant");
+    void quickViewStandsOnTheRight() {
+        open(bench_->smallPath());
+        bench_->select("PERSON", "SEX");
+        QTest::keyClick(bench_->find<QTableView>("variableTable"), Qt::Key_F3);
+        QDockWidget* view = bench_->window().dock("VarProperties");
+        QVERIFY(view != nullptr && view->isVisible());
+        QCOMPARE(bench_->window().dockWidgetArea(view), Qt::RightDockWidgetArea);
+        QVERIFY(view->windowTitle().contains("PERSON.SEX"));
+        QTest::keyClick(bench_->find<QTreeView>("TreeViewDictionary"), Qt::Key_F3);
+        QCOMPARE(bench_->window().dock("VarProperties"), view);
+        QVERIFY(view->windowTitle().contains("PERSON"));
+    }
+
+    void ribbonKeepsPageAndDocksThroughARebuild() {
+        bench_->openSmall();
+        ribbon().SetCurrentTab(5);
+        ribbon().SetMinimized(true);
+        const QStringList docks = leftDocks();
+        bench_->window().rebuildToolbars();
+        QTRY_COMPARE(bench_->window().findChildren<tt::TabToolbar*>().size(), 1);
+        QCOMPARE(ribbon().CurrentTab(), 5);
+        QVERIFY(ribbon().IsMinimized());
+        QCOMPARE(leftDocks(), docks);
+        ribbon().SetMinimized(false);
+    }
+
+    void modeActionSwitchesBetweenTabsAndWindows() {
+        area().closeAllSubWindows();
+        auto* mode = bench_->find<QAction>("modeAction");
+        QCOMPARE(area().viewMode(), QMdiArea::TabbedView);
+        mode->trigger();
+        QCOMPARE(area().viewMode(), QMdiArea::SubWindowView);
+        QCOMPARE(bench_->windowNames(), QStringList());
+        mode->trigger();
+        QCOMPARE(area().viewMode(), QMdiArea::TabbedView);
+        QVERIFY(area().tabsClosable() && area().tabsMovable());
+    }
+
+    void preferencesOpenOnceAndEscapeClosesTheirTab() {
+        bench_->find<QAction>("preferencesAction")->trigger();
+        bench_->find<QAction>("preferencesAction")->trigger();
+        QCOMPARE(bench_->windowNames(), QStringList("KelxPreferencesDialog"));
+        QTest::keyClick(bench_->find<ConfigDialog>("KelxPreferencesDialog"), Qt::Key_Escape);
+        QTRY_COMPARE(bench_->windowNames(), QStringList());
+    }
+
+    void styleChangesTheWholeWindow() {
+        bench_->openSmall();
+        bench_->window().onClickInPreferences();
+        auto* colours = bench_->find<QComboBox>("cbMenuColors");
+        QVERIFY(colours->count() >= 4);
+        const int light = bench_->window().palette().color(QPalette::Window).lightness();
+        colours->setFocus();
+        QTest::keyClick(colours, Qt::Key_End);
+        QTRY_VERIFY(bench_->window().palette().color(QPalette::Window).lightness() < light / 2);
+        QTest::keyClick(colours, Qt::Key_Home);
+        QTRY_COMPARE(bench_->window().palette().color(QPalette::Window).lightness(), light);
+        area().closeAllSubWindows();
     }
 
     void languageChangesTheOpenWindow_data() {
         QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("menu");
+        QTest::addColumn<QString>("page");
         QTest::addColumn<QString>("column");
         QTest::newRow("Spanish") << "Process_es"
-                                 << "&Archivo"
+                                 << "ARCHIVO"
                                  << "Etiqueta";
         QTest::newRow("Portuguese") << "Process_pt"
-                                    << "&Arquivo"
+                                    << "ARQUIVO"
                                     << "Rótulo";
         QTest::newRow("French") << "Process_fr"
-                                << "&Fichier"
+                                << "FICHIER"
                                 << "Libellé";
         QTest::newRow("English") << "Process_en"
-                                 << "&File"
+                                 << "FILE"
                                  << "Label";
     }
 
     void languageChangesTheOpenWindow() {
         QFETCH(QString, language);
-        QFETCH(QString, menu);
+        QFETCH(QString, page);
         QFETCH(QString, column);
+        bench_->openSmall();
+        ribbon().SetCurrentTab(2);
         QVERIFY(KelSystem::instance().installTranslator(language));
         QCoreApplication::processEvents();
-        QCOMPARE(window_->menuBar()->actions().first()->text(), menu);
-        QCOMPARE(find<QTableView>("variableTable")
-                     ->model()
-                     ->headerData(1, Qt::Horizontal, Qt::DisplayRole)
-                     .toString(),
-                 column);
-        QCOMPARE(window_->windowTitle(), "KelXProcess 67f53c7a");
+        const auto* tabs = ribbon().findChild<QTabWidget*>();
+        QCOMPARE(tabs->tabText(2).trimmed(), page);
+        QCOMPARE(tabs->currentIndex(), 2);
+        const auto* table = bench_->find<QTableView>("variableTable");
+        QCOMPARE(table->model()->headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(), column);
+        QCOMPARE(bench_->window().windowTitle(), "KelXProcess 67f53c7a");
     }
 
     // The last one: the engine ends with it.
     void closingAsksOnceAndEndsTheEngineOnce() {
         runSex();
         TfrmProject::instance().dictionary()->setDirty(true);
-        answer_ = Choice::No;
-        QVERIFY(window_->close());
-        QCOMPARE(messages_, QStringList("Do you want to save the changes in the dictionary?"));
+        QVERIFY(bench_->window().close());
+        QCOMPARE(bench_->messages,
+                 QStringList("Do you want to save the changes in the dictionary?"));
         QCOMPARE(destroyCalls(), 1);
         QVERIFY(!TfrmProject::instance().isOpen());
-        window_.reset();
+        bench_->endWindow();
         QCOMPARE(destroyCalls(), 1);
     }
 };

@@ -19,6 +19,8 @@
 
 namespace {
 
+const QString headerStyle = QStringLiteral("QHeaderView { font-weight: 600; }");
+
 constexpr int rowsMeasured = 200; ///< for the width of a column
 constexpr int widestColumn = 24;  ///< characters, label apart
 
@@ -54,7 +56,7 @@ void KelVariablesTableView::setUpLook() {
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     QHeaderView* header = horizontalHeader();
-    header->setStyleSheet(QStringLiteral("QHeaderView { font-weight: 600; }"));
+    header->setStyleSheet(headerStyle);
     header->setSectionsMovable(true);
     header->setHighlightSections(false);
     header->setResizeContentsPrecision(rowsMeasured);
@@ -284,6 +286,11 @@ void KelVariablesTableView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange)
         followFont();
     VariablesExtendTableView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        // A style sheet keeps the colours of the time when it was set.
+        horizontalHeader()->setStyleSheet(QString());
+        horizontalHeader()->setStyleSheet(headerStyle);
+    }
 }
 
 void KelVariablesTableView::followFont() {
