@@ -214,8 +214,9 @@ private slots:
                                    *project().root());
         xml = contentOf(path("virtual.dicx"));
         const qsizetype end = xml.lastIndexOf("</entity>");
-        xml.insert(xml.lastIndexOf("</entity>", end - 1),
-                   "<entity><name>KIDS</name><isVirtual>true</isVirtual></entity>");
+        xml.insert(
+            xml.lastIndexOf("</entity>", end - 1),
+            "<entity><name>KIDS</name><isVirtual>true</isVirtual><hidden>true</hidden></entity>");
         write("virtual.dicx", xml);
         open("virtual.dicx");
         QVERIFY(entity("KIDS")->isVirtual);
@@ -223,6 +224,8 @@ private slots:
         open("virtual.dicx");
         QCOMPARE(entity("KIDS")->name, "KIDS");
         QVERIFY(entity("KIDS")->isVirtual);
+        QVERIFY(entity("KIDS")->engineEntity->hidden());
+        QVERIFY(!entity("PERSON")->engineEntity->hidden());
         QCOMPARE(entity("KIDS")->engineEntity->fileName(), "");
     }
 

@@ -44,6 +44,10 @@ QLineEdit* LocatePaths::addFact(const QString& name, const QString& value) {
     auto* line = new QLineEdit(value);
     line->setObjectName(name);
     line->setReadOnly(true);
+    line->setFrame(false); // told, not asked
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::Base, Qt::transparent);
+    line->setPalette(palette);
     line->setToolTip(value);
     line->setCursorPosition(0);
     line->setMinimumWidth(pathWidth * fontMetrics().averageCharWidth());

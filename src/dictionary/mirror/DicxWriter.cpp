@@ -121,13 +121,21 @@ void DicxWriter::writeEntity(const QString& element, const TKpEntity& entity) {
     textUnlessEmpty(QStringLiteral("documentation"), entity.documentation);
     if (entity.tag >= 0)
         number(QStringLiteral("tag"), entity.tag);
-    if (entity.engineEntity != nullptr && entity.engineEntity->sensitive())
-        number(QStringLiteral("sensitive"), *entity.engineEntity->sensitive());
+    writeMarks(entity);
     for (const TKpVariable* variable : entity.variables)
         writeVariable(*variable);
     for (const TKpEntity* child : entity.children)
         writeEntity(QStringLiteral("entity"), *child);
     xml_.writeEndElement();
+}
+
+/// What only the engine's entity knows.
+void DicxWriter::writeMarks(const TKpEntity& entity) {
+    if (entity.engineEntity == nullptr)
+        return;
+    trueIf(QStringLiteral("hidden"), entity.engineEntity->hidden());
+    if (const auto cases = entity.engineEntity->sensitive())
+        number(QStringLiteral("sensitive"), *cases);
 }
 
 void DicxWriter::writeVariable(const TKpVariable& variable) {

@@ -21,6 +21,7 @@ public:
 private:
     void writeGeneral(TKelDictionary& dictionary);
     void writeEntity(const QString& element, const TKpEntity& entity);
+    void writeMarks(const TKpEntity& entity);
     void writeVariable(const TKpVariable& variable);
     void writeRanges(const TKpVariable& variable);
     void writeCodes(const TKpVariable& variable);
