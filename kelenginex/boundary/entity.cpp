@@ -166,6 +166,10 @@ bool TKelEntity::isVirtual() const {
     return d->entity->isVirtual;
 }
 
+bool TKelEntity::hidden() const {
+    return d->entity->hidden;
+}
+
 const std::vector<TKelVariable*> TKelEntity::allVariables() {
     std::vector<TKelVariable*> all = d->variables;
     all.insert(all.end(), d->programVariables.begin(), d->programVariables.end());

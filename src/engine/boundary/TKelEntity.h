@@ -83,6 +83,7 @@ public:
     /// The number of cases below which figures about the entity are hidden.
     std::optional<int> sensitive() const;
     void setSensitive(const std::optional<int>& cases);
+    bool hidden() const; ///< a mark for lists of entities; has no other effect
 
     const std::vector<TKelVariable*>& variables() const;
     const std::vector<TKelEntity*>& children() const;

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dictionary/properties/EntityInfoView.h"
+
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int rowsSeen = 5; ///< at least
+
+QTreeWidgetItem* makeItem(const EntityInfo::Branch& branch) {
+    auto* item = new QTreeWidgetItem({branch.name, QLocale().toString(branch.elements)});
+    item->setToolTip(0, branch.label.toHtmlEscaped());
+    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    for (const EntityInfo::Branch& child : branch.children)
+        item->addChild(makeItem(child));
+    return item;
+}
+
+} // namespace
+
+EntityInfoView::EntityInfoView(QWidget* parent) : InfoView(parent) {
+    selected_ = addSection(QStringLiteral("lbSelectedEntity"));
+    path_ = addLines();
+    properties_ = addSection(QStringLiteral("lbEntityProperties"));
+    lines_ = addLines();
+    expand_ = addSection(QStringLiteral("lbExpandInformation"));
+    tree_ = new QTreeWidget;
+    tree_->setObjectName(QStringLiteral("treeElements"));
+    tree_->setColumnCount(2);
+    tree_->setUniformRowHeights(true);
+    tree_->setMinimumHeight((rowsSeen + 1) * (tree_->fontMetrics().height() + 8));
+    tree_->header()->setStretchLastSection(false);
+    tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    tree_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    addContent(tree_, 2);
+    documentationCaption_ = addSection(QStringLiteral("lbEntityDocumentation"));
+    documentation_ = addDocumentation();
+    documentation_->setObjectName(QStringLiteral("teInfoEntityDocumentation"));
+    retranslate();
+}
+
+void EntityInfoView::setInfo(const EntityInfo& info) {
+    info_ = info;
+    documentation_->setPlainText(info.documentation);
+    retranslate();
+}
+
+void EntityInfoView::fillTree() {
+    tree_->clear();
+    tree_->setHeaderLabels({tr("Entity"), tr("Number of Elements")});
+    if (info_.name.isEmpty())
+        return;
+    tree_->addTopLevelItem(makeItem(info_.branch));
+    tree_->expandAll();
+}
+
+void EntityInfoView::retranslate() {
+    selected_->setText(tr("Selected Entity"));
+    setLines(path_, info_.path());
+    properties_->setText(tr("Entity Properties"));
+    setLines(lines_, info_.lines());
+    expand_->setText(tr("Expand Information"));
+    tree_->setAccessibleName(tr("Expand Information"));
+    fillTree();
+    documentationCaption_->setText(tr("Properties Documentation"));
+    documentation_->setAccessibleName(tr("Documentation"));
+}

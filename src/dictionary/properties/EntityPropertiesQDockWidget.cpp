@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dictionary/properties/EntityPropertiesQDockWidget.h"
+
+#include "TKelVariable.h"
+#include "app/widgets/ElidedLabel.h"
+#include "app/widgets/ReadOnlyCheckBox.h"
+#include "dictionary/mirror/DictionaryEdit.h"
+#include "dictionary/mirror/DictionaryUtil.h"
+#include "dictionary/mirror/TKpEntity.h"
+#include "dictionary/properties/DocumentationEdit.h"
+#include "dictionary/properties/NameEdit.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+template <class Widget>
+Widget* named(const char* objectName) {
+    auto* widget = new Widget;
+    widget->setObjectName(QLatin1String(objectName));
+    return widget;
+}
+
+QComboBox* makeCombo(const char* objectName) {
+    auto* combo = named<QComboBox>(objectName);
+    // A long name must not make the dock wide.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(8);
+    return combo;
+}
+
+void showOnly(QComboBox* combo, const QString& text) {
+    combo->clear();
+    if (!text.isEmpty())
+        combo->addItem(text);
+    combo->setEnabled(!text.isEmpty());
+}
+
+QString nameOf(const TKelVariable* variable) {
+    return variable != nullptr ? QString::fromStdString(variable->name()) : QString();
+}
+
+} // namespace
+
+EntityPropertiesQDockWidget::EntityPropertiesQDockWidget(QWidget* parent)
+    : PropertyDock(QT_TR_NOOP("Entity Properties"), parent) {
+    QFormLayout* form = makeForm();
+    QVBoxLayout* page = addPage(QT_TR_NOOP("General"));
+    page->addLayout(form);
+    page->addStretch(1);
+    makeEdits(form);
+    makeVariables(form);
+    makeFacts(form);
+    documentation_ =
+        addDocumentationPage(QT_TR_NOOP("Documentation"), QStringLiteral("teDocumentation"));
+    connectEdits();
+    retranslate();
+    setEntity(nullptr, nullptr);
+}
+
+void EntityPropertiesQDockWidget::makeEdits(QFormLayout* form) {
+    label_ = named<QLineEdit>("leLabel");
+    alias_ = named<QLineEdit>("leAlias");
+    tag_ = named<QLineEdit>("leTag");
+    NameEdit::acceptNames(alias_);
+    NameEdit::acceptDigits(tag_);
+    addRow(form, QT_TR_NOOP("Label:"), label_, nullptr);
+    addRow(form, QT_TR_NOOP("Alias:"), alias_,
+           QT_TR_NOOP("Another name of the entity; Return stores it"));
+    addRow(form, QT_TR_NOOP("Tag:"), tag_, QT_TR_NOOP("A number of yours, 9999 at most"));
+}
+
+void EntityPropertiesQDockWidget::makeVariables(QFormLayout* form) {
+    codeVar_ = makeCombo("cbxCodeVar");
+    codeSize_ = named<QLabel>("lbGeoCodeValue");
+    codeSize_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    labelVar_ = makeCombo("cbxLabelVar");
+    weightVar_ = makeCombo("cbxWeightVar");
+    cmpCodeVar_ = makeCombo("cbxCmpcodeVar");
+    sdcVar_ = makeCombo("cbxSdcVar");
+    addRow(form, QT_TR_NOOP("Code variable:"), codeVar_, nullptr);
+    addRow(form, QT_TR_NOOP("Size of code:"), codeSize_,
+           QT_TR_NOOP("One zero for each character of the code"));
+    addRow(form, QT_TR_NOOP("Label variable:"), labelVar_, nullptr);
+    addRow(form, QT_TR_NOOP("Weight variable:"), weightVar_, nullptr);
+    addRow(form, QT_TR_NOOP("Compound code:"), cmpCodeVar_,
+           QT_TR_NOOP("The codes from the top of the hierarchy down, joined"));
+    addRow(form, QT_TR_NOOP("Disclosure control:"), sdcVar_, nullptr);
+}
+
+void EntityPropertiesQDockWidget::makeFacts(QFormLayout* form) {
+    total_ = named<QLabel>("lbTotalValue");
+    total_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    file_ = named<ElidedLabel>("lbPointerValue");
+    selectable_ = named<ReadOnlyCheckBox>("cbSelectable");
+    virtual_ = named<ReadOnlyCheckBox>("cbVirtual");
+    onDisk_ = named<ReadOnlyCheckBox>("cbOnDisk");
+    sensitive_ = named<ReadOnlyCheckBox>("cbSensitive");
+    addRow(form, QT_TR_NOOP("Number of elements:"), total_, nullptr);
+    addRow(form, QT_TR_NOOP("Data file:"), file_, nullptr);
+    caption(onDisk_, QT_TR_NOOP("Found on disk"), nullptr);
+    caption(selectable_, QT_TR_NOOP("Selectable"),
+            QT_TR_NOOP("May be used in selections and area lists"));
+    caption(virtual_, QT_TR_NOOP("Virtual"), nullptr);
+    caption(sensitive_, QT_TR_NOOP("SensitiveEntity"), nullptr);
+    for (QCheckBox* box : {onDisk_, selectable_, virtual_, sensitive_})
+        form->addRow(box);
+}
+
+void EntityPropertiesQDockWidget::connectEdits() {
+    using Self = EntityPropertiesQDockWidget;
+    connect(label_, &QLineEdit::textChanged, this, &Self::on_LabelTextChanged);
+    connect(label_, &QLineEdit::editingFinished, this, &Self::storeTexts);
+    connect(alias_, &QLineEdit::textChanged, this, &Self::on_AliasTextChanged);
+    connect(alias_, &QLineEdit::returnPressed, this, &Self::on_AliasReturnPressed);
+    connect(tag_, &QLineEdit::textChanged, this, &Self::on_TagTextChanged);
+    connect(tag_, &QLineEdit::editingFinished, this, &Self::storeTexts);
+    connect(documentation_, &QPlainTextEdit::textChanged, this, &Self::on_DocumentationTextChanged);
+    connect(documentation_, &DocumentationEdit::editingFinished, this, &Self::storeTexts);
+}
+
+void EntityPropertiesQDockWidget::setEntity(const std::shared_ptr<TKpEntity>& root,
+                                            TKpEntity* entity) {
+    root_ = root;
+    entity_ = entity;
+    stored_ = entity != nullptr ? EntityDraft::of(*entity) : EntityDraft();
+    pending_ = stored_;
+    fill();
+}
+
+void EntityPropertiesQDockWidget::rebind(const std::shared_ptr<TKpEntity>& root,
+                                         TKpEntity* entity) {
+    root_ = root;
+    entity_ = entity;
+    const EntityDraft now = EntityDraft::of(*entity);
+    pending_.rebase(stored_, now);
+    stored_ = now;
+    fill();
+    on_AliasTextChanged(pending_.alias);
+}
+
+void EntityPropertiesQDockWidget::fill() {
+    NameEdit::show(label_, pending_.label);
+    NameEdit::show(alias_, pending_.alias);
+    NameEdit::show(tag_, pending_.tag);
+    if (documentation_->toPlainText() != pending_.documentation) {
+        const QSignalBlocker blocker(documentation_);
+        documentation_->setPlainText(pending_.documentation);
+    }
+    aliasVerdict_ = {};
+    tabs_->setEnabled(entity_ != nullptr);
+    setSubject(entity_ != nullptr ? entity_->name : QString());
+    fillFacts();
+}
+
+void EntityPropertiesQDockWidget::fillFacts() {
+    const TKpEntity nothing(nullptr);
+    const TKpEntity& entity = entity_ != nullptr ? *entity_ : nothing;
+    showOnly(codeVar_, entity.refCode);
+    showOnly(labelVar_, entity.refLabel);
+    showOnly(weightVar_, entity.weightVar);
+    showOnly(cmpCodeVar_, entity_ != nullptr ? nameOf(entity_->cmpCodeVar()) : QString());
+    showOnly(sdcVar_, entity_ != nullptr ? nameOf(entity_->sdcVar()) : QString());
+    codeSize_->setText(QString(DictionaryUtil().codeSize(entity), QLatin1Char('0')));
+    total_->setText(entity_ != nullptr ? QLocale().toString(entity.instanceCount) : QString());
+    file_->setFullText(entity.fullPath);
+    selectable_->setChecked(entity.selectable);
+    virtual_->setChecked(entity.isVirtual);
+    onDisk_->setChecked(entity.fileExists);
+    sensitive_->setChecked(entity.sensitive);
+}
+
+bool EntityPropertiesQDockWidget::isModified() const {
+    return entity_ != nullptr && pending_ != stored_;
+}
+
+void EntityPropertiesQDockWidget::storeTexts() {
+    EntityDraft texts = pending_;
+    texts.alias = stored_.alias;
+    if (entity_ == nullptr || texts == stored_)
+        return;
+    texts.applyTo(*entity_);
+    stored_ = texts;
+    // The dictionary may hold less than was typed.
+    stored_.tag = EntityDraft::of(*entity_).tag;
+    pending_.tag = stored_.tag;
+    NameEdit::show(tag_, pending_.tag);
+    emit entitychanged(true);
+}
+
+bool EntityPropertiesQDockWidget::save() {
+    storeTexts();
+    return entity_ == nullptr || storeAlias();
+}
+
+void EntityPropertiesQDockWidget::discard() {
+    setEntity(root_, entity_);
+}
+
+bool EntityPropertiesQDockWidget::storeAlias() {
+    if (pending_.alias == stored_.alias)
+        return true;
+    if (!aliasVerdict_.isFine()) {
+        rejectAlias();
+        return false;
+    }
+    DictionaryEdit::setAlias(*entity_, pending_.alias);
+    stored_.alias = pending_.alias;
+    setSubject(entity_->name);
+    emit entitychanged(true);
+    return true;
+}
+
+/// What was in force before stays the entity's; the edit's signals rest while the box takes the
+/// focus, so that it raises no second one.
+void EntityPropertiesQDockWidget::rejectAlias() {
+    const NameVerdict verdict = std::exchange(aliasVerdict_, {});
+    pending_.alias = stored_.alias;
+    const QSignalBlocker blocker(alias_);
+    Validate::showMessage(verdict.code, verdict.name);
+    NameEdit::clear(alias_, stored_.alias);
+}
+
+void EntityPropertiesQDockWidget::on_LabelTextChanged(const QString& text) {
+    pending_.label = text;
+}
+
+void EntityPropertiesQDockWidget::on_AliasTextChanged(const QString& text) {
+    alias_->setPlaceholderText({});
+    pending_.alias = text;
+    aliasVerdict_ = entity_ != nullptr && text != stored_.alias
+                        ? Validate::checkAlias(root_.get(), *entity_, text)
+                        : NameVerdict();
+}
+
+void EntityPropertiesQDockWidget::on_AliasReturnPressed() {
+    if (entity_ != nullptr)
+        storeAlias();
+}
+
+void EntityPropertiesQDockWidget::on_TagTextChanged(const QString& text) {
+    pending_.tag = text;
+}
+
+void EntityPropertiesQDockWidget::on_DocumentationTextChanged() {
+    pending_.documentation = documentation_->toPlainText();
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dictionary/properties/InfoView.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel* makeLabel(const QString& text, bool bold) {
+    auto* label = new QLabel;
+    // Before the text, which would else be looked at for mark-up.
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    QFont font = label->font();
+    font.setBold(bold);
+    label->setFont(font);
+    return label;
+}
+
+} // namespace
+
+InfoView::InfoView(QWidget* parent) : QScrollArea(parent) {
+    auto* page = new QWidget;
+    layout_ = new QVBoxLayout(page);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidget(page);
+}
+
+QLabel* InfoView::addSection(const QString& objectName) {
+    auto* caption = new QLabel;
+    caption->setObjectName(objectName);
+    QFont font = caption->font();
+    font.setBold(true);
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * 1.1);
+    caption->setFont(font);
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    layout_->addWidget(caption);
+    layout_->addWidget(line);
+    return caption;
+}
+
+QFormLayout* InfoView::addLines() {
+    auto* form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setLabelAlignment(Qt::AlignLeft);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    layout_->addLayout(form);
+    layout_->addSpacing(layout_->spacing());
+    return form;
+}
+
+void InfoView::addContent(QWidget* content, int stretch) {
+    layout_->addWidget(content, stretch);
+}
+
+QPlainTextEdit* InfoView::addDocumentation() {
+    auto* text = new QPlainTextEdit;
+    text->setReadOnly(true);
+    text->setTabChangesFocus(true);
+    text->setMinimumHeight(4 * text->fontMetrics().lineSpacing());
+    layout_->addWidget(text, 1);
+    return text;
+}
+
+void InfoView::setLines(QFormLayout* form, const QList<InfoLine>& lines) {
+    while (form->rowCount() > 0)
+        form->removeRow(0);
+    for (const InfoLine& line : lines) {
+        if (line.caption.isEmpty())
+            form->addRow(makeLabel(line.text, false));
+        else if (line.text.isEmpty())
+            form->addRow(makeLabel(line.caption, true));
+        else
+            form->addRow(makeLabel(line.caption, true), makeLabel(line.text, false));
+    }
+}
