@@ -87,7 +87,7 @@ class TestRibbonPages : public QObject {
         QTest::mouseClick(button(name), Qt::LeftButton);
     }
 
-    QStringList enabledOn(RibbonPageIndex page) const {
+    QStringList enabledOn(ribbon::PageIndex page) const {
         QStringList names;
         for (const auto* button : ribbon_->Pages()[page]->findChildren<tt::CompactToolButton*>())
             if (button->isEnabled())
@@ -160,6 +160,7 @@ private slots:
                 const int left = button->mapTo(ribbon_, QPoint()).x();
                 QVERIFY2(left >= right, qPrintable(names.last()));
                 right = left + button->width();
+                QVERIFY2(!button->icon().pixmap(24).isNull(), qPrintable(names.last()));
                 QVERIFY2(!button->toolTip().isEmpty(), qPrintable(names.last()));
                 QVERIFY2(button->toolTip() != names.last(), qPrintable(names.last()));
             }
@@ -250,7 +251,7 @@ private slots:
         QTest::keyClick(area_, Qt::Key_Comma, Qt::ControlModifier);
         QCOMPARE(asked.size(), 1);
         QTest::keyClick(area_, Qt::Key_6, Qt::AltModifier);
-        QCOMPARE(ribbon_->CurrentTab(), static_cast<int>(WindowPage));
+        QCOMPARE(ribbon_->CurrentTab(), static_cast<int>(ribbon::WindowPage));
         QTRY_VERIFY(button("Window-cascade")->isVisible());
     }
 
