@@ -21,6 +21,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -86,7 +87,7 @@ class TestRibbonPages : public QObject {
         QTest::mouseClick(button(name), Qt::LeftButton);
     }
 
-    QStringList enabledOn(RibbonPageIndex page) const {
+    QStringList enabledOn(ribbon::PageIndex page) const {
         QStringList names;
         for (const auto* button : ribbon_->Pages()[page]->findChildren<tt::CompactToolButton*>())
             if (button->isEnabled())
@@ -159,6 +160,7 @@ private slots:
                 const int left = button->mapTo(ribbon_, QPoint()).x();
                 QVERIFY2(left >= right, qPrintable(names.last()));
                 right = left + button->width();
+                QVERIFY2(!button->icon().pixmap(24).isNull(), qPrintable(names.last()));
                 QVERIFY2(!button->toolTip().isEmpty(), qPrintable(names.last()));
                 QVERIFY2(button->toolTip() != names.last(), qPrintable(names.last()));
             }
@@ -222,6 +224,35 @@ private slots:
         QTest::keyClick(area_, Qt::Key_Comma, Qt::ControlModifier);
         QCOMPARE(asked, QStringList({"save", "save as", "locate", "close", "preferences", "save",
                                      "save as", "preferences"}));
+    }
+
+    void ribbonIsReplacedFromItsOwnButton() {
+        build(open());
+        connect(pages_, &RibbonPages::closeAllDictionary, this, [this] {
+            window_->removeToolBar(ribbon_);
+            ribbon_->deleteLater();
+            auto* next = new tt::TabToolbar(window_.get(), 75, 3);
+            next->SetMinimized(ribbon_->IsMinimized());
+            window_->addToolBar(next);
+            applyRibbonStyle(*next, 0);
+            pages_ = new RibbonPages(*next, {}, *area_);
+            ribbon_ = next;
+        });
+        const QPointer<tt::TabToolbar> old = ribbon_;
+        ribbon_->SetMinimized(true);
+        QTest::keyClick(area_, Qt::Key_2, Qt::AltModifier);
+        QTRY_VERIFY(button("Dictionary-close")->isVisible());
+        QTest::mouseClick(button("Dictionary-close"), Qt::LeftButton);
+        QTRY_VERIFY(old == nullptr);
+        QTRY_VERIFY(ribbon_->isVisible() && !ribbon_->IsPageShown());
+        QVERIFY(!button("Dictionary-close")->isEnabled());
+        // Its keys are the new one's alone.
+        QSignalSpy asked(pages_, &RibbonPages::preferences);
+        QTest::keyClick(area_, Qt::Key_Comma, Qt::ControlModifier);
+        QCOMPARE(asked.size(), 1);
+        QTest::keyClick(area_, Qt::Key_6, Qt::AltModifier);
+        QCOMPARE(ribbon_->CurrentTab(), static_cast<int>(ribbon::WindowPage));
+        QTRY_VERIFY(button("Window-cascade")->isVisible());
     }
 
     void openingAsksForAFile() {

@@ -4,6 +4,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include <utility>
+
 namespace workarea {
 
 namespace {
@@ -17,8 +19,8 @@ QList<QMdiSubWindow*> shownWindows(const QMdiArea& area) {
 /// All windows in their normal size, so that an arrangement has none left out.
 QList<QMdiSubWindow*> freeWindows(QMdiArea& area) {
     showWindows(area);
-    const QList<QMdiSubWindow*> windows = shownWindows(area);
-    for (QMdiSubWindow* window : windows)
+    QList<QMdiSubWindow*> windows = shownWindows(area);
+    for (QMdiSubWindow* window : std::as_const(windows))
         window->showNormal();
     return windows;
 }

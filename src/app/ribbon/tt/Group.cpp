@@ -34,8 +34,8 @@ Group::Group(const QString& title, QWidget* parent)
     title_->setProperty("TTGroupName", true);
     title_->setAlignment(Qt::AlignCenter);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(2, 2, 2, 1);
-    layout->setSpacing(2);
+    layout->setContentsMargins(2, 1, 2, 0);
+    layout->setSpacing(1);
     row_->setSpacing(2);
     layout->addLayout(row_, 1);
     layout->addWidget(title_);

@@ -20,7 +20,7 @@ namespace tt {
 
 namespace {
 
-constexpr int referenceLine = 15; ///< pixels; the line height that the sizes are told for
+constexpr int referenceLine = 14; ///< pixels; the line height that the sizes are told for
 constexpr int iconEdge = 24;      ///< at that line height
 constexpr int narrowest = 200;    ///< the tabs scroll by themselves from here on
 
@@ -158,6 +158,7 @@ void TabToolbar::SetCurrentTab(int index) {
 void TabToolbar::SetMinimized(bool minimized) {
     if (minimized == minimized_)
         return;
+    KeepFocus();
     minimized_ = minimized;
     SetPeeking(false);
     UpdateHideButton();
@@ -171,6 +172,7 @@ void TabToolbar::SetMinimized(bool minimized) {
 void TabToolbar::SetPeeking(bool peeking) {
     if (peeking == peeking_)
         return;
+    KeepFocus();
     peeking_ = peeking;
     // Clicks do not always move the focus: the work area's ground takes none.
     if (peeking)
@@ -265,12 +267,10 @@ void TabToolbar::keyPressEvent(QKeyEvent* event) {
         EnterPage();
     else if (!onTabs && key == Qt::Key_Up)
         LeavePage();
-    else if (peeking_ && key == Qt::Key_Escape) {
-        LeavePage();
+    else if (peeking_ && key == Qt::Key_Escape)
         SetPeeking(false);
-    } else {
+    else
         QToolBar::keyPressEvent(event);
-    }
 }
 
 void TabToolbar::EnterPage() {
@@ -281,6 +281,13 @@ void TabToolbar::EnterPage() {
 
 void TabToolbar::LeavePage() {
     tabs_->tabBar()->setFocus(Qt::TabFocusReason);
+}
+
+void TabToolbar::KeepFocus() {
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus != nullptr && tabs_->currentWidget() != nullptr &&
+        tabs_->currentWidget()->isAncestorOf(focus))
+        LeavePage();
 }
 
 bool TabToolbar::Holds(const QWidget* widget) const {

@@ -17,7 +17,7 @@ class TabToolbar : public QToolBar {
     Q_OBJECT
 
 public:
-    /// maxHeight: of a page, its group titles included, in pixels at a line height of 15 pixels; it
+    /// maxHeight: of a page, its group titles included, in pixels at a line height of 14 pixels; it
     /// grows with the font. groupRowCount: small widgets of a group above one another.
     explicit TabToolbar(QWidget* parent = nullptr, int maxHeight = 75, int groupRowCount = 3);
     ~TabToolbar() override;
@@ -83,10 +83,11 @@ private:
     void SetPeeking(bool peeking);
     void EnterPage();
     void LeavePage();
+    void KeepFocus(); ///< on the tabs, where it is on a button of a page that is to be hidden
     void UpdateSizes();
     void UpdateHideButton();
     bool Holds(const QWidget* widget) const; ///< menus of its buttons included
-    double Scale() const;                    ///< of the font, against the one of 15 pixels
+    double Scale() const;                    ///< of the font, against the one of 14 pixels
 
     int maxHeight_;
     int rowCount_;
