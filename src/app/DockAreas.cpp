@@ -3,6 +3,10 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -45,21 +49,34 @@ void DockAreas::addLeft(QDockWidget* dock) {
             neighbour = candidate;
     window_.addDockWidget(Qt::LeftDockWidgetArea, dock);
     if (tree == nullptr || tree == dock) {
-        window_.resizeDocks({dock}, {wantedWidth(*dock)}, Qt::Horizontal);
+        treeWidth_ = wantedWidth(*dock);
+        setWidths({dock}, {treeWidth_});
     } else if (neighbour != nullptr) {
         window_.tabifyDockWidget(neighbour, dock);
     } else {
-        const int treeWidth = tree->width();
         window_.splitDockWidget(tree, dock, Qt::Horizontal);
-        window_.resizeDocks({tree, dock}, {treeWidth, wantedWidth(*dock)}, Qt::Horizontal);
+        setWidths({tree, dock}, {treeWidth_, wantedWidth(*dock)});
     }
+}
+
+void DockAreas::setWidths(const QList<QDockWidget*>& docks, const QList<int>& widths) {
+    const QList<QPointer<QDockWidget>> guarded(docks.begin(), docks.end());
+    // Docks that are new get their places, and their content its size, only with the next events.
+    QTimer::singleShot(0, &window_, [&window = window_, guarded, widths] {
+        QList<QDockWidget*> present;
+        for (const QPointer<QDockWidget>& dock : guarded)
+            if (dock)
+                present += dock;
+        if (present.size() == widths.size())
+            window.resizeDocks(present, widths, Qt::Horizontal);
+    });
 }
 
 void DockAreas::addRight(QDockWidget* dock) {
     const QList<QDockWidget*> there = docksIn(Qt::RightDockWidgetArea);
     window_.addDockWidget(Qt::RightDockWidgetArea, dock);
     if (there.isEmpty())
-        window_.resizeDocks({dock}, {wantedWidth(*dock)}, Qt::Horizontal);
+        setWidths({dock}, {wantedWidth(*dock)});
     else if (!there.contains(dock))
         window_.tabifyDockWidget(there.last(), dock);
 }

@@ -21,6 +21,8 @@ public:
 
 private:
     QList<QDockWidget*> docksIn(Qt::DockWidgetArea area) const;
+    void setWidths(const QList<QDockWidget*>& docks, const QList<int>& widths);
 
     QMainWindow& window_;
+    int treeWidth_ = 0; ///< pixels, as the tree's dock came
 };

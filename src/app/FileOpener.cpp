@@ -7,6 +7,8 @@
 #include "app/settings/KelSystem.h"
 #include "app/shell/Shell.h"
 #include "dictionary/TfrmDictionary.h"
+#include "dictionary/mirror/TKpEntity.h"
+#include "dictionary/mirror/TKpVariable.h"
 #include "projects/TfrmProject.h"
 
 #include <QDir>

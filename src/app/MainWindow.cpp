@@ -37,8 +37,8 @@ const QString preferencesName = QStringLiteral("Preferences");
 const QString quickViewName = QStringLiteral("VarProperties");
 
 bool saves(const QString& program) {
-    static const QRegularExpression clause(
-        QStringLiteral(R"(.*save\s+\"([^\"]*)\".*)"), QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression clause(QStringLiteral(R"(.*save\s+\"([^\"]*)\".*)"),
+                                           QRegularExpression::CaseInsensitiveOption);
     return clause.match(program).hasMatch();
 }
 
@@ -188,7 +188,7 @@ void MainWindow::loadLastOpened() {
     if (!system_.loadLast() || system_.lastOpened().isEmpty() || !file.exists())
         return;
     openRecentProcessFile(QDir::toNativeSeparators(file.filePath()));
-    ribbon_->select(FilePage);
+    ribbon_->select(ribbon::FilePage);
 }
 
 void MainWindow::onOpened(const QString& path, bool found) {
@@ -199,7 +199,7 @@ void MainWindow::onOpened(const QString& path, bool found) {
     const QString name = QString::fromStdString(project.dictionary()->name());
     startPage_->showDictionary(label.isEmpty() ? name : label, path, *project.root());
     rebuildToolbars();
-    ribbon_->select(found ? FilePage : DictionaryPage);
+    ribbon_->select(found ? ribbon::FilePage : ribbon::DictionaryPage);
 }
 
 void MainWindow::closeAll() {
@@ -207,7 +207,7 @@ void MainWindow::closeAll() {
     workArea_->closeAllSubWindows();
     resultsManager_ = nullptr;
     showNothingOpen();
-    ribbon_->select(ProjectPage);
+    ribbon_->select(ribbon::ProjectPage);
 }
 
 void MainWindow::showNothingOpen() {
@@ -267,8 +267,7 @@ void MainWindow::runProgram(const QString& program) {
 }
 
 void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
-                             std::shared_ptr<TKelSession> /*session*/,
-                             const QString& programText) {
+                             std::shared_ptr<TKelSession> /*session*/, const QString& programText) {
     if (resultsManager_ == nullptr)
         resultsManager_ = new ResultsManager(this);
     if (!resultsManager_->addOutputs(outputs))

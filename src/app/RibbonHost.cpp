@@ -39,7 +39,7 @@ QAction* RibbonHost::makeCornerAction(const QString& name) {
 
 void RibbonHost::rebuild(const State& state) {
     tt::TabToolbar* before = toolbar_;
-    const int page = before != nullptr ? before->CurrentTab() : ProjectPage;
+    const int page = before != nullptr ? before->CurrentTab() : ribbon::ProjectPage;
     const bool minimized = before != nullptr && before->IsMinimized();
     if (before != nullptr) {
         window_.removeToolBar(before);
@@ -76,7 +76,7 @@ void RibbonHost::connectPages() {
     connect(pages_, &RibbonPages::preferences, this, &RibbonHost::preferences);
 }
 
-void RibbonHost::select(RibbonPageIndex page) {
+void RibbonHost::select(ribbon::PageIndex page) {
     if (toolbar_)
         toolbar_->SetCurrentTab(page);
 }

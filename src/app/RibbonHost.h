@@ -34,7 +34,7 @@ public:
 
     /// Builds the ribbon on the page that was shown, minimised if it was.
     void rebuild(const State& state);
-    void select(RibbonPageIndex page);
+    void select(ribbon::PageIndex page);
     void setDirty(bool dirty);
     void retitle();
     /// Lets the user choose a dictionary, as the button does.

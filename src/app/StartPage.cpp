@@ -79,8 +79,8 @@ QWidget* StartPage::makeBegin() {
                         .pixmap(6 * fontMetrics().height()));
     greeting_ = makeLabel(QStringLiteral("greeting"), 1.6);
     hint_ = makeLabel(QStringLiteral("hint"));
-    open_ = new QPushButton(
-        QIcon(QStringLiteral(":/icons/res/icons/48px-Dictionary-open.png")), QString());
+    open_ = new QPushButton(QIcon(QStringLiteral(":/icons/res/icons/48px-Dictionary-open.png")),
+                            QString());
     open_->setObjectName(QStringLiteral("openDictionary"));
     open_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(open_, &QPushButton::clicked, this, &StartPage::openRequested);
@@ -115,17 +115,17 @@ QWidget* StartPage::makeOverview() {
     layout->addWidget(title_);
     layout->addWidget(path_);
     layout->addSpacing(fontMetrics().height());
-    layout->addWidget(entities_, 1);
+    layout->addWidget(entities_, 1000);
     layout->addWidget(advice_);
+    layout->addStretch(1);
     return page;
 }
 
 QPushButton* StartPage::makeRecent(const QString& path) {
     const QFileInfo file(path);
-    auto* button = new QPushButton(file.completeBaseName().replace('&', QLatin1String("&&")) +
-                                   QStringLiteral("  –  ") +
-                                   QDir::toNativeSeparators(file.path())
-                                       .replace('&', QLatin1String("&&")));
+    auto* button = new QPushButton(
+        file.completeBaseName().replace('&', QLatin1String("&&")) + QStringLiteral("  –  ") +
+        QDir::toNativeSeparators(file.path()).replace('&', QLatin1String("&&")));
     button->setFlat(true);
     button->setStyleSheet(QStringLiteral("QPushButton { text-align: left; padding: 4px; }"));
     button->setCursor(Qt::PointingHandCursor);
@@ -154,6 +154,10 @@ void StartPage::showDictionary(const QString& title, const QString& path, TKpEnt
     model_->removeRows(0, model_->rowCount());
     for (const TKpEntity* entity : DictionaryUtil().entities(&root))
         model_->appendRow(rowOf(*entity));
+    entities_->setMaximumHeight(entities_->horizontalHeader()->sizeHint().height() +
+                                model_->rowCount() *
+                                    entities_->verticalHeader()->defaultSectionSize() +
+                                2 * entities_->frameWidth());
     begin_->hide();
     overview_->show();
 }
@@ -175,6 +179,9 @@ void StartPage::retranslate() {
     recentHeading_->setText(tr("Recent dictionaries"));
     advice_->setText(tr("Select an entity in the tree to see its variables."));
     entities_->setAccessibleName(tr("Entities of the dictionary"));
-    model_->setHorizontalHeaderLabels(
-        {tr("Entity"), tr("Label"), tr("Records"), tr("Variables")});
+    model_->setHorizontalHeaderLabels({tr("Entity"), tr("Label"), tr("Records"), tr("Variables")});
+    for (int number = 2; number < entityColumns; ++number)
+        model_->horizontalHeaderItem(number)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (int text = 0; text < 2; ++text)
+        model_->horizontalHeaderItem(text)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }

@@ -76,6 +76,13 @@ bool WorkArea::eventFilter(QObject* object, QEvent* event) {
     return QMdiArea::eventFilter(object, event);
 }
 
+void WorkArea::changeEvent(QEvent* event) {
+    // Its own background is a shade of grey, whatever the palette says.
+    if (event->type() == QEvent::PaletteChange)
+        setBackground(palette().brush(QPalette::Window));
+    QMdiArea::changeEvent(event);
+}
+
 void WorkArea::resizeEvent(QResizeEvent* event) {
     QMdiArea::resizeEvent(event);
     updateEmptyPage();

@@ -21,12 +21,13 @@ public:
     /// Asks each window that holds unsaved work to close; false where one of them stays.
     bool closeModified();
 
-    void toggleTabs(); ///< tabs that can be closed and moved, or windows
+    void toggleTabs();                ///< tabs that can be closed and moved, or windows
     void setEmptyPage(QWidget* page); ///< becomes its owner
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void updateEmptyPage();

@@ -170,25 +170,25 @@ private slots:
     void buttonsFollowTheState() {
         const QStringList windows = {"Restore", "Tile vertical", "Tile horizontal",
                                      "Cascade", "Minimize All",  "Arrange Icons"};
-        QCOMPARE(enabledOn(DictionaryPage), QStringList("Open"));
-        QCOMPARE(enabledOn(WindowPage), windows);
-        QCOMPARE(enabledOn(GeneralPage), QStringList({"Preferences", "Help", "About"}));
+        QCOMPARE(enabledOn(ribbon::DictionaryPage), QStringList("Open"));
+        QCOMPARE(enabledOn(ribbon::WindowPage), windows);
+        QCOMPARE(enabledOn(ribbon::GeneralPage), QStringList({"Preferences", "Help", "About"}));
         RibbonState state = open();
         build(state);
         const QStringList clean = {"Open", "Save As", "Locate", "Close"};
-        QCOMPARE(enabledOn(DictionaryPage), clean);
+        QCOMPARE(enabledOn(ribbon::DictionaryPage), clean);
         pages_->enableSaveDictionary(true);
-        QCOMPARE(enabledOn(DictionaryPage),
+        QCOMPARE(enabledOn(ribbon::DictionaryPage),
                  QStringList({"Open", "Save", "Save As", "Locate", "Close"}));
         pages_->enableSaveDictionary(false);
-        QCOMPARE(enabledOn(DictionaryPage), clean);
+        QCOMPARE(enabledOn(ribbon::DictionaryPage), clean);
         state.dictionaryDirty = true;
         build(state);
         QVERIFY(button("Dictionary-save")->isEnabled());
         state.loading = true;
         build(state);
         pages_->enableSaveDictionary(true);
-        QCOMPARE(enabledOn(DictionaryPage), QStringList());
+        QCOMPARE(enabledOn(ribbon::DictionaryPage), QStringList());
         QSignalSpy asked(pages_, &RibbonPages::readingDictionary);
         KelvoraFileDialog::answerNext("/data/x.kxdb");
         QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
@@ -263,10 +263,10 @@ private slots:
 
     void windowsTileSideBySideAndAboveOneAnother() {
         const QList<QMdiSubWindow*> windows = threeWindows();
-        const QRect room = area_->viewport()->rect();
         windows[1]->showMinimized();
         click("Window-vertical");
         QCOMPARE(area_->viewMode(), QMdiArea::SubWindowView);
+        const QRect room = area_->viewport()->rect();
         int x = 0;
         for (const QMdiSubWindow* window : windows) {
             QCOMPARE(window->geometry().topLeft(), QPoint(x, 0));
@@ -284,9 +284,9 @@ private slots:
 
     void windowsCascadeMinimiseAndComeBack() {
         const QList<QMdiSubWindow*> windows = threeWindows();
-        const QRect room = area_->viewport()->rect();
         click("Window-cascade");
         QCOMPARE(area_->viewMode(), QMdiArea::SubWindowView);
+        const QRect room = area_->viewport()->rect();
         QSet<QPair<int, int>> corners;
         for (const QMdiSubWindow* window : windows)
             corners += {window->x(), window->y()};
@@ -343,7 +343,7 @@ private slots:
         QCoreApplication::removeTranslator(&words);
         // The titles follow at once, and the rest with the next ribbon.
         pages_->retitle();
-        QCOMPARE(tabs->tabText(FilePage), "  FILE  ");
+        QCOMPARE(tabs->tabText(ribbon::FilePage), "  FILE  ");
     }
 
     void stylesColorTheWholeApplication() {

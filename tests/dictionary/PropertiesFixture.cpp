@@ -9,8 +9,6 @@
 #include "kel.h"
 #include "support/SmallDatabase.h"
 
-#include <QDockWidget>
-
 void DockShell::addDockLeft(QDockWidget* dock) {
     window_.addDockWidget(Qt::LeftDockWidgetArea, dock);
 }

@@ -5,6 +5,7 @@
 #include "app/messages/Messages.h"
 #include "app/shell/Shell.h"
 
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QStringList>
 #include <QTemporaryDir>

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,10 +21,20 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 
 using Model = VariableDiccionaryModel;
+
+/// A language that says all in capitals.
+class Capitals : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return QString::fromUtf8(text).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 /// The menu that a right click there opens; null where none opens.
 QMenu* menuAt(QAbstractItemView* view, const QPoint& position) {
@@ -433,8 +444,23 @@ private slots:
             table_->model()->mimeData(table_->selectionModel()->selectedIndexes()));
         QCOMPARE(readDraggedItems(data.get()).size(), 1);
         QVERIFY(table_->dragEnabled());
-        QVERIFY(!table_->model()->canDropMimeData(data.get(), Qt::MoveAction, 1, 0, {}));
-        QVERIFY(!tree_->model()->canDropMimeData(data.get(), Qt::CopyAction, 0, 0, {}));
+        for (const QAbstractScrollArea* view : {static_cast<QAbstractScrollArea*>(table_),
+                                                static_cast<QAbstractScrollArea*>(tree_.get())}) {
+            QDragEnterEvent enter({100, 40}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+            QApplication::sendEvent(view->viewport(), &enter);
+            QVERIFY(!enter.isAccepted());
+        }
+    }
+
+    void textsFollowTheLanguage() {
+        Capitals capitals;
+        QVERIFY(QCoreApplication::installTranslator(&capitals));
+        QTRY_COMPARE(filter_->placeholderText(), "FILTER...");
+        QCOMPARE(table_->model()->headerData(3, Qt::Horizontal).toString(), "LABEL");
+        QCOMPARE(tree_->model()->headerData(0, Qt::Horizontal).toString(), "ENTITY");
+        QCOMPARE(table_->accessibleName(), "VARIABLES");
+        QCoreApplication::removeTranslator(&capitals);
+        QTRY_COMPARE(filter_->placeholderText(), "Filter...");
     }
 };
 

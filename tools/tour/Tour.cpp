@@ -3,15 +3,21 @@
 
 #include "app/MainWindow.h"
 #include "app/dialogs/KelvoraFileDialog.h"
+#include "app/ribbon/tt/Style.h"
+#include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
 #include "projects/TfrmProject.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QPalette>
+#include <QMenu>
 #include <QPixmap>
+#include <QScreen>
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
@@ -42,32 +48,31 @@ void clickRow(QAbstractItemView* view, const QString& text) {
                       view->visualRect(found.first()).center());
 }
 
-QPalette darkColours() {
-    QPalette palette(QColor(53, 53, 57), QColor(45, 45, 48));
-    palette.setColor(QPalette::Base, QColor(34, 34, 37));
-    palette.setColor(QPalette::AlternateBase, QColor(43, 43, 47));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    return palette;
-}
+constexpr QSize smallScreen(1280, 800);
+constexpr QSize largeScreen(1920, 1080);
 
 } // namespace
 
 void Tour::run(const QString& dictionary) {
+    window_.resize(smallScreen);
     shoot(QStringLiteral("start"));
     open(dictionary);
     shoot(QStringLiteral("opened"));
+    ribbonPages();
     selectEntity(QStringLiteral("HOUSEHOLD"));
     shoot(QStringLiteral("household"));
     selectEntity(QStringLiteral("PERSON"));
-    shoot(QStringLiteral("person"));
-    filter(QStringLiteral("sex"));
+    filter(QStringLiteral("ed"));
     shoot(QStringLiteral("filter"));
-    selectVariable(QStringLiteral("SEX"));
+    filter(QString());
+    properties();
+    quickViews();
+    menus();
     frequency();
     shoot(QStringLiteral("frequency"));
-    filter(QString());
+    preferences();
     languages();
-    darkPalette();
+    styles();
 }
 
 void Tour::firstTable(const QString& dictionary) {
@@ -76,7 +81,7 @@ void Tour::firstTable(const QString& dictionary) {
     waitForDictionary(dictionary);
     selectEntity(QStringLiteral("PERSON"));
     selectVariable(QStringLiteral("SEX"));
-    window_.runFrequency(QStringLiteral("PERSON.SEX"));
+    window_.runProgram(QStringLiteral("FREQ PERSON.SEX"));
 }
 
 void Tour::open(const QString& dictionary) {
@@ -92,7 +97,7 @@ void Tour::waitForDictionary(const QString& dictionary) {
 }
 
 void Tour::selectEntity(const QString& name) {
-    clickRow(find<QTreeView>(window_, "entityTree"), name);
+    clickRow(find<QTreeView>(window_, "TreeViewDictionary"), name);
 }
 
 void Tour::selectVariable(const QString& name) {
@@ -100,17 +105,69 @@ void Tour::selectVariable(const QString& name) {
 }
 
 void Tour::filter(const QString& text) {
-    QTest::keyClick(&window_, Qt::Key_F, Qt::ControlModifier);
     auto* line = find<QLineEdit>(window_, "variableFilter");
     line->clear();
     QTest::keyClicks(line, text);
 }
 
+void Tour::ribbonPages() {
+    auto* ribbon = find<tt::TabToolbar>(window_, "ribbon");
+    const int page = ribbon->CurrentTab();
+    for (int index = 0; index < ribbon->Pages().size(); ++index) {
+        ribbon->SetCurrentTab(index);
+        shoot(QStringLiteral("ribbon-%1").arg(index + 1));
+    }
+    ribbon->SetCurrentTab(page);
+}
+
+void Tour::properties() {
+    selectVariable(QStringLiteral("SEX"));
+    QTest::keyClick(find<QTableView>(window_, "variableTable"), Qt::Key_F8);
+    shoot(QStringLiteral("variable-properties"));
+    QTest::keyClick(find<QTreeView>(window_, "TreeViewDictionary"), Qt::Key_F8);
+    shoot(QStringLiteral("entity-properties"));
+    window_.dock(QStringLiteral("Variables"))->raise();
+}
+
+void Tour::quickViews() {
+    QTest::keyClick(find<QTreeView>(window_, "TreeViewDictionary"), Qt::Key_F3);
+    shoot(QStringLiteral("quick-view-entity"));
+    selectVariable(QStringLiteral("EDUCATION"));
+    QTest::keyClick(find<QTableView>(window_, "variableTable"), Qt::Key_F3);
+    shoot(QStringLiteral("quick-view-variable"));
+    window_.onCloseInfoAppProperties();
+}
+
+void Tour::menus() {
+    for (const char* name : {"variableTable", "TreeViewDictionary"}) {
+        showMenu(find<QAbstractItemView>(window_, name));
+        shootScreen(QStringLiteral("menu-") + QLatin1String(name));
+        QApplication::activePopupWidget()->close();
+    }
+}
+
+void Tour::showMenu(QAbstractItemView* view) {
+    const QPoint place = view->visualRect(view->currentIndex()).center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(view->viewport(), &event);
+    require(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }),
+            QStringLiteral("no menu appears"));
+}
+
 void Tour::frequency() {
-    QTest::keyClick(&window_, Qt::Key_F9);
+    selectVariable(QStringLiteral("SEX"));
+    showMenu(find<QTableView>(window_, "variableTable"));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    auto* entry = menu->findChild<QAction*>(QStringLiteral("actionFrequency"));
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
     const auto* table = find<QTableView>(window_, "frequencyTable");
     require(table->isVisible() && table->model()->rowCount() > 1,
             QStringLiteral("the frequency shows nothing"));
+}
+
+void Tour::preferences() {
+    window_.onClickInPreferences();
+    shoot(QStringLiteral("preferences"));
 }
 
 void Tour::languages() {
@@ -118,18 +175,38 @@ void Tour::languages() {
         require(KelSystem::instance().installTranslator("Process_" + language),
                 QStringLiteral("no translation for %1").arg(language));
         shoot(QStringLiteral("language-") + language);
+        if (language != QLatin1String("en"))
+            properties();
     }
 }
 
-void Tour::darkPalette() {
-    QApplication::setPalette(darkColours());
-    shoot(QStringLiteral("dark"));
+void Tour::styles() {
+    const int before = KelSystem::instance().menuColor();
+    for (int style = 0; style < tt::StyleNames().size(); ++style) {
+        KelSystem::instance().setMenuColor(style);
+        window_.rebuildToolbars();
+        window_.resize(smallScreen);
+        shoot(QStringLiteral("style-%1").arg(style + 1));
+        window_.resize(largeScreen);
+        shoot(QStringLiteral("style-%1-large").arg(style + 1));
+    }
+    KelSystem::instance().setMenuColor(before);
+    window_.rebuildToolbars();
+}
+
+void Tour::save(const QPixmap& picture, const QString& name) {
+    const QString file =
+        QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QLatin1Char('0')).arg(name);
+    require(picture.save(QDir(folder_).filePath(file)),
+            QStringLiteral("cannot write %1").arg(file));
 }
 
 void Tour::shoot(const QString& name) {
-    QTest::qWait(50);
-    const QString file =
-        QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QLatin1Char('0')).arg(name);
-    require(window_.grab().save(QDir(folder_).filePath(file)),
-            QStringLiteral("cannot write %1").arg(file));
+    QTest::qWait(100);
+    save(window_.grab(), name);
+}
+
+void Tour::shootScreen(const QString& name) {
+    QTest::qWait(100);
+    save(QGuiApplication::primaryScreen()->grabWindow(0), name);
 }

@@ -5,6 +5,8 @@
 #include <QString>
 
 class MainWindow;
+class QAbstractItemView;
+class QPixmap;
 
 /// Throws std::runtime_error where a step does not do what a user expects.
 class Tour {
@@ -22,10 +24,18 @@ private:
     void selectEntity(const QString& name);
     void selectVariable(const QString& name);
     void filter(const QString& text);
+    void ribbonPages();
+    void properties();
+    void quickViews();
+    void menus();
+    void showMenu(QAbstractItemView* view);
     void frequency();
+    void preferences();
     void languages();
-    void darkPalette();
-    void shoot(const QString& name); ///< NN-name.png
+    void styles();
+    void shoot(const QString& name);       ///< the window, as NN-name.png
+    void shootScreen(const QString& name); ///< with menus
+    void save(const QPixmap& picture, const QString& name);
 
     MainWindow& window_;
     QString folder_;

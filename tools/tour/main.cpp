@@ -53,7 +53,7 @@ int takePictures(const QString& folder, const QString& dictionary) {
     startEngine();
     MainWindow window;
     nameWindow(window);
-    window.resize(1280, 760);
+    window.resize(1280, 800);
     window.show();
     window.activateWindow();
     if (!QTest::qWaitForWindowActive(&window))

@@ -15,7 +15,10 @@ namespace tt {
 class TabToolbar;
 }
 
-enum RibbonPageIndex {
+namespace ribbon {
+
+/// Where the pages stand.
+enum PageIndex {
     ProjectPage,
     DictionaryPage,
     FilePage,
@@ -24,6 +27,8 @@ enum RibbonPageIndex {
     WindowPage,
     GeneralPage
 };
+
+} // namespace ribbon
 
 /// Owned by the ribbon whose pages it makes. A ribbon that is replaced while one of its buttons is
 /// being clicked must go by deleteLater().

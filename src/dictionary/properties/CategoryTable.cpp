@@ -4,6 +4,7 @@
 #include "dictionary/properties/VarValueLabelDiccionaryModel.h"
 #include "dictionary/properties/VarValueLabelDiccionaryProxyModel.h"
 
+#include <QAbstractItemDelegate>
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -112,13 +113,15 @@ const Categories::List& CategoryTable::list() const {
 }
 
 void CategoryTable::commitEditor() {
-    QWidget* editor = table_->viewport()->findChild<QWidget*>();
-    if (editor == nullptr || !editor->isVisible())
-        return;
-    // Leaving the cell is what tells the view to take its text.
-    const QModelIndex current = table_->currentIndex();
-    table_->itemDelegate()->setModelData(editor, proxy_, current);
-    table_->setFocus();
+    QAbstractItemDelegate* delegate = table_->itemDelegate();
+    for (QWidget* editor :
+         table_->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        // A closed editor stays hidden until it is deleted.
+        if (editor->isHidden())
+            continue;
+        emit delegate->commitData(editor);
+        emit delegate->closeEditor(editor);
+    }
 }
 
 QString CategoryTable::showFirstFault() {

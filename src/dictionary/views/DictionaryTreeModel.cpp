@@ -160,7 +160,6 @@ Qt::DropActions DictionaryTreeModel::supportedDragActions() const {
     return Qt::CopyAction;
 }
 
-bool DictionaryTreeModel::canDropMimeData(const QMimeData*, Qt::DropAction, int, int,
-                                          const QModelIndex&) const {
-    return false;
+Qt::DropActions DictionaryTreeModel::supportedDropActions() const {
+    return Qt::IgnoreAction;
 }

@@ -35,7 +35,7 @@ Group::Group(const QString& title, QWidget* parent)
     title_->setAlignment(Qt::AlignCenter);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 1);
-    layout->setSpacing(0);
+    layout->setSpacing(2);
     row_->setSpacing(2);
     layout->addLayout(row_, 1);
     layout->addWidget(title_);

@@ -70,9 +70,9 @@ Page::Page(int index, const QString& title, QWidget* parent)
     layout->addWidget(area_);
     layout->addWidget(forward_);
     connect(area_->horizontalScrollBar(), &QScrollBar::valueChanged, this,
-            &Page::UpdateScrollButtons);
+            &Page::EnableScrollButtons);
     connect(area_->horizontalScrollBar(), &QScrollBar::rangeChanged, this,
-            &Page::UpdateScrollButtons);
+            &Page::EnableScrollButtons);
 }
 
 QToolButton* Page::MakeScrollButton(Qt::ArrowType arrow, int direction) {
@@ -142,9 +142,13 @@ bool Page::event(QEvent* event) {
 void Page::UpdateScrollButtons() {
     // The page's own width decides: the strip's changes with the buttons.
     const bool tooNarrow = !area_->isHidden() && ContentWidth() > width();
-    const QScrollBar* bar = area_->horizontalScrollBar();
     back_->setVisible(tooNarrow);
     forward_->setVisible(tooNarrow);
+}
+
+void Page::EnableScrollButtons() {
+    // Told while the strip is being laid out, so that nothing may appear or go here.
+    const QScrollBar* bar = area_->horizontalScrollBar();
     back_->setEnabled(bar->value() > bar->minimum());
     forward_->setEnabled(bar->value() < bar->maximum());
 }

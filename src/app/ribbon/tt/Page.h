@@ -45,7 +45,8 @@ protected:
 
 private:
     QToolButton* MakeScrollButton(Qt::ArrowType arrow, int direction);
-    void UpdateScrollButtons();
+    void UpdateScrollButtons(); ///< whether they show
+    void EnableScrollButtons();
     void MoveFocus(int step);
     QList<CompactToolButton*> Buttons() const; ///< that can be pressed
 

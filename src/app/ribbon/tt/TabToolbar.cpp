@@ -24,6 +24,10 @@ constexpr int referenceLine = 15; ///< pixels; the line height that the sizes ar
 constexpr int iconEdge = 24;      ///< at that line height
 constexpr int narrowest = 200;    ///< the tabs scroll by themselves from here on
 
+QKeySequence hideKeys() {
+    return {Qt::CTRL | Qt::Key_F1};
+}
+
 QString withShortcut(const QString& text, const QKeySequence& shortcut) {
     return text + QStringLiteral(" (") + shortcut.toString(QKeySequence::NativeText) + ')';
 }
@@ -42,7 +46,6 @@ TabToolbar::TabToolbar(QWidget* parent, int maxHeight, int groupRowCount)
     toggleViewAction()->setVisible(false);
     layout()->setContentsMargins(0, 0, 0, 0);
     tabs_->setProperty("TTWidget", true);
-    tabs_->setDocumentMode(true);
     tabs_->setMinimumWidth(narrowest);
     tabs_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     tabs_->setAccessibleName(windowTitle());
@@ -75,7 +78,8 @@ void TabToolbar::MakeCorner() {
     hideButton_->setObjectName(QStringLiteral("hideRibbon"));
     hideButton_->setProperty("TTHide", true);
     hideButton_->setFocusPolicy(Qt::TabFocus);
-    hideButton_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1));
+    auto* shortcut = new QShortcut(hideKeys(), this);
+    connect(shortcut, &QShortcut::activated, this, qOverload<>(&TabToolbar::HideAt));
     layout->addWidget(hideButton_);
     tabs_->setCornerWidget(corner_, Qt::TopRightCorner);
 }
@@ -302,6 +306,7 @@ void TabToolbar::UpdateSizes() {
         button->setIconSize({small, small});
     const int barHeight =
         std::max(tabs_->tabBar()->sizeHint().height(), corner_->sizeHint().height());
+    corner_->setFixedHeight(barHeight);
     tabs_->setFixedHeight(barHeight + (IsPageShown() ? pageHeight : 0));
 }
 
@@ -309,7 +314,7 @@ void TabToolbar::UpdateHideButton() {
     hideButton_->setText(minimized_ ? QStringLiteral("▼") : QStringLiteral("▲"));
     const QString name = minimized_ ? tr("Show the ribbon") : tr("Minimize the ribbon");
     hideButton_->setAccessibleName(name);
-    hideButton_->setToolTip(withShortcut(name, hideButton_->shortcut()));
+    hideButton_->setToolTip(withShortcut(name, hideKeys()));
 }
 
 } // namespace tt
