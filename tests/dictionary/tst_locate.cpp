@@ -54,7 +54,7 @@ class TestLocate : public QObject {
     }
 
     /// Answers as many dialogs as there are actions, one after the other.
-    void answer(QList<std::function<void(QDialog&)>> actions) {
+    void answer(const QList<std::function<void(QDialog&)>>& actions) {
         if (actions.isEmpty())
             return;
         answerNextDialog([this, actions](QDialog& dialog) {
