@@ -475,7 +475,6 @@ private slots:
         stream << QString("no json") << QString("[1]") << QString("{\"name\":7}")
                << QString("{\"entity\":\"P\",\"name\":\"A\",\"tag\":\"x\",\"categoria\":5}");
         bytes += QByteArray::fromHex("0000000800410042"); // cut off
-        "A";                                              // cut off
         data.setData(draggedItemsType(), bytes);
         const QList<DraggedItem> read = readDraggedItems(&data);
         QCOMPARE(read.size(), 1);

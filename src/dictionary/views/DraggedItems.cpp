@@ -152,7 +152,7 @@ QMimeData* dataOf(const QList<Item*>& items) {
 
 QList<ValueLabelElement> readValueLabels(const QJsonArray& array) {
     QList<ValueLabelElement> labels;
-    for (const QJsonValue& value : array)
+    for (const QJsonValue value : array)
         labels.append(
             {value[QLatin1String("value")].toString(), value[QLatin1String("label")].toString()});
     return labels;

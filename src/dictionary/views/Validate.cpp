@@ -17,7 +17,7 @@ bool same(const QString& a, const QString& b) {
 
 /// Words, blanks, characters, length: all that can be told from the text alone.
 NameVerdict checkText(const QString& text) {
-    const NameVerdict verdict = Validate::checkName(text);
+    NameVerdict verdict = Validate::checkName(text);
     if (!verdict.isFine())
         return verdict;
     return text.size() > Validate::longestName ? NameVerdict{Validate::TooLong, text}
@@ -66,7 +66,7 @@ NameVerdict Validate::check(TKpEntity* root, const TKpVariable& variable, Field 
         return {NotLocal, variable.fullName};
     if (text.isEmpty())
         return field == Field::Name ? NameVerdict{Empty, variable.fullName} : NameVerdict{};
-    const NameVerdict verdict = checkText(text);
+    NameVerdict verdict = checkText(text);
     if (!verdict.isFine() || same(text.trimmed(), variable.name))
         return verdict;
     return checkUnique(root, text, field == Field::Alias ? &variable : nullptr);
@@ -75,7 +75,7 @@ NameVerdict Validate::check(TKpEntity* root, const TKpVariable& variable, Field 
 NameVerdict Validate::checkAlias(TKpEntity* root, const TKpEntity& entity, const QString& text) {
     if (text.isEmpty())
         return {};
-    const NameVerdict verdict = checkText(text);
+    NameVerdict verdict = checkText(text);
     if (!verdict.isFine() || same(text.trimmed(), entity.name))
         return verdict;
     return checkUnique(root, text, &entity);
