@@ -19,7 +19,6 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
-#include <QTranslator>
 
 #include <memory>
 
@@ -446,14 +445,7 @@ private slots:
     }
 
     void captionsFollowTheLanguage() {
-        /// Speaks in capitals.
-        class Capitals : public QTranslator {
-        public:
-            bool isEmpty() const override { return false; }
-            QString translate(const char*, const char* text, const char*, int) const override {
-                return QString::fromUtf8(text).toUpper();
-            }
-        } capitals;
+        Capitals capitals;
         QVERIFY(QCoreApplication::installTranslator(&capitals));
         QTRY_COMPARE(shell_->dock("Variable Properties")->windowTitle().remove("[*]"),
                      "VARIABLE PROPERTIES - PERSON.SEX");
