@@ -150,7 +150,9 @@ void DicxReader::readVariable(const pugi::xml_node& node, Entity& entity) {
     variable.tag = integer(node, "tag").value_or(-1);
     variable.sensitive = integer(node, "sensitive");
     variable.fileName = trimmedText(node, "filename");
-    variable.hidden = truth(node.child("varDicChoice"), "hidden");
+    const pugi::xml_node choice = node.child("varDicChoice");
+    variable.hidden = truth(choice, "hidden");
+    variable.local = !trimmedText(choice, "isOriginal").empty() && !truth(choice, "isOriginal");
     if (variable.notapp == 0.0 && variable.missing == 0.0) {
         // One code cannot mean both; some writers put 0 for each where there is none.
         variable.notapp.reset();

@@ -83,6 +83,9 @@ void writeStorage(pugi::xml_node choice, const Variable& variable) {
     add(choice, "datasetType", raw ? storage::rawTypeName(variable.raw->type) : "CHR");
     add(choice, "datasetSize", std::to_string(raw ? variable.raw->size : variable.size));
     addIf(choice, "hidden", variable.hidden);
+    if (variable.local) {
+        add(choice, "isOriginal", "false");
+    }
 }
 
 void writeVariable(pugi::xml_node node, const Variable& variable) {

@@ -1,47 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/MainWindow.h"
 
+#include "app/FileOpener.h"
 #include "app/Logging.h"
-#include "app/MainActions.h"
-#include "app/dialogs/KelvoraFileDialog.h"
+#include "app/RibbonHost.h"
+#include "app/StartPage.h"
+#include "app/WorkArea.h"
 #include "app/messages/Messages.h"
+#include "app/ribbon/tt/Style.h"
 #include "app/settings/KelSystem.h"
-#include "dictionary/DictionaryBrowser.h"
-#include "dictionary/loading/DictionaryLoader.h"
+#include "dictionary/TfrmDictionary.h"
+#include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
+#include "dictionary/properties/InfoProperties.h"
 #include "engine/ProgramRun.h"
-#include "engine/UIInvoker.h"
 #include "kel.h"
+#include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
-#include "results/FrequencyTable.h"
-#include "results/FrequencyView.h"
+#include "results/ResultsManager.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
-#include <QLabel>
-#include <QProgressBar>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 namespace {
 
 MainWindow* theWindow = nullptr;
 
-/// The first names, and how many more there are.
-QString shortList(const QStringList& names) {
-    const qsizetype shown = 10;
-    QString list = names.mid(0, shown).join('\n');
-    if (names.size() > shown)
-        list += '\n' + MainWindow::tr("and %1 more").arg(names.size() - shown);
-    return list;
+const QString preferencesName = QStringLiteral("Preferences");
+const QString quickViewName = QStringLiteral("VarProperties");
+
+bool saves(const QString& program) {
+    static const QRegularExpression clause(
+        QStringLiteral(R"(.*save\s+\"([^\"]*)\".*)"), QRegularExpression::CaseInsensitiveOption);
+    return clause.match(program).hasMatch();
 }
 
 } // namespace
 
-MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
+MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), system_(KelSystem::instance()) {
     theWindow = this;
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QStringLiteral("KelXProcess"));
@@ -49,17 +52,16 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     logMessage(QStringLiteral("Defining the work Area"), true);
     setupWorkArea();
     logMessage(QStringLiteral("Getting the current Languague"), true);
+    language_ = system_.language();
     logMessage(QStringLiteral("Initializing the MainController"), true);
-    connectLoader();
+    mainController_ = std::make_unique<MainController>(*this, system_);
+    connectOpener();
     logMessage(QStringLiteral("Setup the toolbar"), true);
     setupToolbar();
     logMessage(QStringLiteral("Setup InfoProperties"), true);
-    setupResults();
     logMessage(QStringLiteral("Setup the StatusBar"), true);
-    setupStatusBar();
-    connectActions();
-    retranslate();
-    updateActions();
+    status_ = std::make_unique<StatusLine>(statusBar());
+    showNothingOpen();
     logMessage(QStringLiteral("MainWindow processed successfully"), true);
 }
 
@@ -72,225 +74,349 @@ MainWindow* MainWindow::instance(QWidget* parent) {
 }
 
 void MainWindow::setupWorkArea() {
-    browser_ = new DictionaryBrowser(this);
-    browser_->setContentsMargins(6, 6, 6, 6);
-    setCentralWidget(browser_);
+    docks_ = std::make_unique<DockAreas>(*this);
+    workArea_ = new WorkArea(this);
+    startPage_ = new StartPage;
+    workArea_->setEmptyPage(startPage_);
+    setCentralWidget(workArea_);
+    connect(startPage_, &StartPage::recentRequested, this, &MainWindow::on_openRecentDictionary);
 }
 
 void MainWindow::setupToolbar() {
-    actions_ = new MainActions(this);
-    browser_->addVariableAction(actions_->frequency);
+    ribbon_ = new RibbonHost(*this, *workArea_, system_);
+    connect(startPage_, &StartPage::openRequested, ribbon_, &RibbonHost::chooseDictionary);
+    connect(this, &MainWindow::signalDictIsDirty, ribbon_, &RibbonHost::setDirty);
+    connect(this, &MainWindow::windowTitleChanged, this, &MainWindow::handle_window_title_change);
+    connect(ribbon_, &RibbonHost::readingDictionary, this, &MainWindow::readingDictionary);
+    connect(ribbon_, &RibbonHost::dictionaryFile, this, &MainWindow::on_openRecentDictionary);
+    connect(ribbon_, &RibbonHost::projectFile, this, &MainWindow::on_openRecentProject);
+    connect(ribbon_, &RibbonHost::saveDictionary, this, &MainWindow::saveOpenDictionary);
+    connect(ribbon_, &RibbonHost::saveAsDictionary, this, &MainWindow::saveAsOpenDictionary);
+    connect(ribbon_, &RibbonHost::locateDictionary, this, &MainWindow::locateFiles);
+    connect(ribbon_, &RibbonHost::closeAllDictionary, this, &MainWindow::on_closeAllDictionary);
+    connect(ribbon_, &RibbonHost::preferences, this, &MainWindow::onClickInPreferences);
+    rebuildToolbars();
 }
 
-void MainWindow::setupResults() {
-    resultDock_ = new QDockWidget(this);
-    resultDock_->setObjectName(QStringLiteral("resultDock"));
-    frequencyView_ = new FrequencyView;
-    resultDock_->setWidget(frequencyView_);
-    addDockWidget(Qt::RightDockWidgetArea, resultDock_);
-    resizeDocks({resultDock_}, {64 * fontMetrics().averageCharWidth()}, Qt::Horizontal);
-    resultDock_->hide();
-    actions_->addViewAction(resultDock_->toggleViewAction());
-}
-
-void MainWindow::setupStatusBar() {
-    dictionaryLabel_ = new QLabel;
-    dictionaryLabel_->setObjectName(QStringLiteral("dictionaryLabel"));
-    statusBar()->addPermanentWidget(dictionaryLabel_);
-    progress_ = new QProgressBar;
-    progress_->setObjectName(QStringLiteral("progress"));
-    progress_->setTextVisible(false);
-    progress_->setRange(0, 100);
-    progress_->setFixedWidth(18 * fontMetrics().averageCharWidth());
-    statusBar()->addPermanentWidget(progress_);
-    progress_->hide();
-}
-
-void MainWindow::connectActions() {
-    connect(actions_->open, &QAction::triggered, this, &MainWindow::chooseDictionary);
-    connect(actions_->exit, &QAction::triggered, this, &MainWindow::close);
-    connect(actions_->findVariable, &QAction::triggered, browser_, &DictionaryBrowser::focusFilter);
-    connect(actions_->valueLabels, &QAction::toggled, browser_,
-            &DictionaryBrowser::showValueLabels);
-    connect(actions_->about, &QAction::triggered, this, &MainWindow::showAbout);
-    connect(actions_->frequency, &QAction::triggered, this, [this] {
-        if (const TKpVariable* variable = browser_->currentVariable())
-            runFrequency(variable->fullName);
-    });
-    connect(browser_, &DictionaryBrowser::variableActivated, actions_->frequency,
-            &QAction::trigger);
-    connect(browser_, &DictionaryBrowser::currentVariableChanged, this, &MainWindow::updateActions);
-}
-
-void MainWindow::connectLoader() {
-    loader_ = new DictionaryLoader(this);
-    connect(loader_, &DictionaryLoader::aboutToReplace, this, &MainWindow::dropViews);
-    connect(loader_, &DictionaryLoader::loaded, this, &MainWindow::showLoaded);
-    connect(loader_, &DictionaryLoader::failed, this, &MainWindow::showLoadFailure);
-}
-
-void MainWindow::updateActions() {
-    actions_->open->setEnabled(!isLoading());
-    actions_->frequency->setEnabled(!isLoading() && browser_->currentVariable() != nullptr);
+void MainWindow::connectOpener() {
+    opener_ = new FileOpener(*this, *workArea_, system_, this);
+    connect(opener_, &FileOpener::opened, this, &MainWindow::onOpened);
+    connect(opener_, &FileOpener::closed, this, &MainWindow::closeAll);
+    connect(opener_, &FileOpener::failed, this, &MainWindow::showNothingOpen);
+    connect(opener_, &FileOpener::began, this, &MainWindow::rebuildToolbars);
+    connect(opener_, &FileOpener::dirtyChanged, this, &MainWindow::on_dictIsDirtyReceived);
+    connect(opener_, &FileOpener::quickViewVariable, this, &MainWindow::onQuickViewVariable);
+    connect(opener_, &FileOpener::quickViewEntity, this, &MainWindow::onQuickViewEntity);
 }
 
 bool MainWindow::isLoading() const {
-    return loader_->isRunning();
+    return opener_->isLoading();
 }
 
 void MainWindow::showStatus(const QString& text, bool busy) {
-    statusBar()->clearMessage();
-    if (busy != busy_) {
-        if (busy)
-            QApplication::setOverrideCursor(Qt::WaitCursor);
-        else
-            QApplication::restoreOverrideCursor();
-        busy_ = busy;
-    }
-    progress_->setRange(0, busy ? 0 : 100);
-    progress_->setVisible(busy);
-    statusBar()->showMessage(text, busy ? 0 : 2000);
+    status_->show(text, busy);
 }
 
-void MainWindow::chooseDictionary() {
-    const QString path =
-        KelvoraFileDialog(QStringLiteral("DICTIONARY"), QString(), tr("Open Dictionary"))
-            .openFile(tr("Dictionaries (*.kxdb *.dicx *.KXDB *.DICX)"));
-    if (!path.isEmpty())
-        openFile(path, QFileInfo(path).suffix());
+void MainWindow::addDockLeft(QDockWidget* dock) {
+    docks_->addLeft(dock);
+}
+
+void MainWindow::addDockRight(QDockWidget* dock) {
+    docks_->addRight(dock);
+}
+
+QDockWidget* MainWindow::dock(const QString& name) const {
+    return docks_->find(name);
+}
+
+bool MainWindow::dockExists(const QString& name) const {
+    return dock(name) != nullptr;
+}
+
+void MainWindow::closeDock(const QString& name) {
+    docks_->close(name);
+}
+
+QMdiSubWindow* MainWindow::addWindow(QWidget* content) {
+    return workArea_->addWindow(content);
+}
+
+bool MainWindow::hasWindows() const {
+    return !workArea_->isEmptyBut(QStringLiteral("KelxPreferencesDialog"));
+}
+
+void MainWindow::rebuildToolbars() {
+    RibbonHost::State state;
+    state.loading = isLoading();
+    state.dictionaryOpen = !state.loading && TfrmProject::instance().isOpen();
+    state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
+                            opener_->dictionary()->isDirty();
+    state.recentDictionaries = mainController_->recentDictionaries();
+    ribbon_->rebuild(state);
 }
 
 void MainWindow::openFile(const QString& path, const QString& extension) {
-    if (isLoading())
-        return;
-    askSaveDictionary();
-    if (!loader_->start(path, extension)) {
-        showError(tr("Archivo no válido"));
-        return;
-    }
-    showStatus(tr("Loading..."), true);
-    updateActions();
+    opener_->openFile(path, extension);
+}
+
+void MainWindow::openRecentProcessFile(const QString& pathFile) {
+    openFile(pathFile, QFileInfo(pathFile).suffix());
+}
+
+void MainWindow::openRecentDictionary(int id) {
+    mainController_->openRecentDictionary(id);
+}
+
+void MainWindow::openRecentProject(int id) {
+    mainController_->openRecentProject(id);
+}
+
+void MainWindow::on_openRecentDictionary(const QString& path) {
+    opener_->openRecent(path);
+}
+
+void MainWindow::on_openRecentProject(const QString& path, bool /*fromDictionary*/) {
+    opener_->openRecent(path);
+}
+
+void MainWindow::readingDictionary(const QString& path, const QString& extension) {
+    openFile(path, extension);
 }
 
 void MainWindow::loadLastOpened() {
-    const KelSystem& system = KelSystem::instance();
-    const QFileInfo file(system.lastOpened());
-    if (system.loadLast() && !system.lastOpened().isEmpty() && file.exists())
-        openFile(QDir::toNativeSeparators(file.filePath()), file.suffix());
+    const QFileInfo file(system_.lastOpened());
+    if (!system_.loadLast() || system_.lastOpened().isEmpty() || !file.exists())
+        return;
+    openRecentProcessFile(QDir::toNativeSeparators(file.filePath()));
+    ribbon_->select(FilePage);
 }
 
-void MainWindow::dropViews() {
-    frequencyView_->clear();
-    resultDock_->hide();
-    browser_->setRoot(nullptr);
-}
-
-void MainWindow::showLoaded(const QStringList& missing) {
+void MainWindow::onOpened(const QString& path, bool found) {
     const TfrmProject& project = TfrmProject::instance();
-    logMessage(QStringLiteral("Opening project: ") + project.dictionaryPath(), true);
-    browser_->setRoot(project.root());
-    const QFileInfo file(project.dictionaryPath());
-    dictionaryLabel_->setText(file.fileName());
-    dictionaryLabel_->setToolTip(QDir::toNativeSeparators(file.absoluteFilePath()));
-    KelSystem::instance().setLastOpened(project.dictionaryPath());
-    showStatus(tr("Dictionary Loaded"), false);
-    updateActions();
-    emit signalDictIsDirty(project.dictionary()->isDirty());
-    if (!missing.isEmpty())
-        showWarning(tr("Some variable and/or entity paths could not be found!") + "\n\n" +
-                    shortList(missing));
+    const QFileInfo file(path);
+    status_->showOpenFile(file.fileName(), QDir::toNativeSeparators(file.absoluteFilePath()));
+    const QString label = QString::fromStdString(project.dictionary()->label());
+    const QString name = QString::fromStdString(project.dictionary()->name());
+    startPage_->showDictionary(label.isEmpty() ? name : label, path, *project.root());
+    rebuildToolbars();
+    ribbon_->select(found ? FilePage : DictionaryPage);
 }
 
-void MainWindow::showLoadFailure(const QString& message) {
-    showStatus(tr("The dictionary was not opened"), false);
-    updateActions();
-    showError(message);
+void MainWindow::closeAll() {
+    docks_->closeAll();
+    workArea_->closeAllSubWindows();
+    resultsManager_ = nullptr;
+    showNothingOpen();
+    ribbon_->select(ProjectPage);
 }
 
-void MainWindow::runFrequency(const QString& fullName) {
+void MainWindow::showNothingOpen() {
+    status_->showOpenFile(QString(), QString());
+    startPage_->showRecent(mainController_->recentDictionaries());
+    rebuildToolbars();
+}
+
+void MainWindow::saveOpenDictionary() {
+    emit saveClick();
+    if (opener_->dictionary() != nullptr && !isLoading())
+        opener_->dictionary()->on_saveDictionary();
+}
+
+void MainWindow::saveAsOpenDictionary() {
+    emit saveAsClick();
+    if (opener_->dictionary() != nullptr && !isLoading())
+        opener_->dictionary()->on_saveAsDictionary();
+}
+
+void MainWindow::locateFiles() {
+    if (opener_->dictionary() != nullptr && !isLoading())
+        opener_->dictionary()->locateFiles();
+}
+
+void MainWindow::on_closeAllDictionary() {
+    if (!isLoading())
+        opener_->closeDictionary();
+}
+
+void MainWindow::on_dictIsDirtyReceived(bool dirty) {
+    emit signalDictIsDirty(dirty);
+}
+
+void MainWindow::on_dictIsSaved() {
+    emit signalDictIsDirty(false);
+}
+
+void MainWindow::runProgram(const QString& program) {
     TfrmProject& project = TfrmProject::instance();
     if (!project.isOpen() || isLoading())
         return;
-    showStatus(tr("Running..."), true);
+    showStatus(tr("Processing"), true);
     statusBar()->repaint();
-    const ProgramRun run = runProgram(project.dictionary(), QStringLiteral("FREQ ") + fullName);
+    const ProgramRun run = ::runProgram(project.dictionary(), program);
     if (!run.succeeded) {
-        showStatus(tr("The program has errors"), false);
+        showStatus(tr("Execution Failed"), false);
         showError((run.messages + QStringList(run.failure)).join('\n'));
         return;
     }
     project.setRun(run.session, run.outputs);
-    for (TKelOutput* output : run.outputs)
-        if (const auto table = FrequencyTable::fromOutput(*output))
-            frequencyView_->showTable(*table);
-    resultDock_->show();
-    resultDock_->raise();
-    showStatus(tr("Finished in %1 s").arg(QString::number(run.seconds, 'f', 2)), false);
+    showStatus(tr("Execution Finished"), false);
+    if (!run.outputs.empty())
+        showResults(run.outputs, run.session, program);
     if (!run.messages.isEmpty())
         showWarning(run.messages.join('\n'));
 }
 
-void MainWindow::showAbout() {
-    showInformation(
-        tr("Kelvora X, a workbench for census microdata.\n\nProgram version: %1\n"
-           "Engine version: %2")
-            .arg(QCoreApplication::applicationVersion(), QString::fromStdString(kel::version())));
+void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
+                             std::shared_ptr<TKelSession> /*session*/,
+                             const QString& programText) {
+    if (resultsManager_ == nullptr)
+        resultsManager_ = new ResultsManager(this);
+    if (!resultsManager_->addOutputs(outputs))
+        showWarning(tr("The results cannot be shown as a frequency."));
+    else
+        onShowResults();
+    rebuildToolbars();
+    if (saves(programText) && opener_->dictionary() != nullptr)
+        opener_->dictionary()->reloadAfterRun();
 }
 
-void MainWindow::askSaveDictionary() {
-    const TfrmProject& project = TfrmProject::instance();
-    if (!project.isOpen() || !project.dictionary()->isDirty() ||
-        !askYesNo(tr("Save Dictionary"), tr("Do you want to save the changes in the dictionary?")))
+void MainWindow::onShowResults() {
+    if (resultsManager_ == nullptr)
         return;
-    try {
-        kel::saveDictionary(project.dictionary(), project.dictionaryPath().toStdString());
-        project.dictionary()->setDirty(false);
-    } catch (const std::exception& fault) {
-        showError(QString::fromStdString(fault.what()));
+    QMdiSubWindow* frame = workArea_->find(resultsManager_->objectName());
+    if (frame == nullptr) {
+        frame = workArea_->addWindow(resultsManager_);
+        frame->setAttribute(Qt::WA_DeleteOnClose, false);
+        frame->installEventFilter(this);
     }
+    resultsManager_->show();
+    workArea_->setActiveSubWindow(frame);
+    resultsManager_->setFocus();
+}
+
+void MainWindow::onHideResults() {
+    QMdiSubWindow* frame =
+        resultsManager_ != nullptr ? workArea_->find(resultsManager_->objectName()) : nullptr;
+    if (frame == nullptr)
+        return;
+    // The tables outlive their sub-window, which is still within its own close event.
+    workArea_->removeSubWindow(resultsManager_);
+    resultsManager_->setParent(this);
+    resultsManager_->hide();
+    frame->hide();
+    frame->deleteLater();
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Close && resultsManager_ != nullptr &&
+        object == workArea_->find(resultsManager_->objectName()))
+        onHideResults();
+    return QMainWindow::eventFilter(object, event);
+}
+
+InfoProperties& MainWindow::quickView() {
+    auto* view = qobject_cast<InfoProperties*>(docks_->find(quickViewName));
+    if (view == nullptr) {
+        view = new InfoProperties(this);
+        view->setObjectName(quickViewName);
+        addDockRight(view);
+    }
+    view->show();
+    view->raise();
+    return *view;
+}
+
+void MainWindow::onQuickViewVariable(TKpVariable* variable) {
+    if (variable != nullptr)
+        quickView().showVariable(*variable);
+}
+
+void MainWindow::onQuickViewEntity(TKpEntity* entity) {
+    if (entity != nullptr)
+        quickView().showEntity(TfrmProject::instance().root(), *entity);
+}
+
+void MainWindow::onCloseInfoAppProperties() {
+    closeDock(quickViewName);
+}
+
+void MainWindow::handle_window_title_change(const QString& /*title*/) {
+    ribbon_->retitle();
+}
+
+void MainWindow::onClickInPreferences() {
+    if (QMdiSubWindow* open = workArea_->find(preferencesName)) {
+        workArea_->setActiveSubWindow(open);
+        return;
+    }
+    auto* preferences = new ConfigDialog(system_, tt::StyleNames());
+    connectPreferences(*preferences);
+    QMdiSubWindow* frame = workArea_->addWindow(preferences);
+    frame->setObjectName(preferencesName);
+    connect(preferences, &ConfigDialog::closeRequested, frame, &QWidget::close);
+}
+
+void MainWindow::connectPreferences(ConfigDialog& preferences) {
+    connect(&preferences, &ConfigDialog::menuColorChanged, this, &MainWindow::rebuildToolbars);
+    connect(&preferences, &ConfigDialog::settingsReset, this, &MainWindow::rebuildToolbars);
+    connect(&preferences, &ConfigDialog::maxLastFilesChanged, this, &MainWindow::rebuildToolbars);
+}
+
+bool MainWindow::askSaveDictionary() {
+    TfrmDictionary* dictionary = opener_->dictionary();
+    return dictionary == nullptr || !dictionary->isDirty() ||
+           !askYesNo(tr("Save Dictionary"),
+                     tr("Do you want to save the changes in the dictionary?")) ||
+           dictionary->save();
+}
+
+bool MainWindow::endRun() {
+    if (!opener_->endLoading()) {
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
+        return false;
+    }
+    showStatus(QString(), false);
+    if (!workArea_->closeModified())
+        return false;
+    if (TfrmDictionary* dictionary = opener_->dictionary())
+        if (!dictionary->settlePending())
+            return false;
+    return askSaveDictionary();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!engineEnded_ && !endLoading()) {
+    if (!engineEnded_ && !endRun()) {
         event->ignore();
-        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return;
     }
-    showStatus(QString(), false);
-    if (!engineEnded_)
-        askSaveDictionary();
     QMainWindow::closeEvent(event);
     if (!engineEnded_) {
         engineEnded_ = true;
-        dropViews();
+        if (opener_->dictionary() != nullptr)
+            opener_->dictionary()->saveWindowSizes();
+        closeAll();
         TfrmProject::instance().close();
         kel::destroy();
     }
     QCoreApplication::quit();
 }
 
-bool MainWindow::endLoading() {
-    if (!isLoading())
-        return true;
-    UIInvoker::instance().refuseQuestions();
-    if (UIInvoker::instance().isAsking())
-        return false; // its dialog stands below this call and must end first
-    setEnabled(false);
-    loader_->finish();
-    return true;
-}
-
 void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange && actions_ != nullptr) {
-        statusBar()->clearMessage();
-        retranslate();
-    }
+    if (event->type() == QEvent::LanguageChange && status_)
+        changeLanguage();
     QMainWindow::changeEvent(event);
 }
 
-void MainWindow::retranslate() {
-    actions_->retranslate();
-    resultDock_->setWindowTitle(tr("Results"));
-    progress_->setAccessibleName(tr("Progress"));
-    dictionaryLabel_->setAccessibleName(tr("Open dictionary"));
+void MainWindow::changeLanguage() {
+    statusBar()->clearMessage();
+    status_->retranslate();
+    const QString title = windowTitle();
+    setUpdatesEnabled(false);
+    rebuildToolbars();
+    setUpdatesEnabled(true);
+    setWindowTitle(title);
+}
+
+QMenu* MainWindow::createPopupMenu() {
+    return nullptr; // it would hide the ribbon, and close the dictionary without a question
 }

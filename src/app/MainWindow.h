@@ -1,20 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The single top-level window: a shell over the dictionary browser, the results and the actions.
+// The single top-level window: a shell over the work area, the docks, the ribbon and the status
+// bar. Helpers do the work; it wires them to each other.
 #pragma once
 
+#include "app/DockAreas.h"
+#include "app/MainController.h"
+#include "app/StatusLine.h"
+#include "app/shell/Shell.h"
+
 #include <QMainWindow>
-#include <QStringList>
 
-class DictionaryBrowser;
-class DictionaryLoader;
-class FrequencyView;
-class MainActions;
-class QDockWidget;
-class QLabel;
-class QProgressBar;
+#include <memory>
+#include <vector>
+
+class ConfigDialog;
+class FileOpener;
+class InfoProperties;
+class KelSystem;
+class QMdiSubWindow;
+class ResultsManager;
+class RibbonHost;
+class StartPage;
+class TKelOutput;
+class TKelSession;
+class TKpEntity;
 class TKpVariable;
+class WorkArea;
 
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, public Shell {
     Q_OBJECT
 
 public:
@@ -24,47 +37,84 @@ public:
     /// The one window; made with that parent where there is none yet.
     static MainWindow* instance(QWidget* parent = nullptr);
 
-    /// Busy: the wait cursor until the next call that is not. Not busy: the text for 2000 ms.
-    void showStatus(const QString& text, bool busy);
-    /// Begins to open a file of any kind; the extension tells which.
+    // Shell
+    void showStatus(const QString& text, bool busy) override;
+    void addDockLeft(QDockWidget* dock) override;
+    void addDockRight(QDockWidget* dock) override;
+    QDockWidget* dock(const QString& name) const override;
+    bool dockExists(const QString& name) const override;
+    void closeDock(const QString& name) override;
+    QMdiSubWindow* addWindow(QWidget* content) override;
+    bool hasWindows() const override;
+    void runProgram(const QString& program) override;
+    QWidget* window() override { return this; }
+
+    /// Opens a file of any kind; the extension tells which.
     void openFile(const QString& path, const QString& extension);
     /// Reopens the last file where the settings ask for it.
     void loadLastOpened();
-    /// Runs a frequency of ENTITY.VARIABLE and shows it.
-    void runFrequency(const QString& fullName);
     bool isLoading() const;
+    /// Hands the outputs of a run to the window of results, which comes to the front.
+    void showResults(const std::vector<TKelOutput*>& outputs, std::shared_ptr<TKelSession> session,
+                     const QString& programText);
+    /// The whole ribbon anew, on the page that was shown.
+    void rebuildToolbars();
+
+public slots:
+    void openRecentProcessFile(const QString& pathFile);
+    void openRecentDictionary(int id);
+    void openRecentProject(int id);
+    void on_openRecentDictionary(const QString& path);
+    void on_openRecentProject(const QString& path, bool fromDictionary);
+    void readingDictionary(const QString& path, const QString& extension);
+    void saveOpenDictionary();
+    void saveAsOpenDictionary();
+    void locateFiles();
+    void on_closeAllDictionary();
+    void on_dictIsDirtyReceived(bool dirty);
+    void on_dictIsSaved();
+    void onClickInPreferences();
+    void onShowResults();
+    void onHideResults();
+    void onQuickViewVariable(TKpVariable* variable);
+    void onQuickViewEntity(TKpEntity* entity);
+    void onCloseInfoAppProperties();
+    void handle_window_title_change(const QString& title);
 
 signals:
+    void saveClick();
+    void saveAsClick();
     void signalDictIsDirty(bool dirty);
+    void signalProjecIsDirty(bool dirty);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    QMenu* createPopupMenu() override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void setupWorkArea();
     void setupToolbar();
-    void setupResults();
-    void setupStatusBar();
-    void connectActions();
-    void connectLoader();
-    void chooseDictionary();
-    void updateActions();
-    void dropViews();
-    void showLoaded(const QStringList& missing);
-    void showLoadFailure(const QString& message);
-    void showAbout();
-    void askSaveDictionary();
-    bool endLoading(); ///< false where an open question must go first
-    void retranslate();
+    void connectOpener();
+    void onOpened(const QString& path, bool found);
+    void closeAll();
+    void showNothingOpen();
+    bool askSaveDictionary(); ///< false where the changes could not be saved
+    bool endRun();            ///< false where the window stays open
+    void changeLanguage();
+    void connectPreferences(ConfigDialog& preferences);
+    InfoProperties& quickView();
 
-    DictionaryBrowser* browser_ = nullptr;
-    DictionaryLoader* loader_ = nullptr;
-    MainActions* actions_ = nullptr;
-    QDockWidget* resultDock_ = nullptr;
-    FrequencyView* frequencyView_ = nullptr;
-    QLabel* dictionaryLabel_ = nullptr;
-    QProgressBar* progress_ = nullptr;
-    bool busy_ = false;
+    KelSystem& system_;
+    std::unique_ptr<DockAreas> docks_;
+    std::unique_ptr<StatusLine> status_;
+    std::unique_ptr<MainController> mainController_;
+    WorkArea* workArea_ = nullptr;
+    StartPage* startPage_ = nullptr;
+    RibbonHost* ribbon_ = nullptr;
+    FileOpener* opener_ = nullptr;
+    ResultsManager* resultsManager_ = nullptr; ///< null until the first results
+    QString language_;
     bool engineEnded_ = false;
 };

@@ -4,6 +4,7 @@
 #include "app/MainWindow.h"
 #include "app/Startup.h"
 #include "app/settings/KelSystem.h"
+#include "preferences/QUpdater.h"
 #include "preferences/SelectorLanguageDlg.h"
 
 #include <QApplication>
@@ -39,6 +40,9 @@ int main(int argc, char** argv) {
     logMessage(QStringLiteral("Loading the main screen settings"), false);
     window.loadLastOpened();
     logMessage(QStringLiteral("Checking for new updates"), false);
+    QUpdater updater;
+    updater.setBusyTest([&window] { return window.isLoading(); });
+    updater.start();
     logMessage(QStringLiteral("Kelvora X is now running"), false);
     return QApplication::exec();
 }

@@ -37,6 +37,7 @@ public:
 
     bool isOpen() const { return dictionary_ != nullptr; }
     QString dictionaryPath() const { return dictionaryPath_; }
+    void setDictionaryPath(const QString& path) { dictionaryPath_ = path; } ///< after a Save As
     DictionaryKind dictionaryKind() const { return kind_; }
     const std::shared_ptr<TKelDictionary>& dictionary() const { return dictionary_; }
     void setDictionaryKind(DictionaryKind kind) { kind_ = kind; }

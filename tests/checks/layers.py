@@ -29,7 +29,8 @@ FORMS = ["src/app/messages", "src/app/settings", "src/app/dialogs", "src/app/wid
          "src/app/shell"]
 ALLOWED["src/app/ribbon"] = FORMS + ["src/app/ribbon/tt"]
 ALLOWED["src/preferences"] = FORMS + ["src/app/ribbon/tt"]
-ALLOWED["src/dictionary/loading"] = BOUNDARY + FORMS + ["src/dictionary/mirror", "src/projects"]
+ALLOWED["src/dictionary/loading"] = BOUNDARY + FORMS + [
+    "src/engine", "src/dictionary/mirror", "src/projects"]
 ALLOWED["src/dictionary/views"] = BOUNDARY + FORMS + ["src/dictionary/mirror"]
 ALLOWED["src/dictionary/properties"] = BOUNDARY + FORMS + ["src/dictionary/mirror",
                                                            "src/dictionary/views"]

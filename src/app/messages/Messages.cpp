@@ -2,6 +2,7 @@
 #include "app/messages/Messages.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QMessageBox>
 
 namespace {
@@ -15,13 +16,9 @@ QString translated(const char* text) {
     return QCoreApplication::translate("Messages", text);
 }
 
-/// Plain text unless told otherwise, since texts quote what files hold. The arrow, since a busy
-/// program shows the wait cursor.
-QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
-                                QMessageBox::StandardButtons buttons,
-                                Qt::TextFormat format = Qt::PlainText) {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
-    box.setTextFormat(format);
+/// With the arrow, since a busy program shows the wait cursor.
+QMessageBox::StandardButton run(QMessageBox& box) {
+    const QMessageBox::StandardButtons buttons = box.standardButtons();
     if (buttons.testFlag(QMessageBox::No) && !buttons.testFlag(QMessageBox::Cancel))
         box.setEscapeButton(QMessageBox::No);
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
@@ -33,12 +30,35 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, co
     return static_cast<QMessageBox::StandardButton>(answer);
 }
 
+/// Plain text unless told otherwise, since texts quote what files hold.
+QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+                                QMessageBox::StandardButtons buttons,
+                                Qt::TextFormat format = Qt::PlainText) {
+    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    box.setTextFormat(format);
+    return run(box);
+}
+
 void show(MessageKind kind, QMessageBox::Icon icon, const QString& title, const QString& text,
           Qt::TextFormat format = Qt::PlainText) {
     if (answerer())
         answerer()(kind, text);
     else
         ask(icon, title, text, QMessageBox::Ok, format);
+}
+
+constexpr QMessageBox::StandardButtons yesNoCancel =
+    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+
+Choice choiceOf(QMessageBox::StandardButton button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return Choice::Yes;
+    case QMessageBox::No:
+        return Choice::No;
+    default:
+        return Choice::Cancel;
+    }
 }
 
 } // namespace
@@ -70,18 +90,34 @@ bool askYesNo(const QString& title, const QString& text) {
            QMessageBox::Yes;
 }
 
+bool askYesNoRich(const QString& title, const QString& html, const QString& informative) {
+    if (answerer())
+        return answerer()(MessageKind::Question, html + '\n' + informative) == Choice::Yes;
+    QMessageBox box(QMessageBox::Information, title, html, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::RichText);
+    box.setInformativeText(informative);
+    box.setDefaultButton(QMessageBox::Yes);
+    return run(box) == QMessageBox::Yes;
+}
+
 Choice askYesNoCancel(const QString& title, const QString& text) {
     if (answerer())
         return answerer()(MessageKind::Question, text);
-    switch (ask(QMessageBox::Question, title, text,
-                QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
-    case QMessageBox::Yes:
-        return Choice::Yes;
-    case QMessageBox::No:
-        return Choice::No;
-    default:
-        return Choice::Cancel;
-    }
+    return choiceOf(ask(QMessageBox::Question, title, text, yesNoCancel));
+}
+
+Choice askYesNoCancel(const QString& title, const QString& text, const QString& boxText,
+                      bool& ticked) {
+    if (answerer())
+        return answerer()(MessageKind::Question, text);
+    QMessageBox box(QMessageBox::Question, title, text, yesNoCancel, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    auto* tick = new QCheckBox(boxText, &box);
+    box.setCheckBox(tick);
+    const Choice choice = choiceOf(run(box));
+    ticked = tick->isChecked();
+    return choice;
 }
 
 void answerMessages(MessageAnswer answer) {

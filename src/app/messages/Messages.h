@@ -16,8 +16,14 @@ void showWarning(const QString& text);
 void showRichInformation(const QString& text);
 /// True for Yes. There is no Cancel; Escape means No.
 bool askYesNo(const QString& title, const QString& text);
+/// As askYesNo, with rich text of ours, a second text below it, and Yes as default.
+bool askYesNoRich(const QString& title, const QString& html, const QString& informative);
 /// Escape means Cancel.
 Choice askYesNoCancel(const QString& title, const QString& text);
+
+/// The same with a box that the user may tick; ticked tells whether that was done.
+Choice askYesNoCancel(const QString& title, const QString& text, const QString& boxText,
+                      bool& ticked);
 
 /// Takes the user's place: gets every message, and its answer counts for questions.
 using MessageAnswer = std::function<Choice(MessageKind, const QString& text)>;

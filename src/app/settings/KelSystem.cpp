@@ -1,33 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/KelSystem.h"
 
+#include "app/messages/Messages.h"
+#include "app/settings/FontJson.h"
+#include "app/settings/JsonFile.h"
+#include "app/settings/SettingsFile.h"
+#include "app/settings/SettingsKeys.h"
+#include "app/settings/XmlSettings.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
+#include <QJsonArray>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace {
 
-const QString systemGroup = QStringLiteral("kelSystem");
-const QString foldersKey = QStringLiteral("lastDirectories");
+using Folder = QString SettingsValues::*;
 
-/// The key of a folder kind in the file; empty for an unknown kind.
-QString folderKey(const QString& kind) {
-    static const QHash<QString, QString> keys = {
-        {QStringLiteral("PROJECT"), QStringLiteral("project")},
-        {QStringLiteral("MAP"), QStringLiteral("map")},
-        {QStringLiteral("GRAPH"), QStringLiteral("outputGraph")},
-        {QStringLiteral("TABLE"), QStringLiteral("outputTable")},
-        {QStringLiteral("PROGRAM"), QStringLiteral("program")},
-        {QStringLiteral("SELECTION"), QStringLiteral("selection")},
-        {QStringLiteral("DICTIONARY"), QStringLiteral("dictionary")},
-        {QStringLiteral("DATADICTIONARY"), QStringLiteral("datadictionary")}};
-    return keys.value(kind);
+/// The field of a folder kind; null for an unknown kind.
+Folder folderOf(const QString& kind) {
+    static const QHash<QString, Folder> folders = {
+        {QStringLiteral("PROJECT"), &SettingsValues::projectFolder},
+        {QStringLiteral("MAP"), &SettingsValues::mapFolder},
+        {QStringLiteral("GRAPH"), &SettingsValues::graphFolder},
+        {QStringLiteral("TABLE"), &SettingsValues::tableFolder},
+        {QStringLiteral("PROGRAM"), &SettingsValues::programFolder},
+        {QStringLiteral("SELECTION"), &SettingsValues::selectionFolder},
+        {QStringLiteral("DICTIONARY"), &SettingsValues::dictionaryFolder},
+        {QStringLiteral("DATADICTIONARY"), &SettingsValues::dataDictionaryFolder}};
+    return folders.value(kind, nullptr);
 }
 
 QString makeDefaultFolder() {
@@ -36,100 +41,201 @@ QString makeDefaultFolder() {
     return QDir().mkpath(folder) ? folder : documents;
 }
 
-QJsonObject readDocument(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QJsonDocument::fromJson(file.readAll()).object();
+/// Of a program without a name, so that every edition shares one file.
+QString userBase() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+QString forwardSlashes(const QString& path) {
+    return QString(path).replace('\\', '/');
+}
+
+QStringList existing(const QStringList& paths, int most) {
+    QStringList found;
+    for (const QString& path : paths)
+        if (found.size() < most && QFileInfo::exists(path))
+            found += path;
+    return found;
 }
 
 } // namespace
 
 KelSystem& KelSystem::instance() {
-    static KelSystem system;
+    static KelSystem system(userBase());
     return system;
 }
 
-KelSystem::KelSystem()
-    : language_(QStringLiteral("Process_en")), defaultFolder_(makeDefaultFolder()) {
-    firstUse_ = readValue(QStringLiteral("ftu"), systemGroup, true).toBool();
-    if (!firstUse_)
-        load();
+KelSystem::KelSystem(const QString& base) : base_(base), values_(makeDefaultFolder()) {
+    xmlSettingsFormat();
+    load();
 }
 
 void KelSystem::load() {
-    language_ = readValue(QStringLiteral("language"), systemGroup, language_).toString();
-    loadLast_ = readValue(QStringLiteral("loadLast"), systemGroup, true).toBool();
-    lastOpened_ = readValue(QStringLiteral("lastOpened"), systemGroup, QString()).toString();
-    const QVariantMap folders = readValue(foldersKey, systemGroup, QVariantMap()).toMap();
-    for (auto folder = folders.begin(); folder != folders.end(); ++folder)
-        folders_.insert(folder.key(), folder.value().toString());
+    const QJsonObject document = readDocument();
+    SettingsValues read = values_;
+    readSettings(document, read);
+    if (read.firstUse)
+        return;
+    values_ = read;
+    values_.recentDictionaries = existing(read.recentDictionaries, read.maxLastFiles);
 }
 
 QString KelSystem::filePath() const {
-    // The folder of a program without a name, so that every edition shares one file.
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QStringLiteral("/Ovantis/KelvoraX/KelProcess.json");
+    return settingsFilePath(base_);
 }
 
-QVariant KelSystem::readValue(const QString& key, const QString& group,
-                              const QVariant& defaultValue) const {
-    const QJsonObject values = readDocument(filePath()).value(group).toObject();
-    return values.contains(key) ? values.value(key).toVariant() : defaultValue;
+/// Neither an absent file nor one without a byte has anything to complain about.
+QJsonObject KelSystem::readDocument() const {
+    const QFileInfo file(filePath());
+    if (!file.exists() || (file.isFile() && file.size() == 0))
+        return {};
+    const JsonReading reading = parseJsonFile(filePath());
+    if (!reading.fault.isEmpty() && !faultTold_) {
+        faultTold_ = true;
+        if (reading.damaged)
+            keepDamagedFile();
+        showError(reading.fault);
+    }
+    return reading.object;
+}
+
+/// The next save writes over the file; what it held may still be of use to someone.
+void KelSystem::keepDamagedFile() const {
+    const QString copy = filePath() + QStringLiteral(".broken");
+    QString free = copy;
+    for (int number = 2; QFileInfo::exists(free); ++number)
+        free = copy + QString::number(number);
+    QFile::copy(filePath(), free);
+}
+
+QJsonObject KelSystem::groupOf(const QString& group) const {
+    QJsonObject object = readDocument();
+    for (const QStringView name : QStringView(group).split('/'))
+        object = object.value(name).toObject();
+    return object;
+}
+
+void KelSystem::readValue(QVariant& out, const QString& key, const QString& group,
+                          const QVariant& defaultValue) const {
+    const QJsonObject values = groupOf(group);
+    out = values.contains(key) ? values.value(key).toVariant() : defaultValue;
+}
+
+void KelSystem::readList(QStringList& out, const QString& key, const QString& arrayName,
+                         const QString& group) const {
+    out.clear();
+    const QJsonArray array = groupOf(group).value(arrayName).toArray();
+    for (const QJsonValue entry : array)
+        if (entry.toObject().contains(key))
+            out += entry.toObject().value(key).toString();
+}
+
+void KelSystem::readFont(QFont& out, const QString& key, const QString& group,
+                         const QFont& defaultFont) const {
+    out = fontFromJson(groupOf(group).value(key).toObject(), defaultFont);
+}
+
+bool KelSystem::writeValue(const QString& key, const QVariant& value, const QString& group) const {
+    return writeSettingsFile(base_, values_, group, key, value);
 }
 
 bool KelSystem::save() const {
-    QJsonObject folders{{QStringLiteral("default"), defaultFolder_}};
-    for (auto folder = folders_.begin(); folder != folders_.end(); ++folder)
-        folders.insert(folder.key(), folder.value());
-    const QJsonObject values{{QStringLiteral("lastOpened"), lastOpened_},
-                             {QStringLiteral("loadLast"), loadLast_},
-                             {QStringLiteral("ftu"), firstUse_},
-                             {QStringLiteral("language"), language_},
-                             {foldersKey, folders}};
-    QDir().mkpath(QFileInfo(filePath()).absolutePath());
-    QSaveFile file(filePath());
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(QJsonDocument(QJsonObject{{systemGroup, values}}).toJson()) > 0 &&
-           file.commit();
+    return writeValue(QStringLiteral("ftu"), QStringLiteral("0"), QStringLiteral("kelSystem"));
+}
+
+void KelSystem::resetToDefaults() {
+    values_ = SettingsValues(values_.defaultFolder);
+    values_.firstUse = false;
+    values_.fixedFont = QFont(QStringLiteral("Courier New"), 10);
+    values_.printFont = QFont(QStringLiteral("Arial"), 12);
 }
 
 void KelSystem::setFirstUse(bool firstUse) {
-    firstUse_ = firstUse;
-    save();
+    values_.firstUse = firstUse;
+    writeValue(QStringLiteral("ftu"), QVariant(firstUse).toString(), QStringLiteral("Preferences"));
+}
+
+QString KelSystem::shortLanguage() const {
+    const QString code = values_.language.section('_', 1);
+    const bool known =
+        values_.language.startsWith(QLatin1String("Process_")) &&
+        QStringList({QStringLiteral("es"), QStringLiteral("pt"), QStringLiteral("fr")})
+            .contains(code);
+    return known ? code : QStringLiteral("en");
 }
 
 void KelSystem::selectLanguage(const std::function<QString()>& ask) {
-    language_ = ask();
+    values_.language = ask();
     save();
-    installTranslator(language_);
+    installTranslator(values_.language);
 }
 
 bool KelSystem::installTranslator(const QString& language) {
     QCoreApplication::removeTranslator(&translator_);
     QCoreApplication::removeTranslator(&toolkitTranslator_);
-    if (!translator_.load(QStringLiteral(":/i18n/") + language, QStringLiteral(".")))
-        return false;
-    language_ = language;
-    const QLocale locale(language.section('_', 1));
+    const bool loaded = translator_.load(QStringLiteral(":/i18n/") + language, QStringLiteral("."));
+    if (loaded)
+        values_.language = language;
+    const QLocale locale(loaded ? language.section('_', 1) : QStringLiteral("en"));
     QLocale::setDefault(locale);
     if (toolkitTranslator_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
                                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&toolkitTranslator_);
-    return QCoreApplication::installTranslator(&translator_);
+    return loaded && QCoreApplication::installTranslator(&translator_);
+}
+
+QStringList KelSystem::recentDictionaries() const {
+    return values_.recentDictionaries.mid(0, values_.maxLastFiles);
+}
+
+QStringList KelSystem::recentProjects() const {
+    return values_.recentProjects.mid(0, values_.maxLastFiles);
+}
+
+void KelSystem::updateRecentList(QStringList& list, const QString& path) const {
+    const QString upper = path.toUpper();
+    list.removeIf([&upper](const QString& entry) { return entry.toUpper() == upper; });
+    list.prepend(path);
+    list = list.mid(0, values_.maxLastFiles);
+}
+
+void KelSystem::addRecentDictionary(const QString& path) {
+    values_.dictionaryFolder = QFileInfo(path).absolutePath();
+    updateRecentList(values_.recentDictionaries, path);
+    save();
+}
+
+void KelSystem::addRecentProject(const QString& path) {
+    values_.projectFolder = QFileInfo(path).absolutePath();
+    updateRecentList(values_.recentProjects, path);
+    save();
+}
+
+void KelSystem::removeRecentDictionary(const QString& path) {
+    values_.recentDictionaries.removeAll(path);
+    save();
+}
+
+void KelSystem::removeRecentProject(const QString& path) {
+    const QString plain = forwardSlashes(path);
+    values_.recentProjects.removeIf(
+        [&plain](const QString& entry) { return forwardSlashes(entry) == plain; });
+    save();
 }
 
 void KelSystem::setLastOpened(const QString& path) {
-    lastOpened_ = QDir::fromNativeSeparators(path);
+    values_.lastOpened = QDir::fromNativeSeparators(path);
     save();
 }
 
 QString KelSystem::directoryFor(const QString& kind) const {
-    return folders_.value(folderKey(kind), defaultFolder_);
+    const Folder folder = folderOf(kind);
+    if (folder == nullptr || (values_.*folder).isEmpty())
+        return values_.defaultFolder;
+    return values_.*folder;
 }
 
 void KelSystem::setDirectoryFor(const QString& kind, const QString& folder) {
-    const QString key = folderKey(kind);
-    if (!key.isEmpty())
-        folders_.insert(key, folder);
+    if (const Folder field = folderOf(kind))
+        values_.*field = folder;
 }

@@ -2,10 +2,16 @@
 #include "dictionary/mirror/DictionaryUtil.h"
 
 #include "TKelEntity.h"
+#include "dictionary/mirror/DicxWriter.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QSaveFile>
+
 #include <set>
+#include <stdexcept>
 
 namespace {
 
@@ -133,4 +139,20 @@ QStringList DictionaryUtil::groups(const TKpEntity& entity) const {
     for (const TKpVariable* variable : entity.variables)
         groups.insert(variable->group);
     return {groups.begin(), groups.end()};
+}
+
+FileRelocation DictionaryUtil::relocateFiles(TKelDictionary& dictionary, TKpEntity& root,
+                                             const QString& folder) const {
+    return {dictionary, root, folder};
+}
+
+void DictionaryUtil::writeDicx(const QString& path, TKelDictionary& dictionary,
+                               const TKpEntity& root) const {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || !DicxWriter(&file).write(dictionary, root) ||
+        !file.commit())
+        throw std::runtime_error(
+            QCoreApplication::translate("DictionaryUtil", "The file %1 cannot be written: %2")
+                .arg(QDir::toNativeSeparators(path), file.errorString())
+                .toStdString());
 }

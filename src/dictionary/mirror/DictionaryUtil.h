@@ -2,10 +2,13 @@
 // Walks over the trees of entities, the engine's and the interface's. Holds no state.
 #pragma once
 
+#include "dictionary/mirror/FileRelocation.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+class TKelDictionary;
 class TKelEntity;
 class TKpEntity;
 class TKpVariable;
@@ -29,4 +32,13 @@ public:
     /// For each variable of the entity its name, then ENTITY.VARIABLE.
     QStringList variableNames(const TKelEntity& entity) const;
     QStringList groups(const TKpEntity& entity) const; ///< sorted, each once
+
+    /// Writes the .dicx form of a mirror, whole or not at all. Throws std::runtime_error with a
+    /// text for the user where the file cannot be written.
+    void writeDicx(const QString& path, TKelDictionary& dictionary, const TKpEntity& root) const;
+    /// Rewrites the relative file names, the engine's and the mirror's, so that they find the same
+    /// data from another folder, which becomes the folder of the data. Taken back where the result
+    /// goes out of scope without keep().
+    [[nodiscard]] FileRelocation relocateFiles(TKelDictionary& dictionary, TKpEntity& root,
+                                               const QString& folder) const;
 };

@@ -39,7 +39,7 @@ DictionaryTreeModel::DictionaryTreeModel(QObject* parent)
     : QAbstractItemModel(parent),
       icon_(rowIcon(QStringLiteral(":/icons/res/icons/48px-Entity.png"))),
       rootIcon_(rowIcon(QStringLiteral(":/icons/res/icons/48px-Entity-root.png"))),
-      missingIcon_(rowIcon(QStringLiteral(":/icons/res/icons/missing.svg"))) {}
+      missingIcon_(rowIcon(QStringLiteral(":/icons/res/icons/48px-Missing.png"))) {}
 
 void DictionaryTreeModel::setRoot(std::shared_ptr<TKpEntity> root) {
     beginResetModel();
@@ -160,7 +160,6 @@ Qt::DropActions DictionaryTreeModel::supportedDragActions() const {
     return Qt::CopyAction;
 }
 
-bool DictionaryTreeModel::canDropMimeData(const QMimeData*, Qt::DropAction, int, int,
-                                          const QModelIndex&) const {
-    return false;
+Qt::DropActions DictionaryTreeModel::supportedDropActions() const {
+    return Qt::IgnoreAction;
 }

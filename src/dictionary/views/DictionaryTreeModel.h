@@ -36,8 +36,7 @@ public:
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     Qt::DropActions supportedDragActions() const override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override; ///< never
+    Qt::DropActions supportedDropActions() const override; ///< none
 
 private:
     struct Place {

@@ -12,6 +12,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -31,11 +32,12 @@ bool needsEscape(QChar c) {
 /// The text of a JSON object whose keys keep the order in which they are added.
 class JsonText {
 public:
+    JsonText() { text_.reserve(usualLength); }
     void add(QLatin1String key, const QString& value) {
         begin(key);
         // Plain texts are by far the most, and quoting them is all that they need.
         if (std::none_of(value.begin(), value.end(), needsEscape))
-            text_ += u'"' + value + u'"';
+            text_.append(u'"').append(value).append(u'"');
         else
             text_ += compact(value);
     }
@@ -49,14 +51,24 @@ public:
     }
     void add(QLatin1String key, const QJsonArray& value) {
         begin(key);
-        text_ += QString::fromUtf8(QJsonDocument(value).toJson(QJsonDocument::Compact));
+        text_ += value.isEmpty()
+                     ? QStringLiteral("[]")
+                     : QString::fromUtf8(QJsonDocument(value).toJson(QJsonDocument::Compact));
     }
-    QString text() const { return text_ + u'}'; }
+    /// Ends the object.
+    QString take() {
+        text_ += u'}';
+        return std::exchange(text_, {});
+    }
 
 private:
+    static constexpr qsizetype usualLength = 512;
+
     void begin(QLatin1String key) {
         text_ += text_.isEmpty() ? u'{' : u',';
-        text_ += u'"' + key + QLatin1String("\":");
+        text_ += u'"';
+        text_ += key;
+        text_ += QLatin1String("\":");
     }
 
     QString text_;
@@ -88,7 +100,7 @@ QString itemText(const TKpEntity& entity) {
     json.add(QLatin1String("level"), entity.level);
     json.add(QLatin1String("label"), entity.label);
     json.add(QLatin1String("entity"), treeMark());
-    return json.text();
+    return json.take();
 }
 
 QString itemText(const TKpVariable& variable) {
@@ -112,7 +124,7 @@ QString itemText(const TKpVariable& variable) {
     json.add(QLatin1String("range"), rangesOf(variable));
     json.add(QLatin1String("categoria"), valueLabelsOf(variable));
     json.add(QLatin1String("documentation"), variable.documentation);
-    return json.text();
+    return json.take();
 }
 
 const QString& fullNameOf(const TKpEntity& entity) {

@@ -5,10 +5,29 @@
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/views/DictionaryTreeModel.h"
+#include "dictionary/views/RowMetrics.h"
 #include "dictionary/views/TreeViewContextMenu.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace {
+
+/// Rows as high as those of the table beside it.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(size.height(), viewRowHeight(option.fontMetrics))};
+    }
+};
+
+} // namespace
 
 KelTreeView::KelTreeView(QWidget* parent)
     : DictionaryExtendTreeView(parent), model_(new DictionaryTreeModel(this)) {
@@ -21,10 +40,11 @@ KelTreeView::KelTreeView(QWidget* parent)
     setDropIndicatorShown(true);
     setUniformRowHeights(true);
     setExpandsOnDoubleClick(false); // a double click shows the entity
-    setIndentation(fontMetrics().height());
+    setItemDelegate(new RoomyRows(this));
     setMouseTracking(true);
     header()->setSectionsMovable(false);
     connectOwnSignals();
+    followFont();
     retranslate();
 }
 
@@ -153,7 +173,14 @@ void KelTreeView::on_ContextMenuRequested(const QPoint& position) {
 void KelTreeView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    if (event->type() == QEvent::FontChange)
+        followFont();
     DictionaryExtendTreeView::changeEvent(event);
+}
+
+void KelTreeView::followFont() {
+    setIconSize(viewIconSize(fontMetrics()));
+    setIndentation(fontMetrics().height());
 }
 
 void KelTreeView::retranslate() {

@@ -56,6 +56,7 @@ protected:
 private:
     void connectOwnSignals();
     QStringList collapsedNames() const;
+    void followFont();
     void retranslate();
 
     DictionaryTreeModel* model_;

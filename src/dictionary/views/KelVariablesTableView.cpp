@@ -4,6 +4,7 @@
 #include "app/messages/Messages.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
+#include "dictionary/views/RowMetrics.h"
 #include "dictionary/views/VariableCellDelegate.h"
 #include "dictionary/views/VariableDiccionaryModel.h"
 #include "dictionary/views/VariablesContextMenu.h"
@@ -31,6 +32,7 @@ KelVariablesTableView::KelVariablesTableView(QWidget* parent)
     setModel(proxy_);
     setItemDelegate(new VariableCellDelegate(this));
     setUpLook();
+    followFont();
     connectOwnSignals();
     connectModels();
     retranslate();
@@ -51,13 +53,11 @@ void KelVariablesTableView::setUpLook() {
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     QHeaderView* header = horizontalHeader();
     header->setStyleSheet(QStringLiteral("QHeaderView { font-weight: 600; }"));
     header->setSectionsMovable(true);
     header->setHighlightSections(false);
     header->setResizeContentsPrecision(rowsMeasured);
-    header->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
     header->setSectionResizeMode(VariableDiccionaryModel::LabelColumn, QHeaderView::Stretch);
     // A third click gives back the order of the dictionary, which it also begins with.
     header->setSortIndicatorClearable(true);
@@ -282,13 +282,20 @@ void KelVariablesTableView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
     if (event->type() == QEvent::FontChange)
-        verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+        followFont();
     VariablesExtendTableView::changeEvent(event);
+}
+
+void KelVariablesTableView::followFont() {
+    setIconSize(viewIconSize(fontMetrics()));
+    verticalHeader()->setDefaultSectionSize(viewRowHeight(fontMetrics()));
+    horizontalHeader()->setMinimumSectionSize(6 * fontMetrics().averageCharWidth());
 }
 
 void KelVariablesTableView::retranslate() {
     setAccessibleName(tr("Variables"));
     model_->retranslate();
-    if (!ownWidths_) // new titles need new widths
+    proxy_->sort(proxy_->sortColumn(), proxy_->sortOrder()); // languages order differently
+    if (!ownWidths_)                                         // new titles need new widths
         fitColumns();
 }

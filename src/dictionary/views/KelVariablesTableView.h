@@ -34,7 +34,7 @@ public:
 signals:
     void tableViewEntered();                  ///< by the mouse
     void selectedItem(TKpVariable* variable); ///< also when the selected one is clicked again
-    void tableInfoChange(bool changed);       ///< true: a cell has been edited
+    void tableInfoChange(bool changed);       ///< true: what the table shows was edited
     void signalShowVariablesProperties();     ///< of the current variable
     void quickViewRequested(TKpVariable* variable);
     void variableDoubleClicked(TKpVariable* variable);
@@ -72,6 +72,7 @@ private:
     void announce();
     void deleteVariables();
     void fitColumns();
+    void followFont();
     void retranslate();
     TKpVariable* variableAt(const QModelIndex& index) const;
 

@@ -252,7 +252,7 @@ QVariant VariableDiccionaryModel::headerData(int section, Qt::Orientation orient
 Qt::ItemFlags VariableDiccionaryModel::flags(const QModelIndex& index) const {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    // With drop, as laid down, though canDropMimeData() takes nothing.
+    // With drop, as laid down, though no action of it is supported.
     return QAbstractItemModel::flags(index) | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
            Qt::ItemIsDropEnabled;
 }
@@ -278,7 +278,6 @@ Qt::DropActions VariableDiccionaryModel::supportedDragActions() const {
     return Qt::CopyAction;
 }
 
-bool VariableDiccionaryModel::canDropMimeData(const QMimeData*, Qt::DropAction, int, int,
-                                              const QModelIndex&) const {
-    return false;
+Qt::DropActions VariableDiccionaryModel::supportedDropActions() const {
+    return Qt::IgnoreAction;
 }

@@ -34,7 +34,7 @@ public:
     const std::shared_ptr<TKpEntity>& root() const { return root_; }
     TKpVariable* variableAt(int row) const;       ///< null for none
     int rowOf(const TKpVariable* variable) const; ///< -1 for none
-    /// Shows what has been changed in the variable elsewhere.
+    /// Shows what has been changed in the variable elsewhere; emits dataChanged too.
     void refresh(const TKpVariable* variable);
     void retranslate();
 
@@ -53,8 +53,7 @@ public:
     /// Each row once, in the order of the indexes.
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     Qt::DropActions supportedDragActions() const override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override; ///< never
+    Qt::DropActions supportedDropActions() const override; ///< none
 
 private:
     QString cell(const TKpVariable& variable, int column) const;

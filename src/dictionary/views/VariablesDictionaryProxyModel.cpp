@@ -51,12 +51,13 @@ struct VariablesDictionaryProxyModel::SortKey {
 /// price.
 class VariablesDictionaryProxyModel::SortKeys {
 public:
-    /// Keys made under another language's order are of no use.
-    void begin() {
+    /// True where the language has changed, whose keys and order are of no use any more.
+    bool followLanguage() {
         if (collator_.locale() == QCollator().locale())
-            return;
+            return false;
         collator_ = QCollator();
         clear();
+        return true;
     }
     void clear() {
         for (auto& column : keys_)
@@ -182,7 +183,8 @@ bool VariablesDictionaryProxyModel::filterAcceptsRow(int row, const QModelIndex&
 }
 
 void VariablesDictionaryProxyModel::sort(int column, Qt::SortOrder order) {
-    keys_->begin();
+    if (keys_->followLanguage())
+        invalidate();
     QSortFilterProxyModel::sort(column, order);
 }
 

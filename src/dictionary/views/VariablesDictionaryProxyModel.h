@@ -25,6 +25,7 @@ public:
     QString filterText() const { return text_; }
 
     void setSourceModel(QAbstractItemModel* model) override;
+    /// Also sorts anew by the same column where the language has changed.
     void sort(int column, Qt::SortOrder order) override;
     /// Each row once, in the order in which they are shown.
     QMimeData* mimeData(const QModelIndexList& indexes) const override;

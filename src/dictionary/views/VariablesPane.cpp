@@ -24,6 +24,7 @@ VariablesPane::VariablesPane(QWidget* parent)
     auto* line = new QHBoxLayout;
     line->addWidget(filter_, 1);
     line->addWidget(count_);
+    line->setContentsMargins(0, 0, fontMetrics().averageCharWidth(), 0);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(line);

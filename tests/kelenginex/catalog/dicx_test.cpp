@@ -109,6 +109,17 @@ TEST(Dicx, KnowsAllTypesAndLayouts) {
     EXPECT_EQ(v.raw->size, 7);
     EXPECT_EQ(v.raw->valueType, ValueType::Real);
     EXPECT_TRUE(v.hidden);
+    EXPECT_FALSE(v.local);
+}
+
+TEST(Dicx, TellsWhatAProgramMade) {
+    const auto made =
+        parse(variable("<varDicChoice><isOriginal>false</isOriginal></varDicChoice>"));
+    EXPECT_TRUE(onlyVariable(*made).local);
+    EXPECT_TRUE(onlyVariable(*parse(catalog::writeDicx(*made))).local);
+    for (const std::string original : {"<isOriginal>true</isOriginal>", "<isOriginal/>", ""})
+        EXPECT_FALSE(
+            onlyVariable(*parse(variable("<varDicChoice>" + original + "</varDicChoice>"))).local);
 }
 
 TEST(Dicx, KeepsARealRangeThatLooksFixed) {

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/FileOpener.h"
+
+#include "app/Logging.h"
+#include "app/WorkArea.h"
+#include "app/messages/Messages.h"
+#include "app/settings/KelSystem.h"
+#include "app/shell/Shell.h"
+#include "dictionary/TfrmDictionary.h"
+#include "projects/TfrmProject.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
+namespace {
+
+const QString preferencesName = QStringLiteral("KelxPreferencesDialog");
+
+bool isDictionary(const QString& extension) {
+    return extension == QLatin1String("dicx") || extension == QLatin1String("kxdb");
+}
+
+} // namespace
+
+FileOpener::FileOpener(Shell& shell, WorkArea& workArea, KelSystem& system, QObject* parent)
+    : QObject(parent), shell_(shell), workArea_(workArea), system_(system) {}
+
+bool FileOpener::isLoading() const {
+    return dictionary_ != nullptr && dictionary_->isLoading();
+}
+
+bool FileOpener::canOpen(const QString& path, const QString& extension) const {
+    if (!isDictionary(extension)) {
+        showError(tr("Archivo no válido"));
+        return false;
+    }
+    if (!QFileInfo(path).isFile()) {
+        showError(tr("The file %1 was not found.").arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
+    return true;
+}
+
+void FileOpener::openFile(const QString& path, const QString& extension) {
+    const QString kind = extension.toLower();
+    if (isLoading() || !canOpen(path, kind))
+        return;
+    if (!workArea_.isEmptyBut(preferencesName)) {
+        showError(tr("Please, close all the windows from the application work area before changing "
+                     "the dictionary"));
+        return;
+    }
+    if (closeDictionary())
+        openDictionary(path);
+}
+
+void FileOpener::openRecent(const QString& path) {
+    openFile(path, QFileInfo(path).suffix());
+}
+
+void FileOpener::openDictionary(const QString& path) {
+    dictionary_ = new TfrmDictionary(shell_, system_, this);
+    connect(dictionary_, &TfrmDictionary::signalDictIsDirty, this, &FileOpener::dirtyChanged);
+    connect(dictionary_, &TfrmDictionary::signalDictIsSaved, this,
+            [this] { emit dirtyChanged(false); });
+    connect(dictionary_, &TfrmDictionary::loaded, this, &FileOpener::onLoaded);
+    connect(dictionary_, &TfrmDictionary::savedAs, this,
+            [this] { onLoaded(TfrmProject::instance().allPathsFound()); });
+    connect(dictionary_, &TfrmDictionary::quickViewVariable, this, &FileOpener::quickViewVariable);
+    connect(dictionary_, &TfrmDictionary::quickViewEntity, this, &FileOpener::quickViewEntity);
+    connect(dictionary_, &TfrmDictionary::failed, this, [this] {
+        release();
+        emit failed();
+    });
+    connect(dictionary_, &TfrmDictionary::closed, this, [this] {
+        release();
+        emit closed();
+    });
+    if (dictionary_->openDictionary(path)) {
+        emit began();
+    } else {
+        release();
+        emit failed();
+    }
+}
+
+void FileOpener::onLoaded(bool found) {
+    const QString path = TfrmProject::instance().dictionaryPath();
+    logMessage(QStringLiteral("Opening project: ") + path, true);
+    system_.setLastOpened(path);
+    system_.addRecentDictionary(path);
+    emit opened(path, found);
+}
+
+bool FileOpener::closeDictionary() {
+    return dictionary_ == nullptr || dictionary_->close();
+}
+
+bool FileOpener::endLoading() {
+    return dictionary_ == nullptr || dictionary_->endLoading();
+}
+
+void FileOpener::release() {
+    if (TfrmDictionary* gone = std::exchange(dictionary_, nullptr))
+        gone->deleteLater(); // one of its own signals may have led here
+}

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/RibbonHost.h"
+
+#include "app/WorkArea.h"
+#include "app/ribbon/DictionaryToolBar.h"
+#include "app/ribbon/RibbonState.h"
+#include "app/ribbon/RibbonStyle.h"
+#include "app/ribbon/tt/TabToolbar.h"
+#include "app/settings/KelSystem.h"
+#include "kel.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QMainWindow>
+
+namespace {
+
+constexpr int ribbonHeight = 75;
+constexpr int ribbonRows = 3;
+
+} // namespace
+
+RibbonHost::RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system)
+    : QObject(&window), window_(window), workArea_(workArea), system_(system),
+      modeAction_(makeCornerAction(QStringLiteral("modeAction"))),
+      preferencesAction_(makeCornerAction(QStringLiteral("preferencesAction"))) {
+    modeAction_->setText(QStringLiteral("M"));
+    preferencesAction_->setIcon(
+        QIcon(QStringLiteral(":/icons/res/icons/48px-General-preferences.png")));
+    connect(modeAction_, &QAction::triggered, &workArea_, &WorkArea::toggleTabs);
+    connect(preferencesAction_, &QAction::triggered, this, &RibbonHost::preferences);
+}
+
+QAction* RibbonHost::makeCornerAction(const QString& name) {
+    auto* action = new QAction(this);
+    action->setObjectName(name);
+    return action;
+}
+
+void RibbonHost::rebuild(const State& state) {
+    tt::TabToolbar* before = toolbar_;
+    const int page = before != nullptr ? before->CurrentTab() : ProjectPage;
+    const bool minimized = before != nullptr && before->IsMinimized();
+    if (before != nullptr) {
+        window_.removeToolBar(before);
+        before->deleteLater(); // one of its buttons may have asked for the new one
+    }
+    toolbar_ = new tt::TabToolbar(&window_, ribbonHeight, ribbonRows);
+    toolbar_->setObjectName(QStringLiteral("ribbon"));
+    RibbonState told;
+    told.dictionaryOpen = state.dictionaryOpen;
+    told.dictionaryDirty = state.dictionaryDirty;
+    told.loading = state.loading;
+    told.recentDictionaries = state.recentDictionaries;
+    told.language = system_.language();
+    told.engineVersion = QString::fromStdString(kel::version());
+    pages_ = new RibbonPages(*toolbar_, told, workArea_);
+    connectPages();
+    toolbar_->AddCornerAction(modeAction_);
+    toolbar_->AddCornerAction(preferencesAction_);
+    retranslate();
+    applyRibbonStyle(*toolbar_, system_.menuColor());
+    toolbar_->SetMinimized(minimized);
+    toolbar_->SetCurrentTab(page);
+    window_.addToolBar(Qt::TopToolBarArea, toolbar_);
+}
+
+void RibbonHost::connectPages() {
+    connect(pages_, &RibbonPages::readingDictionary, this, &RibbonHost::readingDictionary);
+    connect(pages_, &RibbonPages::dictionaryFile, this, &RibbonHost::dictionaryFile);
+    connect(pages_, &RibbonPages::projectFile, this, &RibbonHost::projectFile);
+    connect(pages_, &RibbonPages::saveDictionary, this, &RibbonHost::saveDictionary);
+    connect(pages_, &RibbonPages::saveAsDictionary, this, &RibbonHost::saveAsDictionary);
+    connect(pages_, &RibbonPages::locateDictionary, this, &RibbonHost::locateDictionary);
+    connect(pages_, &RibbonPages::closeAllDictionary, this, &RibbonHost::closeAllDictionary);
+    connect(pages_, &RibbonPages::preferences, this, &RibbonHost::preferences);
+}
+
+void RibbonHost::select(RibbonPageIndex page) {
+    if (toolbar_)
+        toolbar_->SetCurrentTab(page);
+}
+
+void RibbonHost::setDirty(bool dirty) {
+    if (pages_)
+        pages_->enableSaveDictionary(dirty);
+}
+
+void RibbonHost::retitle() {
+    if (pages_)
+        pages_->retitle();
+}
+
+void RibbonHost::chooseDictionary() {
+    if (pages_)
+        pages_->dictionary()->on_readingDictionary();
+}
+
+void RibbonHost::retranslate() {
+    modeAction_->setToolTip(tr("Tabs or windows in the work area"));
+    preferencesAction_->setText(tr("Preferences"));
+    preferencesAction_->setToolTip(tr("Preferences"));
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/StatusLine.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QStatusBar>
+
+namespace {
+
+constexpr int messageTime = 2000; ///< milliseconds
+
+} // namespace
+
+StatusLine::StatusLine(QStatusBar* bar)
+    : bar_(bar), openFile_(new QLabel), progress_(new QProgressBar) {
+    openFile_->setObjectName(QStringLiteral("dictionaryLabel"));
+    openFile_->setTextFormat(Qt::PlainText);
+    openFile_->setMargin(2);
+    progress_->setObjectName(QStringLiteral("progress"));
+    progress_->setTextVisible(false);
+    progress_->setRange(0, 100);
+    progress_->setFixedWidth(18 * bar->fontMetrics().averageCharWidth());
+    bar_->addPermanentWidget(openFile_);
+    bar_->addPermanentWidget(progress_);
+    progress_->hide();
+    retranslate();
+}
+
+void StatusLine::show(const QString& text, bool busy) {
+    bar_->clearMessage();
+    if (busy != busy_) {
+        if (busy)
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+        else
+            QApplication::restoreOverrideCursor();
+        busy_ = busy;
+    }
+    progress_->setRange(0, busy ? 0 : 100);
+    progress_->setVisible(busy);
+    bar_->showMessage(text, busy ? 0 : messageTime);
+}
+
+void StatusLine::showOpenFile(const QString& name, const QString& toolTip) {
+    openFile_->setText(name);
+    openFile_->setToolTip(toolTip);
+    openFile_->setFrameStyle(name.isEmpty() ? 0 : QFrame::Panel | QFrame::Sunken);
+}
+
+void StatusLine::retranslate() {
+    progress_->setAccessibleName(QCoreApplication::translate("StatusLine", "Progress"));
+    openFile_->setAccessibleName(QCoreApplication::translate("StatusLine", "Open dictionary"));
+}

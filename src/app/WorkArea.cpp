@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/WorkArea.h"
+
+#include "app/ribbon/WorkAreaModes.h"
+
+#include <QEvent>
+#include <QMdiSubWindow>
+#include <QTimer>
+
+WorkArea::WorkArea(QWidget* parent) : QMdiArea(parent) {
+    setObjectName(QStringLiteral("workArea"));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setBackground(palette().brush(QPalette::Window));
+    workarea::showTabs(*this);
+}
+
+void WorkArea::toggleTabs() {
+    if (viewMode() == QMdiArea::TabbedView)
+        workarea::showWindows(*this);
+    else
+        workarea::showTabs(*this);
+}
+
+QMdiSubWindow* WorkArea::addWindow(QWidget* content) {
+    QMdiSubWindow* window = addSubWindow(content);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->installEventFilter(this);
+    window->show();
+    updateEmptyPage();
+    return window;
+}
+
+QMdiSubWindow* WorkArea::find(const QString& objectName) const {
+    for (QMdiSubWindow* window : subWindowList())
+        if (window->objectName() == objectName ||
+            (window->widget() != nullptr && window->widget()->objectName() == objectName))
+            return window;
+    return nullptr;
+}
+
+bool WorkArea::isEmptyBut(const QString& objectName) const {
+    const QList<QMdiSubWindow*> windows = subWindowList();
+    return windows.isEmpty() || (windows.size() == 1 && find(objectName) != nullptr);
+}
+
+bool WorkArea::closeModified() {
+    for (QMdiSubWindow* window : subWindowList()) {
+        const bool modified = window->isWindowModified() ||
+                              (window->widget() != nullptr && window->widget()->isWindowModified());
+        if (modified && !window->close())
+            return false;
+    }
+    return true;
+}
+
+void WorkArea::setEmptyPage(QWidget* page) {
+    delete emptyPage_;
+    emptyPage_ = page;
+    emptyPage_->setParent(viewport());
+    updateEmptyPage();
+}
+
+void WorkArea::updateEmptyPage() {
+    if (emptyPage_ == nullptr)
+        return;
+    emptyPage_->setGeometry(viewport()->rect());
+    emptyPage_->setVisible(isEmpty());
+    emptyPage_->lower();
+}
+
+bool WorkArea::eventFilter(QObject* object, QEvent* event) {
+    // The window has left the list only after it is gone.
+    if (event->type() == QEvent::Close || event->type() == QEvent::Hide)
+        QTimer::singleShot(0, this, &WorkArea::updateEmptyPage);
+    return QMdiArea::eventFilter(object, event);
+}
+
+void WorkArea::resizeEvent(QResizeEvent* event) {
+    QMdiArea::resizeEvent(event);
+    updateEmptyPage();
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the pages of the ribbon need to know of the rest of the workbench when they are built.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct RibbonState {
+    bool dictionaryOpen = false;
+    bool dictionaryDirty = false;
+    bool loading = false;           ///< nothing may be opened, saved or closed meanwhile
+    QStringList recentDictionaries; ///< whole paths, the newest first
+    QString language;               ///< "Process_en" and the like
+    QString engineVersion;          ///< for About
+};

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dictionary/loading/DictionarySaver.h"
+#include "dictionary/mirror/DictionaryEdit.h"
+#include "dictionary/mirror/DictionaryUtil.h"
+#include "dictionary/mirror/TKpEntity.h"
+#include "dictionary/mirror/TKpVariable.h"
+#include "engine/ProgramRun.h"
+#include "engine/TKelConfigImpl.h"
+#include "kel.h"
+#include "support/SmallDatabase.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+TfrmProject& project() {
+    return TfrmProject::instance();
+}
+
+TKpEntity* entity(const QString& name) {
+    return DictionaryUtil().findEntity(project().root(), name);
+}
+
+TKpVariable* variable(const QString& fullName) {
+    for (TKpVariable* candidate : DictionaryUtil().allVariables(project().root()))
+        if (candidate->fullName == fullName)
+            return candidate;
+    return nullptr;
+}
+
+DictionaryKind kindOf(const QString& path) {
+    return path.endsWith(".dicx") ? DictionaryKind::Dicx : DictionaryKind::Kxdb;
+}
+
+/// What the engine makes of a program with one table.
+QString tableOf(const QString& program) {
+    const ProgramRun run = runProgram(project().dictionary(), program);
+    return run.succeeded ? QString::fromStdString(run.outputs.front()->asJson()) : run.failure;
+}
+
+QString frequencies() {
+    return tableOf("FREQ PERSON.SEX"); // weighted by the household
+}
+
+/// The element that a path of names leads to, the first of each name.
+QDomElement element(const QString& file, const QStringList& names) {
+    QDomDocument document;
+    document.setContent(contentOf(file));
+    QDomElement at = document.documentElement();
+    for (const QString& name : names)
+        at = at.firstChildElement(name);
+    return at;
+}
+
+QDomElement variableElement(const QString& file, const QString& name) {
+    QDomDocument document;
+    document.setContent(contentOf(file));
+    const QDomNodeList all = document.elementsByTagName("variable");
+    for (int i = 0; i < all.size(); ++i)
+        if (all.at(i).firstChildElement("name").text() == name)
+            return all.at(i).toElement();
+    return {};
+}
+
+QStringList childNames(const QDomElement& parent) {
+    QStringList names;
+    for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
+        names += e.tagName();
+    return names;
+}
+
+} // namespace
+
+class TestSaving : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> folder_;
+
+    QString path(const QString& name) const { return folder_->filePath(name); }
+
+    void open(const QString& name) const { reloadDictionary(path(name), kindOf(name)); }
+
+    void write(const QString& name, const QByteArray& content) const {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+private slots:
+    void initTestCase() { kel::init(std::make_shared<TKelConfigImpl>()); }
+
+    void init() {
+        project().close();
+        folder_ = std::make_unique<QTemporaryDir>();
+        writeSmallDatabase(folder_->path());
+    }
+
+    void cleanupTestCase() {
+        project().close();
+        kel::destroy();
+    }
+
+    void writtenFormKeepsEverything() {
+        open("small.kxdb");
+        QVERIFY(frequencies().contains("2.5"));
+        project().dictionary()->root()->findEntity("PERSON", true)->setSensitive(5);
+        DictionaryEdit::setTag(*entity("PERSON"), 7);
+        DictionaryEdit::setTag(*variable("PERSON.AGE"), 12);
+        DictionaryEdit::setHidden(*variable("PERSON.AGE"), true);
+        DictionaryEdit::setLabel(*variable("PERSON.SEX"), "Sexo <\"&'> ñ \U0001F600");
+        const QString before = frequencies();
+        DictionaryUtil().writeDicx(path("out.dicx"), *project().dictionary(), *project().root());
+        open("out.dicx");
+        QCOMPARE(frequencies(), before);
+        QCOMPARE(entity("PERSON")->tag, 7);
+        QCOMPARE(entity("PERSON")->engineEntity->sensitive(), 5);
+        QCOMPARE(entity("DISTRICT")->tag, -1);
+        QVERIFY(entity("DISTRICT")->selectable);
+        QCOMPARE(entity("DISTRICT")->refCode, "CODE");
+        QCOMPARE(entity("DISTRICT")->refLabel, "NAME");
+        QCOMPARE(entity("HOUSEHOLD")->weightVar, "HOUSEHOLD.WEIGHT");
+        const TKpVariable* age = variable("PERSON.AGE");
+        QCOMPARE(age->tag, 12);
+        QVERIFY(age->hidden);
+        QCOMPARE(age->documentation, "Completed years");
+        QCOMPARE(age->notapp(), 999.0);
+        QVERIFY(!age->TKelVariable::missing().has_value());
+        const TKpVariable* sex = variable("PERSON.SEX");
+        QCOMPARE(sex->label, "Sexo <\"&'> ñ \U0001F600");
+        QCOMPARE(sex->alias, "GENDER");
+        QCOMPARE(sex->group, "Demography");
+        QCOMPARE(sex->typeName, "INTEGER");
+        QCOMPARE(sex->TKelVariable::missing(), 9.0);
+        QVERIFY(!sex->notapp().has_value());
+        QCOMPARE(sex->valueLabels->size(), 4);
+        QCOMPARE(sex->valueLabels->first(), (ValueLabelElement{"1", "Male"}));
+        const TKpVariable* income = variable("PERSON.INCOME");
+        QCOMPARE(income->TKelVariable::sensitive(), 3);
+        QCOMPARE(income->TKelVariable::decimals(), 2);
+        QVERIFY(project().allPathsFound());
+    }
+
+    void elementsStandInTheToldOrder() {
+        open("small.kxdb");
+        DictionaryUtil().writeDicx(path("out.dicx"), *project().dictionary(), *project().root());
+        const QString out = path("out.dicx");
+        QVERIFY(contentOf(out).startsWith("<?xml version=\"1.0\""));
+        QCOMPARE(element(out, {}).tagName(), "kelDictionary_XML");
+        QCOMPARE(childNames(element(out, {"general"})),
+                 QStringList({"typeType", "name", "label", "author", "created", "updated",
+                              "version", "security"}));
+        QCOMPARE(childNames(element(out, {"general", "version"})),
+                 QStringList({"major", "minor", "revision", "construction"}));
+        QCOMPARE(element(out, {"general", "version", "major"}).text(), "7");
+        QVERIFY(element(out, {"general", "security"}).text().isEmpty());
+        QCOMPARE(childNames(element(out, {"root", "entity"})),
+                 QStringList({"name", "alias", "label", "selectable", "refCode", "refLabel",
+                              "filename", "variable", "variable", "variable", "entity"}));
+        const QDomElement age = variableElement(out, "AGE");
+        QCOMPARE(childNames(age),
+                 QStringList({"name", "label", "group", "fieldSize", "range", "notappl", "missing",
+                              "documentation", "tag", "valueLabels", "datasetID", "filename",
+                              "varDicChoice"}));
+        QCOMPARE(age.firstChildElement("notappl").text(), "999");
+        QCOMPARE(age.firstChildElement("missing").text(), "");
+        QCOMPARE(childNames(age.firstChildElement("range")),
+                 QStringList({"rangeItemType", "rangeMin", "rangeMax"}));
+        QCOMPARE(age.firstChildElement("range").text(), "409999");
+        QCOMPARE(childNames(age.firstChildElement("varDicChoice")),
+                 QStringList({"datasetType", "datasetSize"}));
+        const QDomElement code = variableElement(out, "CODE");
+        QCOMPARE(code.firstChildElement("varType").text(), "STRING");
+        QVERIFY(code.firstChildElement("notappl").isNull());
+        QVERIFY(variableElement(out, "SEX").firstChildElement("varType").isNull());
+    }
+
+    void codesKeepTheirExactValue() {
+        open("small.kxdb");
+        variable("PERSON.INCOME")->setNotapp(0.1);
+        variable("PERSON.INCOME")->setMissing(-1234567890.125);
+        DictionaryUtil().writeDicx(path("out.dicx"), *project().dictionary(), *project().root());
+        open("out.dicx");
+        QCOMPARE(*variable("PERSON.INCOME")->notapp(), 0.1);
+        QCOMPARE(*variable("PERSON.INCOME")->TKelVariable::missing(), -1234567890.125);
+    }
+
+    void illegalCharactersDoNotSpoilTheFile() {
+        open("small.dicx");
+        QString label = "a";
+        for (const char16_t c : {0x0, 0x1, 0xB, 0x1F, 0xD800, 0xFFFE})
+            label += QChar(c);
+        DictionaryEdit::setLabel(*variable("PERSON.SEX"), label + "z");
+        DictionarySaver(project()).save();
+        open("small.dicx");
+        QCOMPARE(variable("PERSON.SEX")->label.size(), label.size() + 1);
+        QVERIFY(variable("PERSON.SEX")->label.startsWith('a'));
+        QVERIFY(variable("PERSON.SEX")->label.endsWith('z'));
+        QCOMPARE(variable("PERSON.AGE")->label, "Age in years");
+    }
+
+    void virtualEntityStaysVirtual() {
+        open("small.kxdb");
+        QByteArray xml;
+        DictionaryUtil().writeDicx(path("virtual.dicx"), *project().dictionary(),
+                                   *project().root());
+        xml = contentOf(path("virtual.dicx"));
+        const qsizetype end = xml.lastIndexOf("</entity>");
+        xml.insert(xml.lastIndexOf("</entity>", end - 1),
+                   "<entity><name>KIDS</name><isVirtual>true</isVirtual></entity>");
+        write("virtual.dicx", xml);
+        open("virtual.dicx");
+        QVERIFY(entity("KIDS")->isVirtual);
+        DictionarySaver(project()).save();
+        open("virtual.dicx");
+        QCOMPARE(entity("KIDS")->name, "KIDS");
+        QVERIFY(entity("KIDS")->isVirtual);
+        QCOMPARE(entity("KIDS")->engineEntity->fileName(), "");
+    }
+
+    // Nothing but the dictionary tells how a file of plain values is to be read.
+    void plainValuesKeepTheirForm() {
+        open("small.kxdb");
+        DictionaryUtil().writeDicx(path("plain.dicx"), *project().dictionary(), *project().root());
+        QByteArray xml = contentOf(path("plain.dicx"));
+        const QByteArray plain =
+            "<variable><name>ROOM</name><varType>INTEGER</varType><filename>room.bin</filename>"
+            "<varDicChoice><datasetType>INT</datasetType><datasetSize>2</datasetSize>"
+            "</varDicChoice></variable>";
+        xml.insert(xml.indexOf("<variable>", xml.indexOf("<name>PERSON</name>")), plain);
+        write("plain.dicx", xml);
+        write("room.bin", QByteArray("\1\0\2\0\1\0\1\0\2\0\2\0\2\0", 14));
+        open("plain.dicx");
+        const auto rooms = [] { return tableOf("FREQ PERSON.ROOM"); };
+        const QString before = rooms();
+        DictionarySaver(project()).save();
+        QVERIFY(QFile::remove(path("room.bin.desc")));
+        open("plain.dicx");
+        QCOMPARE(variable("PERSON.ROOM")->typeName, "INTEGER");
+        QCOMPARE(rooms(), before);
+        QVERIFY2(before.startsWith("{"), qPrintable(before));
+    }
+
+    void savedVariableStaysLocal() {
+        open("small.dicx");
+        const ProgramRun run =
+            runProgram(project().dictionary(),
+                       "DEFINE PERSON.ADULT AS PERSON.AGE >= 18 TYPE INTEGER SAVE \"adult.kbf\"");
+        QVERIFY2(run.succeeded, qPrintable(run.failure + run.messages.join('\n')));
+        rebuildMirror();
+        QVERIFY(variable("PERSON.ADULT") != nullptr && variable("PERSON.ADULT")->local);
+        QVERIFY(!variable("PERSON.AGE")->local);
+        DictionarySaver(project()).save();
+        open("small.dicx");
+        QVERIFY(variable("PERSON.ADULT")->local);
+        QVERIFY(!variable("PERSON.AGE")->local);
+    }
+
+    void editIsSavedInPlace_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("binary") << "small.kxdb";
+        QTest::newRow("xml") << "small.dicx";
+    }
+
+    void editIsSavedInPlace() {
+        QFETCH(QString, name);
+        open(name);
+        DictionaryEdit::setLabel(*variable("PERSON.AGE"), "Edad");
+        QVERIFY(project().dictionary()->isDirty());
+        DictionarySaver(project()).save();
+        QVERIFY(!project().dictionary()->isDirty());
+        open(name);
+        QCOMPARE(variable("PERSON.AGE")->label, "Edad");
+    }
+
+    // A legacy project counts as XML, but its dictionary may be binary.
+    void binaryFileNeverBecomesXml() {
+        reloadDictionary(path("small.kxdb"), DictionaryKind::LegacyProject);
+        DictionaryEdit::setLabel(*variable("PERSON.AGE"), "Edad");
+        DictionarySaver(project()).save();
+        QVERIFY(!contentOf(path("small.kxdb")).contains("kelDictionary_XML"));
+        open("small.kxdb");
+        QCOMPARE(variable("PERSON.AGE")->label, "Edad");
+    }
+
+    void failedSaveLosesNothing_data() { editIsSavedInPlace_data(); }
+
+    void failedSaveLosesNothing() {
+        QFETCH(QString, name);
+        open(name);
+        DictionaryEdit::setLabel(*variable("PERSON.AGE"), "Edad");
+        const QByteArray before = contentOf(path(name));
+        const QString there = path("none/there.") + name.section('.', -1);
+        QVERIFY_EXCEPTION_THROWN(DictionarySaver(project()).saveAs(there), std::exception);
+        QVERIFY_EXCEPTION_THROWN(saveDictionaryFile(project().dictionaryKind(), there, project()),
+                                 std::exception);
+        QVERIFY(project().dictionary()->isDirty());
+        QCOMPARE(contentOf(path(name)), before);
+        QCOMPARE(variable("PERSON.AGE")->fileName, "PERSON_AGE.kbf");
+        QCOMPARE(project().dictionary()->dataPath(), folder_->path().toStdString());
+        DictionarySaver(project()).save();
+        open(name);
+        QCOMPARE(variable("PERSON.AGE")->label, "Edad");
+        QVERIFY(project().allPathsFound());
+    }
+
+    void savedElsewhereItFindsItsData_data() {
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<DictionaryKind>("kind");
+        QTest::addColumn<DictionaryKind>("newKind");
+        using K = DictionaryKind;
+        QTest::newRow("dicx") << "small.dicx"
+                              << "a/b/new.dicx" << K::Dicx << K::Dicx;
+        QTest::newRow("legacy") << "small.dicx"
+                                << "a/b/new.dicx" << K::LegacyProject << K::LegacyProject;
+        QTest::newRow("kxdb") << "small.kxdb"
+                              << "a/b/new.kxdb" << K::Kxdb << K::Kxdb;
+        QTest::newRow("project") << "small.kxdb"
+                                 << "a/b/new.kxdb" << K::Project << K::Kxdb;
+        QTest::newRow("same folder") << "small.kxdb"
+                                     << "new.kxdb" << K::Kxdb << K::Kxdb;
+    }
+
+    void savedElsewhereItFindsItsData() {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(DictionaryKind, kind);
+        QFETCH(DictionaryKind, newKind);
+        QVERIFY(QDir(folder_->path()).mkpath("a/b"));
+        const QByteArray old = contentOf(path(from));
+        reloadDictionary(path(from), kind);
+        DictionaryEdit::setLabel(*variable("PERSON.AGE"), "Edad");
+        const QString before = frequencies();
+        DictionarySaver saver(project());
+        QVERIFY(to.endsWith(DictionarySaver::suffixFor(kind)));
+        QCOMPARE(saver.saveAs(path(to)), newKind);
+        const LoadedDictionary reopened = saver.reopen(path(to), newKind);
+        QCOMPARE(reopened.missing, QStringList());
+        QVERIFY(reopened.clean);
+        QCOMPARE(project().dictionaryPath(), path(to));
+        QCOMPARE(project().dictionaryKind(), newKind);
+        QVERIFY(!project().dictionary()->isDirty());
+        QCOMPARE(frequencies(), before);
+        QCOMPARE(contentOf(path(from)), old); // the old file is as it was
+        DictionaryEdit::setAlias(*variable("PERSON.AGE"), "EDAD");
+        saver.save();
+        open(to); // anew, from what was written
+        QVERIFY(project().allPathsFound());
+        QCOMPARE(variable("PERSON.AGE")->label, "Edad");
+        QCOMPARE(variable("PERSON.AGE")->alias, "EDAD");
+        QCOMPARE(frequencies(), before);
+    }
+
+    // A dictionary that moves together with the folder beside it must keep working.
+    void movedNamesAreRelative() {
+        QVERIFY(QDir(folder_->path()).mkpath("a"));
+        open("small.dicx");
+        DictionarySaver(project()).saveAs(path("a/new.dicx"));
+        QCOMPARE(variableElement(path("a/new.dicx"), "AGE").firstChildElement("filename").text(),
+                 "../PERSON_AGE.kbf");
+        QCOMPARE(variable("PERSON.AGE")->fileName, "PERSON_AGE.kbf"); // the old one is still open
+        QVERIFY(!project().dictionary()->isDirty());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestSaving)
+#include "tst_saving.moc"
