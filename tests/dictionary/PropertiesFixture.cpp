@@ -51,7 +51,7 @@ void PropertiesFixture::rebuild() {
 }
 
 QString PropertiesFixture::save() {
-    const QString path = folder_.filePath(QStringLiteral("saved.kxdb"));
+    QString path = folder_.filePath(QStringLiteral("saved.kxdb"));
     kel::saveDictionary(dictionary, path.toStdString());
     return path;
 }

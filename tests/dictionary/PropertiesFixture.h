@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <memory>
 
@@ -32,6 +33,15 @@ public:
 
 private:
     QMainWindow window_;
+};
+
+/// A language that is the source's in capitals.
+class Capitals : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int) const override {
+        return QString::fromUtf8(text).toUpper();
+    }
 };
 
 /// Starts the engine, writes the database and opens it anew for each test.

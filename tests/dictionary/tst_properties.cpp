@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableView>
@@ -418,6 +419,50 @@ private slots:
         QVERIFY(properties_->settlePending());
         QCOMPARE(data_->messages.size(), 1);
         QCOMPARE(sex()->labelOf(std::string("1")), "Man");
+    }
+
+    void longTextsDoNotWidenTheDocks() {
+        const int entityWidth = shell_->dock("Entity Properties")->minimumSizeHint().width();
+        const int variableWidth = shell_->dock("Variable Properties")->minimumSizeHint().width();
+        const QString longText(300, 'W');
+        TKpEntity& person = *data_->entity("PERSON");
+        person.refCode = person.weightVar = person.label = longText;
+        person.fullPath = "/" + longText;
+        person.selectable = true;
+        person.variables.first()->size = 400;
+        sex()->label = sex()->group = longText;
+        sex()->path = "/" + longText;
+        sex()->valueLabels = std::make_shared<QList<ValueLabelElement>>(
+            QList<ValueLabelElement>{{longText, longText}, {longText, longText}});
+        QVERIFY(properties_->showEntity(&person));
+        QVERIFY(properties_->showVariable(sex()));
+        QApplication::processEvents();
+        QCOMPARE(shell_->dock("Entity Properties")->minimumSizeHint().width(), entityWidth);
+        QCOMPARE(shell_->dock("Variable Properties")->minimumSizeHint().width(), variableWidth);
+        auto* tabs = shell_->dock("Entity Properties")->findChild<QTabWidget*>("tabs");
+        auto* page = qobject_cast<QScrollArea*>(tabs->widget(0));
+        QVERIFY(page->widget()->minimumSizeHint().width() <= 260);
+    }
+
+    void captionsFollowTheLanguage() {
+        Capitals capitals;
+        QVERIFY(QCoreApplication::installTranslator(&capitals));
+        QTRY_COMPARE(shell_->dock("Variable Properties")->windowTitle().remove("[*]"),
+                     "VARIABLE PROPERTIES - PERSON.SEX");
+        QCOMPARE(find<QPushButton>("btnPaste")->text(), "PASTE");
+        QCOMPARE(find<QCheckBox>("cbSensitive")->text(), "SENSITIVEENTITY");
+        QCOMPARE(categories()->headerData(0, Qt::Horizontal).toString(), "CODE");
+        QCOMPARE(textOf("leVarLabel"), "Sex of the person");
+        QCoreApplication::removeTranslator(&capitals);
+        QTRY_COMPARE(find<QPushButton>("btnSave")->text(), "Save");
+    }
+
+    void docksThatOutliveTheirOwnerAreEmpty() {
+        type("leLabel", "People");
+        properties_.reset();
+        QVERIFY(textOf("leLabel").isEmpty());
+        QVERIFY(!find<QLineEdit>("leVarLabel")->isEnabled());
+        QCOMPARE(data_->entity("PERSON")->label, "Person");
     }
 
     void rebuiltMirrorKeepsWhatWasTyped() {

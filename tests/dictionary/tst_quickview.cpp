@@ -137,6 +137,19 @@ private slots:
         QTRY_VERIFY(follows(shown(info), "Virtual Entity - Mother is ", "HOUSEHOLD"));
     }
 
+    void quickViewFollowsTheLanguage() {
+        InfoProperties info;
+        info.showEntity(data_->root.get(), *data_->entity("DISTRICT"));
+        info.show();
+        Capitals capitals;
+        QVERIFY(QCoreApplication::installTranslator(&capitals));
+        QTRY_COMPARE(info.windowTitle(), "ENTITY: DISTRICT");
+        QTRY_VERIFY(follows(shown(info), "CODE VARIABLE: ", "CODE"));
+        QCOMPARE(info.findChild<QTreeWidget*>("treeElements")->headerItem()->text(0), "ENTITY");
+        QCoreApplication::removeTranslator(&capitals);
+        QTRY_VERIFY(follows(shown(info), "Code Variable: ", "CODE"));
+    }
+
     void variableDialogEdits() {
         TKpVariable& age = *data_->variable("PERSON.AGE");
         TabDialogVariableProperties dialog(data_->root, age);

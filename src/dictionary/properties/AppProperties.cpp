@@ -11,6 +11,8 @@
 
 AppProperties::AppProperties(QWidget* parent) : QDialog(parent), tabs_(new QTabWidget) {
     tabs_->setObjectName(QStringLiteral("tabs"));
+    // The dialog is as wide as its tabs.
+    tabs_->setUsesScrollButtons(false);
     auto* buttons = new QDialogButtonBox;
     QPushButton* help = buttons->addButton(tr("Help"), QDialogButtonBox::HelpRole);
     QPushButton* close = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);

@@ -24,7 +24,7 @@ QPushButton* makeButton(const char* objectName) {
     auto* button = new QPushButton;
     button->setObjectName(QLatin1String(objectName));
     button->setAutoDefault(false);
-    // Three stand side by side in a narrow dock.
+    // Two stand side by side in a narrow dock, in each language.
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return button;
 }
@@ -44,7 +44,7 @@ CategoryTable::CategoryTable(QWidget* parent)
     auto* buttons = new QGridLayout;
     const QList<QPushButton*> order = {add_, copy_, paste_, remove_, clear_, undo_};
     for (int i = 0; i < order.size(); ++i)
-        buttons->addWidget(order[i], i / 3, i % 3);
+        buttons->addWidget(order[i], i / 2, i % 2);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(table_, 1);

@@ -34,9 +34,9 @@ EntityInfoView::EntityInfoView(QWidget* parent) : InfoView(parent) {
     tree_->setColumnCount(2);
     tree_->setUniformRowHeights(true);
     tree_->setMinimumHeight((rowsSeen + 1) * (tree_->fontMetrics().height() + 8));
-    tree_->header()->setStretchLastSection(false);
-    tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    tree_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    tree_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    tree_->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    tree_->setIndentation(tree_->fontMetrics().height());
     addContent(tree_, 2);
     documentationCaption_ = addSection(QStringLiteral("lbEntityDocumentation"));
     documentation_ = addDocumentation();

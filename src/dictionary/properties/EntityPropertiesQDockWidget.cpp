@@ -12,6 +12,7 @@
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -34,7 +35,7 @@ QComboBox* makeCombo(const char* objectName) {
     auto* combo = named<QComboBox>(objectName);
     // A long name must not make the dock wide.
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(8);
+    combo->setMinimumContentsLength(5);
     return combo;
 }
 
@@ -53,13 +54,17 @@ QString nameOf(const TKelVariable* variable) {
 
 EntityPropertiesQDockWidget::EntityPropertiesQDockWidget(QWidget* parent)
     : PropertyDock(QT_TR_NOOP("Entity Properties"), parent) {
-    QFormLayout* form = makeForm();
+    QFormLayout* edits = makeForm();
+    QFormLayout* variables = makeForm();
+    QFormLayout* facts = makeForm();
+    makeEdits(edits);
+    makeVariables(variables);
+    makeFacts(facts);
     QVBoxLayout* page = addPage(QT_TR_NOOP("General"));
-    page->addLayout(form);
+    page->addLayout(edits);
+    page->addWidget(makeGroup(QT_TR_NOOP("Variables"), variables));
+    page->addWidget(makeGroup(QT_TR_NOOP("Data"), facts));
     page->addStretch(1);
-    makeEdits(form);
-    makeVariables(form);
-    makeFacts(form);
     documentation_ =
         addDocumentationPage(QT_TR_NOOP("Documentation"), QStringLiteral("teDocumentation"));
     connectEdits();
@@ -81,20 +86,21 @@ void EntityPropertiesQDockWidget::makeEdits(QFormLayout* form) {
 
 void EntityPropertiesQDockWidget::makeVariables(QFormLayout* form) {
     codeVar_ = makeCombo("cbxCodeVar");
-    codeSize_ = named<QLabel>("lbGeoCodeValue");
-    codeSize_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    codeSize_ = named<ElidedLabel>("lbGeoCodeValue");
     labelVar_ = makeCombo("cbxLabelVar");
     weightVar_ = makeCombo("cbxWeightVar");
     cmpCodeVar_ = makeCombo("cbxCmpcodeVar");
     sdcVar_ = makeCombo("cbxSdcVar");
-    addRow(form, QT_TR_NOOP("Code variable:"), codeVar_, nullptr);
-    addRow(form, QT_TR_NOOP("Size of code:"), codeSize_,
+    addRow(form, QT_TR_NOOP("Code:"), codeVar_, QT_TR_NOOP("The variable that holds the code"));
+    addRow(form, QT_TR_NOOP("Code size:"), codeSize_,
            QT_TR_NOOP("One zero for each character of the code"));
-    addRow(form, QT_TR_NOOP("Label variable:"), labelVar_, nullptr);
-    addRow(form, QT_TR_NOOP("Weight variable:"), weightVar_, nullptr);
-    addRow(form, QT_TR_NOOP("Compound code:"), cmpCodeVar_,
+    addRow(form, QT_TR_NOOP("Label:"), labelVar_, QT_TR_NOOP("The variable that holds the label"));
+    addRow(form, QT_TR_NOOP("Weight:"), weightVar_,
+           QT_TR_NOOP("The variable that weights tables by itself"));
+    addRow(form, QT_TR_NOOP("Compound:"), cmpCodeVar_,
            QT_TR_NOOP("The codes from the top of the hierarchy down, joined"));
-    addRow(form, QT_TR_NOOP("Disclosure control:"), sdcVar_, nullptr);
+    addRow(form, QT_TR_NOOP("Disclosure:"), sdcVar_,
+           QT_TR_NOOP("The variable that controls disclosure"));
 }
 
 void EntityPropertiesQDockWidget::makeFacts(QFormLayout* form) {
@@ -105,8 +111,8 @@ void EntityPropertiesQDockWidget::makeFacts(QFormLayout* form) {
     virtual_ = named<ReadOnlyCheckBox>("cbVirtual");
     onDisk_ = named<ReadOnlyCheckBox>("cbOnDisk");
     sensitive_ = named<ReadOnlyCheckBox>("cbSensitive");
-    addRow(form, QT_TR_NOOP("Number of elements:"), total_, nullptr);
-    addRow(form, QT_TR_NOOP("Data file:"), file_, nullptr);
+    addRow(form, QT_TR_NOOP("Elements:"), total_, QT_TR_NOOP("Number of records"));
+    addRow(form, QT_TR_NOOP("File:"), file_, nullptr);
     caption(onDisk_, QT_TR_NOOP("Found on disk"), nullptr);
     caption(selectable_, QT_TR_NOOP("Selectable"),
             QT_TR_NOOP("May be used in selections and area lists"));

@@ -71,7 +71,7 @@ private:
     QComboBox* weightVar_;
     QComboBox* cmpCodeVar_;
     QComboBox* sdcVar_;
-    QLabel* codeSize_;
+    ElidedLabel* codeSize_;
     QLabel* total_;
     ElidedLabel* file_;
     QCheckBox* selectable_;

@@ -8,12 +8,15 @@
 
 namespace {
 
+constexpr int longCaption = 28; ///< characters; those have a row of their own
+
 QLabel* makeLabel(const QString& text, bool bold) {
     auto* label = new QLabel;
     // Before the text, which would else be looked at for mark-up.
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
-    label->setWordWrap(true);
+    // A short caption keeps its line, so that its column is as wide as it.
+    label->setWordWrap(!bold || text.size() > longCaption);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QFont font = label->font();
     font.setBold(bold);
@@ -28,7 +31,6 @@ InfoView::InfoView(QWidget* parent) : QScrollArea(parent) {
     layout_ = new QVBoxLayout(page);
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidget(page);
 }
 
@@ -59,6 +61,9 @@ QFormLayout* InfoView::addLines() {
 }
 
 void InfoView::addContent(QWidget* content, int stretch) {
+    // As high as there is room, not as high as it would like: the page scrolls only where even the
+    // least does not fit.
+    content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     layout_->addWidget(content, stretch);
 }
 
@@ -67,7 +72,7 @@ QPlainTextEdit* InfoView::addDocumentation() {
     text->setReadOnly(true);
     text->setTabChangesFocus(true);
     text->setMinimumHeight(4 * text->fontMetrics().lineSpacing());
-    layout_->addWidget(text, 1);
+    addContent(text, 1);
     return text;
 }
 
@@ -79,7 +84,11 @@ void InfoView::setLines(QFormLayout* form, const QList<InfoLine>& lines) {
             form->addRow(makeLabel(line.text, false));
         else if (line.text.isEmpty())
             form->addRow(makeLabel(line.caption, true));
-        else
+        else if (line.caption.size() <= longCaption)
             form->addRow(makeLabel(line.caption, true), makeLabel(line.text, false));
+        else {
+            form->addRow(makeLabel(line.caption, true));
+            form->addRow(makeLabel(line.text, false));
+        }
     }
 }

@@ -19,7 +19,7 @@ PropertyDock::PropertyDock(const char* title, QWidget* parent)
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("tabs"));
     tabs_->setUsesScrollButtons(true);
-    tabs_->setElideMode(Qt::ElideRight);
+    tabs_->setElideMode(Qt::ElideNone);
     outer_->addWidget(tabs_, 1);
     setWidget(content);
 }
@@ -56,7 +56,7 @@ DocumentationEdit* PropertyDock::addDocumentationPage(const char* title,
 QFormLayout* PropertyDock::makeForm() const {
     auto* form = new QFormLayout;
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setLabelAlignment(Qt::AlignLeft);
     form->setFormAlignment(Qt::AlignLeft | Qt::AlignTop);
     return form;

@@ -13,83 +13,78 @@
 
 TfrmProperties::TfrmProperties(Shell& shell, QObject* parent) : QObject(parent), shell_(shell) {}
 
-EntityPropertiesQDockWidget* TfrmProperties::entityDock() const {
-    return qobject_cast<EntityPropertiesQDockWidget*>(shell_.dock(entityDockName()));
+TfrmProperties::~TfrmProperties() {
+    // The docks may stand on for a moment, when the dictionary is gone already.
+    setRoot(nullptr);
 }
 
-VariablePropertiesQDockWidget* TfrmProperties::variableDock() const {
-    return qobject_cast<VariablePropertiesQDockWidget*>(shell_.dock(variableDockName()));
-}
-
-EntityPropertiesQDockWidget* TfrmProperties::makeEntityDock() {
-    auto* dock = new EntityPropertiesQDockWidget;
-    dock->setObjectName(entityDockName());
-    connect(dock, &EntityPropertiesQDockWidget::entitychanged, this,
+void TfrmProperties::makeEntityDock() {
+    if (shell_.dockExists(entityDockName()))
+        shell_.closeDock(entityDockName());
+    entityDock_ = new EntityPropertiesQDockWidget;
+    entityDock_->setObjectName(entityDockName());
+    connect(entityDock_, &EntityPropertiesQDockWidget::entitychanged, this,
             &TfrmProperties::onEntityPropertyChanged);
-    shell_.addDockLeft(dock);
-    return dock;
+    shell_.addDockLeft(entityDock_);
 }
 
-VariablePropertiesQDockWidget* TfrmProperties::makeVariableDock() {
-    auto* dock = new VariablePropertiesQDockWidget;
-    dock->setObjectName(variableDockName());
-    connect(dock, &VariablePropertiesQDockWidget::variablechanged, this,
+void TfrmProperties::makeVariableDock() {
+    if (shell_.dockExists(variableDockName()))
+        shell_.closeDock(variableDockName());
+    variableDock_ = new VariablePropertiesQDockWidget;
+    variableDock_->setObjectName(variableDockName());
+    connect(variableDock_, &VariablePropertiesQDockWidget::variablechanged, this,
             &TfrmProperties::onVarPropertyChanged);
-    shell_.addDockLeft(dock);
-    return dock;
+    shell_.addDockLeft(variableDock_);
 }
 
 bool TfrmProperties::showEntity(TKpEntity* entity) {
-    EntityPropertiesQDockWidget* dock = entityDock();
-    if (dock == nullptr)
-        dock = makeEntityDock();
-    if (entity != nullptr && dock->entity() == entity) {
-        dock->rebind(root_, entity);
+    if (entityDock_ == nullptr)
+        makeEntityDock();
+    if (entity != nullptr && entityDock_->entity() == entity) {
+        entityDock_->rebind(root_, entity);
         return true;
     }
     if (!settleEntity())
         return false;
-    dock->setEntity(root_, entity);
+    entityDock_->setEntity(root_, entity);
     return true;
 }
 
 bool TfrmProperties::showVariable(TKpVariable* variable) {
-    VariablePropertiesQDockWidget* dock = variableDock();
-    if (dock == nullptr)
-        dock = makeVariableDock();
-    if (variable != nullptr && dock->variable() == variable) {
-        dock->rebind(root_, variable);
+    if (variableDock_ == nullptr)
+        makeVariableDock();
+    if (variable != nullptr && variableDock_->variable() == variable) {
+        variableDock_->rebind(root_, variable);
         return true;
     }
     if (!settleVariable())
         return false;
-    dock->setVariable(root_, variable);
+    variableDock_->setVariable(root_, variable);
     return true;
 }
 
 bool TfrmProperties::settleEntity() {
-    EntityPropertiesQDockWidget* dock = entityDock();
-    if (dock == nullptr)
+    if (entityDock_ == nullptr)
         return true;
-    dock->storeTexts();
-    if (!dock->isModified())
+    entityDock_->storeTexts();
+    if (!entityDock_->isModified())
         return true;
     if (askYesNo(tr("Confirm"), tr("Entity definition has been modified. Save changes?")))
-        return dock->save();
-    dock->discard();
+        return entityDock_->save();
+    entityDock_->discard();
     return true;
 }
 
 bool TfrmProperties::settleVariable() {
-    VariablePropertiesQDockWidget* dock = variableDock();
-    if (dock == nullptr)
+    if (variableDock_ == nullptr)
         return true;
-    dock->commitEditor();
-    if (!dock->isModified())
+    variableDock_->commitEditor();
+    if (!variableDock_->isModified())
         return true;
     if (askYesNo(tr("Confirm"), tr("Variable definition has been modified. Save changes?\n")))
-        return dock->save();
-    dock->discard();
+        return variableDock_->save();
+    variableDock_->discard();
     return true;
 }
 
@@ -98,38 +93,37 @@ bool TfrmProperties::settlePending() {
 }
 
 bool TfrmProperties::hasPending() const {
-    const EntityPropertiesQDockWidget* entity = entityDock();
-    const VariablePropertiesQDockWidget* variable = variableDock();
-    return (entity != nullptr && entity->isModified()) ||
-           (variable != nullptr && variable->isModified());
+    return (entityDock_ != nullptr && entityDock_->isModified()) ||
+           (variableDock_ != nullptr && variableDock_->isModified());
 }
 
 void TfrmProperties::setRoot(const std::shared_ptr<TKpEntity>& root) {
     // The docks still show the old tree, which must outlive their looking up of names.
     const std::shared_ptr<TKpEntity> old = std::exchange(root_, root);
-    if (EntityPropertiesQDockWidget* dock = entityDock())
-        rebindEntity(*dock);
-    if (VariablePropertiesQDockWidget* dock = variableDock())
-        rebindVariable(*dock);
+    if (entityDock_ != nullptr)
+        rebindEntity();
+    if (variableDock_ != nullptr)
+        rebindVariable();
 }
 
-void TfrmProperties::rebindEntity(EntityPropertiesQDockWidget& dock) {
-    TKpEntity* found = dock.entity() != nullptr ? findEntity(dock.entity()->name) : nullptr;
+void TfrmProperties::rebindEntity() {
+    TKpEntity* found =
+        entityDock_->entity() != nullptr ? findEntity(entityDock_->entity()->name) : nullptr;
     if (found != nullptr)
-        dock.rebind(root_, found);
+        entityDock_->rebind(root_, found);
     else
-        dock.setEntity(root_, nullptr);
+        entityDock_->setEntity(root_, nullptr);
 }
 
-void TfrmProperties::rebindVariable(VariablePropertiesQDockWidget& dock) {
-    const TKpVariable* shown = dock.variable();
+void TfrmProperties::rebindVariable() {
+    const TKpVariable* shown = variableDock_->variable();
     TKpVariable* found = shown != nullptr ? findVariable(shown->entityName, shown->name) : nullptr;
     if (found != nullptr) {
-        dock.rebind(root_, found);
+        variableDock_->rebind(root_, found);
         return;
     }
-    const QString lost = dock.isModified() && root_ ? shown->fullName : QString();
-    dock.setVariable(root_, nullptr);
+    const QString lost = variableDock_->isModified() && root_ ? shown->fullName : QString();
+    variableDock_->setVariable(root_, nullptr);
     if (!lost.isEmpty())
         showWarning(tr("The variable %1 is not in the dictionary any more. Your changes of it were "
                        "not saved.")
@@ -152,10 +146,10 @@ TKpVariable* TfrmProperties::findVariable(const QString& entityName, const QStri
 }
 
 void TfrmProperties::setChanged(bool changed) {
-    if (EntityPropertiesQDockWidget* dock = entityDock())
-        dock->setWindowModified(changed);
-    if (VariablePropertiesQDockWidget* dock = variableDock())
-        dock->setWindowModified(changed);
+    if (entityDock_ != nullptr)
+        entityDock_->setWindowModified(changed);
+    if (variableDock_ != nullptr)
+        variableDock_->setWindowModified(changed);
 }
 
 void TfrmProperties::onVarPropertyChanged(bool value) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -19,6 +20,7 @@ class TfrmProperties : public QObject {
 
 public:
     explicit TfrmProperties(Shell& shell, QObject* parent = nullptr);
+    ~TfrmProperties() override; ///< leaves the docks empty
 
     /// The mirror, and each one that replaces it: what is shown is looked up again by name, and
     /// what was typed stays. The old tree must still live. Null empties the docks.
@@ -48,17 +50,18 @@ private slots:
     void onEntityPropertyChanged(bool value);
 
 private:
-    EntityPropertiesQDockWidget* entityDock() const; ///< null where there is none
-    VariablePropertiesQDockWidget* variableDock() const;
-    EntityPropertiesQDockWidget* makeEntityDock();
-    VariablePropertiesQDockWidget* makeVariableDock();
+    void makeEntityDock();
+    void makeVariableDock();
     bool settleEntity();
     bool settleVariable();
-    void rebindEntity(EntityPropertiesQDockWidget& dock);
-    void rebindVariable(VariablePropertiesQDockWidget& dock);
+    void rebindEntity();
+    void rebindVariable();
     TKpEntity* findEntity(const QString& name) const;
     TKpVariable* findVariable(const QString& entityName, const QString& name) const;
 
     Shell& shell_;
     std::shared_ptr<TKpEntity> root_;
+    // The window's; null until something is shown, and when the window deleted them.
+    QPointer<EntityPropertiesQDockWidget> entityDock_;
+    QPointer<VariablePropertiesQDockWidget> variableDock_;
 };

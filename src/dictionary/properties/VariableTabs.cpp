@@ -23,6 +23,7 @@ QSpinBox* makeNumber(const char* objectName, int value) {
     box->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     box->setValue(value);
     box->setReadOnly(true);
+    box->setFrame(false);
     box->setButtonSymbols(QAbstractSpinBox::NoButtons);
     return box;
 }
