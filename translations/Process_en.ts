@@ -1,576 +1,576 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="en">
 <context>
     <name>AppProperties</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm</translation>
     </message>
     <message>
         <source>The changes were taken into the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>The changes were taken into the dictionary</translation>
     </message>
     <message>
         <source>EN CONSTRUCCION</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCCION</translation>
     </message>
 </context>
 <context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lines of the clipboard that are no category: %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Categories</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Add</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Paste</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>Add a new row in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Add a new row in the category table</translation>
     </message>
     <message>
         <source>Copy the category table of the variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy the category table of the variable</translation>
     </message>
     <message>
         <source>Paste the category table copied from another variable into the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paste the category table copied from another variable into the current one.</translation>
     </message>
     <message>
         <source>Remove the active row form the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove the active row form the category table</translation>
     </message>
     <message>
         <source>Clear all information in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear all information in the category table</translation>
     </message>
     <message>
         <source>Take back the last change of the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Take back the last change of the category table</translation>
     </message>
 </context>
 <context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Kelx Preferences</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>DataFileForm</name>
     <message>
         <source>Input data file for the loading process</source>
-        <translation type="unfinished"></translation>
+        <translation>Input data file for the loading process</translation>
     </message>
     <message>
         <source>Is found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Is found on disk</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Browse...</translation>
     </message>
     <message>
         <source>Choose another data file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose another data file</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>All files (*)</translation>
     </message>
 </context>
 <context>
     <name>DataSourceVariableTab</name>
     <message>
         <source>The relative position should be from 1 to n, where n is the size</source>
-        <translation type="unfinished"></translation>
+        <translation>The relative position should be from 1 to n, where n is the size</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Kelvora native file format</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifier</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Field</translation>
     </message>
     <message>
         <source>Relative position</source>
-        <translation type="unfinished"></translation>
+        <translation>Relative position</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Size</translation>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Data Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Data Source</translation>
     </message>
 </context>
 <context>
     <name>DialogEntityProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties of %1</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity definition has been modified. Save changes?</translation>
     </message>
 </context>
 <context>
     <name>DictionarySaver</name>
     <message>
         <source>There is no open dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no open dictionary.</translation>
     </message>
 </context>
 <context>
     <name>DictionaryToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">File</translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Save the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the dictionary</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Save As</translation>
     </message>
     <message>
         <source>Save the dictionary under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the dictionary under another name</translation>
     </message>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dictionary</translation>
+        <translation>Dictionary</translation>
     </message>
     <message>
         <source>Locate</source>
-        <translation type="unfinished"></translation>
+        <translation>Locate</translation>
     </message>
     <message>
         <source>Find the data files that are missing where the dictionary says</source>
-        <translation type="unfinished"></translation>
+        <translation>Find the data files that are missing where the dictionary says</translation>
     </message>
     <message>
         <source>Consistency</source>
-        <translation type="unfinished"></translation>
+        <translation>Consistency</translation>
     </message>
     <message>
         <source>Check the data files against the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Check the data files against the dictionary</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>Make a report of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Make a report of the dictionary</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Close the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Close the dictionary</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Open</translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Open a dictionary, or one of the recent ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a dictionary, or one of the recent ones</translation>
     </message>
     <message>
         <source>Open Dictionary</source>
-        <translation type="unfinished">Open Dictionary</translation>
+        <translation>Open Dictionary</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %s sending event</translation>
     </message>
     <message>
         <source>Please, you must open a dictionary beforehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Please, you must open a dictionary beforehand</translation>
     </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">File not found: %1</translation>
+        <translation>File not found: %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>File: %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Records: %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables: %1</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
 </context>
 <context>
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 cannot be written: %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentationVariableTab</name>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Code Variable: </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity cannot be selected</translation>
     </message>
     <message>
         <source>Entity has not Label Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity has not Label Variable</translation>
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Label Variable: </translation>
     </message>
     <message>
         <source>No automatic weight</source>
-        <translation type="unfinished"></translation>
+        <translation>No automatic weight</translation>
     </message>
     <message>
         <source>Automatic weight variable [</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatic weight variable [</translation>
     </message>
     <message>
         <source>Virtual Entity - Mother is </source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual Entity - Mother is </translation>
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation type="unfinished"></translation>
+        <translation>Number of Elements: </translation>
     </message>
 </context>
 <context>
     <name>EntityInfoView</name>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Number of Elements</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of Elements</translation>
     </message>
     <message>
         <source>Selected Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Selected Entity</translation>
     </message>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity Properties</translation>
     </message>
     <message>
         <source>Expand Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Expand Information</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties Documentation</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>EntityPropertiesQDockWidget</name>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity Properties</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Label:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Another name of the entity; Return stores it</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>A number of yours, 9999 at most</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Code:</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable that holds the code</translation>
     </message>
     <message>
         <source>Code size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Code size:</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>One zero for each character of the code</translation>
     </message>
     <message>
         <source>The variable that holds the label</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable that holds the label</translation>
     </message>
     <message>
         <source>Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Weight:</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable that weights tables by itself</translation>
     </message>
     <message>
         <source>Compound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Compound:</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
-        <translation type="unfinished"></translation>
+        <translation>The codes from the top of the hierarchy down, joined</translation>
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disclosure:</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable that controls disclosure</translation>
     </message>
     <message>
         <source>Elements:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elements:</translation>
     </message>
     <message>
         <source>Number of records</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of records</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>File:</translation>
     </message>
     <message>
         <source>Found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Found on disk</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectable</translation>
     </message>
     <message>
         <source>May be used in selections and area lists</source>
-        <translation type="unfinished"></translation>
+        <translation>May be used in selections and area lists</translation>
     </message>
     <message>
         <source>Virtual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual</translation>
     </message>
     <message>
         <source>SensitiveEntity</source>
-        <translation type="unfinished"></translation>
+        <translation>SensitiveEntity</translation>
     </message>
 </context>
 <context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
-        <translation type="unfinished">Invalid file</translation>
+        <translation>Archivo no válido</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 was not found.</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before changing the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Please, close all the windows from the application work area before changing the dictionary</translation>
     </message>
 </context>
 <context>
     <name>FileToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">File</translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Begin a new program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Begin a new program, selection or map</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Open</translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Open a program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a program, selection or map</translation>
     </message>
     <message>
         <source>Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents</translation>
     </message>
     <message>
         <source>Programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programs</translation>
     </message>
     <message>
         <source>Programs in the command language</source>
-        <translation type="unfinished"></translation>
+        <translation>Programs in the command language</translation>
     </message>
     <message>
         <source>Selections</source>
-        <translation type="unfinished"></translation>
+        <translation>Selections</translation>
     </message>
     <message>
         <source>Selections of areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Selections of areas</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Maps</translation>
     </message>
     <message>
         <source>Thematic maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Thematic maps</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Styles</translation>
     </message>
     <message>
         <source>Table Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Table Styles</translation>
     </message>
     <message>
         <source>How tables look</source>
-        <translation type="unfinished"></translation>
+        <translation>How tables look</translation>
     </message>
     <message>
         <source>Graph Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Graph Styles</translation>
     </message>
     <message>
         <source>How charts look</source>
-        <translation type="unfinished"></translation>
+        <translation>How charts look</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Run</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>Execute</translation>
     </message>
     <message>
         <source>Programs that run other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programs that run other programs</translation>
     </message>
 </context>
 <context>
@@ -654,255 +654,255 @@
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Label:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag:</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>GeneralPage</name>
     <message>
         <source>Initial Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Initial Settings</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</translation>
     </message>
     <message>
         <source>Application Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Application Language</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Language:</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Startup</translation>
     </message>
     <message>
         <source>Show splash form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Show splash form on startup</translation>
     </message>
     <message>
         <source>Show Tips and Tricks form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Show Tips and Tricks form on startup</translation>
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation type="unfinished"></translation>
+        <translation>Open last dictionary on starting program</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu Colors:</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum number of files in the button list</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Put all settings back to those of a new installation</translation>
     </message>
 </context>
 <context>
     <name>GeneralToolBar</name>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Application</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferences</translation>
     </message>
     <message>
         <source>Language, looks and habits of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Language, looks and habits of the program</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Open the help pages in the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Open the help pages in the browser</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>Versions of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Versions of the program</translation>
     </message>
     <message>
         <source>The help pages could not be opened. You find them at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The help pages could not be opened. You find them at %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Label:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Group:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag:</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hidden</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Quick View</translation>
     </message>
 </context>
 <context>
     <name>JsonFile</name>
     <message>
         <source>Failed to create JSON doc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Failed to create JSON doc.</translation>
     </message>
     <message>
         <source>JSON is not an object.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON is not an object.</translation>
     </message>
     <message>
         <source>JSON object is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON object is empty.</translation>
     </message>
     <message>
         <source>The file %1 is too large to be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 is too large to be read.</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %s sending event</translation>
     </message>
 </context>
 <context>
     <name>KelTreeView</name>
     <message>
         <source>A entity must be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>A entity must be selected</translation>
     </message>
     <message>
         <source>Entities</source>
-        <translation type="unfinished">Entities</translation>
+        <translation>Entities</translation>
     </message>
 </context>
 <context>
     <name>KelVariablesTableView</name>
     <message>
         <source>EN CONSTRUCCION- Se debe establecer si es posible borrar y el proceso a seguir</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCCION- Se debe establecer si es posible borrar y el proceso a seguir</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Locate Paths: %1 of %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable: </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Missing File: </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Missing Path: </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Variable Path</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>New Path:</translation>
     </message>
     <message>
         <source>Relocate</source>
-        <translation type="unfinished"></translation>
+        <translation>Relocate</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Leave this file missing and go on with the next</source>
-        <translation type="unfinished"></translation>
+        <translation>Leave this file missing and go on with the next</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop looking for files; what was relocated stays</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>The missing and relocated files are not the same.</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 was not found.</translation>
     </message>
     <message>
         <source>Files (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Files (*.%1)</translation>
     </message>
     <message>
         <source>No errors found in the database</source>
-        <translation type="unfinished"></translation>
+        <translation>No errors found in the database</translation>
     </message>
 </context>
 <context>
@@ -917,19 +917,19 @@
     </message>
     <message>
         <source>Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Processing</translation>
     </message>
     <message>
         <source>Execution Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Execution Failed</translation>
     </message>
     <message>
         <source>Execution Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Execution Finished</translation>
     </message>
     <message>
         <source>The results cannot be shown as a frequency.</source>
-        <translation type="unfinished"></translation>
+        <translation>The results cannot be shown as a frequency.</translation>
     </message>
 </context>
 <context>
@@ -951,156 +951,145 @@
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Open...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a dictionary file</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Page</name>
-    <message>
-        <source>Scroll back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scroll forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Recent dictionaries</translation>
     </message>
 </context>
 <context>
     <name>ProjectToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">File</translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Make a new project</source>
-        <translation type="unfinished"></translation>
+        <translation>Make a new project</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Open</translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Open a project</source>
-        <translation type="unfinished"></translation>
+        <translation>Open a project</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Save the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the project</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Save As</translation>
     </message>
     <message>
         <source>Save the project under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the project under another name</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Project</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Show</translation>
     </message>
     <message>
         <source>Show and change what the project holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Show and change what the project holds</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Close the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Close the project</translation>
     </message>
 </context>
 <context>
     <name>PropertyDock</name>
     <message>
         <source> - %1</source>
-        <translation type="unfinished"></translation>
+        <translation> - %1</translation>
     </message>
 </context>
 <context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation type="unfinished"></translation>
+        <translation>New version has been released!</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation type="unfinished"></translation>
+        <translation>Would you like to download the update now? Current application will be close</translation>
     </message>
 </context>
 <context>
     <name>ResultsManager</name>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Results</translation>
+        <translation>Results</translation>
     </message>
     <message>
         <source>Tables of the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Tables of the results</translation>
     </message>
 </context>
 <context>
     <name>RibbonHost</name>
     <message>
         <source>Tabs or windows in the work area</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabs or windows in the work area</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferences</translation>
     </message>
 </context>
 <context>
     <name>RibbonPages</name>
     <message>
         <source>  PROJECT  </source>
-        <translation type="unfinished"></translation>
+        <translation>  PROJECT  </translation>
     </message>
     <message>
         <source>  DICTIONARY  </source>
-        <translation type="unfinished"></translation>
+        <translation>  DICTIONARY  </translation>
     </message>
     <message>
         <source>  FILE  </source>
-        <translation type="unfinished"></translation>
+        <translation>  FILE  </translation>
     </message>
     <message>
         <source>  BASIC STATISTICS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  BASIC STATISTICS  </translation>
     </message>
     <message>
         <source>  EASY INDICATORS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  EASY INDICATORS  </translation>
     </message>
     <message>
         <source>  WINDOW  </source>
-        <translation type="unfinished"></translation>
+        <translation>  WINDOW  </translation>
     </message>
     <message>
         <source>  GENERAL  </source>
-        <translation type="unfinished"></translation>
+        <translation>  GENERAL  </translation>
     </message>
 </context>
 <context>
@@ -1118,354 +1107,342 @@
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Census and survey microdata: browse a database, make tables, charts and maps.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Dictionary...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a dictionary file</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Recent dictionaries</translation>
     </message>
     <message>
         <source>Select an entity in the tree to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Select an entity in the tree to see its variables.</translation>
     </message>
     <message>
         <source>Entities of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Entities of the dictionary</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Label</translation>
+        <translation>Label</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished">Records</translation>
+        <translation>Records</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>StatisticalToolBar</name>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Universe</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Limit the cases by an expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit the cases by an expression</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selection</translation>
     </message>
     <message>
         <source>Limit the areas by a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Limit the areas by a selection</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Summary</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistics</translation>
     </message>
     <message>
         <source>Key figures of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Key figures of a variable</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Areas</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished">Count</translation>
+        <translation>Count</translation>
     </message>
     <message>
         <source>Count the elements of an entity by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Count the elements of an entity by area</translation>
     </message>
     <message>
         <source>Arealist</source>
-        <translation type="unfinished"></translation>
+        <translation>Arealist</translation>
     </message>
     <message>
         <source>List figures of variables by area</source>
-        <translation type="unfinished"></translation>
+        <translation>List figures of variables by area</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>View</translation>
     </message>
     <message>
         <source>See the values case by case</source>
-        <translation type="unfinished"></translation>
+        <translation>See the values case by case</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tables</translation>
     </message>
     <message>
         <source>Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequencies</translation>
     </message>
     <message>
         <source>Frequencies of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequencies of variables</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished"></translation>
+        <translation>Crosstab</translation>
     </message>
     <message>
         <source>Tables of two or more variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tables of two or more variables</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Functions</translation>
     </message>
     <message>
         <source>Averages, medians, maxima and minima</source>
-        <translation type="unfinished"></translation>
+        <translation>Averages, medians, maxima and minima</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Properties of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties of a variable</translation>
     </message>
     <message>
         <source>Output Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Output Summary</translation>
     </message>
     <message>
         <source>All results so far</source>
-        <translation type="unfinished"></translation>
+        <translation>All results so far</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Progress</translation>
+        <translation>Progress</translation>
     </message>
     <message>
         <source>Open dictionary</source>
-        <translation type="unfinished">Open dictionary</translation>
+        <translation>Open dictionary</translation>
     </message>
 </context>
 <context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties of %1</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TabToolbar</name>
-    <message>
-        <source>Ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Minimize the ribbon</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable definition has been modified. Save changes?
+</translation>
     </message>
 </context>
 <context>
     <name>TecnicalVariableTab</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Type</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Size</translation>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimals</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>No applicable</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing value</translation>
     </message>
     <message>
         <source>Thecnical specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Thecnical specification</translation>
     </message>
 </context>
 <context>
     <name>TfrmDictionary</name>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dictionary</translation>
+        <translation>Dictionary</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished">Loading...</translation>
+        <translation>Loading...</translation>
     </message>
     <message>
         <source>Invalid Dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Invalid Dictionary</translation>
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Error validating Dictionary:</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
-        <translation type="unfinished">Dictionary Loaded</translation>
+        <translation>Dictionary Loaded</translation>
     </message>
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation type="unfinished"></translation>
+        <translation>Some variable and/or entity paths could not be found!
+Please, press Locate button in the Dictionary ToolBar</translation>
     </message>
     <message>
         <source>Saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Saving...</translation>
     </message>
     <message>
         <source>Dictionary saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionary saved</translation>
     </message>
     <message>
         <source>Save file</source>
-        <translation type="unfinished"></translation>
+        <translation>Save file</translation>
     </message>
     <message>
         <source>Files (*%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Files (*%1)</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before exiting from the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Please, close all the windows from the application work area before exiting from the project</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm</translation>
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionary has been modified. Save modifications?</translation>
     </message>
 </context>
 <context>
     <name>TfrmProperties</name>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Entity definition has been modified. Save changes?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable definition has been modified. Save changes?
+</translation>
     </message>
     <message>
         <source>The variable %1 is not in the dictionary any more. Your changes of it were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable %1 is not in the dictionary any more. Your changes of it were not saved.</translation>
     </message>
 </context>
 <context>
     <name>TreeViewContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Quick View</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Print</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequency</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistics</translation>
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>View</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Hide All Variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Unhide All Variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectable</translation>
     </message>
 </context>
 <context>
@@ -1499,507 +1476,534 @@ Please, press Locate button in the Dictionary ToolBar</source>
     <name>Validate</name>
     <message>
         <source>The typed character string has a length greater than 50</source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string has a length greater than 50</translation>
     </message>
     <message>
         <source>The typed character string already exists as a group name of </source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string already exists as a group name of </translation>
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string already exists and it is the entity </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string already exists as entity alias of </translation>
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string already exists as a variable name: </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string already exists as variable alias of </translation>
     </message>
     <message>
         <source>The typed character string is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string is empty</translation>
     </message>
     <message>
         <source>The typed character string is a Kelvora reserved word</source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string is a Kelvora reserved word</translation>
     </message>
     <message>
         <source>The typed character string contains blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string contains blanks</translation>
     </message>
     <message>
         <source>The typed character string contains invalid characters, such as accents or special symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>The typed character string contains invalid characters, such as accents or special symbols</translation>
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable could not be renamed, it is not a local variable</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation type="unfinished"></translation>
+        <translation>The category &quot;%1&quot; has no code</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>The code %1 stands more than once in the table</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished">Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Label</translation>
+        <translation>Label</translation>
     </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type: %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation type="unfinished">Alias: %1</translation>
+        <translation>Alias: %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">File not found: %1</translation>
+        <translation>File not found: %1</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Group</translation>
+        <translation>Group</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Label</translation>
+        <translation>Label</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
 </context>
 <context>
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Name: </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation type="unfinished"></translation>
+        <translation>Label: </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation type="unfinished"></translation>
+        <translation>Alias: </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation type="unfinished"></translation>
+        <translation>Group: </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tag: </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation type="unfinished"></translation>
+        <translation>Type: </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation type="unfinished"></translation>
+        <translation>Min: </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation type="unfinished"></translation>
+        <translation>Max: </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation type="unfinished"></translation>
+        <translation>NotApp: </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation type="unfinished"></translation>
+        <translation>Missing: </translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Properties</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Categories</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties Documentation</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>VariablePropertiesQDockWidget</name>
     <message>
         <source>Error %1 sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %1 sending event</translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Properties</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Label:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Another name of the variable; Return stores it</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Group:</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables of one group belong together; Return stores it</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>A number of yours, 9999 at most</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hidden</translation>
     </message>
     <message>
         <source>Marks the variable as hidden in lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Marks the variable as hidden in lists</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable Categories</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Type</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Min</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>No applicable</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing value</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>File Name</translation>
     </message>
     <message>
         <source>Found on Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Found on Disk</translation>
     </message>
     <message>
         <source>Technical Spec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Technical Spec.</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Range</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Kelvora native file format</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Save changes</translation>
     </message>
 </context>
 <context>
     <name>VariablesContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Quick View</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Properties</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Rename</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Select All</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequency</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistics</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>View</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Mark as hidden</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Unmark as hidden</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Group</translation>
+        <translation>Group</translation>
     </message>
     <message>
         <source>Group Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Group Name</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Mark hidden</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Unmark hidden</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation screen</translation>
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to delete the variable(s)?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>The variable could not be deleted, it is not a local variable</translation>
     </message>
 </context>
 <context>
     <name>VariablesPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 of %2</translation>
+        <translation>%1 of %2</translation>
     </message>
     <message>
         <source>Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter...</translation>
     </message>
     <message>
         <source>Enter a filter term, you can filter by name, alias, group, label or tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter a filter term, you can filter by name, alias, group, label or tag</translation>
     </message>
     <message>
         <source>Filter of the variables</source>
-        <translation type="unfinished">Filter of the variables</translation>
+        <translation>Filter of the variables</translation>
     </message>
     <message>
         <source>Variables shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables shown</translation>
     </message>
 </context>
 <context>
     <name>WaitingSpinnerWidget</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Busy</translation>
     </message>
 </context>
 <context>
     <name>WindowToolBar</name>
     <message>
         <source>Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabs</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>Show the windows as tabs again</source>
-        <translation type="unfinished"></translation>
+        <translation>Show the windows as tabs again</translation>
     </message>
     <message>
         <source>Arrange</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrange</translation>
     </message>
     <message>
         <source>Tile vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Tile vertical</translation>
     </message>
     <message>
         <source>Place the windows side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Place the windows side by side</translation>
     </message>
     <message>
         <source>Tile horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Tile horizontal</translation>
     </message>
     <message>
         <source>Place the windows above one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Place the windows above one another</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Cascade</translation>
     </message>
     <message>
         <source>Let the windows overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>Let the windows overlap</translation>
     </message>
     <message>
         <source>Minimize All</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimize All</translation>
     </message>
     <message>
         <source>Minimize all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimize all windows</translation>
     </message>
     <message>
         <source>Arrange Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrange Icons</translation>
     </message>
     <message>
         <source>Line up the minimized windows at the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Line up the minimized windows at the bottom</translation>
     </message>
 </context>
 <context>
     <name>XmlDicxDictionary</name>
     <message>
         <source>Error by opening the dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Error by opening the dictionary file</translation>
     </message>
     <message>
         <source>Error opening dictionary [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Error opening dictionary [%1]</translation>
     </message>
     <message>
         <source> [%1]
 </source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]
+</translation>
     </message>
     <message>
         <source>File [%2] not found</source>
-        <translation type="unfinished"></translation>
+        <translation>File [%2] not found</translation>
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to located?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm</translation>
     </message>
     <message>
         <source>The same answer for the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>The same answer for the rest</translation>
     </message>
     <message>
         <source>The files relocation for *.dicx files is not yet supported in KelX</source>
-        <translation type="unfinished"></translation>
+        <translation>The files relocation for *.dicx files is not yet supported in KelX</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
+    </message>
+</context>
+<context>
+    <name>tt::Page</name>
+    <message>
+        <source>Scroll back</source>
+        <translation>Scroll back</translation>
+    </message>
+    <message>
+        <source>Scroll forward</source>
+        <translation>Scroll forward</translation>
+    </message>
+</context>
+<context>
+    <name>tt::TabToolbar</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Ribbon</translation>
+    </message>
+    <message>
+        <source>Show the ribbon</source>
+        <translation>Show the ribbon</translation>
+    </message>
+    <message>
+        <source>Minimize the ribbon</source>
+        <translation>Minimize the ribbon</translation>
     </message>
 </context>
 </TS>

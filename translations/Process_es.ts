@@ -1,576 +1,576 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="es" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="es">
 <context>
     <name>AppProperties</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>The changes were taken into the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios se incorporaron al diccionario</translation>
     </message>
     <message>
         <source>EN CONSTRUCCION</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCCIÓN</translation>
     </message>
 </context>
 <context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas del portapapeles que no son categorías: %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías de la variable</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Agregar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Add a new row in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Agregar una fila a la tabla de categorías</translation>
     </message>
     <message>
         <source>Copy the category table of the variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la tabla de categorías de la variable</translation>
     </message>
     <message>
         <source>Paste the category table copied from another variable into the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar en la variable actual la tabla de categorías copiada de otra variable.</translation>
     </message>
     <message>
         <source>Remove the active row form the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la fila activa de la tabla de categorías</translation>
     </message>
     <message>
         <source>Clear all information in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar toda la información de la tabla de categorías</translation>
     </message>
     <message>
         <source>Take back the last change of the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer el último cambio de la tabla de categorías</translation>
     </message>
 </context>
 <context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias de KelX</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>DataFileForm</name>
     <message>
         <source>Input data file for the loading process</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de datos de entrada para el proceso de carga</translation>
     </message>
     <message>
         <source>Is found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Se encuentra en el disco</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar...</translation>
     </message>
     <message>
         <source>Choose another data file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir otro archivo de datos</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
     <name>DataSourceVariableTab</name>
     <message>
         <source>The relative position should be from 1 to n, where n is the size</source>
-        <translation type="unfinished"></translation>
+        <translation>La posición relativa debe estar entre 1 y n, donde n es el tamaño</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo nativo de Kelvora</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Relative position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición relativa</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamaño</translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Data Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente de datos</translation>
     </message>
 </context>
 <context>
     <name>DialogEntityProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de %1</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>La definición de la entidad fue modificada. ¿Desea guardar los cambios?</translation>
     </message>
 </context>
 <context>
     <name>DictionarySaver</name>
     <message>
         <source>There is no open dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún diccionario abierto.</translation>
     </message>
 </context>
 <context>
     <name>DictionaryToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Archivo</translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el diccionario</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Save the dictionary under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el diccionario con otro nombre</translation>
     </message>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Diccionario</translation>
+        <translation>Diccionario</translation>
     </message>
     <message>
         <source>Locate</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizar</translation>
     </message>
     <message>
         <source>Find the data files that are missing where the dictionary says</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar los archivos de datos que no están donde indica el diccionario</translation>
     </message>
     <message>
         <source>Consistency</source>
-        <translation type="unfinished"></translation>
+        <translation>Consistencia</translation>
     </message>
     <message>
         <source>Check the data files against the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar los archivos de datos con respecto al diccionario</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>Make a report of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Generar un informe del diccionario</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Close the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar el diccionario</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a dictionary, or one of the recent ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un diccionario o uno de los recientes</translation>
     </message>
     <message>
         <source>Open Dictionary</source>
-        <translation type="unfinished">Abrir diccionario</translation>
+        <translation>Abrir diccionario</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %s al enviar el evento</translation>
     </message>
     <message>
         <source>Please, you must open a dictionary beforehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero debe abrir un diccionario</translation>
     </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Archivo no encontrado: %1</translation>
+        <translation>Archivo no encontrado: %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo: %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros: %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables: %1</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
 </context>
 <context>
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el archivo %1: %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentationVariableTab</name>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación</translation>
     </message>
 </context>
 <context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de código: </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>La entidad no es seleccionable</translation>
     </message>
     <message>
         <source>Entity has not Label Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>La entidad no tiene variable de etiqueta</translation>
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de etiqueta: </translation>
     </message>
     <message>
         <source>No automatic weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin ponderador automático</translation>
     </message>
     <message>
         <source>Automatic weight variable [</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de ponderación automática [</translation>
     </message>
     <message>
         <source>Virtual Entity - Mother is </source>
-        <translation type="unfinished"></translation>
+        <translation>Entidad virtual - La entidad madre es </translation>
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation type="unfinished"></translation>
+        <translation>Número de elementos: </translation>
     </message>
 </context>
 <context>
     <name>EntityInfoView</name>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Number of Elements</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de elementos</translation>
     </message>
     <message>
         <source>Selected Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidad seleccionada</translation>
     </message>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la entidad</translation>
     </message>
     <message>
         <source>Expand Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar información</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación de las propiedades</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación</translation>
     </message>
 </context>
 <context>
     <name>EntityPropertiesQDockWidget</name>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la entidad</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro nombre de la entidad; se guarda con la tecla Intro</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Un número propio, 9999 como máximo</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Código:</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable que contiene el código</translation>
     </message>
     <message>
         <source>Code size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño del código:</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cero por cada carácter del código</translation>
     </message>
     <message>
         <source>The variable that holds the label</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable que contiene la etiqueta</translation>
     </message>
     <message>
         <source>Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponderador:</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable que pondera los tabulados automáticamente</translation>
     </message>
     <message>
         <source>Compound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Compuesto:</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Los códigos concatenados desde el nivel más alto de la jerarquía</translation>
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation type="unfinished"></translation>
+        <translation>Confidencialidad:</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable que controla la confidencialidad</translation>
     </message>
     <message>
         <source>Elements:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos:</translation>
     </message>
     <message>
         <source>Number of records</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de registros</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo:</translation>
     </message>
     <message>
         <source>Found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Se encuentra en el disco</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionable</translation>
     </message>
     <message>
         <source>May be used in selections and area lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede usarse en selecciones y listas de áreas</translation>
     </message>
     <message>
         <source>Virtual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual</translation>
     </message>
     <message>
         <source>SensitiveEntity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidad sensible</translation>
     </message>
 </context>
 <context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
-        <translation type="unfinished">Archivo no válido</translation>
+        <translation>Archivo no válido</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el archivo %1.</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before changing the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierre todas las ventanas del área de trabajo antes de cambiar de diccionario</translation>
     </message>
 </context>
 <context>
     <name>FileToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Archivo</translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Begin a new program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Comenzar un programa, una selección o un mapa</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un programa, una selección o un mapa</translation>
     </message>
     <message>
         <source>Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos</translation>
     </message>
     <message>
         <source>Programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas</translation>
     </message>
     <message>
         <source>Programs in the command language</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas en el lenguaje de comandos</translation>
     </message>
     <message>
         <source>Selections</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciones</translation>
     </message>
     <message>
         <source>Selections of areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciones de áreas</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapas</translation>
     </message>
     <message>
         <source>Thematic maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapas temáticos</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos</translation>
     </message>
     <message>
         <source>Table Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de tabla</translation>
     </message>
     <message>
         <source>How tables look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto de las tablas</translation>
     </message>
     <message>
         <source>Graph Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de gráfico</translation>
     </message>
     <message>
         <source>How charts look</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto de los gráficos</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecución</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutar</translation>
     </message>
     <message>
         <source>Programs that run other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas que ejecutan otros programas</translation>
     </message>
 </context>
 <context>
@@ -654,255 +654,255 @@
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca:</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>GeneralPage</name>
     <message>
         <source>Initial Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración inicial</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las preferencias, las listas de archivos recientes y las carpetas recordadas volverán a sus valores iniciales. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Application Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma de la aplicación</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el idioma:</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Show splash form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la pantalla de presentación al iniciar</translation>
     </message>
     <message>
         <source>Show Tips and Tricks form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar consejos y sugerencias al iniciar</translation>
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el último diccionario al iniciar el programa</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores del menú:</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation type="unfinished"></translation>
+        <translation>Número máximo de archivos en la lista del botón</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todas las preferencias a las de una instalación nueva</translation>
     </message>
 </context>
 <context>
     <name>GeneralToolBar</name>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicación</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Language, looks and habits of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma, aspecto y comportamiento del programa</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Open the help pages in the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir las páginas de ayuda en el navegador</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Versions of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiones del programa</translation>
     </message>
     <message>
         <source>The help pages could not be opened. You find them at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron abrir las páginas de ayuda. Se encuentran en %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca:</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
 </context>
 <context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista rápida</translation>
     </message>
 </context>
 <context>
     <name>JsonFile</name>
     <message>
         <source>Failed to create JSON doc.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo crear el documento JSON.</translation>
     </message>
     <message>
         <source>JSON is not an object.</source>
-        <translation type="unfinished"></translation>
+        <translation>El JSON no es un objeto.</translation>
     </message>
     <message>
         <source>JSON object is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto JSON está vacío.</translation>
     </message>
     <message>
         <source>The file %1 is too large to be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo %1 es demasiado grande para leerlo.</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %s al enviar el evento</translation>
     </message>
 </context>
 <context>
     <name>KelTreeView</name>
     <message>
         <source>A entity must be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe seleccionar una entidad</translation>
     </message>
     <message>
         <source>Entities</source>
-        <translation type="unfinished">Entidades</translation>
+        <translation>Entidades</translation>
     </message>
 </context>
 <context>
     <name>KelVariablesTableView</name>
     <message>
         <source>EN CONSTRUCCION- Se debe establecer si es posible borrar y el proceso a seguir</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCCIÓN - Se debe establecer si es posible borrar y el proceso a seguir</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizar rutas: %1 de %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable: </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo faltante: </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta faltante: </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la ruta de la variable</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva ruta:</translation>
     </message>
     <message>
         <source>Relocate</source>
-        <translation type="unfinished"></translation>
+        <translation>Reubicar</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Leave this file missing and go on with the next</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar este archivo como faltante y continuar con el siguiente</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar de buscar archivos; lo ya reubicado se conserva</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo faltante y el reubicado no son el mismo.</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró el archivo %1.</translation>
     </message>
     <message>
         <source>Files (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos (*.%1)</translation>
     </message>
     <message>
         <source>No errors found in the database</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontraron errores en la base de datos</translation>
     </message>
 </context>
 <context>
@@ -917,19 +917,19 @@
     </message>
     <message>
         <source>Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Procesando</translation>
     </message>
     <message>
         <source>Execution Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>La ejecución falló</translation>
     </message>
     <message>
         <source>Execution Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecución finalizada</translation>
     </message>
     <message>
         <source>The results cannot be shown as a frequency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los resultados no se pueden mostrar como frecuencia.</translation>
     </message>
 </context>
 <context>
@@ -951,156 +951,145 @@
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo de diccionario</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Page</name>
-    <message>
-        <source>Scroll back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scroll forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Diccionarios recientes</translation>
     </message>
 </context>
 <context>
     <name>ProjectToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Archivo</translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Make a new project</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un proyecto nuevo</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un proyecto</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el proyecto</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Save the project under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el proyecto con otro nombre</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show and change what the project holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver y modificar el contenido del proyecto</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Close the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar el proyecto</translation>
     </message>
 </context>
 <context>
     <name>PropertyDock</name>
     <message>
         <source> - %1</source>
-        <translation type="unfinished"></translation>
+        <translation> - %1</translation>
     </message>
 </context>
 <context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Hay una nueva versión disponible!</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea descargar la actualización ahora? La aplicación se cerrará</translation>
     </message>
 </context>
 <context>
     <name>ResultsManager</name>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Resultados</translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Tables of the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulados de los resultados</translation>
     </message>
 </context>
 <context>
     <name>RibbonHost</name>
     <message>
         <source>Tabs or windows in the work area</source>
-        <translation type="unfinished"></translation>
+        <translation>Pestañas o ventanas en el área de trabajo</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
 </context>
 <context>
     <name>RibbonPages</name>
     <message>
         <source>  PROJECT  </source>
-        <translation type="unfinished"></translation>
+        <translation>  PROYECTO  </translation>
     </message>
     <message>
         <source>  DICTIONARY  </source>
-        <translation type="unfinished"></translation>
+        <translation>  DICCIONARIO  </translation>
     </message>
     <message>
         <source>  FILE  </source>
-        <translation type="unfinished"></translation>
+        <translation>  ARCHIVO  </translation>
     </message>
     <message>
         <source>  BASIC STATISTICS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  ESTADÍSTICAS BÁSICAS  </translation>
     </message>
     <message>
         <source>  EASY INDICATORS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  INDICADORES FÁCILES  </translation>
     </message>
     <message>
         <source>  WINDOW  </source>
-        <translation type="unfinished"></translation>
+        <translation>  VENTANA  </translation>
     </message>
     <message>
         <source>  GENERAL  </source>
-        <translation type="unfinished"></translation>
+        <translation>  GENERAL  </translation>
     </message>
 </context>
 <context>
@@ -1118,354 +1107,342 @@
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Microdatos de censos y encuestas: explore una base de datos, elabore tabulados, gráficos y mapas.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir diccionario...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo de diccionario</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Diccionarios recientes</translation>
     </message>
     <message>
         <source>Select an entity in the tree to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una entidad del árbol para ver sus variables.</translation>
     </message>
     <message>
         <source>Entities of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades del diccionario</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Etiqueta</translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished">Registros</translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>StatisticalToolBar</name>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Universo</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Limit the cases by an expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Limitar los casos mediante una expresión</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección</translation>
     </message>
     <message>
         <source>Limit the areas by a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Limitar las áreas mediante una selección</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas</translation>
     </message>
     <message>
         <source>Key figures of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas principales de una variable</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Áreas</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished">Casos</translation>
+        <translation>Conteo</translation>
     </message>
     <message>
         <source>Count the elements of an entity by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Contar los elementos de una entidad por área</translation>
     </message>
     <message>
         <source>Arealist</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de áreas</translation>
     </message>
     <message>
         <source>List figures of variables by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar valores de variables por área</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>See the values case by case</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver los valores caso por caso</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulados</translation>
     </message>
     <message>
         <source>Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencias</translation>
     </message>
     <message>
         <source>Frequencies of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencias de variables</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished"></translation>
+        <translation>Cruce</translation>
     </message>
     <message>
         <source>Tables of two or more variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Cruces de dos o más variables</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Funciones</translation>
     </message>
     <message>
         <source>Averages, medians, maxima and minima</source>
-        <translation type="unfinished"></translation>
+        <translation>Promedios, medianas, máximos y mínimos</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Información</translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Properties of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de una variable</translation>
     </message>
     <message>
         <source>Output Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen de salida</translation>
     </message>
     <message>
         <source>All results so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los resultados obtenidos hasta ahora</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Progreso</translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Open dictionary</source>
-        <translation type="unfinished">Diccionario abierto</translation>
+        <translation>Diccionario abierto</translation>
     </message>
 </context>
 <context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de %1</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TabToolbar</name>
-    <message>
-        <source>Ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Minimize the ribbon</source>
-        <translation type="unfinished"></translation>
+        <translation>La definición de la variable fue modificada. ¿Desea guardar los cambios?
+</translation>
     </message>
 </context>
 <context>
     <name>TecnicalVariableTab</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamaño</translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimales</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>No aplica</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor omitido</translation>
     </message>
     <message>
         <source>Thecnical specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Especificación técnica</translation>
     </message>
 </context>
 <context>
     <name>TfrmDictionary</name>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Diccionario</translation>
+        <translation>Diccionario</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished">Cargando...</translation>
+        <translation>Cargando...</translation>
     </message>
     <message>
         <source>Invalid Dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Diccionario no válido</translation>
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al validar el diccionario:</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
-        <translation type="unfinished">Diccionario cargado</translation>
+        <translation>Diccionario cargado</translation>
     </message>
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontraron las rutas de algunas variables o entidades.
+Pulse el botón Localizar de la barra Diccionario</translation>
     </message>
     <message>
         <source>Saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando...</translation>
     </message>
     <message>
         <source>Dictionary saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Diccionario guardado</translation>
     </message>
     <message>
         <source>Save file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>Files (*%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos (*%1)</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before exiting from the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierre todas las ventanas del área de trabajo antes de salir del proyecto</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation type="unfinished"></translation>
+        <translation>El diccionario fue modificado. ¿Desea guardar las modificaciones?</translation>
     </message>
 </context>
 <context>
     <name>TfrmProperties</name>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>La definición de la entidad fue modificada. ¿Desea guardar los cambios?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>La definición de la variable fue modificada. ¿Desea guardar los cambios?
+</translation>
     </message>
     <message>
         <source>The variable %1 is not in the dictionary any more. Your changes of it were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 ya no está en el diccionario. No se guardaron los cambios que le hizo.</translation>
     </message>
 </context>
 <context>
     <name>TreeViewContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista rápida</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Estadísticas de la variable &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Ver &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar todas las variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Ocultar todas las variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todas las variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Mostrar todas las variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionable</translation>
     </message>
 </context>
 <context>
@@ -1499,507 +1476,534 @@ Please, press Locate button in the Dictionary ToolBar</source>
     <name>Validate</name>
     <message>
         <source>The typed character string has a length greater than 50</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado tiene más de 50 caracteres</translation>
     </message>
     <message>
         <source>The typed character string already exists as a group name of </source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado ya existe como nombre de grupo de </translation>
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado ya existe y corresponde a la entidad </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado ya existe como alias de la entidad </translation>
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado ya existe como nombre de variable: </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado ya existe como alias de la variable </translation>
     </message>
     <message>
         <source>The typed character string is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado está vacío</translation>
     </message>
     <message>
         <source>The typed character string is a Kelvora reserved word</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado es una palabra reservada de Kelvora</translation>
     </message>
     <message>
         <source>The typed character string contains blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado contiene espacios en blanco</translation>
     </message>
     <message>
         <source>The typed character string contains invalid characters, such as accents or special symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto ingresado contiene caracteres no válidos, como acentos o símbolos especiales</translation>
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cambiar el nombre de la variable porque no es una variable local</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation type="unfinished"></translation>
+        <translation>La categoría &quot;%1&quot; no tiene código</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>El código %1 aparece más de una vez en la tabla</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished">Código</translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Etiqueta</translation>
+        <translation>Etiqueta</translation>
     </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation type="unfinished">Alias: %1</translation>
+        <translation>Alias: %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Archivo no encontrado: %1</translation>
+        <translation>Archivo no encontrado: %1</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nombre</translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Etiqueta</translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca</translation>
     </message>
 </context>
 <context>
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre: </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta: </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation type="unfinished"></translation>
+        <translation>Alias: </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo: </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation type="unfinished"></translation>
+        <translation>Marca: </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.: </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.: </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation type="unfinished"></translation>
+        <translation>No aplica: </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido: </translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la variable</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías de la variable</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación de las propiedades</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación</translation>
     </message>
 </context>
 <context>
     <name>VariablePropertiesQDockWidget</name>
     <message>
         <source>Error %1 sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Error %1 al enviar el evento</translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la variable</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentación</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro nombre de la variable; se guarda con la tecla Intro</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo:</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Las variables de un mismo grupo van juntas; se guarda con la tecla Intro</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Un número propio, 9999 como máximo</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta</translation>
     </message>
     <message>
         <source>Marks the variable as hidden in lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca la variable como oculta en las listas</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías de la variable</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>No aplica</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor omitido</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo</translation>
     </message>
     <message>
         <source>Found on Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Se encuentra en el disco</translation>
     </message>
     <message>
         <source>Technical Spec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espec. técnica</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Rango</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo nativo de Kelvora</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los cambios</translation>
     </message>
 </context>
 <context>
     <name>VariablesContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista rápida</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Estadísticas de la variable &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Ver variable &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como oculta</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Marcar variable como oculta &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar como oculta</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Desmarcar variable como oculta &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Group Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del grupo</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Frecuencia de las variables del grupo &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Estadísticas de las variables del grupo &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Ver variables del grupo &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar ocultas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Marcar como ocultas las variables del grupo &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar ocultas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construcción: menú contextual Desmarcar como ocultas las variables del grupo &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmación</translation>
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Está seguro de que desea eliminar las variables seleccionadas?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo eliminar la variable porque no es una variable local</translation>
     </message>
 </context>
 <context>
     <name>VariablesPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 de %2</translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar...</translation>
     </message>
     <message>
         <source>Enter a filter term, you can filter by name, alias, group, label or tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un término para filtrar por nombre, alias, grupo, etiqueta o marca</translation>
     </message>
     <message>
         <source>Filter of the variables</source>
-        <translation type="unfinished">Filtro de las variables</translation>
+        <translation>Filtro de las variables</translation>
     </message>
     <message>
         <source>Variables shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables mostradas</translation>
     </message>
 </context>
 <context>
     <name>WaitingSpinnerWidget</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>En proceso</translation>
     </message>
 </context>
 <context>
     <name>WindowToolBar</name>
     <message>
         <source>Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Pestañas</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
     <message>
         <source>Show the windows as tabs again</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar de nuevo las ventanas como pestañas</translation>
     </message>
     <message>
         <source>Arrange</source>
-        <translation type="unfinished"></translation>
+        <translation>Organizar</translation>
     </message>
     <message>
         <source>Tile vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico vertical</translation>
     </message>
     <message>
         <source>Place the windows side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocar las ventanas una al lado de otra</translation>
     </message>
     <message>
         <source>Tile horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico horizontal</translation>
     </message>
     <message>
         <source>Place the windows above one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocar las ventanas una encima de otra</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Cascada</translation>
     </message>
     <message>
         <source>Let the windows overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>Superponer las ventanas</translation>
     </message>
     <message>
         <source>Minimize All</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar todo</translation>
     </message>
     <message>
         <source>Minimize all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar todas las ventanas</translation>
     </message>
     <message>
         <source>Arrange Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Organizar iconos</translation>
     </message>
     <message>
         <source>Line up the minimized windows at the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear en la parte inferior las ventanas minimizadas</translation>
     </message>
 </context>
 <context>
     <name>XmlDicxDictionary</name>
     <message>
         <source>Error by opening the dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al abrir el archivo del diccionario</translation>
     </message>
     <message>
         <source>Error opening dictionary [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al abrir el diccionario [%1]</translation>
     </message>
     <message>
         <source> [%1]
 </source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]
+</translation>
     </message>
     <message>
         <source>File [%2] not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo [%2] no encontrado</translation>
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea localizarlo?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar</translation>
     </message>
     <message>
         <source>The same answer for the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>La misma respuesta para los demás</translation>
     </message>
     <message>
         <source>The files relocation for *.dicx files is not yet supported in KelX</source>
-        <translation type="unfinished"></translation>
+        <translation>La reubicación de archivos *.dicx aún no está disponible en KelX</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
+    </message>
+</context>
+<context>
+    <name>tt::Page</name>
+    <message>
+        <source>Scroll back</source>
+        <translation>Desplazar hacia atrás</translation>
+    </message>
+    <message>
+        <source>Scroll forward</source>
+        <translation>Desplazar hacia adelante</translation>
+    </message>
+</context>
+<context>
+    <name>tt::TabToolbar</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Cinta</translation>
+    </message>
+    <message>
+        <source>Show the ribbon</source>
+        <translation>Mostrar la cinta</translation>
+    </message>
+    <message>
+        <source>Minimize the ribbon</source>
+        <translation>Minimizar la cinta</translation>
     </message>
 </context>
 </TS>

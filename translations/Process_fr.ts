@@ -1,583 +1,583 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="fr" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="fr">
 <context>
     <name>AppProperties</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>The changes were taken into the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Les modifications ont été reprises dans le dictionnaire</translation>
     </message>
     <message>
         <source>EN CONSTRUCCION</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCTION</translation>
     </message>
 </context>
 <context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes du presse-papiers qui ne sont pas des modalités : %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalités de la variable</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Add a new row in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une ligne à la table des modalités</translation>
     </message>
     <message>
         <source>Copy the category table of the variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la table des modalités de la variable</translation>
     </message>
     <message>
         <source>Paste the category table copied from another variable into the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller dans la variable active la table des modalités copiée d’une autre variable.</translation>
     </message>
     <message>
         <source>Remove the active row form the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la ligne active de la table des modalités</translation>
     </message>
     <message>
         <source>Clear all information in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer tout le contenu de la table des modalités</translation>
     </message>
     <message>
         <source>Take back the last change of the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la dernière modification de la table des modalités</translation>
     </message>
 </context>
 <context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences de KelX</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
 </context>
 <context>
     <name>DataFileForm</name>
     <message>
         <source>Input data file for the loading process</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de données en entrée du chargement</translation>
     </message>
     <message>
         <source>Is found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvé sur le disque</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir...</translation>
     </message>
     <message>
         <source>Choose another data file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un autre fichier de données</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>DataSourceVariableTab</name>
     <message>
         <source>The relative position should be from 1 to n, where n is the size</source>
-        <translation type="unfinished"></translation>
+        <translation>La position relative doit être comprise entre 1 et n, où n est la taille</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de fichier natif Kelvora</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Relative position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position relative</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Taille</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Data Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source des données</translation>
     </message>
 </context>
 <context>
     <name>DialogEntityProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de %1</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
     <name>DictionarySaver</name>
     <message>
         <source>There is no open dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun dictionnaire n’est ouvert.</translation>
     </message>
 </context>
 <context>
     <name>DictionaryToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Fichier</translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le dictionnaire</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>Save the dictionary under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le dictionnaire sous un autre nom</translation>
     </message>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dictionnaire</translation>
+        <translation>Dictionnaire</translation>
     </message>
     <message>
         <source>Locate</source>
-        <translation type="unfinished"></translation>
+        <translation>Localiser</translation>
     </message>
     <message>
         <source>Find the data files that are missing where the dictionary says</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les fichiers de données absents de l’emplacement indiqué par le dictionnaire</translation>
     </message>
     <message>
         <source>Consistency</source>
-        <translation type="unfinished"></translation>
+        <translation>Cohérence</translation>
     </message>
     <message>
         <source>Check the data files against the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôler les fichiers de données par rapport au dictionnaire</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Make a report of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Produire un rapport sur le dictionnaire</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Close the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer le dictionnaire</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Ouvrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open a dictionary, or one of the recent ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dictionnaire, ou l’un des dictionnaires récents</translation>
     </message>
     <message>
         <source>Open Dictionary</source>
-        <translation type="unfinished">Ouvrir un dictionnaire</translation>
+        <translation>Ouvrir un dictionnaire</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur %s lors de l’envoi de l’événement</translation>
     </message>
     <message>
         <source>Please, you must open a dictionary beforehand</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez d’abord ouvrir un dictionnaire</translation>
     </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Fichier introuvable : %1</translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier : %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements : %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables : %1</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
 </context>
 <context>
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le fichier %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentationVariableTab</name>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable code : </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entité n’est pas sélectionnable</translation>
     </message>
     <message>
         <source>Entity has not Label Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entité n’a pas de variable libellé</translation>
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable libellé : </translation>
     </message>
     <message>
         <source>No automatic weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de pondération automatique</translation>
     </message>
     <message>
         <source>Automatic weight variable [</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de pondération automatique [</translation>
     </message>
     <message>
         <source>Virtual Entity - Mother is </source>
-        <translation type="unfinished"></translation>
+        <translation>Entité virtuelle - L’entité mère est </translation>
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’éléments : </translation>
     </message>
 </context>
 <context>
     <name>EntityInfoView</name>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Number of Elements</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’éléments</translation>
     </message>
     <message>
         <source>Selected Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entité sélectionnée</translation>
     </message>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de l’entité</translation>
     </message>
     <message>
         <source>Expand Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Développer les informations</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation des propriétés</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>EntityPropertiesQDockWidget</name>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de l’entité</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre nom de l’entité ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Un numéro de votre choix, 9999 au maximum</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Code :</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable qui contient le code</translation>
     </message>
     <message>
         <source>Code size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille du code :</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Un zéro pour chaque caractère du code</translation>
     </message>
     <message>
         <source>The variable that holds the label</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable qui contient le libellé</translation>
     </message>
     <message>
         <source>Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pondération :</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable qui pondère automatiquement les tableaux</translation>
     </message>
     <message>
         <source>Compound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Composé :</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Codes mis bout à bout depuis le sommet de la hiérarchie</translation>
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation type="unfinished"></translation>
+        <translation>Divulgation :</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de contrôle de la divulgation</translation>
     </message>
     <message>
         <source>Elements:</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments :</translation>
     </message>
     <message>
         <source>Number of records</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’enregistrements</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier :</translation>
     </message>
     <message>
         <source>Found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvé sur le disque</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnable</translation>
     </message>
     <message>
         <source>May be used in selections and area lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisable dans les sélections et les listes de zones</translation>
     </message>
     <message>
         <source>Virtual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtuelle</translation>
     </message>
     <message>
         <source>SensitiveEntity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entité sensible</translation>
     </message>
 </context>
 <context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
-        <translation type="unfinished">Fichier non valide</translation>
+        <translation>Fichier non valide</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 est introuvable.</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before changing the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez fermer toutes les fenêtres de l’espace de travail avant de changer de dictionnaire</translation>
     </message>
 </context>
 <context>
     <name>FileToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Fichier</translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Begin a new program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer un programme, une sélection ou une carte</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Ouvrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open a program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un programme, une sélection ou une carte</translation>
     </message>
     <message>
         <source>Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents</translation>
     </message>
     <message>
         <source>Programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmes</translation>
     </message>
     <message>
         <source>Programs in the command language</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmes dans le langage de commandes</translation>
     </message>
     <message>
         <source>Selections</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélections</translation>
     </message>
     <message>
         <source>Selections of areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélections de zones</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes</translation>
     </message>
     <message>
         <source>Thematic maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes thématiques</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Styles</translation>
     </message>
     <message>
         <source>Table Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Styles tableaux</translation>
     </message>
     <message>
         <source>How tables look</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation des tableaux</translation>
     </message>
     <message>
         <source>Graph Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Styles graphiques</translation>
     </message>
     <message>
         <source>How charts look</source>
-        <translation type="unfinished"></translation>
+        <translation>Présentation des graphiques</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter</translation>
     </message>
     <message>
         <source>Programs that run other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmes qui lancent d’autres programmes</translation>
     </message>
 </context>
 <context>
     <name>FrequencyTable</name>
     <message>
         <source>Unit of count: %1</source>
-        <translation>Unité de compte : %1</translation>
+        <translation>Unité de compte : %1</translation>
     </message>
     <message>
         <source>Not weighted</source>
@@ -585,11 +585,11 @@
     </message>
     <message>
         <source>Weight: %1</source>
-        <translation>Pondération : %1</translation>
+        <translation>Pondération : %1</translation>
     </message>
     <message>
         <source>Filter: %1</source>
-        <translation>Filtre : %1</translation>
+        <translation>Filtre : %1</translation>
     </message>
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
@@ -604,7 +604,7 @@
     </message>
     <message>
         <source>Missing</source>
-        <translation>Manquant</translation>
+        <translation>Non déclaré</translation>
     </message>
     <message>
         <source>Not applicable</source>
@@ -635,11 +635,11 @@
     <name>FrequencyView</name>
     <message>
         <source>No results yet</source>
-        <translation>Pas encore de résultats</translation>
+        <translation>Aucun résultat pour l’instant</translation>
     </message>
     <message>
         <source>Select a variable and choose Frequency (F9).</source>
-        <translation>Sélectionnez une variable et choisissez Fréquence (F9).</translation>
+        <translation>Sélectionnez une variable, puis choisissez Tri à plat (F9).</translation>
     </message>
     <message>
         <source>Copy Table</source>
@@ -647,262 +647,262 @@
     </message>
     <message>
         <source>Frequency table</source>
-        <translation>Tableau de fréquences</translation>
+        <translation>Tableau de tri à plat</translation>
     </message>
 </context>
 <context>
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
 </context>
 <context>
     <name>GeneralPage</name>
     <message>
         <source>Initial Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres initiaux</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les préférences, les listes de fichiers récents et les dossiers mémorisés reprendront leurs valeurs initiales. Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>Application Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue de l’application</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la langue :</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrage</translation>
     </message>
     <message>
         <source>Show splash form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’écran d’accueil au démarrage</translation>
     </message>
     <message>
         <source>Show Tips and Tricks form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les trucs et astuces au démarrage</translation>
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dernier dictionnaire au démarrage du programme</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs du menu :</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre maximal de fichiers dans la liste du bouton</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir tous les paramètres d’une nouvelle installation</translation>
     </message>
 </context>
 <context>
     <name>GeneralToolBar</name>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Application</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Language, looks and habits of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue, apparence et comportement du programme</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Open the help pages in the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les pages d’aide dans le navigateur</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Versions of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Versions du programme</translation>
     </message>
     <message>
         <source>The help pages could not be opened. You find them at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir les pages d’aide. Elles se trouvent à l’adresse %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe :</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquée</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
 </context>
 <context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu rapide</translation>
     </message>
 </context>
 <context>
     <name>JsonFile</name>
     <message>
         <source>Failed to create JSON doc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la création du document JSON.</translation>
     </message>
     <message>
         <source>JSON is not an object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le contenu JSON n’est pas un objet.</translation>
     </message>
     <message>
         <source>JSON object is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’objet JSON est vide.</translation>
     </message>
     <message>
         <source>The file %1 is too large to be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 est trop volumineux pour être lu.</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur %s lors de l’envoi de l’événement</translation>
     </message>
 </context>
 <context>
     <name>KelTreeView</name>
     <message>
         <source>A entity must be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez sélectionner une entité</translation>
     </message>
     <message>
         <source>Entities</source>
-        <translation type="unfinished">Entités</translation>
+        <translation>Entités</translation>
     </message>
 </context>
 <context>
     <name>KelVariablesTableView</name>
     <message>
         <source>EN CONSTRUCCION- Se debe establecer si es posible borrar y el proceso a seguir</source>
-        <translation type="unfinished"></translation>
+        <translation>EN CONSTRUCTION - Il reste à établir si la suppression est possible et la procédure à suivre</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Localiser les chemins : %1 sur %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variable : </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier manquant : </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin manquant : </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner le chemin de la variable</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau chemin :</translation>
     </message>
     <message>
         <source>Relocate</source>
-        <translation type="unfinished"></translation>
+        <translation>Relocaliser</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Leave this file missing and go on with the next</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser ce fichier manquant et passer au suivant</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la recherche des fichiers ; les relocalisations déjà faites sont conservées</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier manquant et le fichier relocalisé ne sont pas les mêmes.</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier %1 est introuvable.</translation>
     </message>
     <message>
         <source>Files (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers (*.%1)</translation>
     </message>
     <message>
         <source>No errors found in the database</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune erreur trouvée dans la base de données</translation>
     </message>
 </context>
 <context>
@@ -913,23 +913,23 @@
     </message>
     <message>
         <source>Do you want to save the changes in the dictionary?</source>
-        <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
+        <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
     </message>
     <message>
         <source>Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Traitement en cours</translation>
     </message>
     <message>
         <source>Execution Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’exécution</translation>
     </message>
     <message>
         <source>Execution Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution terminée</translation>
     </message>
     <message>
         <source>The results cannot be shown as a frequency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les résultats ne peuvent pas être présentés sous forme de tri à plat.</translation>
     </message>
 </context>
 <context>
@@ -951,156 +951,145 @@
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier dictionnaire</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Page</name>
-    <message>
-        <source>Scroll back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scroll forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionnaires récents</translation>
     </message>
 </context>
 <context>
     <name>ProjectToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Fichier</translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Make a new project</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un projet</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Ouvrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open a project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un projet</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>Save the project under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet sous un autre nom</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projet</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Show and change what the project holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher et modifier le contenu du projet</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Close the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer le projet</translation>
     </message>
 </context>
 <context>
     <name>PropertyDock</name>
     <message>
         <source> - %1</source>
-        <translation type="unfinished"></translation>
+        <translation> - %1</translation>
     </message>
 </context>
 <context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation type="unfinished"></translation>
+        <translation>Une nouvelle version est disponible !</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous télécharger la mise à jour maintenant ? L’application en cours sera fermée</translation>
     </message>
 </context>
 <context>
     <name>ResultsManager</name>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Résultats</translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Tables of the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux de résultats</translation>
     </message>
 </context>
 <context>
     <name>RibbonHost</name>
     <message>
         <source>Tabs or windows in the work area</source>
-        <translation type="unfinished"></translation>
+        <translation>Onglets ou fenêtres dans l’espace de travail</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
 </context>
 <context>
     <name>RibbonPages</name>
     <message>
         <source>  PROJECT  </source>
-        <translation type="unfinished"></translation>
+        <translation>  PROJET  </translation>
     </message>
     <message>
         <source>  DICTIONARY  </source>
-        <translation type="unfinished"></translation>
+        <translation>  DICTIONNAIRE  </translation>
     </message>
     <message>
         <source>  FILE  </source>
-        <translation type="unfinished"></translation>
+        <translation>  FICHIER  </translation>
     </message>
     <message>
         <source>  BASIC STATISTICS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  STATISTIQUES DE BASE  </translation>
     </message>
     <message>
         <source>  EASY INDICATORS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  INDICATEURS FACILES  </translation>
     </message>
     <message>
         <source>  WINDOW  </source>
-        <translation type="unfinished"></translation>
+        <translation>  FENÊTRE  </translation>
     </message>
     <message>
         <source>  GENERAL  </source>
-        <translation type="unfinished"></translation>
+        <translation>  GÉNÉRAL  </translation>
     </message>
 </context>
 <context>
@@ -1111,361 +1100,349 @@
     </message>
     <message>
         <source>Select Language</source>
-        <translation>Choisissez la langue</translation>
+        <translation>Choisir la langue</translation>
     </message>
 </context>
 <context>
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Microdonnées de recensements et d’enquêtes : explorez une base de données, produisez des tableaux, des graphiques et des cartes.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dictionnaire...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier dictionnaire</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionnaires récents</translation>
     </message>
     <message>
         <source>Select an entity in the tree to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une entité dans l’arborescence pour voir ses variables.</translation>
     </message>
     <message>
         <source>Entities of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Entités du dictionnaire</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Libellé</translation>
+        <translation>Libellé</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished">Enregistrements</translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>StatisticalToolBar</name>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Univers</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Limit the cases by an expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Restreindre les cas par une expression</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélection</translation>
     </message>
     <message>
         <source>Limit the areas by a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Restreindre les zones par une sélection</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>Key figures of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Principales statistiques d’une variable</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Zones</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished">Effectif</translation>
+        <translation>Comptage</translation>
     </message>
     <message>
         <source>Count the elements of an entity by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Compter les éléments d’une entité par zone</translation>
     </message>
     <message>
         <source>Arealist</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste zonale</translation>
     </message>
     <message>
         <source>List figures of variables by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Lister par zone les valeurs de variables</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualiser</translation>
     </message>
     <message>
         <source>See the values case by case</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir les valeurs cas par cas</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux</translation>
     </message>
     <message>
         <source>Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Tris à plat</translation>
     </message>
     <message>
         <source>Frequencies of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tris à plat de variables</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau croisé</translation>
     </message>
     <message>
         <source>Tables of two or more variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux de deux variables ou plus</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonctions</translation>
     </message>
     <message>
         <source>Averages, medians, maxima and minima</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyennes, médianes, maximums et minimums</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Information</translation>
+        <translation>Informations</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Properties of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés d’une variable</translation>
     </message>
     <message>
         <source>Output Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Récapitulatif</translation>
     </message>
     <message>
         <source>All results so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les résultats obtenus jusqu’ici</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Progression</translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Open dictionary</source>
-        <translation type="unfinished">Dictionnaire ouvert</translation>
+        <translation>Dictionnaire ouvert</translation>
     </message>
 </context>
 <context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de %1</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TabToolbar</name>
-    <message>
-        <source>Ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Minimize the ribbon</source>
-        <translation type="unfinished"></translation>
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
+</translation>
     </message>
 </context>
 <context>
     <name>TecnicalVariableTab</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Type</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Taille</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimales</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans objet</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Non déclaré</translation>
     </message>
     <message>
         <source>Thecnical specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Spécifications techniques</translation>
     </message>
 </context>
 <context>
     <name>TfrmDictionary</name>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dictionnaire</translation>
+        <translation>Dictionnaire</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished">Chargement...</translation>
+        <translation>Chargement...</translation>
     </message>
     <message>
         <source>Invalid Dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionnaire non valide</translation>
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors de la validation du dictionnaire :</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
-        <translation type="unfinished">Dictionnaire chargé</translation>
+        <translation>Dictionnaire chargé</translation>
     </message>
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation type="unfinished"></translation>
+        <translation>Certains chemins de variables ou d’entités sont introuvables !
+Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</translation>
     </message>
     <message>
         <source>Saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement en cours...</translation>
     </message>
     <message>
         <source>Dictionary saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionnaire enregistré</translation>
     </message>
     <message>
         <source>Save file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>Files (*%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers (*%1)</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before exiting from the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez fermer toutes les fenêtres de l’espace de travail avant de quitter le projet</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dictionnaire a été modifié. Enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
     <name>TfrmProperties</name>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
+</translation>
     </message>
     <message>
         <source>The variable %1 is not in the dictionary any more. Your changes of it were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable %1 ne figure plus dans le dictionnaire. Vos modifications la concernant n’ont pas été enregistrées.</translation>
     </message>
 </context>
 <context>
     <name>TreeViewContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu rapide</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tri à plat</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualiser</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer toutes les variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Réafficher toutes les variables</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Réafficher toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnable</translation>
     </message>
 </context>
 <context>
@@ -1476,7 +1453,7 @@ Please, press Locate button in the Dictionary ToolBar</source>
     </message>
     <message>
         <source>Enter password</source>
-        <translation>Saisissez le mot de passe</translation>
+        <translation>Saisir le mot de passe</translation>
     </message>
     <message>
         <source>Password</source>
@@ -1492,514 +1469,541 @@ Please, press Locate button in the Dictionary ToolBar</source>
     </message>
     <message>
         <source>Select data folder to</source>
-        <translation>Sélectionnez le dossier de données de</translation>
+        <translation>Sélectionner le dossier de données pour</translation>
     </message>
 </context>
 <context>
     <name>Validate</name>
     <message>
         <source>The typed character string has a length greater than 50</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie dépasse 50 caractères</translation>
     </message>
     <message>
         <source>The typed character string already exists as a group name of </source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie existe déjà comme nom de groupe de </translation>
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie existe déjà : c’est l’entité </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie existe déjà comme alias d’entité de </translation>
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie existe déjà comme nom de variable : </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie existe déjà comme alias de variable de </translation>
     </message>
     <message>
         <source>The typed character string is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie est vide</translation>
     </message>
     <message>
         <source>The typed character string is a Kelvora reserved word</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie est un mot réservé de Kelvora</translation>
     </message>
     <message>
         <source>The typed character string contains blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie contient des espaces</translation>
     </message>
     <message>
         <source>The typed character string contains invalid characters, such as accents or special symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>La chaîne de caractères saisie contient des caractères non valides, tels que des accents ou des symboles spéciaux</translation>
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de renommer la variable : ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation type="unfinished"></translation>
+        <translation>La modalité « %1 » n’a pas de code</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Le code %1 figure plusieurs fois dans la table</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished">Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Libellé</translation>
+        <translation>Libellé</translation>
     </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation type="unfinished">Alias : %1</translation>
+        <translation>Alias : %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Fichier introuvable : %1</translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nom</translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Groupe</translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Libellé</translation>
+        <translation>Libellé</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère</translation>
     </message>
 </context>
 <context>
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nom : </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation type="unfinished"></translation>
+        <translation>Libellé : </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation type="unfinished"></translation>
+        <translation>Alias : </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe : </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation type="unfinished"></translation>
+        <translation>Repère : </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation type="unfinished"></translation>
+        <translation>Type : </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation type="unfinished"></translation>
+        <translation>Min. : </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation type="unfinished"></translation>
+        <translation>Max. : </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation type="unfinished"></translation>
+        <translation>Sans objet : </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation type="unfinished"></translation>
+        <translation>Non déclaré : </translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de la variable</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalités de la variable</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation des propriétés</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
 </context>
 <context>
     <name>VariablePropertiesQDockWidget</name>
     <message>
         <source>Error %1 sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur %1 lors de l’envoi de l’événement</translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés de la variable</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentation</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre nom de la variable ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe :</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Les variables d’un même groupe vont ensemble ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Un numéro de votre choix, 9999 au maximum</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquée</translation>
     </message>
     <message>
         <source>Marks the variable as hidden in lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque la variable comme masquée dans les listes</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalités de la variable</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Type</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max.</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans objet</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Non déclaré</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier</translation>
     </message>
     <message>
         <source>Found on Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvé sur le disque</translation>
     </message>
     <message>
         <source>Technical Spec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spéc. techniques</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de fichier natif Kelvora</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications</translation>
     </message>
 </context>
 <context>
     <name>VariablesContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu rapide</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Tri à plat</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualiser</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus masquer</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Groupe</translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Group Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du groupe</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Tri à plat du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus masquer</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment supprimer la ou les variables ?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer la variable : ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
     <name>VariablesPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 sur %2</translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer...</translation>
     </message>
     <message>
         <source>Enter a filter term, you can filter by name, alias, group, label or tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un terme pour filtrer par nom, alias, groupe, libellé ou repère</translation>
     </message>
     <message>
         <source>Filter of the variables</source>
-        <translation type="unfinished">Filtre des variables</translation>
+        <translation>Filtre des variables</translation>
     </message>
     <message>
         <source>Variables shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables affichées</translation>
     </message>
 </context>
 <context>
     <name>WaitingSpinnerWidget</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Occupé</translation>
     </message>
 </context>
 <context>
     <name>WindowToolBar</name>
     <message>
         <source>Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Onglets</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>Show the windows as tabs again</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher à nouveau les fenêtres sous forme d’onglets</translation>
     </message>
     <message>
         <source>Arrange</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition</translation>
     </message>
     <message>
         <source>Tile vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaïque verticale</translation>
     </message>
     <message>
         <source>Place the windows side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer les fenêtres côte à côte</translation>
     </message>
     <message>
         <source>Tile horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaïque horizontale</translation>
     </message>
     <message>
         <source>Place the windows above one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer les fenêtres l’une au-dessus de l’autre</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Cascade</translation>
     </message>
     <message>
         <source>Let the windows overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>Superposer les fenêtres en cascade</translation>
     </message>
     <message>
         <source>Minimize All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout réduire</translation>
     </message>
     <message>
         <source>Minimize all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire toutes les fenêtres</translation>
     </message>
     <message>
         <source>Arrange Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner icônes</translation>
     </message>
     <message>
         <source>Line up the minimized windows at the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner en bas les fenêtres réduites</translation>
     </message>
 </context>
 <context>
     <name>XmlDicxDictionary</name>
     <message>
         <source>Error by opening the dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur à l’ouverture du fichier dictionnaire</translation>
     </message>
     <message>
         <source>Error opening dictionary [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur à l’ouverture du dictionnaire [%1]</translation>
     </message>
     <message>
         <source> [%1]
 </source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]
+</translation>
     </message>
     <message>
         <source>File [%2] not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier [%2] introuvable</translation>
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous le localiser ?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmation</translation>
     </message>
     <message>
         <source>The same answer for the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Même réponse pour les suivants</translation>
     </message>
     <message>
         <source>The files relocation for *.dicx files is not yet supported in KelX</source>
-        <translation type="unfinished"></translation>
+        <translation>La relocalisation des fichiers *.dicx n’est pas encore prise en charge dans KelX</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable</translation>
+    </message>
+</context>
+<context>
+    <name>tt::Page</name>
+    <message>
+        <source>Scroll back</source>
+        <translation>Défiler vers l’arrière</translation>
+    </message>
+    <message>
+        <source>Scroll forward</source>
+        <translation>Défiler vers l’avant</translation>
+    </message>
+</context>
+<context>
+    <name>tt::TabToolbar</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Ruban</translation>
+    </message>
+    <message>
+        <source>Show the ribbon</source>
+        <translation>Afficher le ruban</translation>
+    </message>
+    <message>
+        <source>Minimize the ribbon</source>
+        <translation>Réduire le ruban</translation>
     </message>
 </context>
 </TS>

@@ -1,576 +1,576 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="pt" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="pt">
 <context>
     <name>AppProperties</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuda</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmação</translation>
     </message>
     <message>
         <source>The changes were taken into the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>As alterações foram incorporadas ao dicionário</translation>
     </message>
     <message>
         <source>EN CONSTRUCCION</source>
-        <translation type="unfinished"></translation>
+        <translation>EM CONSTRUÇÃO</translation>
     </message>
 </context>
 <context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas da área de transferência que não são categorias: %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorias da variável</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Colar</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfazer</translation>
     </message>
     <message>
         <source>Add a new row in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar uma nova linha à tabela de categorias</translation>
     </message>
     <message>
         <source>Copy the category table of the variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar a tabela de categorias da variável</translation>
     </message>
     <message>
         <source>Paste the category table copied from another variable into the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colar na variável atual a tabela de categorias copiada de outra variável.</translation>
     </message>
     <message>
         <source>Remove the active row form the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover a linha ativa da tabela de categorias</translation>
     </message>
     <message>
         <source>Clear all information in the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar todas as informações da tabela de categorias</translation>
     </message>
     <message>
         <source>Take back the last change of the category table</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfazer a última alteração da tabela de categorias</translation>
     </message>
 </context>
 <context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências do KelX</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
 </context>
 <context>
     <name>DataFileForm</name>
     <message>
         <source>Input data file for the loading process</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo de dados de entrada para o processo de carga</translation>
     </message>
     <message>
         <source>Is found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrado no disco</translation>
     </message>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar...</translation>
     </message>
     <message>
         <source>Choose another data file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher outro arquivo de dados</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os arquivos (*)</translation>
     </message>
 </context>
 <context>
     <name>DataSourceVariableTab</name>
     <message>
         <source>The relative position should be from 1 to n, where n is the size</source>
-        <translation type="unfinished"></translation>
+        <translation>A posição relativa deve estar entre 1 e n, onde n é o tamanho</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de arquivo nativo do Kelvora</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Relative position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição relativa</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamanho</translation>
+        <translation>Tamanho</translation>
     </message>
     <message>
         <source>Data Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Fonte de dados</translation>
     </message>
 </context>
 <context>
     <name>DialogEntityProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades de %1</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>A definição da entidade foi modificada. Salvar as alterações?</translation>
     </message>
 </context>
 <context>
     <name>DictionarySaver</name>
     <message>
         <source>There is no open dictionary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há dicionário aberto.</translation>
     </message>
 </context>
 <context>
     <name>DictionaryToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Arquivo</translation>
+        <translation>Arquivo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Save the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o dicionário</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar como</translation>
     </message>
     <message>
         <source>Save the dictionary under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o dicionário com outro nome</translation>
     </message>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dicionário</translation>
+        <translation>Dicionário</translation>
     </message>
     <message>
         <source>Locate</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizar</translation>
     </message>
     <message>
         <source>Find the data files that are missing where the dictionary says</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar os arquivos de dados que não estão onde o dicionário indica</translation>
     </message>
     <message>
         <source>Consistency</source>
-        <translation type="unfinished"></translation>
+        <translation>Consistência</translation>
     </message>
     <message>
         <source>Check the data files against the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar os arquivos de dados em relação ao dicionário</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Relatório</translation>
     </message>
     <message>
         <source>Make a report of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerar um relatório do dicionário</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Close the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar o dicionário</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a dictionary, or one of the recent ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir um dicionário ou um dos recentes</translation>
     </message>
     <message>
         <source>Open Dictionary</source>
-        <translation type="unfinished">Abrir dicionário</translation>
+        <translation>Abrir dicionário</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro %s ao enviar o evento</translation>
     </message>
     <message>
         <source>Please, you must open a dictionary beforehand</source>
-        <translation type="unfinished"></translation>
+        <translation>É necessário abrir antes um dicionário</translation>
     </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Arquivo não encontrado: %1</translation>
+        <translation>Arquivo não encontrado: %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo: %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros: %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis: %1</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
 </context>
 <context>
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível gravar o arquivo %1: %2</translation>
     </message>
 </context>
 <context>
     <name>DocumentationVariableTab</name>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação</translation>
     </message>
 </context>
 <context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variável de código: </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>A entidade não pode ser selecionada</translation>
     </message>
     <message>
         <source>Entity has not Label Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>A entidade não tem variável de rótulo</translation>
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variável de rótulo: </translation>
     </message>
     <message>
         <source>No automatic weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem ponderação automática</translation>
     </message>
     <message>
         <source>Automatic weight variable [</source>
-        <translation type="unfinished"></translation>
+        <translation>Variável de ponderação automática [</translation>
     </message>
     <message>
         <source>Virtual Entity - Mother is </source>
-        <translation type="unfinished"></translation>
+        <translation>Entidade virtual - A entidade-mãe é </translation>
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation type="unfinished"></translation>
+        <translation>Número de elementos: </translation>
     </message>
 </context>
 <context>
     <name>EntityInfoView</name>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Number of Elements</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de elementos</translation>
     </message>
     <message>
         <source>Selected Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidade selecionada</translation>
     </message>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades da entidade</translation>
     </message>
     <message>
         <source>Expand Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Expandir informações</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação das propriedades</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação</translation>
     </message>
 </context>
 <context>
     <name>EntityPropertiesQDockWidget</name>
     <message>
         <source>Entity Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades da entidade</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Dados</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro nome da entidade; tecle Enter para gravá-lo</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Um número de uso livre, até 9999</translation>
     </message>
     <message>
         <source>Code:</source>
-        <translation type="unfinished"></translation>
+        <translation>Código:</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
-        <translation type="unfinished"></translation>
+        <translation>A variável que contém o código</translation>
     </message>
     <message>
         <source>Code size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamanho do código:</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
-        <translation type="unfinished"></translation>
+        <translation>Um zero para cada caractere do código</translation>
     </message>
     <message>
         <source>The variable that holds the label</source>
-        <translation type="unfinished"></translation>
+        <translation>A variável que contém o rótulo</translation>
     </message>
     <message>
         <source>Weight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso:</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>A variável que pondera as tabelas automaticamente</translation>
     </message>
     <message>
         <source>Compound:</source>
-        <translation type="unfinished"></translation>
+        <translation>Código composto:</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Os códigos unidos, do topo da hierarquia para baixo</translation>
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sigilo:</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
-        <translation type="unfinished"></translation>
+        <translation>A variável que controla o sigilo estatístico</translation>
     </message>
     <message>
         <source>Elements:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos:</translation>
     </message>
     <message>
         <source>Number of records</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de registros</translation>
     </message>
     <message>
         <source>File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo:</translation>
     </message>
     <message>
         <source>Found on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrado no disco</translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionável</translation>
     </message>
     <message>
         <source>May be used in selections and area lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Pode ser usada em seleções e listas de áreas</translation>
     </message>
     <message>
         <source>Virtual</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual</translation>
     </message>
     <message>
         <source>SensitiveEntity</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidade sensível</translation>
     </message>
 </context>
 <context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
-        <translation type="unfinished">Arquivo inválido</translation>
+        <translation>Arquivo inválido</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo %1 não foi encontrado.</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before changing the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Feche todas as janelas da área de trabalho do aplicativo antes de trocar de dicionário</translation>
     </message>
 </context>
 <context>
     <name>FileToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Arquivo</translation>
+        <translation>Arquivo</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo</translation>
     </message>
     <message>
         <source>Begin a new program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar um novo programa, seleção ou mapa</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a program, selection or map</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir um programa, seleção ou mapa</translation>
     </message>
     <message>
         <source>Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos</translation>
     </message>
     <message>
         <source>Programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas</translation>
     </message>
     <message>
         <source>Programs in the command language</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas na linguagem de comandos</translation>
     </message>
     <message>
         <source>Selections</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleções</translation>
     </message>
     <message>
         <source>Selections of areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleções de áreas</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapas</translation>
     </message>
     <message>
         <source>Thematic maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapas temáticos</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos</translation>
     </message>
     <message>
         <source>Table Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de tabela</translation>
     </message>
     <message>
         <source>How tables look</source>
-        <translation type="unfinished"></translation>
+        <translation>A aparência das tabelas</translation>
     </message>
     <message>
         <source>Graph Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de gráfico</translation>
     </message>
     <message>
         <source>How charts look</source>
-        <translation type="unfinished"></translation>
+        <translation>A aparência dos gráficos</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Execução</translation>
     </message>
     <message>
         <source>Execute</source>
-        <translation type="unfinished"></translation>
+        <translation>Executar</translation>
     </message>
     <message>
         <source>Programs that run other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Programas que executam outros programas</translation>
     </message>
 </context>
 <context>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>Weight: %1</source>
-        <translation>Ponderador: %1</translation>
+        <translation>Peso: %1</translation>
     </message>
     <message>
         <source>Filter: %1</source>
@@ -594,8 +594,8 @@
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
         <translation>
-            <numerusform>%n célula oculta para proteger as pessoas</numerusform>
-            <numerusform>%n células ocultas para proteger as pessoas</numerusform>
+            <numerusform>%n célula oculta para preservar o sigilo das pessoas</numerusform>
+            <numerusform>%n células ocultas para preservar o sigilo das pessoas</numerusform>
         </translation>
     </message>
     <message>
@@ -604,11 +604,11 @@
     </message>
     <message>
         <source>Missing</source>
-        <translation>Omisso</translation>
+        <translation>Ignorado</translation>
     </message>
     <message>
         <source>Not applicable</source>
-        <translation>Não se aplica</translation>
+        <translation>Não aplicável</translation>
     </message>
     <message>
         <source>Code</source>
@@ -624,7 +624,7 @@
     </message>
     <message>
         <source>Percent</source>
-        <translation>Porcentagem</translation>
+        <translation>Percentual</translation>
     </message>
     <message>
         <source>Weighted count</source>
@@ -654,255 +654,255 @@
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador:</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
 </context>
 <context>
     <name>GeneralPage</name>
     <message>
         <source>Initial Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações iniciais</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas as preferências, as listas de arquivos recentes e as pastas memorizadas voltarão aos valores iniciais. Deseja continuar?</translation>
     </message>
     <message>
         <source>Application Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma do aplicativo</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione o idioma:</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicialização</translation>
     </message>
     <message>
         <source>Show splash form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar a tela de abertura ao iniciar</translation>
     </message>
     <message>
         <source>Show Tips and Tricks form on startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar a tela de dicas e truques ao iniciar</translation>
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir o último dicionário ao iniciar o aplicativo</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cores do menu:</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation type="unfinished"></translation>
+        <translation>Número máximo de arquivos na lista do botão</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar as configurações de uma nova instalação</translation>
     </message>
 </context>
 <context>
     <name>GeneralToolBar</name>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicativo</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
     <message>
         <source>Language, looks and habits of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma, aparência e comportamento do aplicativo</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuda</translation>
     </message>
     <message>
         <source>Open the help pages in the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir as páginas de ajuda no navegador</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre</translation>
     </message>
     <message>
         <source>Versions of the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Versões do aplicativo</translation>
     </message>
     <message>
         <source>The help pages could not be opened. You find them at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir as páginas de ajuda. Elas estão em %1</translation>
     </message>
 </context>
 <context>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador:</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
 </context>
 <context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variável</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualização rápida</translation>
     </message>
 </context>
 <context>
     <name>JsonFile</name>
     <message>
         <source>Failed to create JSON doc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao criar o documento JSON.</translation>
     </message>
     <message>
         <source>JSON is not an object.</source>
-        <translation type="unfinished"></translation>
+        <translation>O JSON não é um objeto.</translation>
     </message>
     <message>
         <source>JSON object is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>O objeto JSON está vazio.</translation>
     </message>
     <message>
         <source>The file %1 is too large to be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo %1 é grande demais para ser lido.</translation>
     </message>
     <message>
         <source>Error %s sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro %s ao enviar o evento</translation>
     </message>
 </context>
 <context>
     <name>KelTreeView</name>
     <message>
         <source>A entity must be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>É necessário selecionar uma entidade</translation>
     </message>
     <message>
         <source>Entities</source>
-        <translation type="unfinished">Entidades</translation>
+        <translation>Entidades</translation>
     </message>
 </context>
 <context>
     <name>KelVariablesTableView</name>
     <message>
         <source>EN CONSTRUCCION- Se debe establecer si es posible borrar y el proceso a seguir</source>
-        <translation type="unfinished"></translation>
+        <translation>EM CONSTRUÇÃO - É preciso definir se é possível excluir e o procedimento a seguir</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
 </context>
 <context>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizar caminhos: %1 de %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation type="unfinished"></translation>
+        <translation>Variável: </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo não encontrado: </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Caminho não encontrado: </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar o caminho da variável</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo caminho:</translation>
     </message>
     <message>
         <source>Relocate</source>
-        <translation type="unfinished"></translation>
+        <translation>Relocalizar</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Não</translation>
     </message>
     <message>
         <source>Leave this file missing and go on with the next</source>
-        <translation type="unfinished"></translation>
+        <translation>Deixar este arquivo sem localizar e passar ao seguinte</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Interromper a busca de arquivos; o que já foi relocalizado é mantido</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo não encontrado e o relocalizado não são o mesmo.</translation>
     </message>
     <message>
         <source>The file %1 was not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo %1 não foi encontrado.</translation>
     </message>
     <message>
         <source>Files (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos (*.%1)</translation>
     </message>
     <message>
         <source>No errors found in the database</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum erro encontrado na base de dados</translation>
     </message>
 </context>
 <context>
@@ -917,19 +917,19 @@
     </message>
     <message>
         <source>Processing</source>
-        <translation type="unfinished"></translation>
+        <translation>Processando</translation>
     </message>
     <message>
         <source>Execution Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na execução</translation>
     </message>
     <message>
         <source>Execution Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Execução concluída</translation>
     </message>
     <message>
         <source>The results cannot be shown as a frequency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os resultados não podem ser mostrados como frequência.</translation>
     </message>
 </context>
 <context>
@@ -951,156 +951,145 @@
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher um arquivo de dicionário</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Page</name>
-    <message>
-        <source>Scroll back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scroll forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicionários recentes</translation>
     </message>
 </context>
 <context>
     <name>ProjectToolBar</name>
     <message>
         <source>File</source>
-        <translation type="unfinished">Arquivo</translation>
+        <translation>Arquivo</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo</translation>
     </message>
     <message>
         <source>Make a new project</source>
-        <translation type="unfinished"></translation>
+        <translation>Criar um novo projeto</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Open a project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir um projeto</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Save the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o projeto</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar como</translation>
     </message>
     <message>
         <source>Save the project under another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar o projeto com outro nome</translation>
     </message>
     <message>
         <source>Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projeto</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show and change what the project holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar e alterar o conteúdo do projeto</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Close the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar o projeto</translation>
     </message>
 </context>
 <context>
     <name>PropertyDock</name>
     <message>
         <source> - %1</source>
-        <translation type="unfinished"></translation>
+        <translation> - %1</translation>
     </message>
 </context>
 <context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma nova versão foi lançada!</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseja baixar a atualização agora? O aplicativo atual será fechado</translation>
     </message>
 </context>
 <context>
     <name>ResultsManager</name>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Resultados</translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Tables of the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas dos resultados</translation>
     </message>
 </context>
 <context>
     <name>RibbonHost</name>
     <message>
         <source>Tabs or windows in the work area</source>
-        <translation type="unfinished"></translation>
+        <translation>Guias ou janelas na área de trabalho</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
 </context>
 <context>
     <name>RibbonPages</name>
     <message>
         <source>  PROJECT  </source>
-        <translation type="unfinished"></translation>
+        <translation>  PROJETO  </translation>
     </message>
     <message>
         <source>  DICTIONARY  </source>
-        <translation type="unfinished"></translation>
+        <translation>  DICIONÁRIO  </translation>
     </message>
     <message>
         <source>  FILE  </source>
-        <translation type="unfinished"></translation>
+        <translation>  ARQUIVO  </translation>
     </message>
     <message>
         <source>  BASIC STATISTICS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  ESTATÍSTICAS BÁSICAS  </translation>
     </message>
     <message>
         <source>  EASY INDICATORS  </source>
-        <translation type="unfinished"></translation>
+        <translation>  INDICADORES FÁCEIS  </translation>
     </message>
     <message>
         <source>  WINDOW  </source>
-        <translation type="unfinished"></translation>
+        <translation>  JANELA  </translation>
     </message>
     <message>
         <source>  GENERAL  </source>
-        <translation type="unfinished"></translation>
+        <translation>  GERAL  </translation>
     </message>
 </context>
 <context>
@@ -1118,354 +1107,342 @@
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Microdados de censos e pesquisas: explorar uma base de dados, elaborar tabelas, gráficos e mapas.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir dicionário...</translation>
     </message>
     <message>
         <source>Choose a dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher um arquivo de dicionário</translation>
     </message>
     <message>
         <source>Recent dictionaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicionários recentes</translation>
     </message>
     <message>
         <source>Select an entity in the tree to see its variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione uma entidade na árvore para ver suas variáveis.</translation>
     </message>
     <message>
         <source>Entities of the dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades do dicionário</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Rótulo</translation>
+        <translation>Rótulo</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished">Registros</translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
 </context>
 <context>
     <name>StatisticalToolBar</name>
     <message>
         <source>Universe</source>
-        <translation type="unfinished"></translation>
+        <translation>Universo</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Limit the cases by an expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Restringir os casos por meio de uma expressão</translation>
     </message>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleção</translation>
     </message>
     <message>
         <source>Limit the areas by a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Restringir as áreas por meio de uma seleção</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumo</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estatísticas</translation>
     </message>
     <message>
         <source>Key figures of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas-resumo de uma variável</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Áreas</translation>
     </message>
     <message>
         <source>Count</source>
-        <translation type="unfinished">Casos</translation>
+        <translation>Contagem</translation>
     </message>
     <message>
         <source>Count the elements of an entity by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Contar os elementos de uma entidade por área</translation>
     </message>
     <message>
         <source>Arealist</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de áreas</translation>
     </message>
     <message>
         <source>List figures of variables by area</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar valores de variáveis por área</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizar</translation>
     </message>
     <message>
         <source>See the values case by case</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver os valores caso a caso</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas</translation>
     </message>
     <message>
         <source>Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequências</translation>
     </message>
     <message>
         <source>Frequencies of variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequências de variáveis</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished"></translation>
+        <translation>Cruzamento</translation>
     </message>
     <message>
         <source>Tables of two or more variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelas de duas ou mais variáveis</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Funções</translation>
     </message>
     <message>
         <source>Averages, medians, maxima and minima</source>
-        <translation type="unfinished"></translation>
+        <translation>Médias, medianas, máximos e mínimos</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished">Informação</translation>
+        <translation>Informações</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variável</translation>
     </message>
     <message>
         <source>Properties of a variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades de uma variável</translation>
     </message>
     <message>
         <source>Output Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumo da saída</translation>
     </message>
     <message>
         <source>All results so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os resultados obtidos até o momento</translation>
     </message>
 </context>
 <context>
     <name>StatusLine</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished">Progresso</translation>
+        <translation>Progresso</translation>
     </message>
     <message>
         <source>Open dictionary</source>
-        <translation type="unfinished">Dicionário aberto</translation>
+        <translation>Dicionário aberto</translation>
     </message>
 </context>
 <context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades de %1</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>TabToolbar</name>
-    <message>
-        <source>Ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the ribbon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Minimize the ribbon</source>
-        <translation type="unfinished"></translation>
+        <translation>A definição da variável foi modificada. Salvar as alterações?
+</translation>
     </message>
 </context>
 <context>
     <name>TecnicalVariableTab</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamanho</translation>
+        <translation>Tamanho</translation>
     </message>
     <message>
         <source>Decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimais</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Não aplicável</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor ignorado</translation>
     </message>
     <message>
         <source>Thecnical specification</source>
-        <translation type="unfinished"></translation>
+        <translation>Especificação técnica</translation>
     </message>
 </context>
 <context>
     <name>TfrmDictionary</name>
     <message>
         <source>Dictionary</source>
-        <translation type="unfinished">Dicionário</translation>
+        <translation>Dicionário</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
     <message>
         <source>Loading...</source>
-        <translation type="unfinished">Carregando...</translation>
+        <translation>Carregando...</translation>
     </message>
     <message>
         <source>Invalid Dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicionário inválido</translation>
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao validar o dicionário:</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
-        <translation type="unfinished">Dicionário carregado</translation>
+        <translation>Dicionário carregado</translation>
     </message>
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation type="unfinished"></translation>
+        <translation>Alguns caminhos de variáveis e/ou entidades não foram encontrados!
+Use o botão Localizar da barra Dicionário</translation>
     </message>
     <message>
         <source>Saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvando...</translation>
     </message>
     <message>
         <source>Dictionary saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicionário salvo</translation>
     </message>
     <message>
         <source>Save file</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar arquivo</translation>
     </message>
     <message>
         <source>Files (*%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivos (*%1)</translation>
     </message>
     <message>
         <source>Please, close all the windows from the application work area before exiting from the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Feche todas as janelas da área de trabalho do aplicativo antes de sair do projeto</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmação</translation>
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation type="unfinished"></translation>
+        <translation>O dicionário foi modificado. Salvar as modificações?</translation>
     </message>
 </context>
 <context>
     <name>TfrmProperties</name>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmação</translation>
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>A definição da entidade foi modificada. Salvar as alterações?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation type="unfinished"></translation>
+        <translation>A definição da variável foi modificada. Salvar as alterações?
+</translation>
     </message>
     <message>
         <source>The variable %1 is not in the dictionary any more. Your changes of it were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>A variável %1 não está mais no dicionário. As alterações feitas nela não foram salvas.</translation>
     </message>
 </context>
 <context>
     <name>TreeViewContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualização rápida</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estatísticas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Estatísticas, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizar</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Visualizar, menu de contexto &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar todas as variáveis</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Ocultar todas as variáveis, menu de contexto &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Reexibir todas as variáveis</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Reexibir todas as variáveis, menu de contexto &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionável</translation>
     </message>
 </context>
 <context>
@@ -1499,507 +1476,534 @@ Please, press Locate button in the Dictionary ToolBar</source>
     <name>Validate</name>
     <message>
         <source>The typed character string has a length greater than 50</source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado tem mais de 50 caracteres</translation>
     </message>
     <message>
         <source>The typed character string already exists as a group name of </source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado já existe como nome de grupo de </translation>
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado já existe e corresponde à entidade </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado já existe como alias da entidade </translation>
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado já existe como nome de variável: </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado já existe como alias da variável </translation>
     </message>
     <message>
         <source>The typed character string is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado está vazio</translation>
     </message>
     <message>
         <source>The typed character string is a Kelvora reserved word</source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado é uma palavra reservada do Kelvora</translation>
     </message>
     <message>
         <source>The typed character string contains blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado contém espaços em branco</translation>
     </message>
     <message>
         <source>The typed character string contains invalid characters, such as accents or special symbols</source>
-        <translation type="unfinished"></translation>
+        <translation>O texto digitado contém caracteres inválidos, como acentos ou símbolos especiais</translation>
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível renomear a variável: não é uma variável local</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation type="unfinished"></translation>
+        <translation>A categoria &quot;%1&quot; não tem código</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>O código %1 aparece mais de uma vez na tabela</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished">Código</translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Rótulo</translation>
+        <translation>Rótulo</translation>
     </message>
 </context>
 <context>
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation type="unfinished">Alias: %1</translation>
+        <translation>Alias: %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished">Arquivo não encontrado: %1</translation>
+        <translation>Arquivo não encontrado: %1</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Nome</translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Label</source>
-        <translation type="unfinished">Rótulo</translation>
+        <translation>Rótulo</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador</translation>
     </message>
 </context>
 <context>
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nome: </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo: </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation type="unfinished"></translation>
+        <translation>Alias: </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo: </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador: </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.: </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.: </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation type="unfinished"></translation>
+        <translation>Não aplic.: </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorado: </translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades da variável</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorias da variável</translation>
     </message>
     <message>
         <source>Properties Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação das propriedades</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação</translation>
     </message>
 </context>
 <context>
     <name>VariablePropertiesQDockWidget</name>
     <message>
         <source>Error %1 sending event</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro %1 ao enviar o evento</translation>
     </message>
     <message>
         <source>Variable Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades da variável</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentação</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rótulo:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias:</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>Outro nome da variável; tecle Enter para gravá-lo</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo:</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation type="unfinished"></translation>
+        <translation>As variáveis de um grupo formam um conjunto; tecle Enter para gravar o grupo</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Um número de uso livre, até 9999</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta</translation>
     </message>
     <message>
         <source>Marks the variable as hidden in lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca a variável como oculta nas listas</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
     <message>
         <source>Variable Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorias da variável</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>No applicable</source>
-        <translation type="unfinished"></translation>
+        <translation>Não aplicável</translation>
     </message>
     <message>
         <source>Missing value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor ignorado</translation>
     </message>
     <message>
         <source>File Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do arquivo</translation>
     </message>
     <message>
         <source>Found on Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Encontrado no disco</translation>
     </message>
     <message>
         <source>Technical Spec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espec. técnica</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo</translation>
     </message>
     <message>
         <source>Kelvora native file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de arquivo nativo do Kelvora</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Save changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar as alterações</translation>
     </message>
 </context>
 <context>
     <name>VariablesContextMenu</name>
     <message>
         <source>Quick View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualização rápida</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomear</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
     <message>
         <source>Frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estatísticas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Estatísticas, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizar</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Visualizar, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como oculta</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Marcar como oculta, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar como oculta</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Desmarcar como oculta, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished">Grupo</translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>Group Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome do grupo</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Frequência do grupo, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Estatísticas do grupo, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Visualizar o grupo, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como ocultas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Marcar o grupo como oculto, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar como ocultas</translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Em construção: Desmarcar o grupo como oculto, menu de contexto da variável &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tela de confirmação</translation>
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirma a exclusão da(s) variável(is)?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível excluir a variável: não é uma variável local</translation>
     </message>
 </context>
 <context>
     <name>VariablesPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 de %2</translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Filter...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar...</translation>
     </message>
     <message>
         <source>Enter a filter term, you can filter by name, alias, group, label or tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Digite um termo de filtro; é possível filtrar por nome, alias, grupo, rótulo ou marcador</translation>
     </message>
     <message>
         <source>Filter of the variables</source>
-        <translation type="unfinished">Filtro das variáveis</translation>
+        <translation>Filtro das variáveis</translation>
     </message>
     <message>
         <source>Variables shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis mostradas</translation>
     </message>
 </context>
 <context>
     <name>WaitingSpinnerWidget</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocupado</translation>
     </message>
 </context>
 <context>
     <name>WindowToolBar</name>
     <message>
         <source>Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Guias</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
     <message>
         <source>Show the windows as tabs again</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar novamente as janelas como guias</translation>
     </message>
     <message>
         <source>Arrange</source>
-        <translation type="unfinished"></translation>
+        <translation>Organizar</translation>
     </message>
     <message>
         <source>Tile vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Na vertical</translation>
     </message>
     <message>
         <source>Place the windows side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispor as janelas lado a lado</translation>
     </message>
     <message>
         <source>Tile horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Na horizontal</translation>
     </message>
     <message>
         <source>Place the windows above one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispor as janelas uma acima da outra</translation>
     </message>
     <message>
         <source>Cascade</source>
-        <translation type="unfinished"></translation>
+        <translation>Em cascata</translation>
     </message>
     <message>
         <source>Let the windows overlap</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrepor as janelas</translation>
     </message>
     <message>
         <source>Minimize All</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar todas</translation>
     </message>
     <message>
         <source>Minimize all windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar todas as janelas</translation>
     </message>
     <message>
         <source>Arrange Icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Organizar ícones</translation>
     </message>
     <message>
         <source>Line up the minimized windows at the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar as janelas minimizadas na parte inferior</translation>
     </message>
 </context>
 <context>
     <name>XmlDicxDictionary</name>
     <message>
         <source>Error by opening the dictionary file</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao abrir o arquivo do dicionário</translation>
     </message>
     <message>
         <source>Error opening dictionary [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao abrir o dicionário [%1]</translation>
     </message>
     <message>
         <source> [%1]
 </source>
-        <translation type="unfinished"></translation>
+        <translation> [%1]
+</translation>
     </message>
     <message>
         <source>File [%2] not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Arquivo [%2] não encontrado</translation>
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseja localizá-lo?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmação</translation>
     </message>
     <message>
         <source>The same answer for the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>A mesma resposta para os demais</translation>
     </message>
     <message>
         <source>The files relocation for *.dicx files is not yet supported in KelX</source>
-        <translation type="unfinished"></translation>
+        <translation>A relocalização de arquivos em dicionários *.dicx ainda não está disponível no KelX</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Variável</translation>
+    </message>
+</context>
+<context>
+    <name>tt::Page</name>
+    <message>
+        <source>Scroll back</source>
+        <translation>Rolar para trás</translation>
+    </message>
+    <message>
+        <source>Scroll forward</source>
+        <translation>Rolar para a frente</translation>
+    </message>
+</context>
+<context>
+    <name>tt::TabToolbar</name>
+    <message>
+        <source>Ribbon</source>
+        <translation>Faixa de opções</translation>
+    </message>
+    <message>
+        <source>Show the ribbon</source>
+        <translation>Mostrar a faixa de opções</translation>
+    </message>
+    <message>
+        <source>Minimize the ribbon</source>
+        <translation>Minimizar a faixa de opções</translation>
     </message>
 </context>
 </TS>

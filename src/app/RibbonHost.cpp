@@ -43,6 +43,7 @@ void RibbonHost::rebuild(const State& state) {
     const bool minimized = before != nullptr && before->IsMinimized();
     if (before != nullptr) {
         window_.removeToolBar(before);
+        before->setObjectName(QString());
         before->deleteLater(); // one of its buttons may have asked for the new one
     }
     toolbar_ = new tt::TabToolbar(&window_, ribbonHeight, ribbonRows);
@@ -63,6 +64,7 @@ void RibbonHost::rebuild(const State& state) {
     toolbar_->SetMinimized(minimized);
     toolbar_->SetCurrentTab(page);
     window_.addToolBar(Qt::TopToolBarArea, toolbar_);
+    toolbar_->show(); // at once: its keys are heard only while it is seen
 }
 
 void RibbonHost::connectPages() {

@@ -31,26 +31,30 @@ QMdiSubWindow* WorkArea::addWindow(QWidget* content) {
     return window;
 }
 
-QMdiSubWindow* WorkArea::find(const QString& objectName) const {
+QList<QMdiSubWindow*> WorkArea::windows() const {
+    QList<QMdiSubWindow*> found;
     for (QMdiSubWindow* window : subWindowList())
-        if (window->objectName() == objectName ||
-            (window->widget() != nullptr && window->widget()->objectName() == objectName))
+        if (window->widget() != nullptr)
+            found += window;
+    return found;
+}
+
+QMdiSubWindow* WorkArea::find(const QString& objectName) const {
+    for (QMdiSubWindow* window : windows())
+        if (window->objectName() == objectName || window->widget()->objectName() == objectName)
             return window;
     return nullptr;
 }
 
 bool WorkArea::isEmptyBut(const QString& objectName) const {
-    const QList<QMdiSubWindow*> windows = subWindowList();
-    return windows.isEmpty() || (windows.size() == 1 && find(objectName) != nullptr);
+    return isEmpty() || (windows().size() == 1 && find(objectName) != nullptr);
 }
 
 bool WorkArea::closeModified() {
-    for (QMdiSubWindow* window : subWindowList()) {
-        const bool modified = window->isWindowModified() ||
-                              (window->widget() != nullptr && window->widget()->isWindowModified());
-        if (modified && !window->close())
+    for (QMdiSubWindow* window : windows())
+        if ((window->isWindowModified() || window->widget()->isWindowModified()) &&
+            !window->close())
             return false;
-    }
     return true;
 }
 

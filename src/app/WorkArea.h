@@ -15,7 +15,9 @@ public:
     QMdiSubWindow* addWindow(QWidget* content);
     /// By the object name of the sub-window or of its content; null where there is none.
     QMdiSubWindow* find(const QString& objectName) const;
-    bool isEmpty() const { return subWindowList().isEmpty(); }
+    /// Those that show something; one whose content was taken away is about to go.
+    QList<QMdiSubWindow*> windows() const;
+    bool isEmpty() const { return windows().isEmpty(); }
     /// True where nothing but that one window is open, if any.
     bool isEmptyBut(const QString& objectName) const;
     /// Asks each window that holds unsaved work to close; false where one of them stays.

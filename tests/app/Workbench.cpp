@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Workbench.h"
 
+#include "app/WorkArea.h"
 #include "app/dialogs/KelvoraFileDialog.h"
 #include "engine/TKelConfigImpl.h"
 #include "engine/UIInvoker.h"
@@ -11,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QTableView>
@@ -116,7 +116,7 @@ QStringList Workbench::frequencyRows() const {
 
 QStringList Workbench::windowNames() const {
     QStringList names;
-    for (const QMdiSubWindow* frame : find<QMdiArea>("workArea")->subWindowList())
+    for (const QMdiSubWindow* frame : find<WorkArea>("workArea")->windows())
         names += frame->widget()->objectName();
     return names;
 }

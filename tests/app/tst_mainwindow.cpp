@@ -137,7 +137,7 @@ private slots:
         for (int round = 0; round < 2; ++round) {
             area().closeAllSubWindows();
             QTRY_COMPARE(bench_->windowNames(), QStringList());
-            QVERIFY(bench_->find<QWidget>("startPage")->isVisible());
+            QTRY_VERIFY(bench_->find<QWidget>("startPage")->isVisible());
             bench_->window().onShowResults();
             QCOMPARE(bench_->windowNames(), QStringList("ResultsManager"));
         }

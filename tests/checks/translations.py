@@ -56,7 +56,8 @@ def main():
     files = {language: top / "translations" / f"Process_{language}.ts" for language in LANGUAGES}
     with tempfile.TemporaryDirectory() as folder:
         fresh = pathlib.Path(folder) / "fresh.ts"
-        subprocess.run([lupdate(), "-silent", "-locations", "none", str(top / "src"), "-ts",
+        sources = str(top / "src")
+        subprocess.run([lupdate(), "-silent", "-locations", "none", "-I", sources, sources, "-ts",
                         str(fresh)], check=True, stdout=subprocess.DEVNULL)
         wanted = messages(fresh)
     count = 0
