@@ -160,11 +160,11 @@ private slots:
         QApplication::setPalette(palette);
         QListWidget list;
         list.setIconSize({24, 24});
-        auto* item = new QListWidgetItem(rowIcon(icons + "48px-Entity.png"), "PERSON", &list);
+        list.addItem(new QListWidgetItem(rowIcon(icons + "48px-Entity.png"), "PERSON"));
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));
-        item->setSelected(true);
-        QRect row = list.visualItemRect(item);
+        list.item(0)->setSelected(true);
+        QRect row = list.visualItemRect(list.item(0));
         row.setWidth(28);
         const QImage image = list.viewport()->grab(row).toImage();
         int light = 0; // neither the picture's own blue nor that of the row has so much red
