@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences/ConfigDialog.h"
 
+#include "app/widgets/RowIcon.h"
 #include "preferences/GeneralPage.h"
 
 #include <QCloseEvent>
@@ -37,7 +38,7 @@ ConfigDialog::ConfigDialog(KelSystem& system, const QStringList& menuColors, QWi
 
 void ConfigDialog::makeList() {
     list_->setObjectName(QStringLiteral("pageList"));
-    list_->addItem(new QListWidgetItem(QIcon(QStringLiteral(":/images/general.png")), QString()));
+    list_->addItem(new QListWidgetItem(rowIcon(QStringLiteral(":/images/general.png")), QString()));
     const int side = 2 * style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     list_->setIconSize({side, side});
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -5,6 +5,7 @@
 #include "app/ribbon/RibbonPages.h"
 #include "app/ribbon/RibbonState.h"
 #include "app/ribbon/tt/TabToolbar.h"
+#include "app/widgets/RowIcon.h"
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/MirrorBuilder.h"
 #include "engine/TKelConfigImpl.h"
@@ -15,10 +16,12 @@
 #include <QDir>
 #include <QIcon>
 #include <QImage>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QPainter>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -146,6 +149,29 @@ private slots:
                 const double apart = difference(onWhite(names[i], 20), onWhite(names[j], 20));
                 QVERIFY2(apart > 4, qPrintable(names[i] + " looks like " + names[j]));
             }
+    }
+
+    void selectedRowsShowTheirIcons() {
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
+        QPalette palette = before;
+        palette.setColor(QPalette::Highlight, QColor("#2f86d6"));
+        palette.setColor(QPalette::HighlightedText, QColor("#f0fff0"));
+        QApplication::setPalette(palette);
+        QListWidget list;
+        list.setIconSize({24, 24});
+        list.addItem(new QListWidgetItem(rowIcon(icons + "48px-Entity.png"), "PERSON"));
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        list.item(0)->setSelected(true);
+        QRect row = list.visualItemRect(list.item(0));
+        row.setWidth(28);
+        const QImage image = list.viewport()->grab(row).toImage();
+        int light = 0; // neither the picture's own blue nor that of the row has so much red
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                light += image.pixelColor(x, y).red() > 150;
+        QVERIFY2(light > 30, qPrintable(QString::number(light)));
     }
 
     void theRibbonHasAPictureForEachAction() {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/views/DictionaryTreeModel.h"
 
+#include "app/widgets/RowIcon.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/views/DraggedItems.h"
-#include "dictionary/views/RowIcon.h"
 
 #include <QDir>
 #include <QLocale>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/views/VariableDiccionaryModel.h"
 
+#include "app/widgets/RowIcon.h"
 #include "dictionary/mirror/DictionaryEdit.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/views/DraggedItems.h"
-#include "dictionary/views/RowIcon.h"
 
 #include <QDir>
 #include <QGuiApplication>
