@@ -14,6 +14,7 @@
 #include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/properties/InfoProperties.h"
 #include "engine/ProgramRun.h"
+#include "engine/UIInvoker.h"
 #include "kel.h"
 #include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
@@ -102,7 +103,11 @@ void MainWindow::connectOpener() {
     opener_ = new FileOpener(*this, *workArea_, system_, this);
     connect(opener_, &FileOpener::opened, this, &MainWindow::onOpened);
     connect(opener_, &FileOpener::closed, this, &MainWindow::closeAll);
-    connect(opener_, &FileOpener::failed, this, &MainWindow::showNothingOpen);
+    connect(opener_, &FileOpener::failed, this, [this] {
+        showNothingOpen();
+        if (closeAfterLoading_)
+            QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
+    });
     connect(opener_, &FileOpener::began, this, &MainWindow::rebuildToolbars);
     connect(opener_, &FileOpener::dirtyChanged, this, &MainWindow::on_dictIsDirtyReceived);
     connect(opener_, &FileOpener::quickViewVariable, this, &MainWindow::onQuickViewVariable);
@@ -370,8 +375,10 @@ bool MainWindow::askSaveDictionary() {
 }
 
 bool MainWindow::endRun() {
+    if (isLoading())
+        UIInvoker::instance().refuseQuestions(); // nobody is left to answer them
     if (!opener_->endLoading()) {
-        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
+        closeAfterLoading_ = true;
         return false;
     }
     showStatus(QString(), false);

@@ -116,5 +116,6 @@ private:
     FileOpener* opener_ = nullptr;
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
     QString language_;
+    bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
     bool engineEnded_ = false;
 };

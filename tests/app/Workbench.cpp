@@ -53,6 +53,7 @@ void Workbench::activate() const {
 
 void Workbench::waitForLoad() const {
     QTRY_VERIFY_WITH_TIMEOUT(!window_->isLoading(), 20000);
+    QCoreApplication::processEvents(); // the docks take their places
 }
 
 void Workbench::openByKeyboard(const QString& path) const {

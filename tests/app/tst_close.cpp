@@ -62,10 +62,11 @@ private slots:
         window.show();
         window.openFile(folder.filePath("small.kxdb"), "kxdb");
         QVERIFY(window.isLoading());
-        QVERIFY(window.close()); // before the thread's question can be asked
+        window.close(); // before the thread's question can be asked
+        QTRY_COMPARE(destroyCalls(), before + 1);
         QVERIFY(!window.isLoading());
+        QVERIFY(!window.isVisible());
         QVERIFY(!TfrmProject::instance().isOpen());
-        QCOMPARE(destroyCalls(), before + 1);
     }
 };
 
