@@ -84,17 +84,17 @@ private slots:
     }
 
     void editedLabelIsSavedAndFoundAgain() {
-        editSexLabel("Sex of the person");
+        editSexLabel("Sex as declared");
         QVERIFY(TfrmProject::instance().dictionary()->isDirty());
         press(Qt::Key_S, Qt::ControlModifier);
         QVERIFY(!TfrmProject::instance().dictionary()->isDirty());
         QCOMPARE(bench_->messages, QStringList());
-        QCOMPARE(savedLabel(path(), "SEX"), "Sex of the person");
+        QCOMPARE(savedLabel(path(), "SEX"), "Sex as declared");
         closeByDock();
         QCOMPARE(bench_->messages, QStringList());
         bench_->openByKeyboard(path());
         bench_->select("PERSON", "SEX");
-        QCOMPARE(table().currentIndex().siblingAtColumn(3).data().toString(), "Sex of the person");
+        QCOMPARE(table().currentIndex().siblingAtColumn(3).data().toString(), "Sex as declared");
     }
 
     void saveFollowsTheMarkOfChanges() {
