@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation>Abrir el último diccionario al iniciar el programa</translation>
+        <translation>Abrir el último diccionario al iniciar</translation>
     </message>
     <message>
         <source>Menu</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation>Número máximo de archivos en la lista del botón</translation>
+        <translation>Máximo de archivos recientes</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>

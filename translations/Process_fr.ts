@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation>Ouvrir le dernier dictionnaire au démarrage du programme</translation>
+        <translation>Ouvrir le dernier dictionnaire au démarrage</translation>
     </message>
     <message>
         <source>Menu</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation>Nombre maximal de fichiers dans la liste du bouton</translation>
+        <translation>Nombre maximal de fichiers récents</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>

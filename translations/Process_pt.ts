@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>Open last dictionary on starting program</source>
-        <translation>Abrir o último dicionário ao iniciar o aplicativo</translation>
+        <translation>Abrir o último dicionário ao iniciar</translation>
     </message>
     <message>
         <source>Menu</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
-        <translation>Número máximo de arquivos na lista do botão</translation>
+        <translation>Máximo de arquivos recentes</translation>
     </message>
     <message>
         <source>Put all settings back to those of a new installation</source>

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QMdiSubWindow>
+#include <QTabBar>
 #include <QTimer>
 
 WorkArea::WorkArea(QWidget* parent) : QMdiArea(parent) {
@@ -20,6 +21,13 @@ void WorkArea::toggleTabs() {
         workarea::showWindows(*this);
     else
         workarea::showTabs(*this);
+}
+
+/// The tabs are made anew with each change of the mode; one alone would take the whole width.
+void WorkArea::childEvent(QChildEvent* event) {
+    if (auto* tabs = event->added() ? qobject_cast<QTabBar*>(event->child()) : nullptr)
+        tabs->setExpanding(false);
+    QMdiArea::childEvent(event);
 }
 
 QMdiSubWindow* WorkArea::addWindow(QWidget* content) {

@@ -34,6 +34,7 @@ Control* named(const char* name) {
 QLabel* addRow(QFormLayout* form, QWidget* control) {
     auto* label = new QLabel;
     label->setBuddy(control);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows); // some languages need more room
     form->addRow(label, control);
     return label;
 }

@@ -115,8 +115,7 @@ void DictionaryEdit::setHidden(TKpVariable& variable, bool hidden) {
         engine->setHidden(hidden);
 }
 
-void DictionaryEdit::setValueLabels(TKpVariable& variable,
-                                    const QList<ValueLabelElement>& labels) {
+void DictionaryEdit::setValueLabels(TKpVariable& variable, const QList<ValueLabelElement>& labels) {
     if (variable.valueLabels && *variable.valueLabels == labels)
         return;
     variable.valueLabels = std::make_shared<QList<ValueLabelElement>>(labels);

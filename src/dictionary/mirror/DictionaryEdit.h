@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Changes that a user makes to a dictionary. Each goes to the interface's object and to the engine's
-// behind it, which then counts as changed. The rules of names are checked before, not here.
+// Changes that a user makes to a dictionary. Each goes to the interface's object and to the
+// engine's behind it, which then counts as changed. The rules of names are checked before, not
+// here.
 #pragma once
 
 #include "dictionary/mirror/ValueLabelElement.h"
