@@ -25,7 +25,7 @@ void WorkArea::toggleTabs() {
 
 /// The tabs are made anew with each change of the mode; one alone would take the whole width.
 void WorkArea::childEvent(QChildEvent* event) {
-    if (auto* tabs = event->added() ? qobject_cast<QTabBar*>(event->child()) : nullptr)
+    if (auto* tabs = event->polished() ? qobject_cast<QTabBar*>(event->child()) : nullptr)
         tabs->setExpanding(false);
     QMdiArea::childEvent(event);
 }

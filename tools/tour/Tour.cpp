@@ -6,6 +6,10 @@
 #include "app/ribbon/tt/Style.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
+#include "dictionary/loading/LocatePaths.h"
+#include "dictionary/mirror/DictionaryUtil.h"
+#include "engine/UIInvoker.h"
+#include "preferences/SelectorLanguageDlg.h"
 #include "projects/TfrmProject.h"
 
 #include <QAction>
@@ -20,6 +24,7 @@
 #include <QScreen>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 #include <stdexcept>
@@ -70,6 +75,7 @@ void Tour::run(const QString& dictionary) {
     menus();
     frequency();
     shoot(QStringLiteral("frequency"));
+    dialogs();
     preferences();
     languages();
     styles();
@@ -163,6 +169,31 @@ void Tour::frequency() {
     const auto* table = find<QTableView>(window_, "frequencyTable");
     require(table->isVisible() && table->model()->rowCount() > 1,
             QStringLiteral("the frequency shows nothing"));
+}
+
+/// Each as it asks; the answer is always no.
+void Tour::dialogs() {
+    shootModal(QStringLiteral("language-choice"), [] { SelectorLanguageDlg::ask(); });
+    shootModal(QStringLiteral("password"),
+               [] { UIInvoker::instance().promptPassword(QStringLiteral("NATIONAL CENSUS")); });
+    PathLocator::Item missing;
+    missing.entity =
+        DictionaryUtil().findEntity(TfrmProject::instance().root(), QStringLiteral("HOUSEHOLD"));
+    shootModal(QStringLiteral("locate"), [&] { LocatePaths(missing, 1, 3, &window_).exec(); });
+}
+
+void Tour::shootModal(const QString& name, const std::function<void()>& ask) {
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || !dialog->isVisible())
+            return;
+        timer.stop();
+        save(dialog->grab(), name);
+        dialog->reject();
+    });
+    timer.start(100);
+    ask();
 }
 
 void Tour::preferences() {

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class MainWindow;
 class QAbstractItemView;
 class QPixmap;
@@ -30,6 +32,8 @@ private:
     void menus();
     void showMenu(QAbstractItemView* view);
     void frequency();
+    void dialogs();
+    void shootModal(const QString& name, const std::function<void()>& ask);
     void preferences();
     void languages();
     void styles();
