@@ -96,9 +96,20 @@ QDockWidget* DockAreas::find(const QString& name) const {
 }
 
 void DockAreas::close(const QString& name) {
-    delete find(name);
+    if (QDockWidget* dock = find(name))
+        remove(*dock);
 }
 
-void DockAreas::closeAll() {
-    qDeleteAll(allDocks(window_));
+void DockAreas::closeAllBut(const QDockWidget* kept) {
+    for (QDockWidget* dock : allDocks(window_))
+        if (dock != kept)
+            remove(*dock);
+}
+
+/// It may be within its own close event, and goes with the next events; nobody finds it any more.
+void DockAreas::remove(QDockWidget& dock) {
+    dock.hide();
+    window_.removeDockWidget(&dock);
+    dock.setObjectName(QString());
+    dock.deleteLater();
 }

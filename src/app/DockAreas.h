@@ -17,10 +17,11 @@ public:
     /// By object name; null where there is none.
     QDockWidget* find(const QString& name) const;
     void close(const QString& name); ///< deletes it
-    void closeAll();
+    void closeAllBut(const QDockWidget* kept);
 
 private:
     QList<QDockWidget*> docksIn(Qt::DockWidgetArea area) const;
+    void remove(QDockWidget& dock);
     void keepTabTitles();
     void setWidths(const QList<QDockWidget*>& docks, const QList<int>& widths);
 

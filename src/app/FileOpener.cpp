@@ -34,15 +34,12 @@ bool FileOpener::isLoading() const {
 }
 
 bool FileOpener::canOpen(const QString& path, const QString& extension) const {
-    if (!isDictionary(extension)) {
-        showError(tr("Archivo no válido"));
-        return false;
-    }
-    if (!QFileInfo(path).isFile()) {
-        showError(tr("The file %1 was not found.").arg(QDir::toNativeSeparators(path)));
-        return false;
-    }
-    return true;
+    const bool known = isDictionary(extension);
+    if (known && QFileInfo(path).isFile())
+        return true;
+    showError(known ? tr("The file %1 was not found.").arg(QDir::toNativeSeparators(path))
+                    : tr("Archivo no válido"));
+    return false;
 }
 
 void FileOpener::openFile(const QString& path, const QString& extension) {
@@ -59,6 +56,11 @@ void FileOpener::openFile(const QString& path, const QString& extension) {
 }
 
 void FileOpener::openRecent(const QString& path) {
+    if (!QFileInfo::exists(path)) {
+        system_.removeRecentDictionary(path);
+        system_.removeRecentProject(path);
+        emit recentGone();
+    }
     openFile(path, QFileInfo(path).suffix());
 }
 
@@ -98,6 +100,11 @@ void FileOpener::onLoaded(bool found) {
 
 bool FileOpener::closeDictionary() {
     return dictionary_ == nullptr || dictionary_->close();
+}
+
+void FileOpener::letGo() {
+    if (dictionary_ != nullptr)
+        dictionary_->letGo();
 }
 
 bool FileOpener::endLoading() {

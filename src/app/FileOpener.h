@@ -29,6 +29,8 @@ public:
     /// Ends a load that runs; false where an open question must go first.
     bool endLoading();
     bool isLoading() const;
+    /// The program ends: from now on the docks close without a question.
+    void letGo();
     /// Null where none is open.
     TfrmDictionary* dictionary() const { return dictionary_; }
 
@@ -37,6 +39,7 @@ signals:
     void opened(QString path, bool found); ///< found: all the files of its data
     void failed();                         ///< nothing is open now
     void closed();
+    void recentGone(); ///< a file of the recent ones is not there any more
     void dirtyChanged(bool dirty);
     void quickViewVariable(TKpVariable* variable);
     void quickViewEntity(TKpEntity* entity);

@@ -30,6 +30,8 @@
 #include <QRegularExpression>
 #include <QStatusBar>
 
+#include <utility>
+
 namespace {
 
 MainWindow* theWindow = nullptr;
@@ -49,7 +51,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), system_(KelSystem
     theWindow = this;
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QStringLiteral("KelXProcess"));
-    resize(1100, 700);
+    resize(800, 600);
     logMessage(QStringLiteral("Defining the work Area"), true);
     setupWorkArea();
     logMessage(QStringLiteral("Getting the current Languague"), true);
@@ -60,6 +62,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), system_(KelSystem
     logMessage(QStringLiteral("Setup the toolbar"), true);
     setupToolbar();
     logMessage(QStringLiteral("Setup InfoProperties"), true);
+    setupInfoProperties();
     logMessage(QStringLiteral("Setup the StatusBar"), true);
     status_ = std::make_unique<StatusLine>(statusBar());
     showNothingOpen();
@@ -84,7 +87,7 @@ void MainWindow::setupWorkArea() {
 }
 
 void MainWindow::setupToolbar() {
-    ribbon_ = new RibbonHost(*this, *workArea_, system_);
+    ribbon_ = new RibbonHost(*this, *workArea_, system_, [this] { return ribbonState(); });
     connect(startPage_, &StartPage::openRequested, ribbon_, &RibbonHost::chooseDictionary);
     connect(this, &MainWindow::signalDictIsDirty, ribbon_, &RibbonHost::setDirty);
     connect(this, &MainWindow::windowTitleChanged, this, &MainWindow::handle_window_title_change);
@@ -96,7 +99,15 @@ void MainWindow::setupToolbar() {
     connect(ribbon_, &RibbonHost::locateDictionary, this, &MainWindow::locateFiles);
     connect(ribbon_, &RibbonHost::closeAllDictionary, this, &MainWindow::on_closeAllDictionary);
     connect(ribbon_, &RibbonHost::preferences, this, &MainWindow::onClickInPreferences);
-    rebuildToolbars();
+}
+
+void MainWindow::setupInfoProperties() {
+    infoProperties_ = new InfoProperties(this);
+    infoProperties_->setObjectName(quickViewName);
+    addDockRight(infoProperties_);
+    infoProperties_->hide();
+    connect(infoProperties_, &InfoProperties::closeEventCall, this,
+            &MainWindow::onCloseInfoAppProperties);
 }
 
 void MainWindow::connectOpener() {
@@ -108,7 +119,11 @@ void MainWindow::connectOpener() {
         if (closeAfterLoading_)
             QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
     });
-    connect(opener_, &FileOpener::began, this, &MainWindow::rebuildToolbars);
+    connect(opener_, &FileOpener::began, this, [this] {
+        startPage_->setEnabled(false);
+        rebuildToolbars();
+    });
+    connect(opener_, &FileOpener::recentGone, this, &MainWindow::onRecentChanged);
     connect(opener_, &FileOpener::dirtyChanged, this, &MainWindow::on_dictIsDirtyReceived);
     connect(opener_, &FileOpener::quickViewVariable, this, &MainWindow::onQuickViewVariable);
     connect(opener_, &FileOpener::quickViewEntity, this, &MainWindow::onQuickViewEntity);
@@ -116,6 +131,10 @@ void MainWindow::connectOpener() {
 
 bool MainWindow::isLoading() const {
     return opener_->isLoading();
+}
+
+bool MainWindow::isBusy() const {
+    return isLoading() || running_ || QApplication::activeModalWidget() != nullptr;
 }
 
 void MainWindow::showStatus(const QString& text, bool busy) {
@@ -151,13 +170,17 @@ bool MainWindow::hasWindows() const {
 }
 
 void MainWindow::rebuildToolbars() {
+    ribbon_->rebuild();
+}
+
+RibbonHost::State MainWindow::ribbonState() const {
     RibbonHost::State state;
     state.loading = isLoading();
     state.dictionaryOpen = !state.loading && TfrmProject::instance().isOpen();
     state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
                             opener_->dictionary()->isDirty();
     state.recentDictionaries = mainController_->recentDictionaries();
-    ribbon_->rebuild(state);
+    return state;
 }
 
 void MainWindow::openFile(const QString& path, const QString& extension) {
@@ -204,20 +227,31 @@ void MainWindow::onOpened(const QString& path, bool found) {
     const QString name = QString::fromStdString(project.dictionary()->name());
     startPage_->showDictionary(label.isEmpty() ? name : label, path, *project.root());
     rebuildToolbars();
+    startPage_->setEnabled(true);
     ribbon_->select(found ? ribbon::FilePage : ribbon::DictionaryPage);
 }
 
 void MainWindow::closeAll() {
-    docks_->closeAll();
+    docks_->closeAllBut(infoProperties_);
+    infoProperties_->hide();
+    infoProperties_->clear();
     workArea_->closeAllSubWindows();
-    resultsManager_ = nullptr;
+    if (ResultsManager* gone = std::exchange(resultsManager_, nullptr))
+        gone->deleteLater();
     showNothingOpen();
     ribbon_->select(ribbon::ProjectPage);
 }
 
 void MainWindow::showNothingOpen() {
     status_->showOpenFile(QString(), QString());
+    startPage_->setEnabled(true);
     startPage_->showRecent(mainController_->recentDictionaries());
+    rebuildToolbars();
+}
+
+void MainWindow::onRecentChanged() {
+    if (!TfrmProject::instance().isOpen())
+        startPage_->showRecent(mainController_->recentDictionaries());
     rebuildToolbars();
 }
 
@@ -253,11 +287,13 @@ void MainWindow::on_dictIsSaved() {
 
 void MainWindow::runProgram(const QString& program) {
     TfrmProject& project = TfrmProject::instance();
-    if (!project.isOpen() || isLoading())
+    if (!project.isOpen() || isLoading() || running_)
         return;
     showStatus(tr("Processing"), true);
     statusBar()->repaint();
+    running_ = true;
     const ProgramRun run = ::runProgram(project.dictionary(), program);
+    running_ = false;
     if (!run.succeeded) {
         showStatus(tr("Execution Failed"), false);
         showError((run.messages + QStringList(run.failure)).join('\n'));
@@ -272,7 +308,8 @@ void MainWindow::runProgram(const QString& program) {
 }
 
 void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
-                             std::shared_ptr<TKelSession> /*session*/, const QString& programText) {
+                             const std::shared_ptr<TKelSession>& /*session*/,
+                             const QString& programText) {
     if (resultsManager_ == nullptr)
         resultsManager_ = new ResultsManager(this);
     if (!resultsManager_->addOutputs(outputs))
@@ -319,15 +356,9 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event) {
 }
 
 InfoProperties& MainWindow::quickView() {
-    auto* view = qobject_cast<InfoProperties*>(docks_->find(quickViewName));
-    if (view == nullptr) {
-        view = new InfoProperties(this);
-        view->setObjectName(quickViewName);
-        addDockRight(view);
-    }
-    view->show();
-    view->raise();
-    return *view;
+    infoProperties_->show();
+    infoProperties_->raise();
+    return *infoProperties_;
 }
 
 void MainWindow::onQuickViewVariable(TKpVariable* variable) {
@@ -341,7 +372,7 @@ void MainWindow::onQuickViewEntity(TKpEntity* entity) {
 }
 
 void MainWindow::onCloseInfoAppProperties() {
-    closeDock(quickViewName);
+    infoProperties_->hide();
 }
 
 void MainWindow::handle_window_title_change(const QString& /*title*/) {
@@ -354,6 +385,8 @@ void MainWindow::onClickInPreferences() {
         return;
     }
     auto* preferences = new ConfigDialog(system_, tt::StyleNames());
+    preferences->setWindowIcon(
+        QIcon(QStringLiteral(":/icons/res/icons/48px-General-preferences.png")));
     connectPreferences(*preferences);
     QMdiSubWindow* frame = workArea_->addWindow(preferences);
     frame->setObjectName(preferencesName);
@@ -362,8 +395,8 @@ void MainWindow::onClickInPreferences() {
 
 void MainWindow::connectPreferences(ConfigDialog& preferences) {
     connect(&preferences, &ConfigDialog::menuColorChanged, this, &MainWindow::rebuildToolbars);
-    connect(&preferences, &ConfigDialog::settingsReset, this, &MainWindow::rebuildToolbars);
-    connect(&preferences, &ConfigDialog::maxLastFilesChanged, this, &MainWindow::rebuildToolbars);
+    connect(&preferences, &ConfigDialog::settingsReset, this, &MainWindow::onRecentChanged);
+    connect(&preferences, &ConfigDialog::maxLastFilesChanged, this, &MainWindow::onRecentChanged);
 }
 
 bool MainWindow::askSaveDictionary() {
@@ -379,6 +412,7 @@ bool MainWindow::endRun() {
         UIInvoker::instance().refuseQuestions(); // nobody is left to answer them
     if (!opener_->endLoading()) {
         closeAfterLoading_ = true;
+        hide();
         return false;
     }
     showStatus(QString(), false);
@@ -400,6 +434,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         engineEnded_ = true;
         if (opener_->dictionary() != nullptr)
             opener_->dictionary()->saveWindowSizes();
+        opener_->letGo();
         closeAll();
         TfrmProject::instance().close();
         kel::destroy();
@@ -414,6 +449,8 @@ void MainWindow::changeEvent(QEvent* event) {
 }
 
 void MainWindow::changeLanguage() {
+    if (std::exchange(language_, system_.language()) == system_.language())
+        return;
     statusBar()->clearMessage();
     status_->retranslate();
     const QString title = windowTitle();

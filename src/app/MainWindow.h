@@ -5,6 +5,7 @@
 
 #include "app/DockAreas.h"
 #include "app/MainController.h"
+#include "app/RibbonHost.h"
 #include "app/StatusLine.h"
 #include "app/shell/Shell.h"
 
@@ -19,7 +20,6 @@ class InfoProperties;
 class KelSystem;
 class QMdiSubWindow;
 class ResultsManager;
-class RibbonHost;
 class StartPage;
 class TKelOutput;
 class TKelSession;
@@ -54,9 +54,10 @@ public:
     /// Reopens the last file where the settings ask for it.
     void loadLastOpened();
     bool isLoading() const;
+    bool isBusy() const; ///< loading, running a program, or asking the user something
     /// Hands the outputs of a run to the window of results, which comes to the front.
-    void showResults(const std::vector<TKelOutput*>& outputs, std::shared_ptr<TKelSession> session,
-                     const QString& programText);
+    void showResults(const std::vector<TKelOutput*>& outputs,
+                     const std::shared_ptr<TKelSession>& session, const QString& programText);
     /// The whole ribbon anew, on the page that was shown.
     void rebuildToolbars();
 
@@ -96,6 +97,9 @@ protected:
 private:
     void setupWorkArea();
     void setupToolbar();
+    void setupInfoProperties();
+    RibbonHost::State ribbonState() const;
+    void onRecentChanged();
     void connectOpener();
     void onOpened(const QString& path, bool found);
     void closeAll();
@@ -114,8 +118,10 @@ private:
     StartPage* startPage_ = nullptr;
     RibbonHost* ribbon_ = nullptr;
     FileOpener* opener_ = nullptr;
+    InfoProperties* infoProperties_ = nullptr; ///< hidden rather than deleted
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
     QString language_;
     bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
+    bool running_ = false;
     bool engineEnded_ = false;
 };

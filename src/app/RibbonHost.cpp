@@ -12,6 +12,9 @@
 #include <QAction>
 #include <QIcon>
 #include <QMainWindow>
+#include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -20,15 +23,17 @@ constexpr int ribbonRows = 3;
 
 } // namespace
 
-RibbonHost::RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system)
+RibbonHost::RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system,
+                       std::function<State()> state)
     : QObject(&window), window_(window), workArea_(workArea), system_(system),
-      modeAction_(makeCornerAction(QStringLiteral("modeAction"))),
+      state_(std::move(state)), modeAction_(makeCornerAction(QStringLiteral("modeAction"))),
       preferencesAction_(makeCornerAction(QStringLiteral("preferencesAction"))) {
     modeAction_->setText(QStringLiteral("M"));
     preferencesAction_->setIcon(
         QIcon(QStringLiteral(":/icons/res/icons/48px-General-preferences.png")));
     connect(modeAction_, &QAction::triggered, &workArea_, &WorkArea::toggleTabs);
     connect(preferencesAction_, &QAction::triggered, this, &RibbonHost::preferences);
+    build();
 }
 
 QAction* RibbonHost::makeCornerAction(const QString& name) {
@@ -37,7 +42,17 @@ QAction* RibbonHost::makeCornerAction(const QString& name) {
     return action;
 }
 
-void RibbonHost::rebuild(const State& state) {
+void RibbonHost::rebuild() {
+    if (std::exchange(rebuilding_, true))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        rebuilding_ = false;
+        build();
+    });
+}
+
+void RibbonHost::build() {
+    const State state = state_();
     tt::TabToolbar* before = toolbar_;
     const int page = before != nullptr ? before->CurrentTab() : ribbon::ProjectPage;
     const bool minimized = before != nullptr && before->IsMinimized();
@@ -94,7 +109,7 @@ void RibbonHost::retitle() {
 }
 
 void RibbonHost::chooseDictionary() {
-    if (pages_)
+    if (pages_ && !state_().loading)
         pages_->dictionary()->on_readingDictionary();
 }
 

@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
+
 class KelSystem;
 class QAction;
 class QMainWindow;
@@ -30,10 +32,13 @@ public:
         QStringList recentDictionaries;
     };
 
-    RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system);
+    /// state: asked whenever the ribbon is built.
+    RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system,
+               std::function<State()> state);
 
-    /// Builds the ribbon on the page that was shown, minimised if it was.
-    void rebuild(const State& state);
+    /// Builds the ribbon anew, on the page that is shown, minimised if it is: with the next events,
+    /// and once however often it was asked for.
+    void rebuild();
     void select(ribbon::PageIndex page);
     void setDirty(bool dirty);
     void retitle();
@@ -51,6 +56,7 @@ signals:
     void preferences();
 
 private:
+    void build();
     void connectPages();
     QAction* makeCornerAction(const QString& name);
     void makeCornerActions();
@@ -59,6 +65,8 @@ private:
     QMainWindow& window_;
     WorkArea& workArea_;
     KelSystem& system_;
+    std::function<State()> state_;
+    bool rebuilding_ = false; ///< asked for
     QPointer<tt::TabToolbar> toolbar_;
     QPointer<RibbonPages> pages_;
     QAction* modeAction_;

@@ -163,6 +163,12 @@ void StartPage::showDictionary(const QString& title, const QString& path, TKpEnt
     overview_->show();
 }
 
+/// Where there is room for the figures only, the labels go first.
+void StartPage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    entities_->setColumnHidden(1, width() < 56 * fontMetrics().averageCharWidth());
+}
+
 void StartPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange)
         retranslate();

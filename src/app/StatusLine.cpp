@@ -14,6 +14,7 @@ constexpr int messageTime = 2000; ///< milliseconds
 
 StatusLine::StatusLine(QStatusBar* bar)
     : bar_(bar), openFile_(new QLabel), progress_(new QProgressBar) {
+    bar->setObjectName(QStringLiteral("statusbar"));
     openFile_->setObjectName(QStringLiteral("dictionaryLabel"));
     openFile_->setTextFormat(Qt::PlainText);
     openFile_->setMargin(2);

@@ -33,6 +33,7 @@ void WorkArea::childEvent(QChildEvent* event) {
 QMdiSubWindow* WorkArea::addWindow(QWidget* content) {
     QMdiSubWindow* window = addSubWindow(content);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowIcon(content->windowIcon());
     window->installEventFilter(this);
     window->show();
     updateEmptyPage();

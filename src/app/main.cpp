@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     window.loadLastOpened();
     logMessage(QStringLiteral("Checking for new updates"), false);
     QUpdater updater;
-    updater.setBusyTest([&window] { return window.isLoading(); });
+    updater.setBusyTest([&window] { return window.isBusy(); });
     updater.start();
     logMessage(QStringLiteral("Kelvora X is now running"), false);
     return QApplication::exec();

@@ -39,6 +39,12 @@ QString entityToBeginWith(TKpEntity* root) {
     return found != entities.end() ? (*found)->name : root->name;
 }
 
+/// Of the mirror as it is now; null where there is none of that name.
+TKpEntity* entityNamed(const QString& name) {
+    TKpEntity* found = DictionaryUtil().findEntity(TfrmProject::instance().root(), name);
+    return found != nullptr && found->name == name ? found : nullptr;
+}
+
 } // namespace
 
 TfrmDictionary::TfrmDictionary(Shell& shell, KelSystem& system, QObject* parent)
@@ -125,7 +131,8 @@ void TfrmDictionary::connectTree() {
     connect(treeView_, &KelTreeView::selectedEntity, this,
             &TfrmDictionary::on_selectedEntityKelTreeView);
     connect(treeView_, &KelTreeView::entityDoubleClicked, this, [this](TKpEntity* entity) {
-        if (shell_.dockExists(properties_->entityDockName()))
+        const QDockWidget* dock = shell_.dock(properties_->entityDockName());
+        if (dock != nullptr && dock->isVisible()) // not closed, and not behind another tab
             showProperties(entity);
         else
             emit quickViewEntity(entity);
@@ -181,7 +188,9 @@ void TfrmDictionary::on_selectedEntityKelTreeView(TKpEntity* entity) {
     if (!variablesDock_)
         makeVariablesDock();
     const bool first = currentEntity_.isEmpty();
-    if (!properties_->showEntity(entity)) {
+    // Edits of a variable of the entity before are asked about here, not out of their context.
+    const bool settled = entity->name == currentEntity_ || properties_->settlePending();
+    if (!settled || !properties_->showEntity(entity)) {
         treeView_->selectEntity(currentEntity_); // its unsaved edits need mending
         return;
     }
@@ -201,9 +210,8 @@ void TfrmDictionary::on_selectedVariableTableView(TKpVariable* variable) {
 }
 
 void TfrmDictionary::showProperties(TKpVariable* variable) {
-    if (variable == nullptr)
+    if (variable == nullptr || !properties_->showVariable(variable))
         return;
-    properties_->showVariable(variable);
     if (QDockWidget* dock = shell_.dock(properties_->variableDockName())) {
         dock->show();
         dock->raise();
@@ -211,9 +219,8 @@ void TfrmDictionary::showProperties(TKpVariable* variable) {
 }
 
 void TfrmDictionary::showProperties(TKpEntity* entity) {
-    if (entity == nullptr)
+    if (entity == nullptr || !properties_->showEntity(entity))
         return;
-    properties_->showEntity(entity);
     if (QDockWidget* dock = shell_.dock(properties_->entityDockName())) {
         dock->show();
         dock->raise();
@@ -224,6 +231,8 @@ void TfrmDictionary::on_tableVariablesInfoChange(bool changed) {
     if (!changed)
         return;
     setDirty(true);
+    if (const TKpVariable* variable = variablesPane_->table()->currentVariable())
+        currentVariable_ = variable->name;                  // it may have been renamed
     properties_->setRoot(TfrmProject::instance().mirror()); // shows the edited cell too
 }
 
@@ -231,8 +240,9 @@ void TfrmDictionary::on_varchanged(bool changed) {
     if (!changed)
         return;
     setDirty(true);
-    if (variablesPane_)
-        variablesPane_->setEntity(TfrmProject::instance().mirror(), treeView_->currentEntity());
+    TKpEntity* entity = entityNamed(currentEntity_);
+    if (variablesPane_ && entity != nullptr)
+        variablesPane_->setEntity(TfrmProject::instance().mirror(), entity);
 }
 
 void TfrmDictionary::on_entchanged(bool changed) {

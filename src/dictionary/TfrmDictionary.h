@@ -42,6 +42,8 @@ public:
     bool confirmClose();
     /// Closes the dictionary unless the user stays; then emits closed().
     bool close();
+    /// From now on its docks close without a question: the program ends.
+    void letGo() { closing_ = true; }
     void saveWindowSizes();
     /// A run has saved variables: shows them too.
     void reloadAfterRun();

@@ -62,10 +62,10 @@ private slots:
         window.show();
         window.openFile(folder.filePath("small.kxdb"), "kxdb");
         QVERIFY(window.isLoading());
-        window.close(); // before the thread's question can be asked
+        window.close();               // before the thread's question can be asked
+        QVERIFY(!window.isVisible()); // at once, the rest follows
         QTRY_COMPARE(destroyCalls(), before + 1);
         QVERIFY(!window.isLoading());
-        QVERIFY(!window.isVisible());
         QVERIFY(!TfrmProject::instance().isOpen());
     }
 };

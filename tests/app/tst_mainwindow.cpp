@@ -352,14 +352,40 @@ private slots:
         QFETCH(QString, column);
         bench_->openSmall();
         ribbon().SetCurrentTab(2);
-        QVERIFY(KelSystem::instance().installTranslator(language));
-        QCoreApplication::processEvents();
-        const auto* tabs = ribbon().findChild<QTabWidget*>();
-        QCOMPARE(tabs->tabText(2).trimmed(), page);
-        QCOMPARE(tabs->currentIndex(), 2);
+        bench_->window().onClickInPreferences();
+        auto* choice = bench_->find<QComboBox>("cbLanguage");
+        choice->setCurrentIndex(choice->findData(language));
+        const auto shown = [this] { return ribbon().findChild<QTabWidget*>()->tabText(2); };
+        QTRY_COMPARE(shown().trimmed(), page);
+        QCOMPARE(ribbon().CurrentTab(), 2);
+        QVariant stored;
+        KelSystem::instance().readValue(stored, "language", "kelSystem", "");
+        QCOMPARE(stored.toString(), language);
         const auto* table = bench_->find<QTableView>("variableTable");
         QCOMPARE(table->model()->headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(), column);
         QCOMPARE(bench_->window().windowTitle(), "KelXProcess 67f53c7a");
+    }
+
+    void vanishedRecentFileIsToldAndForgotten() {
+        area().closeAllSubWindows();
+        const QString gone = bench_->folder() + "/gone.kxdb";
+        KelSystem::instance().addRecentDictionary(gone);
+        bench_->window().on_openRecentDictionary(gone);
+        QCOMPARE(bench_->messages.size(), 1);
+        QVERIFY(bench_->messages[0].contains("gone.kxdb"));
+        QVERIFY(!KelSystem::instance().recentDictionaries().contains(gone));
+        QVERIFY(TfrmProject::instance().isOpen()); // what was open stays
+    }
+
+    void closedDictionaryLeavesNoResultsBehind() {
+        runSex();
+        area().closeAllSubWindows();
+        bench_->window().on_closeAllDictionary();
+        QVERIFY(!TfrmProject::instance().isOpen());
+        QTRY_VERIFY(bench_->find<QWidget>("ResultsManager") == nullptr);
+        QTRY_COMPARE(leftDocks(), QStringList());
+        QVERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
+        QCOMPARE(ribbon().CurrentTab(), 0);
     }
 
     // The last one: the engine ends with it.

@@ -3,7 +3,6 @@
 
 #include "app/MainWindow.h"
 #include "app/dialogs/KelvoraFileDialog.h"
-#include "app/ribbon/tt/Style.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
 #include "dictionary/loading/LocatePaths.h"
@@ -14,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QDockWidget>
@@ -203,7 +203,9 @@ void Tour::preferences() {
 
 void Tour::languages() {
     for (const QString language : {"es", "pt", "fr", "en"}) {
-        require(KelSystem::instance().installTranslator("Process_" + language),
+        auto* choice = find<QComboBox>(window_, "cbLanguage");
+        choice->setCurrentIndex(choice->findData("Process_" + language));
+        require(KelSystem::instance().language() == "Process_" + language,
                 QStringLiteral("no translation for %1").arg(language));
         shoot(QStringLiteral("language-") + language);
         if (language != QLatin1String("en"))
@@ -212,17 +214,14 @@ void Tour::languages() {
 }
 
 void Tour::styles() {
-    const int before = KelSystem::instance().menuColor();
-    for (int style = 0; style < tt::StyleNames().size(); ++style) {
-        KelSystem::instance().setMenuColor(style);
-        window_.rebuildToolbars();
+    auto* choice = find<QComboBox>(window_, "cbMenuColors");
+    for (int style = choice->count() - 1; style >= 0; --style) {
+        choice->setCurrentIndex(style);
         window_.resize(smallScreen);
         shoot(QStringLiteral("style-%1").arg(style + 1));
         window_.resize(largeScreen);
         shoot(QStringLiteral("style-%1-large").arg(style + 1));
     }
-    KelSystem::instance().setMenuColor(before);
-    window_.rebuildToolbars();
 }
 
 void Tour::save(const QPixmap& picture, const QString& name) {

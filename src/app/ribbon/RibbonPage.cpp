@@ -17,7 +17,6 @@ QAction* RibbonPage::make(const char* name, const QString& text, const QString& 
     action->setShortcut(shortcut);
     const QString keys = shortcut.toString(QKeySequence::NativeText);
     action->setToolTip(keys.isEmpty() ? toolTip : toolTip + " (" + keys + ')');
-    action->setStatusTip(toolTip);
     return action;
 }
 
