@@ -252,6 +252,10 @@
         <source>Please, you must open a dictionary beforehand</source>
         <translation>Please, you must open a dictionary beforehand</translation>
     </message>
+    <message>
+        <source>KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)</source>
+        <translation>KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>

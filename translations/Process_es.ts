@@ -252,6 +252,10 @@
         <source>Please, you must open a dictionary beforehand</source>
         <translation>Primero debe abrir un diccionario</translation>
     </message>
+    <message>
+        <source>KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)</source>
+        <translation>Diccionario KelX (*.kxdb);;Diccionario Kel7 (*.dicx)</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>

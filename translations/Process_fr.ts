@@ -252,6 +252,10 @@
         <source>Please, you must open a dictionary beforehand</source>
         <translation>Veuillez d’abord ouvrir un dictionnaire</translation>
     </message>
+    <message>
+        <source>KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)</source>
+        <translation>Dictionnaire KelX (*.kxdb);;Dictionnaire Kel7 (*.dicx)</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>

@@ -252,6 +252,10 @@
         <source>Please, you must open a dictionary beforehand</source>
         <translation>É necessário abrir antes um dicionário</translation>
     </message>
+    <message>
+        <source>KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)</source>
+        <translation>Dicionário KelX (*.kxdb);;Dicionário Kel7 (*.dicx)</translation>
+    </message>
 </context>
 <context>
     <name>DictionaryTreeModel</name>

@@ -4,24 +4,42 @@
 #include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
+#include <QProgressDialog>
 #include <QStatusBar>
+
+#include <limits>
 
 namespace {
 
 constexpr int messageTime = 2000; ///< milliseconds
 
+/// Without a parent until the status bar takes it, or else it floats as a window; it never shows,
+/// hides or resets by itself.
+QProgressDialog* makeProgress(const QFontMetrics& metrics) {
+    auto* progress = new QProgressDialog;
+    progress->setObjectName(QStringLiteral("progress"));
+    progress->setLabelText(QString());
+    progress->setCancelButton(nullptr);
+    progress->setAutoClose(false);
+    progress->setAutoReset(false);
+    progress->setMinimumDuration(std::numeric_limits<int>::max());
+    progress->setFocusPolicy(Qt::NoFocus);
+    auto* bar = new QProgressBar;
+    bar->setTextVisible(false);
+    progress->setBar(bar);
+    progress->setRange(0, 100);
+    progress->setFixedSize(18 * metrics.averageCharWidth(), metrics.height());
+    return progress;
+}
+
 } // namespace
 
 StatusLine::StatusLine(QStatusBar* bar)
-    : bar_(bar), openFile_(new QLabel), progress_(new QProgressBar) {
+    : bar_(bar), openFile_(new QLabel), progress_(makeProgress(bar->fontMetrics())) {
     bar->setObjectName(QStringLiteral("statusbar"));
     openFile_->setObjectName(QStringLiteral("dictionaryLabel"));
     openFile_->setTextFormat(Qt::PlainText);
     openFile_->setMargin(2);
-    progress_->setObjectName(QStringLiteral("progress"));
-    progress_->setTextVisible(false);
-    progress_->setRange(0, 100);
-    progress_->setFixedWidth(18 * bar->fontMetrics().averageCharWidth());
     bar_->addPermanentWidget(openFile_);
     bar_->addPermanentWidget(progress_);
     progress_->hide();

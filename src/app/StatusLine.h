@@ -5,7 +5,7 @@
 #include <QString>
 
 class QLabel;
-class QProgressBar;
+class QProgressDialog;
 class QStatusBar;
 
 class StatusLine {
@@ -22,6 +22,6 @@ public:
 private:
     QStatusBar* bar_;
     QLabel* openFile_;
-    QProgressBar* progress_;
+    QProgressDialog* progress_;
     bool busy_ = false;
 };

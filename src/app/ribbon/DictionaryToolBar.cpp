@@ -57,8 +57,7 @@ void DictionaryToolBar::on_readingDictionary() {
     QString path;
     try {
         const KelvoraFileDialog dialog(QStringLiteral("DICTIONARY"), {}, tr("Open Dictionary"));
-        path =
-            dialog.openFile(QStringLiteral("KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)"));
+        path = dialog.openFile(tr("KelX Dictionary (*.kxdb);;Kel7 Dictionary (*.dicx)"));
     } catch (const std::exception& fault) {
         showError(tr("Error %s sending event").replace(QLatin1String("%s"), fault.what()));
     }
