@@ -47,6 +47,8 @@ def main():
     def stamp_of(entry):
         made = re.search(r" -o (\S+)", entry["command"]).group(1)
         digest = hashlib.sha256(common + entry["command"].encode())
+        if pathlib.Path(entry["file"]).is_relative_to(top / "src"):
+            digest.update((top / "src/.clang-tidy").read_bytes())
         for path in [pathlib.Path(entry["file"]), *headers.get(made, [])]:
             digest.update(path.read_bytes())
         return cache / digest.hexdigest()

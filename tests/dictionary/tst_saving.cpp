@@ -302,7 +302,7 @@ private slots:
         DictionaryEdit::setLabel(*variable("PERSON.AGE"), "Edad");
         const QByteArray before = contentOf(path(name));
         const QString there = path("none/there.") + name.section('.', -1);
-        QVERIFY_EXCEPTION_THROWN(DictionarySaver(project()).saveAs(there), std::exception);
+        QVERIFY_THROWS_EXCEPTION(std::exception, DictionarySaver(project()).saveAs(there));
         QVERIFY_EXCEPTION_THROWN(saveDictionaryFile(project().dictionaryKind(), there, project()),
                                  std::exception);
         QVERIFY(project().dictionary()->isDirty());

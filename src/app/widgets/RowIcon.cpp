@@ -22,12 +22,8 @@ public:
                          qreal scale) override {
         const bool selected = mode == QIcon::Selected;
         QPixmap result = plain_.pixmap(size / scale, scale, selected ? QIcon::Normal : mode, state);
-        if (selected && !result.isNull()) {
-            QPainter painter(&result);
-            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            painter.fillRect(QRectF(QPointF(), result.deviceIndependentSize()),
-                             QGuiApplication::palette().highlightedText());
-        }
+        if (!result.isNull())
+            suit(result, selected);
         return result;
     }
 
@@ -49,6 +45,20 @@ public:
     QIconEngine* clone() const override { return new RowIconEngine(plain_); }
 
 private:
+    static void suit(QPixmap& picture, bool selected) {
+        const QPalette palette = QGuiApplication::palette();
+        const QRectF all(QPointF(), picture.deviceIndependentSize());
+        QPainter painter(&picture);
+        if (selected) {
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(all, palette.highlightedText());
+        } else if (palette.base().color().lightness() < 128) {
+            painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+            painter.fillRect(all,
+                             QColor(255, 255, 255, 90)); // small and thin, they need more light
+        }
+    }
+
     QIcon plain_;
 };
 

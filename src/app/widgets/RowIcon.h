@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Icons in the rows of a view: in a selected row, where their own colours would vanish in the
-// background, they take the colour of the text.
+// background, they take the colour of the text; on a dark background they are lighter.
 #pragma once
 
 #include <QIcon>

@@ -122,7 +122,8 @@ void TfrmProperties::rebindVariable() {
         variableDock_->rebind(root_, found);
         return;
     }
-    const QString lost = variableDock_->isModified() && root_ ? shown->fullName : QString();
+    const QString lost =
+        shown != nullptr && variableDock_->isModified() && root_ ? shown->fullName : QString();
     variableDock_->setVariable(root_, nullptr);
     if (!lost.isEmpty())
         showWarning(tr("The variable %1 is not in the dictionary any more. Your changes of it were "
