@@ -303,8 +303,8 @@ private slots:
         const QByteArray before = contentOf(path(name));
         const QString there = path("none/there.") + name.section('.', -1);
         QVERIFY_THROWS_EXCEPTION(std::exception, DictionarySaver(project()).saveAs(there));
-        QVERIFY_EXCEPTION_THROWN(saveDictionaryFile(project().dictionaryKind(), there, project()),
-                                 std::exception);
+        QVERIFY_THROWS_EXCEPTION(std::exception,
+                                 saveDictionaryFile(project().dictionaryKind(), there, project()));
         QVERIFY(project().dictionary()->isDirty());
         QCOMPARE(contentOf(path(name)), before);
         QCOMPARE(variable("PERSON.AGE")->fileName, "PERSON_AGE.kbf");
