@@ -153,8 +153,9 @@ void DicxReader::readVariable(const pugi::xml_node& node, Entity& entity) {
     const pugi::xml_node choice = node.child("varDicChoice");
     variable.hidden = truth(choice, "hidden");
     variable.local = !trimmedText(choice, "isOriginal").empty() && !truth(choice, "isOriginal");
-    if (variable.notapp == 0.0 && variable.missing == 0.0) {
-        // One code cannot mean both; some writers put 0 for each where there is none.
+    if (trimmedText(node, "notappl") == "0" && trimmedText(node, "missing") == "0") {
+        // Writers that hold whole codes only put 0 for each where there is none; ours write codes
+        // that are both zero with a fraction.
         variable.notapp.reset();
         variable.missing.reset();
     }

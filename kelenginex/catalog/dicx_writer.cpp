@@ -70,6 +70,17 @@ void writeRanges(pugi::xml_node& node, const Variable& variable) {
     }
 }
 
+void writeCodes(pugi::xml_node& node, const Variable& variable) {
+    if (variable.notapp == 0.0 && variable.missing == 0.0) {
+        // Two plain zeros are what others write for no codes.
+        add(node, "notappl", "0.0");
+        add(node, "missing", "0.0");
+        return;
+    }
+    addIf(node, "notappl", variable.notapp);
+    addIf(node, "missing", variable.missing);
+}
+
 void writeLabels(pugi::xml_node node, const Variable& variable) {
     for (const auto& [value, label] : variable.valueLabels) {
         pugi::xml_node child = node.append_child("valueLabelElement");
@@ -99,8 +110,7 @@ void writeVariable(pugi::xml_node node, const Variable& variable) {
     }
     add(node, "fieldSize", std::to_string(variable.size));
     writeRanges(node, variable);
-    addIf(node, "notappl", variable.notapp);
-    addIf(node, "missing", variable.missing);
+    writeCodes(node, variable);
     addIf(node, "decimals", variable.raw ? variable.raw->decimals : variable.decimals);
     addUnlessEmpty(node, "documentation", variable.documentation);
     if (variable.tag >= 0) {

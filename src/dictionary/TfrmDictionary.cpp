@@ -60,6 +60,10 @@ TfrmDictionary::~TfrmDictionary() = default;
 void TfrmDictionary::connectLoader() {
     connect(loader_, &DictionaryLoader::loading, this,
             [this] { shell_.showStatus(tr("Loading..."), true); });
+    connect(loader_, &DictionaryLoader::asking, this,
+            [this] { shell_.showStatus(QString(), false); });
+    connect(loader_, &DictionaryLoader::resumed, this,
+            [this] { shell_.showStatus(tr("Loading..."), true); });
     connect(loader_, &DictionaryLoader::loaded, this, &TfrmDictionary::on_loadData);
     connect(loader_, &DictionaryLoader::invalid, this, [this] { on_finishedValidation(false); });
     connect(loader_, &DictionaryLoader::refused, this, [this] { fail(QString(), QString()); });

@@ -32,6 +32,7 @@ Workbench::Workbench() {
     writeSmallDatabase(folder_.path());
     answerMessages([this](MessageKind kind, const QString& text) {
         messages += text;
+        saidWhileBusy += QApplication::overrideCursor() != nullptr ? 1 : 0;
         return kind == MessageKind::Question && !answers_.isEmpty() ? answers_.takeFirst()
                                                                     : Choice::No;
     });

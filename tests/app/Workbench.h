@@ -29,7 +29,8 @@ public:
     QString folder() const { return folder_.path(); }
     /// What questions are answered with, in turn; No once none is left.
     void answer(std::initializer_list<Choice> answers) { answers_ = answers; }
-    QStringList messages; ///< shown since the test cleared them
+    QStringList messages;  ///< shown since the test cleared them
+    int saidWhileBusy = 0; ///< messages that came under the wait cursor
 
     void activate() const; ///< no window manager does it once a dialog has gone
     void openByKeyboard(const QString& path) const; ///< returns once the load has ended

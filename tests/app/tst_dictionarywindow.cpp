@@ -218,6 +218,20 @@ private slots:
         bench_->window().onHideResults();
     }
 
+    void nothingIsBusyWhileTheUserIsAsked() {
+        closeByDock();
+        QVERIFY(QFile::remove(folder_->filePath("PERSON_AGE.kbf")));
+        bench_->saidWhileBusy = 0;
+        bench_->answer({Choice::No});
+        bench_->openByKeyboard(folder_->filePath("small.dicx"));
+        QTRY_COMPARE(bench_->messages.size(), 2); // the question, and what is missing in the end
+        QVERIFY(bench_->messages[0].contains("PERSON_AGE.kbf"));
+        QVERIFY(TfrmProject::instance().isOpen());
+        QCOMPARE(bench_->saidWhileBusy, 0);
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+        bench_->messages.clear();
+    }
+
     void propertiesFollowTheSelectionAndMarkChanges() {
         bench_->select("PERSON", "SEX");
         QTest::keyClick(&table(), Qt::Key_F8);

@@ -114,9 +114,22 @@ private slots:
             "<entity><name>F</name></entity>" + variable("LATE", "late.kbf") + "</entity></root>";
         QVERIFY(check(document(root))); // F names no file, and is the last
         QCOMPARE(shown_.size(), 3);
-        QVERIFY(shown_[0].startsWith("Variable [A]\nFile [a.kbf]"));
+        QVERIFY(shown_[0].startsWith("Variable [A] (and 1 more)\nFile [a.kbf]"));
         QVERIFY(shown_[1].startsWith("Entity [E]\nFile [e.kpt]"));
         QVERIFY(shown_[2].startsWith("Variable [B]\nFile [b.kbf]"));
+    }
+
+    void sharedFileTellsHowManyItemsLackIt() {
+        QByteArray root = "<root><name>TOP</name>";
+        for (int i = 0; i < 20; ++i)
+            root += variable("V" + QByteArray::number(i), i % 4 == 0 ? "here.kbf" : "lost.kbf") +
+                    variable("W" + QByteArray::number(i), i == 7 ? "own.kbf" : "here.kbf");
+        answers_ = {Choice::No, Choice::No};
+        QVERIFY(check(document(root + "</root>")));
+        QCOMPARE(shown_.size(), 2);
+        QCOMPARE(shown_[0], "Variable [V1] (and 14 more)\nFile [lost.kbf] not found\n"
+                            "Do you want to located?");
+        QVERIFY(shown_[1].startsWith("Variable [W7]\nFile [own.kbf]"));
     }
 
     void oneAnswerCanStandForTheRest() {

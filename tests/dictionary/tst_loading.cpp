@@ -161,6 +161,43 @@ private slots:
         QVERIFY(QFile::rename(path("away"), path("PERSON_AGE.kbf")));
     }
 
+    // While the user is asked nothing is busy; afterwards the load goes on.
+    void questionsStandBetweenTwoSignals_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("none") << ""
+                              << "loading loaded";
+        QTest::newRow("one") << "PERSON_AGE.kbf"
+                             << "loading asking question resumed loaded";
+        QTest::newRow("refused") << "PERSON_INCOME.kbf"
+                                 << "loading asking question error refused";
+    }
+
+    void questionsStandBetweenTwoSignals() {
+        QFETCH(QString, file);
+        QFETCH(QString, expected);
+        if (!file.isEmpty())
+            QVERIFY(QFile::rename(path(file), path("away")));
+        QStringList told;
+        answerMessages([&](MessageKind kind, const QString&) {
+            told += kind == MessageKind::Question ? "question" : "error";
+            return Choice::No;
+        });
+        Load load(schema_);
+        const auto note = [&](auto signal, const char* name) {
+            connect(&load.loader, signal, this, [&told, name] { told += name; });
+        };
+        note(&DictionaryLoader::loading, "loading");
+        note(&DictionaryLoader::asking, "asking");
+        note(&DictionaryLoader::resumed, "resumed");
+        note(&DictionaryLoader::loaded, "loaded");
+        note(&DictionaryLoader::refused, "refused");
+        QVERIFY(load.run(path("small.dicx")));
+        if (!file.isEmpty())
+            QVERIFY(QFile::rename(path("away"), path(file)));
+        QCOMPARE(told.join(' '), expected);
+    }
+
     void lackingFilesEndInOneMessage() {
         QVERIFY(QFile::rename(path("PERSON_INCOME.kbf"), path("away")));
         Load load(schema_);

@@ -95,6 +95,26 @@ private slots:
         QVERIFY(!project().dictionary()->isDirty());
     }
 
+    // A place in a text, or nothing yet: there is no file to look for.
+    void whatNamesNoFileIsNotMissing() {
+        QFile file(path("small.dicx"));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QByteArray xml = file.readAll();
+        xml.insert(xml.indexOf("<variable>"), "<variable><name>BARE</name></variable>");
+        file.seek(0);
+        file.write(xml);
+        file.close();
+        const LoadedDictionary open = reloadDictionary(path("small.dicx"), DictionaryKind::Dicx);
+        const auto& variables = project().root()->children[0]->variables;
+        QCOMPARE(variables[0]->name, "BARE");
+        QCOMPARE(open.missing, QStringList());
+        QVERIFY(project().allPathsFound());
+        QVERIFY(!locate());
+        QCOMPARE(shown_, QStringList("No errors found in the database"));
+        QVERIFY(QFile::remove(path("PERSON_AGE.kbf")));
+        QCOMPARE(rebuildMirror().missing, QStringList("PERSON.AGE"));
+    }
+
     void oneFileBringsItsNeighbours() {
         moveAway({"DISTRICT.kpt", "PERSON_AGE.kbf", "PERSON_SEX.kbf"});
         const LoadedDictionary open = reloadDictionary(path("small.kxdb"), DictionaryKind::Kxdb);
@@ -105,6 +125,9 @@ private slots:
             QCOMPARE(line(dialog, "missingFile")->text(), "DISTRICT.kpt");
             QCOMPARE(line(dialog, "missingPath")->text(), path("DISTRICT.kpt"));
             QVERIFY(!button(dialog, "relocate")->isEnabled());
+            const QSize size(48, 48); // the program's own picture, not the platform's
+            QCOMPARE(button(dialog, "browse")->icon().pixmap(size).toImage(),
+                     QIcon(":/icons/res/icons/48px-Dictionary-open.png").pixmap(size).toImage());
             KelvoraFileDialog::answerNext(path("moved/DISTRICT.kpt"));
             click(dialog, "browse");
             QCOMPARE(line(dialog, "newPath")->text(), path("moved/DISTRICT.kpt"));

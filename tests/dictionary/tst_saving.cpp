@@ -95,6 +95,15 @@ class TestSaving : public QObject {
         file.write(content);
     }
 
+    /// Writes the small database with these variables before those of PERSON.
+    void addToPerson(const QString& name, const QByteArray& variables) const {
+        open("small.kxdb");
+        DictionaryUtil().writeDicx(path(name), *project().dictionary(), *project().root());
+        QByteArray xml = contentOf(path(name));
+        xml.insert(xml.indexOf("<variable>", xml.indexOf("<name>PERSON</name>")), variables);
+        write(name, xml);
+    }
+
 private slots:
     void initTestCase() { kel::init(std::make_shared<TKelConfigImpl>()); }
 
@@ -229,27 +238,62 @@ private slots:
         QCOMPARE(entity("KIDS")->engineEntity->fileName(), "");
     }
 
+    void plainValuesKeepTheirForm_data() {
+        QTest::addColumn<QByteArray>("varType");
+        QTest::addColumn<QByteArray>("form");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("typeName");
+        const QByteArray integers("\1\0\2\0\1\0\1\0\2\0\2\0\2\0", 14);
+        const QByteArray bytes("\1\0\1\1\0\0\0", 7);
+        QByteArray doubles;
+        for (const double value : {1, 2, 1, 1, 2, 2, 2})
+            doubles.append(reinterpret_cast<const char*>(&value), sizeof value);
+        using B = QByteArray;
+        QTest::newRow("integers") << B("INTEGER") << B("INT") << integers << "INTEGER";
+        QTest::newRow("integers in doubles") << B("INTEGER") << B("DBL") << doubles << "INTEGER";
+        QTest::newRow("reals in bytes") << B("REAL") << B("BYTE") << bytes << "REAL";
+        QTest::newRow("truth in bytes") << B("BOOL") << B("BYTE") << bytes << "BOOLEAN";
+    }
+
     // Nothing but the dictionary tells how a file of plain values is to be read.
     void plainValuesKeepTheirForm() {
-        open("small.kxdb");
-        DictionaryUtil().writeDicx(path("plain.dicx"), *project().dictionary(), *project().root());
-        QByteArray xml = contentOf(path("plain.dicx"));
-        const QByteArray plain =
-            "<variable><name>ROOM</name><varType>INTEGER</varType><filename>room.bin</filename>"
-            "<varDicChoice><datasetType>INT</datasetType><datasetSize>2</datasetSize>"
-            "</varDicChoice></variable>";
-        xml.insert(xml.indexOf("<variable>", xml.indexOf("<name>PERSON</name>")), plain);
-        write("plain.dicx", xml);
-        write("room.bin", QByteArray("\1\0\2\0\1\0\1\0\2\0\2\0\2\0", 14));
+        QFETCH(QByteArray, varType);
+        QFETCH(QByteArray, form);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, typeName);
+        addToPerson("plain.dicx", "<variable><name>ROOM</name><varType>" + varType +
+                                      "</varType><filename>room.bin</filename><varDicChoice>"
+                                      "<datasetType>" +
+                                      form + "</datasetType><datasetSize>" +
+                                      QByteArray::number(bytes.size() / 7) +
+                                      "</datasetSize></varDicChoice></variable>");
+        write("room.bin", bytes);
         open("plain.dicx");
+        QCOMPARE(variable("PERSON.ROOM")->typeName, typeName);
         const auto rooms = [] { return tableOf("FREQ PERSON.ROOM"); };
         const QString before = rooms();
         DictionarySaver(project()).save();
         QVERIFY(QFile::remove(path("room.bin.desc")));
         open("plain.dicx");
-        QCOMPARE(variable("PERSON.ROOM")->typeName, "INTEGER");
+        QCOMPARE(variable("PERSON.ROOM")->typeName, typeName);
+        QVERIFY(variable("PERSON.ROOM")->ranges->isEmpty());
         QCOMPARE(rooms(), before);
         QVERIFY2(before.startsWith("{"), qPrintable(before));
+    }
+
+    void zeroIsNoCodeWhereOthersPutItForNone() {
+        open("small.kxdb");
+        variable("PERSON.INCOME")->setNotapp(0);
+        variable("PERSON.INCOME")->setMissing(0);
+        DictionaryUtil().writeDicx(path("out.dicx"), *project().dictionary(), *project().root());
+        open("out.dicx");
+        QCOMPARE(variable("PERSON.INCOME")->notapp(), 0.0);
+        QCOMPARE(variable("PERSON.INCOME")->TKelVariable::missing(), 0.0);
+        write("foreign.dicx", contentOf(path("out.dicx")).replace(">0.0<", ">0<"));
+        open("foreign.dicx");
+        QVERIFY(!variable("PERSON.INCOME")->notapp().has_value());
+        QVERIFY(!variable("PERSON.INCOME")->TKelVariable::missing().has_value());
+        QCOMPARE(variable("PERSON.SEX")->TKelVariable::missing(), 9.0);
     }
 
     void savedVariableStaysLocal() {

@@ -108,6 +108,11 @@ void DictionaryLoader::onScanned() {
     const std::shared_ptr<XmlDicxDictionary> check = check_; // outlives a close behind the box
     const QPointer<DictionaryLoader> self(this);
     settling_ = true;
+    const bool talks = check->needsUser();
+    if (talks)
+        emit asking();
+    if (!self)
+        return;
     const bool accepted = check->settle();
     if (!self)
         return;
@@ -116,6 +121,8 @@ void DictionaryLoader::onScanned() {
         giveUp();
         emit abandoned();
     } else if (accepted) {
+        if (talks)
+            emit resumed();
         validate();
     } else {
         giveUp();
@@ -177,7 +184,6 @@ void DictionaryLoader::onLoaded() {
     if (!join())
         return;
     check_.reset();
-    emit aboutToReplace();
     const LoadedDictionary result = adoptLoadedDictionary();
     emit loaded(result.missing, result.clean);
 }

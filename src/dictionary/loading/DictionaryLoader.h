@@ -43,8 +43,8 @@ public:
 
 signals:
     void loading(); ///< begun: a busy "Loading..." is due
-    /// The dictionary was read; every view must let go of the mirror before this returns.
-    void aboutToReplace();
+    void asking();  ///< the check has something to say or to ask: nothing is busy meanwhile
+    void resumed(); ///< the user has answered, and the load goes on: busy again
     /// TfrmProject holds the new dictionary: on_loadData. missing: full names whose data file was
     /// not found. clean: the dictionary's own file is there, so nothing needs saving.
     void loaded(const QStringList& missing, bool clean);

@@ -24,7 +24,7 @@ QStringList missingFiles(TKpEntity* root) {
     }
     qsizetype index = 0;
     for (const TKpVariable* variable : DictionaryUtil().allVariables(root)) {
-        if (!variable->fileExists) {
+        if (variable->isFileMissing()) {
             qDebug() << "File not found:" << index << variable->fullName;
             missing += variable->fullName;
         }

@@ -9,10 +9,10 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 namespace {
@@ -59,7 +59,7 @@ void LocatePaths::addNewPath() {
     newPath_->setObjectName(QStringLiteral("newPath"));
     auto* browse = new QToolButton;
     browse->setObjectName(QStringLiteral("browse"));
-    browse->setIcon(style()->standardIcon(QStyle::SP_DirOpenIcon));
+    browse->setIcon(QIcon(QStringLiteral(":/icons/res/icons/48px-Dictionary-open.png")));
     browse->setToolTip(tr("Select Variable Path"));
     browse->setAccessibleName(browse->toolTip());
     connect(browse, &QToolButton::clicked, this, &LocatePaths::onFindCliced);

@@ -34,7 +34,7 @@ QString PathLocator::Item::bareName() const {
 }
 
 bool PathLocator::Item::isMissing() const {
-    return variable != nullptr ? !variable->fileExists : entity->isFileMissing();
+    return variable != nullptr ? variable->isFileMissing() : entity->isFileMissing();
 }
 
 PathLocator::PathLocator(TKelDictionary& dictionary, TKpEntity& root)

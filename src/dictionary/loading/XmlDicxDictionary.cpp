@@ -28,15 +28,19 @@ void XmlDicxDictionary::scan() {
 
 void XmlDicxDictionary::findFiles(QFile& file) {
     const QString folder = QFileInfo(path_).absolutePath();
-    QHash<QString, bool> known; // by name: many variables may share a file
+    // Where missing_ has a file, by its name: many variables may share it. -1: it was found.
+    QHash<QString, qsizetype> known;
     readDicxItems(&file, [&](const XmlDicxFileItem& item) {
         auto found = known.find(item.fileName);
         if (found == known.end()) {
-            found = known.insert(item.fileName, QFileInfo::exists(item.path(folder)));
-            if (!*found)
+            const bool exists = QFileInfo::exists(item.path(folder));
+            found = known.insert(item.fileName, exists ? -1 : missing_.size());
+            if (!exists)
                 missing_ += item;
+        } else if (*found >= 0) {
+            ++missing_[*found].others;
         }
-        lastFound_ = *found;
+        lastFound_ = *found < 0;
         return !QThread::currentThread()->isInterruptionRequested();
     });
 }
@@ -67,8 +71,10 @@ XmlDicxDictionary::Answer XmlDicxDictionary::askAll() const {
 
 XmlDicxDictionary::Answer XmlDicxDictionary::ask(const XmlDicxFileItem& item,
                                                  bool& sameForTheRest) const {
-    const QString text = item.kindText() + tr(" [%1]\n") + tr("File [%2] not found") + '\n' +
-                         tr("Do you want to located?");
+    QString who = item.kindText() + tr(" [%1]\n");
+    if (item.others > 0)
+        who.replace('\n', ' ' + tr("(and %n more)", nullptr, item.others) + '\n');
+    const QString text = who + tr("File [%2] not found") + '\n' + tr("Do you want to located?");
     switch (askYesNoCancel(tr("Confirm"), text.arg(item.name, item.fileName),
                            tr("The same answer for the rest"), sameForTheRest)) {
     case Choice::No:

@@ -34,7 +34,10 @@ public:
     bool isReadable() const { return readable_; } ///< after scan()
     /// After scan(): false where the file is no XML, which settle() does not tell the user.
     bool isWellFormed() const { return wellFormed_; }
-    /// Data files that scan() did not find, each once, with the first item that names it.
+    /// After scan(): true where settle() will show something.
+    bool needsUser() const { return !readable_ || (wellFormed_ && !missing_.isEmpty()); }
+    /// Data files that scan() did not find, each once, with the first item that names it and the
+    /// number of the others.
     const QList<XmlDicxFileItem>& missing() const { return missing_; }
 
     const XmlSchemaValidator& schemaValidator() const { return validator_; }

@@ -15,6 +15,7 @@ struct XmlDicxFileItem {
     Kind kind = Kind::Entity;
     QString name;
     QString fileName; ///< as written in the file
+    int others = 0;   ///< further items that name the same file
 
     QString kindText() const; ///< "Entity" or "Variable", translated
     QString bareName() const; ///< of the file, without its folder

@@ -42,12 +42,16 @@ QString legal(const QString& text) {
     return result;
 }
 
+bool holdsPlainValues(const TKpVariable& variable) {
+    return variable.fileName.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive);
+}
+
 /// A .bin file holds plain values, whose form the engine knows and no reader could guess.
 Storage storageOf(const TKpVariable& variable) {
     Storage storage;
     storage.size = variable.size;
     storage.decimals = variable.TKelVariable::decimals();
-    if (!variable.fileName.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive))
+    if (!holdsPlainValues(variable))
         return storage;
     TKelVariable copy(variable);
     const QJsonObject raw = QJsonDocument::fromJson(QByteArray::fromStdString(copy.asJson()))
@@ -60,10 +64,21 @@ Storage storageOf(const TKpVariable& variable) {
             raw.value(QLatin1String("decimals")).toInt()};
 }
 
-bool isTypeWritten(const QString& typeName) {
-    return !typeName.isEmpty() && typeName != QLatin1String("INTEGER") &&
-           typeName != QLatin1String("NONE") && typeName != QLatin1String("REAL") &&
-           typeName != QLatin1String("BOOLEAN");
+/// A column file tells what its values are; elsewhere only the dictionary does.
+bool tellsItsType(const QString& fileName) {
+    return fileName.trimmed().endsWith(QLatin1String(".kbf"), Qt::CaseInsensitive);
+}
+
+/// What varType says, nothing where the element is left out.
+QString writtenType(const TKpVariable& variable) {
+    const QString& type = variable.typeName;
+    if (type == QLatin1String("NONE"))
+        return {};
+    const bool plain = type == QLatin1String("INTEGER") || type == QLatin1String("REAL") ||
+                       type == QLatin1String("BOOLEAN");
+    if (plain && tellsItsType(variable.fileName))
+        return {};
+    return type == QLatin1String("BOOLEAN") ? QStringLiteral("BOOL") : type;
 }
 
 /// What a virtual entity shows in the mirror is its parent's file.
@@ -144,8 +159,7 @@ void DicxWriter::writeVariable(const TKpVariable& variable) {
     textUnlessEmpty(QStringLiteral("alias"), variable.alias);
     textUnlessEmpty(QStringLiteral("label"), variable.label);
     textUnlessEmpty(QStringLiteral("group"), variable.group);
-    if (isTypeWritten(variable.typeName))
-        text(QStringLiteral("varType"), variable.typeName);
+    textUnlessEmpty(QStringLiteral("varType"), writtenType(variable));
     number(QStringLiteral("fieldSize"), variable.size);
     writeRanges(variable);
     writeCodes(variable);
@@ -162,10 +176,11 @@ void DicxWriter::writeVariable(const TKpVariable& variable) {
     xml_.writeEndElement();
 }
 
-/// Readers take the one from 0 to 9999 for no range at all.
+/// Readers take the one from 0 to 9999 for no range at all, but where a type of numbers is told.
 void DicxWriter::writeRanges(const TKpVariable& variable) {
     QList<TKelRange> ranges = variable.ranges ? *variable.ranges : QList<TKelRange>();
-    if (ranges.isEmpty())
+    const QString type = writtenType(variable);
+    if (ranges.isEmpty() && (type.isEmpty() || type == QLatin1String("STRING")))
         ranges.append({4, 0, 9999});
     for (const TKelRange& range : ranges) {
         xml_.writeStartElement(QStringLiteral("range"));
@@ -176,11 +191,13 @@ void DicxWriter::writeRanges(const TKpVariable& variable) {
     }
 }
 
-/// Empty where there is no such code: 0 may be a real value. A text rarely has one.
+/// Empty where there is no such code: 0 may be a real value. A text rarely has one. Others write
+/// two plain zeros for no codes; two that are codes have a fraction.
 void DicxWriter::writeCodes(const TKpVariable& variable) {
+    const bool bothZero = variable.notapp() == 0.0 && variable.TKelVariable::missing() == 0.0;
     const auto write = [&](const QString& element, const std::optional<double>& code) {
         if (code)
-            text(element, codeText(code));
+            text(element, bothZero ? QStringLiteral("0.0") : codeText(code));
         else if (variable.typeName != QLatin1String("STRING"))
             xml_.writeEmptyElement(element);
     };

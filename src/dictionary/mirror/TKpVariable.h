@@ -53,4 +53,7 @@ public:
     bool local = false;  ///< made by a program, not part of the database
     bool hidden = false; ///< marked so by the user
     bool fileExists = false;
+
+    /// A variable that names no file needs none.
+    bool isFileMissing() const { return !fileName.isEmpty() && !fileExists; }
 };

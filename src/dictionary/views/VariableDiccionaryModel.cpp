@@ -30,7 +30,7 @@ QString toolTip(const TKpVariable& variable) {
     lines += line(VariableDiccionaryModel::tr("Type: %1"), variable.typeName);
     if (!variable.alias.isEmpty())
         lines += line(VariableDiccionaryModel::tr("Alias: %1"), variable.alias);
-    if (!variable.fileExists && !variable.path.isEmpty())
+    if (variable.isFileMissing())
         lines += line(VariableDiccionaryModel::tr("File not found: %1"),
                       QDir::toNativeSeparators(variable.path));
     return lines.join(QStringLiteral("<br>"));
@@ -192,7 +192,7 @@ QVariant VariableDiccionaryModel::data(const QModelIndex& index, int role) const
         return toolTip(*variable);
     case Qt::ForegroundRole:
         // Without its file a variable can be read about, but not counted.
-        if (!variable->fileExists && !variable->path.isEmpty())
+        if (variable->isFileMissing())
             return QGuiApplication::palette().brush(QPalette::PlaceholderText);
         return {};
     default:

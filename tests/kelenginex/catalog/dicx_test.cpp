@@ -112,6 +112,18 @@ TEST(Dicx, KnowsAllTypesAndLayouts) {
     EXPECT_FALSE(v.local);
 }
 
+TEST(Dicx, KeepsTwoCodesThatAreZero) {
+    const std::string codes = "<notappl>0.0</notappl><missing>0.0</missing>";
+    const auto kept = parse(catalog::writeDicx(*parse(variable(codes))));
+    EXPECT_EQ(onlyVariable(*kept).notapp, 0);
+    EXPECT_EQ(onlyVariable(*kept).missing, 0);
+    const auto none = parse(variable("<notappl>0</notappl><missing>0</missing>"));
+    EXPECT_EQ(onlyVariable(*none).notapp, std::nullopt);
+    const auto one = parse(catalog::writeDicx(*parse(variable("<notappl>0</notappl><missing/>"))));
+    EXPECT_EQ(onlyVariable(*one).notapp, 0);
+    EXPECT_EQ(onlyVariable(*one).missing, std::nullopt);
+}
+
 TEST(Dicx, TellsWhatAProgramMade) {
     const auto made =
         parse(variable("<varDicChoice><isOriginal>false</isOriginal></varDicChoice>"));
