@@ -84,11 +84,14 @@ private slots:
     void tagsAreFourDigits() {
         QCOMPARE(TagText::of(-1), "");
         QCOMPARE(TagText::of(0), "0");
-        QCOMPARE(TagText::parse("", -5), -5);
-        QCOMPARE(TagText::parse("", 12), -1);
-        QCOMPARE(TagText::parse("0012", -1), 12);
-        QCOMPARE(TagText::parse("10000", -1), 9999);
-        QCOMPARE(TagText::parse("99999999999999999999", -1), 9999);
+        QCOMPARE(TagText::of(-5), "-5");
+        QCOMPARE(TagText::parse(""), -1);
+        QCOMPARE(TagText::parse("-"), -1);
+        QCOMPARE(TagText::parse("-5"), -5);
+        QCOMPARE(TagText::parse("0012"), 12);
+        QCOMPARE(TagText::parse("10000"), 9999);
+        QCOMPARE(TagText::parse("99999999999999999999"), 9999);
+        QVERIFY(TagText::parse("-99999999999999999999") < -9999);
     }
 
     void documentationKeepsItsLines() {

@@ -182,11 +182,42 @@ private slots:
         }
     }
 
+    void printingIsOfferedOnlyWhereSomebodyPrints() {
+        QAction others(tree_.get());
+        others.setShortcut(QKeySequence::Print);
+        tree_->addAction(&others);
+        QSignalSpy passed(&others, &QAction::triggered);
+        clickEntity("PERSON");
+        tree_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(tree_.get()));
+        QTest::keyClick(tree_.get(), Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(passed.count(), 1);
+        QMenu* menu = menuAt(tree_.get(), placeOf("PERSON"));
+        QVERIFY(menu != nullptr);
+        QVERIFY(!entry(menu, "actionPrint")->isEnabled());
+        QCOMPARE(entry(menu, "actionPrint")->toolTip(), "Printing is not available yet");
+        QVERIFY(menu->toolTipsVisible());
+        menu->close();
+    }
+
+    void oneEntityStaysSelected() {
+        clickEntity("PERSON");
+        QTest::mouseClick(tree_->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          placeOf("PERSON"));
+        QCOMPARE(tree_->currentEntity(), made_->person);
+        QTest::keyClick(tree_.get(), Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(tree_->currentEntity(), made_->person);
+        QTest::mouseClick(tree_->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          placeOf("HOUSEHOLD"));
+        QCOMPARE(tree_->currentEntity(), made_->household);
+    }
+
     void treeMenuAsksForAllItsEntries() {
         SaidMessages said;
         QVERIFY(menuAt(tree_.get(), {150, 280}) == nullptr);
         QCOMPARE(said.take(), QStringList("A entity must be selected"));
         clickEntity("PERSON");
+        QSignalSpy print(tree_.get(), &KelTreeView::printRequested);
         QMenu* menu = menuAt(tree_.get(), placeOf("PERSON"));
         QVERIFY(menu != nullptr);
         QCOMPARE(entries(*menu),
@@ -196,7 +227,6 @@ private slots:
         QVERIFY(!entry(menu, "actionSelectable")->isChecked());
         QSignalSpy program(tree_.get(), &KelTreeView::executeProgram);
         QSignalSpy quick(tree_.get(), &KelTreeView::quickViewRequested);
-        QSignalSpy print(tree_.get(), &KelTreeView::printRequested);
         entry(menu, "actionQuickView")->trigger();
         entry(menu, "actionPrint")->trigger();
         entry(menu, "actionFrequency")->trigger();
@@ -410,8 +440,17 @@ private slots:
         clickCell(3, 1); // CODE has no group
         menu = menuAt(table_, cell(3, 1));
         QVERIFY(!menu->findChild<QMenu*>("menuGroup")->isEnabled());
+        QVERIFY(!entry(menu, "actionRename")->isEnabled());
+        QCOMPARE(entry(menu, "actionRename")->toolTip(),
+                 "The variable could not be renamed, it is not a local variable");
+        menu->close();
+        clickCell(4, 3); // its name is edited, wherever it was pointed at
+        menu = menuAt(table_, cell(4, 3));
         choose(menu, entry(menu, "actionRename"));
-        QVERIFY(table_->viewport()->findChild<QLineEdit*>() != nullptr); // its alias
+        QCOMPARE(table_->currentIndex().column(), int(Model::NameColumn));
+        auto* editor = table_->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        QCOMPARE(editor->text(), "NEW");
     }
 
     void rebuiltTableKeepsSelectionAndFilter() {

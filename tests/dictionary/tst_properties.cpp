@@ -117,7 +117,7 @@ private slots:
         QCOMPARE(find<QComboBox>("cbxCodeVar")->currentText(), "CODE");
         QCOMPARE(find<QComboBox>("cbxCodeVar")->count(), 1);
         QCOMPARE(find<QComboBox>("cbxLabelVar")->currentText(), "NAME");
-        QCOMPARE(find<QComboBox>("cbxWeightVar")->count(), 0);
+        QCOMPARE(find<QComboBox>("cbxWeightVar")->currentText(), "-");
         QVERIFY(find<QComboBox>("cbxCmpcodeVar")->count() == 1);
         QCOMPARE(find<QLabel>("lbGeoCodeValue")->text(), "00");
         QCOMPARE(find<QLabel>("lbTotalValue")->text(), "2");
@@ -129,8 +129,35 @@ private slots:
         QVERIFY(find<QCheckBox>("cbSelectable")->isChecked());
         QVERIFY(properties_->showEntity(data_->entity("HOUSEHOLD")));
         QCOMPARE(find<QComboBox>("cbxWeightVar")->currentText(), "HOUSEHOLD.WEIGHT");
+        QVERIFY(properties_->showEntity(data_->entity("PERSON")));
+        QCOMPARE(find<QLabel>("lbGeoCodeValue")->text(), "-"); // no code at all
         QCOMPARE(entChanged_->count(), 0);
         QVERIFY(data_->messages.isEmpty());
+    }
+
+    void variablesOfAnEntityAreNotChosen() {
+        for (const char* name :
+             {"cbxCodeVar", "cbxLabelVar", "cbxWeightVar", "cbxCmpcodeVar", "cbxSdcVar"}) {
+            auto* combo = find<QComboBox>(name);
+            QVERIFY(combo->isEnabled()); // readable, not grey
+            QCOMPARE(combo->focusPolicy(), Qt::NoFocus);
+            QTest::mouseClick(combo, Qt::LeftButton);
+            QVERIFY(QApplication::activePopupWidget() == nullptr);
+        }
+        properties_->setRoot(nullptr);
+        QCOMPARE(find<QComboBox>("cbxSdcVar")->count(), 0);
+    }
+
+    void negativeTagIsEdited() {
+        DictionaryEdit::setTag(*sex(), -5);
+        QVERIFY(properties_->showVariable(sex()));
+        QCOMPARE(textOf("leVarTag"), "-5");
+        type("leVarTag", "-7");
+        press("btnSave");
+        QCOMPARE(sex()->tag, -7);
+        type("leVarTag", "");
+        press("btnSave");
+        QCOMPARE(sex()->tag, -1);
     }
 
     void longPathIsElidedAndToldWhole() {
@@ -346,7 +373,10 @@ private slots:
         press("btnAdd");
         typeCell(4, 0, "9");
         typeCell(4, 1, "Unknown");
-        QVERIFY(!categories()->index(4, 0).data(Qt::DecorationRole).isNull());
+        const auto icon = categories()->index(4, 0).data(Qt::DecorationRole).value<QIcon>();
+        QCOMPARE(icon.pixmap(16).toImage(),
+                 QIcon(":/icons/res/icons/48px-Missing.png").pixmap(16).toImage());
+        QVERIFY(!icon.pixmap(16).isNull());
         QVERIFY(!categories()->index(2, 0).data(Qt::DecorationRole).isNull());
         QVERIFY(categories()->index(1, 0).data(Qt::DecorationRole).isNull());
         type("leVarLabel", "Sex");
@@ -411,6 +441,21 @@ private slots:
         QCOMPARE(data_->entity("PERSON")->alias, "PEOPLE");
         QVERIFY(properties_->settlePending());
         QCOMPARE(data_->messages.size(), 1);
+    }
+
+    void questionClosedWithoutAnAnswerLosesNothing() {
+        type("leVarLabel", "Sex");
+        type("leAlias", "PEOPLE");
+        data_->answer = Choice::Cancel;
+        QVERIFY(!properties_->showVariable(data_->variable("PERSON.AGE")));
+        QVERIFY(!properties_->showEntity(data_->entity("DISTRICT")));
+        QVERIFY(!properties_->settlePending());
+        QVERIFY(properties_->hasPending());
+        QCOMPARE(textOf("leVarLabel"), "Sex");
+        QCOMPARE(textOf("leAlias"), "PEOPLE");
+        QCOMPARE(sex()->label, "Sex of the person");
+        QCOMPARE(data_->entity("PERSON")->alias, "");
+        QCOMPARE(data_->messages.size(), 3);
     }
 
     void textInAnOpenCellIsNotForgotten() {

@@ -82,7 +82,7 @@ private slots:
         QVERIFY(follows(texts, "Tag: ", "4"));
         QVERIFY(follows(texts, "Type: ", "INTEGER"));
         QVERIFY(follows(texts, "Missing: ", "9"));
-        QVERIFY(!texts.contains("NotApp: "));
+        QVERIFY(follows(texts, "NotApp: ", "-"));
         for (const QLabel* label : info.findChildren<QLabel*>())
             if (label->text().startsWith("<b>"))
                 QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -95,6 +95,68 @@ private slots:
         const auto* documentation = info.findChild<QPlainTextEdit*>("teInfoVariableDocumentation");
         QCOMPARE(documentation->toPlainText(), "first\n<i>second</i>");
         QVERIFY(documentation->isReadOnly());
+    }
+
+    void unsetIsToldByADash() {
+        InfoProperties info;
+        TKpVariable& name = *data_->variable("DISTRICT.NAME");
+        name.setTag(-1);
+        info.showVariable(name);
+        info.show();
+        for (const char* caption : {"Tag: ", "NotApp: ", "Missing: "})
+            QVERIFY(follows(shown(info), caption, "-"));
+    }
+
+    void editsAreShownAnew() {
+        InfoProperties info;
+        info.refresh(data_->root.get()); // nothing is shown yet
+        QCOMPARE(info.windowTitle(), "Quick View");
+        info.showVariable(*data_->variable("PERSON.SEX"));
+        info.show();
+        DictionaryEdit::setLabel(*data_->variable("PERSON.SEX"), "Gender");
+        data_->rebuild();
+        info.refresh(data_->root.get());
+        QTRY_VERIFY(follows(shown(info), "Label: ", "Gender"));
+        data_->variable("PERSON.SEX")->name = "OTHER";
+        data_->entity("PERSON")->variables.first()->label = "Not this";
+        info.refresh(data_->root.get());
+        info.refresh(nullptr);
+        QCOMPARE(info.windowTitle(), "Variable: PERSON.SEX");
+        QTRY_VERIFY(follows(shown(info), "Label: ", "Gender"));
+        info.showEntity(data_->root.get(), *data_->entity("DISTRICT"));
+        DictionaryEdit::setLabel(*data_->entity("DISTRICT"), "Region");
+        info.refresh(data_->root.get());
+        QTRY_VERIFY(follows(shown(info), "2. DISTRICT: ", "( Region )"));
+        data_->entity("DISTRICT")->name = "ELSEWHERE";
+        info.refresh(data_->root.get());
+        QCOMPARE(info.windowTitle(), "Entity: DISTRICT");
+    }
+
+    void entityTakesTheRoomThatItNeeds() {
+        InfoProperties info;
+        DictionaryEdit::setDocumentation(*data_->entity("DISTRICT"), "Told");
+        DictionaryEdit::setDocumentation(*data_->entity("PERSON"), "");
+        info.showEntity(data_->root.get(), *data_->entity("DISTRICT"));
+        info.resize(400, 900);
+        info.show();
+        const auto* tree = info.findChild<QTreeWidget*>("treeElements");
+        const auto* text = info.findChild<QPlainTextEdit*>("teInfoEntityDocumentation");
+        const auto* caption = info.findChild<QLabel*>("lbEntityDocumentation");
+        QVERIFY(text->isVisible() && caption->isVisible());
+        const int rowHeight = tree->visualItemRect(tree->topLevelItem(0)).height();
+        const auto spare = [&] {
+            const auto* last = tree->topLevelItem(0);
+            for (const auto* next = last; next != nullptr; next = tree->itemBelow(next))
+                last = next;
+            return tree->viewport()->height() - tree->visualItemRect(last).bottom() - 1;
+        };
+        QTRY_VERIFY(spare() >= 0 && spare() < rowHeight);
+        tree->topLevelItem(0)->setExpanded(false);
+        QTRY_VERIFY(spare() >= 0 && spare() < rowHeight);
+        info.showEntity(data_->root.get(), *data_->entity("PERSON"));
+        QVERIFY(!text->isVisible() && !caption->isVisible());
+        QTRY_VERIFY(spare() >= 0 && spare() < rowHeight);
+        QCOMPARE(tree->visualItemRect(tree->topLevelItem(0)).left(), 0);
     }
 
     void whatIsShownOutlivesTheDictionary() {

@@ -108,6 +108,8 @@ private slots:
         QCOMPARE(sex, QStringList({"SEX", "GENDER", "Demography", "Sex", "0001"}));
         QCOMPARE(column(*model_, Model::TagColumn),
                  QStringList({"0001", "0010", "", "0002", "9999"}));
+        made_->wage->tag = -5; // -1 alone is none
+        QCOMPARE(model_->index(2, Model::TagColumn).data().toString(), "-005");
         QCOMPARE(Model(nullptr, made_->person, made_->root, 2).index(0, 4).data().toString(), "01");
         const int base = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
         QCOMPARE(int(model_->flags(model_->index(0, 0)) & ~Qt::ItemNeverHasChildren), base | 14);

@@ -20,7 +20,7 @@ void EntityDraft::applyTo(TKpEntity& entity) const {
     const EntityDraft before = of(entity);
     DictionaryEdit::setLabel(entity, label);
     DictionaryEdit::setAlias(entity, alias);
-    DictionaryEdit::setTag(entity, TagText::parse(tag, entity.tag));
+    DictionaryEdit::setTag(entity, TagText::parse(tag));
     if (documentation != before.documentation)
         DictionaryEdit::setDocumentation(entity, Documentation::stored(documentation));
     entity.extraFlagA = extraFlagA;

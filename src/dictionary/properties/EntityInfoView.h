@@ -15,8 +15,12 @@ public:
     void setInfo(const EntityInfo& info);
     void retranslate();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void fillTree();
+    void fitTree();
 
     EntityInfo info_;
     QLabel* selected_;

@@ -8,9 +8,10 @@
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/properties/DocumentationEdit.h"
+#include "dictionary/properties/FactComboBox.h"
 #include "dictionary/properties/NameEdit.h"
 
-#include <QComboBox>
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -31,19 +32,9 @@ Widget* named(const char* objectName) {
     return widget;
 }
 
-QComboBox* makeCombo(const char* objectName) {
-    auto* combo = named<QComboBox>(objectName);
-    // A long name must not make the dock wide.
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(5);
-    return combo;
-}
-
-void showOnly(QComboBox* combo, const QString& text) {
-    combo->clear();
-    if (!text.isEmpty())
-        combo->addItem(text);
-    combo->setEnabled(!text.isEmpty());
+/// An empty field would look as if it were to be filled.
+QString told(const QString& text) {
+    return text.isEmpty() ? QStringLiteral("-") : text;
 }
 
 QString nameOf(const TKelVariable* variable) {
@@ -85,12 +76,12 @@ void EntityPropertiesQDockWidget::makeEdits(QFormLayout* form) {
 }
 
 void EntityPropertiesQDockWidget::makeVariables(QFormLayout* form) {
-    codeVar_ = makeCombo("cbxCodeVar");
+    codeVar_ = named<FactComboBox>("cbxCodeVar");
     codeSize_ = named<ElidedLabel>("lbGeoCodeValue");
-    labelVar_ = makeCombo("cbxLabelVar");
-    weightVar_ = makeCombo("cbxWeightVar");
-    cmpCodeVar_ = makeCombo("cbxCmpcodeVar");
-    sdcVar_ = makeCombo("cbxSdcVar");
+    labelVar_ = named<FactComboBox>("cbxLabelVar");
+    weightVar_ = named<FactComboBox>("cbxWeightVar");
+    cmpCodeVar_ = named<FactComboBox>("cbxCmpcodeVar");
+    sdcVar_ = named<FactComboBox>("cbxSdcVar");
     addRow(form, QT_TR_NOOP("Code:"), codeVar_, QT_TR_NOOP("The variable that holds the code"));
     addRow(form, QT_TR_NOOP("Code size:"), codeSize_,
            QT_TR_NOOP("One zero for each character of the code"));
@@ -168,15 +159,24 @@ void EntityPropertiesQDockWidget::fill() {
     fillFacts();
 }
 
+void EntityPropertiesQDockWidget::fillVariables() {
+    for (FactComboBox* combo : {codeVar_, labelVar_, weightVar_, cmpCodeVar_, sdcVar_})
+        combo->clear();
+    codeSize_->clear();
+    if (entity_ == nullptr)
+        return;
+    codeVar_->showOnly(told(entity_->refCode));
+    labelVar_->showOnly(told(entity_->refLabel));
+    weightVar_->showOnly(told(entity_->weightVar));
+    cmpCodeVar_->showOnly(told(nameOf(entity_->cmpCodeVar())));
+    sdcVar_->showOnly(told(nameOf(entity_->sdcVar())));
+    codeSize_->setText(told(QString(DictionaryUtil().codeSize(*entity_), QLatin1Char('0'))));
+}
+
 void EntityPropertiesQDockWidget::fillFacts() {
     const TKpEntity nothing(nullptr);
     const TKpEntity& entity = entity_ != nullptr ? *entity_ : nothing;
-    showOnly(codeVar_, entity.refCode);
-    showOnly(labelVar_, entity.refLabel);
-    showOnly(weightVar_, entity.weightVar);
-    showOnly(cmpCodeVar_, entity_ != nullptr ? nameOf(entity_->cmpCodeVar()) : QString());
-    showOnly(sdcVar_, entity_ != nullptr ? nameOf(entity_->sdcVar()) : QString());
-    codeSize_->setText(QString(DictionaryUtil().codeSize(entity), QLatin1Char('0')));
+    fillVariables();
     total_->setText(entity_ != nullptr ? QLocale().toString(entity.instanceCount) : QString());
     file_->setFullText(entity.fullPath);
     selectable_->setChecked(entity.selectable);

@@ -10,8 +10,8 @@
 #include <memory>
 
 class ElidedLabel;
+class FactComboBox;
 class QCheckBox;
-class QComboBox;
 class QFormLayout;
 class QLineEdit;
 class TKelVariable;
@@ -53,6 +53,7 @@ private:
     void connectEdits();
     void fill();
     void fillFacts();
+    void fillVariables();
     bool storeAlias();
     void rejectAlias();
 
@@ -66,11 +67,11 @@ private:
     QLineEdit* alias_;
     QLineEdit* tag_;
     DocumentationEdit* documentation_;
-    QComboBox* codeVar_;
-    QComboBox* labelVar_;
-    QComboBox* weightVar_;
-    QComboBox* cmpCodeVar_;
-    QComboBox* sdcVar_;
+    FactComboBox* codeVar_;
+    FactComboBox* labelVar_;
+    FactComboBox* weightVar_;
+    FactComboBox* cmpCodeVar_;
+    FactComboBox* sdcVar_;
     ElidedLabel* codeSize_;
     QLabel* total_;
     ElidedLabel* file_;

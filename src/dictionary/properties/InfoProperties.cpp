@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/properties/InfoProperties.h"
 
+#include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/properties/EntityInfoView.h"
@@ -8,6 +9,8 @@
 
 #include <QEvent>
 #include <QStackedWidget>
+
+#include <algorithm>
 
 InfoProperties::InfoProperties(QWidget* parent)
     : ClosableQDockedWidget(parent), pages_(new QStackedWidget), variable_(new VariableInfoView),
@@ -23,13 +26,30 @@ InfoProperties::InfoProperties(QWidget* parent)
 void InfoProperties::showVariable(const TKpVariable& variable) {
     variable_->setInfo(VariableInfo::of(variable));
     pages_->setCurrentWidget(variable_);
+    entityName_ = variable.entityName;
+    variableName_ = variable.name;
     setSubject(QT_TR_NOOP("Variable"), variable.entityName + '.' + variable.name);
 }
 
 void InfoProperties::showEntity(TKpEntity* root, TKpEntity& entity) {
     entity_->setInfo(EntityInfo::of(root, entity));
     pages_->setCurrentWidget(entity_);
+    entityName_ = entity.name;
+    variableName_.clear();
     setSubject(QT_TR_NOOP("Entity"), entity.name);
+}
+
+void InfoProperties::refresh(TKpEntity* root) {
+    TKpEntity* entity = kind_ != nullptr ? DictionaryUtil().findEntity(root, entityName_) : nullptr;
+    if (entity == nullptr || entity->name != entityName_)
+        return;
+    if (variableName_.isEmpty())
+        return showEntity(root, *entity);
+    const auto found = std::find_if(
+        entity->variables.cbegin(), entity->variables.cend(),
+        [this](const TKpVariable* variable) { return variable->name == variableName_; });
+    if (found != entity->variables.cend())
+        showVariable(**found);
 }
 
 void InfoProperties::clear() {

@@ -19,6 +19,9 @@ public:
 
     void showVariable(const TKpVariable& variable);
     void showEntity(TKpEntity* root, TKpEntity& entity);
+    /// After a change of the dictionary: looks for what is shown in the mirror, by name, and shows
+    /// it anew. What is not found there stays as it was.
+    void refresh(TKpEntity* root);
     void clear();
     virtual void retranslate();
 
@@ -33,4 +36,6 @@ private:
     EntityInfoView* entity_;
     const char* kind_ = nullptr; ///< source text: what the subject is; null for nothing shown
     QString name_;
+    QString entityName_;
+    QString variableName_; ///< empty where an entity is shown
 };

@@ -47,7 +47,13 @@ QLabel* InfoView::addSection(const QString& objectName) {
     line->setFrameShadow(QFrame::Sunken);
     layout_->addWidget(caption);
     layout_->addWidget(line);
+    rules_.insert(caption, line);
     return caption;
+}
+
+void InfoView::setSectionVisible(QLabel* caption, bool visible) {
+    caption->setVisible(visible);
+    rules_.value(caption)->setVisible(visible);
 }
 
 QFormLayout* InfoView::addLines() {
@@ -74,6 +80,10 @@ QPlainTextEdit* InfoView::addDocumentation() {
     text->setMinimumHeight(4 * text->fontMetrics().lineSpacing());
     addContent(text, 1);
     return text;
+}
+
+void InfoView::addRoom() {
+    layout_->addStretch();
 }
 
 void InfoView::setLines(QFormLayout* form, const QList<InfoLine>& lines) {

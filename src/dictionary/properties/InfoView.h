@@ -5,6 +5,7 @@
 
 #include "dictionary/properties/EntityInfo.h"
 
+#include <QHash>
 #include <QScrollArea>
 
 class QFormLayout;
@@ -18,13 +19,16 @@ class InfoView : public QScrollArea {
 protected:
     explicit InfoView(QWidget* parent = nullptr);
 
-    QLabel* addSection(const QString& objectName); ///< its caption, to be given a text
+    QLabel* addSection(const QString& objectName);         ///< its caption, to be given a text
+    void setSectionVisible(QLabel* caption, bool visible); ///< its caption and line
     QFormLayout* addLines();
     void addContent(QWidget* content, int stretch);
     QPlainTextEdit* addDocumentation();
+    void addRoom(); ///< at the end, where no content takes what is left
     /// In place of what the form held.
     static void setLines(QFormLayout* form, const QList<InfoLine>& lines);
 
 private:
     QVBoxLayout* layout_;
+    QHash<QLabel*, QFrame*> rules_; ///< below the captions
 };

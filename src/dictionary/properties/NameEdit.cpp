@@ -19,7 +19,7 @@ void NameEdit::acceptNames(QLineEdit* edit) {
 }
 
 void NameEdit::acceptDigits(QLineEdit* edit) {
-    accept(edit, "^[0-9]*$");
+    accept(edit, "^-?[0-9]*$");
 }
 
 void NameEdit::clear(QLineEdit* edit, const QString& inForce) {

@@ -4,6 +4,7 @@
 #include "dictionary/properties/DocumentationEdit.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -95,7 +96,7 @@ void PropertyDock::setSubject(const QString& subject) {
 
 /// In the words of the class of the dock, which is another one than this.
 QString PropertyDock::translated(const char* source) const {
-    return metaObject()->tr(source, nullptr);
+    return QCoreApplication::translate(metaObject()->className(), source);
 }
 
 void PropertyDock::retranslate(const Caption& caption) const {

@@ -6,9 +6,9 @@
 
 namespace TagText {
 
-/// Digits; empty for a mark that is not set (negative).
+/// A number; empty for a mark that is not set (-1).
 QString of(int tag);
-/// At most 9999. An empty text leaves a mark that is not set as it is.
-int parse(const QString& text, int before);
+/// At most 9999; an empty text sets no mark.
+int parse(const QString& text);
 
 } // namespace TagText

@@ -11,6 +11,27 @@
 
 #include <utility>
 
+namespace {
+
+/// A box that is closed without an answer loses nothing: then what was typed stays where it is.
+template <class Dock>
+bool settle(Dock& dock, const QString& title, const QString& question) {
+    if (!dock.isModified())
+        return true;
+    switch (askYesNoCancel(title, question)) {
+    case Choice::Yes:
+        return dock.save();
+    case Choice::No:
+        dock.discard();
+        return true;
+    case Choice::Cancel:
+        break;
+    }
+    return false;
+}
+
+} // namespace
+
 TfrmProperties::TfrmProperties(Shell& shell, QObject* parent) : QObject(parent), shell_(shell) {}
 
 TfrmProperties::~TfrmProperties() {
@@ -68,24 +89,16 @@ bool TfrmProperties::settleEntity() {
     if (entityDock_ == nullptr)
         return true;
     entityDock_->storeTexts();
-    if (!entityDock_->isModified())
-        return true;
-    if (askYesNo(tr("Confirm"), tr("Entity definition has been modified. Save changes?")))
-        return entityDock_->save();
-    entityDock_->discard();
-    return true;
+    return settle(*entityDock_, tr("Confirm"),
+                  tr("Entity definition has been modified. Save changes?"));
 }
 
 bool TfrmProperties::settleVariable() {
     if (variableDock_ == nullptr)
         return true;
     variableDock_->commitEditor();
-    if (!variableDock_->isModified())
-        return true;
-    if (askYesNo(tr("Confirm"), tr("Variable definition has been modified. Save changes?\n")))
-        return variableDock_->save();
-    variableDock_->discard();
-    return true;
+    return settle(*variableDock_, tr("Confirm"),
+                  tr("Variable definition has been modified. Save changes?\n"));
 }
 
 bool TfrmProperties::settlePending() {

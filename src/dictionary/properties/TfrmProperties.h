@@ -27,12 +27,13 @@ public:
     void setRoot(const std::shared_ptr<TKpEntity>& root);
 
     // Null empties the dock. Unsaved edits of another one are asked about first. False where the
-    // user wants them saved and they cannot be: the other one stays, and should be selected again.
+    // user cancels, or wants them saved and they cannot be: the other one stays, and should be
+    // selected again.
     bool showEntity(TKpEntity* entity);
     bool showVariable(TKpVariable* variable);
 
-    /// To be called before the dictionary is saved or closed. False: stay, there is something to
-    /// mend, as a message has told.
+    /// To be called before the dictionary is saved or closed. False: stay, the user
+    /// wants to, or there is something to mend, as a message has told.
     bool settlePending();
     bool hasPending() const;
 

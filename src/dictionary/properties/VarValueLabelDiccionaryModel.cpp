@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dictionary/properties/VarValueLabelDiccionaryModel.h"
 
-#include <QApplication>
-#include <QStyle>
+#include "app/widgets/RowIcon.h"
 
 #include <algorithm>
+
+VarValueLabelDiccionaryModel::VarValueLabelDiccionaryModel(QObject* parent)
+    : QAbstractTableModel(parent),
+      faultIcon_(rowIcon(QStringLiteral(":/icons/res/icons/48px-Missing.png"))) {}
 
 void VarValueLabelDiccionaryModel::setList(const Categories::List& list, bool numeric) {
     beginResetModel();
@@ -107,7 +110,7 @@ QVariant VarValueLabelDiccionaryModel::data(const QModelIndex& index, int role) 
         return code ? QVariant() : element.label.toHtmlEscaped();
     case Qt::DecorationRole:
         if (code && faults_[index.row()] != Categories::Fault::None)
-            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+            return faultIcon_;
         return {};
     default:
         return {};

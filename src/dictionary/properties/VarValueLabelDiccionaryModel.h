@@ -6,6 +6,7 @@
 #include "dictionary/properties/CategoryEdits.h"
 
 #include <QAbstractTableModel>
+#include <QIcon>
 
 class VarValueLabelDiccionaryModel : public QAbstractTableModel {
     Q_OBJECT
@@ -13,7 +14,7 @@ class VarValueLabelDiccionaryModel : public QAbstractTableModel {
 public:
     enum Column { CodeColumn, LabelColumn, ColumnCount };
 
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit VarValueLabelDiccionaryModel(QObject* parent = nullptr);
 
     /// Begins anew. Numeric codes stand on the right.
     void setList(const Categories::List& list, bool numeric);
@@ -50,4 +51,5 @@ private:
     CategoryEdits edits_;
     QList<Categories::Fault> faults_;
     bool numeric_ = false;
+    QIcon faultIcon_;
 };

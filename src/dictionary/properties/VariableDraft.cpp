@@ -36,7 +36,7 @@ void VariableDraft::applyTo(TKpVariable& variable) const {
     DictionaryEdit::setLabel(variable, label);
     DictionaryEdit::setAlias(variable, alias);
     DictionaryEdit::setGroup(variable, group);
-    DictionaryEdit::setTag(variable, TagText::parse(tag, variable.tag));
+    DictionaryEdit::setTag(variable, TagText::parse(tag));
     DictionaryEdit::setHidden(variable, hidden);
     if (documentation != before.documentation)
         DictionaryEdit::setDocumentation(variable, Documentation::stored(documentation));

@@ -20,6 +20,11 @@ void addTold(QList<InfoLine>& lines, const QString& caption, const QString& text
         lines.append({caption, text});
 }
 
+/// Codes and the mark are looked for: that there is none is told, too.
+void addTechnical(QList<InfoLine>& lines, const QString& caption, const QString& text) {
+    lines.append({caption, text.isEmpty() ? QStringLiteral("-") : text});
+}
+
 } // namespace
 
 VariableInfoView::VariableInfoView(QWidget* parent)
@@ -56,12 +61,12 @@ QList<InfoLine> VariableInfoView::lines() const {
     addTold(lines, tr("Label: "), info_.label);
     addTold(lines, tr("Alias: "), info_.alias);
     addTold(lines, tr("Group: "), info_.group);
-    addTold(lines, tr("Tag: "), info_.tag);
+    addTechnical(lines, tr("Tag: "), info_.tag);
     addTold(lines, tr("Type: "), info_.technical.type);
     addTold(lines, tr("Min: "), info_.technical.minimum);
     addTold(lines, tr("Max: "), info_.technical.maximum);
-    addTold(lines, tr("NotApp: "), info_.technical.notApp);
-    addTold(lines, tr("Missing: "), info_.technical.missing);
+    addTechnical(lines, tr("NotApp: "), info_.technical.notApp);
+    addTechnical(lines, tr("Missing: "), info_.technical.missing);
     return lines;
 }
 

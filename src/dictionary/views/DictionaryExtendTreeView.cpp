@@ -8,12 +8,12 @@ namespace {
 using Tree = DictionaryExtendTreeView;
 using KeySignal = void (Tree::*)(const QModelIndex&);
 
-KeySignal signalOf(const QKeyEvent& event) {
+KeySignal signalOf(const QKeyEvent& event, bool canPrint) {
     if (event.keyCombination() == QKeyCombination(Qt::Key_F3))
         return &Tree::f3_PressEntityTreeView;
     if (event.keyCombination() == QKeyCombination(Qt::Key_F8))
         return &Tree::f8_PressEntityTreeView;
-    if (event.matches(QKeySequence::Print))
+    if (canPrint && event.matches(QKeySequence::Print))
         return &Tree::ctrlP_PressEntityTreeView;
     return nullptr;
 }
@@ -22,7 +22,7 @@ KeySignal signalOf(const QKeyEvent& event) {
 
 bool DictionaryExtendTreeView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride && currentIndex().isValid() &&
-        signalOf(*static_cast<QKeyEvent*>(event)) != nullptr) {
+        signalOf(*static_cast<QKeyEvent*>(event), canPrint()) != nullptr) {
         event->accept();
         return true;
     }
@@ -30,7 +30,7 @@ bool DictionaryExtendTreeView::event(QEvent* event) {
 }
 
 void DictionaryExtendTreeView::keyPressEvent(QKeyEvent* event) {
-    const KeySignal signal = signalOf(*event);
+    const KeySignal signal = signalOf(*event, canPrint());
     if (signal != nullptr && currentIndex().isValid())
         emit(this->*signal)(currentIndex());
     else

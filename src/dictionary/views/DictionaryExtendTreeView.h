@@ -17,6 +17,8 @@ signals:
     void ctrlP_PressEntityTreeView(const QModelIndex& index);
 
 protected:
+    /// Ctrl+P belongs to others while nothing here prints.
+    virtual bool canPrint() const { return true; }
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -10,6 +10,7 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QMetaMethod>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -102,6 +103,18 @@ void KelTreeView::on_selectionChanged() {
     emit selectedEntity(entity);
 }
 
+bool KelTreeView::canPrint() const {
+    return isSignalConnected(QMetaMethod::fromSignal(&KelTreeView::printRequested));
+}
+
+/// The views beside the tree always show an entity: Ctrl takes none out of the selection.
+QItemSelectionModel::SelectionFlags KelTreeView::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const {
+    const auto command = DictionaryExtendTreeView::selectionCommand(index, event);
+    return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate
+                                                           : command;
+}
+
 void KelTreeView::mousePressEvent(QMouseEvent* event) {
     announced_ = false;
     DictionaryExtendTreeView::mousePressEvent(event);
@@ -161,7 +174,7 @@ void KelTreeView::on_ContextMenuRequested(const QPoint& position) {
         showError(tr("A entity must be selected"));
         return;
     }
-    auto* menu = new TreeViewContextMenu({model_->root(), entity}, this);
+    auto* menu = new TreeViewContextMenu({model_->root(), entity}, canPrint(), this);
     connect(menu, &TreeViewContextMenu::quickView, this, &KelTreeView::on_quickViewEntity);
     connect(menu, &TreeViewContextMenu::propertiesView, this,
             &KelTreeView::on_propertiesViewEntity);

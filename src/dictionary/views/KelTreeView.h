@@ -31,7 +31,7 @@ signals:
     void entityDoubleClicked(TKpEntity* entity);
     void quickViewRequested(TKpEntity* entity);
     void propertiesRequested(TKpEntity* entity);
-    void printRequested(TKpEntity* entity);
+    void printRequested(TKpEntity* entity); ///< offered only where somebody listens
     void executeProgram(const QString& program);
 
 public slots:
@@ -49,6 +49,9 @@ public slots:
     void on_Entered();
 
 protected:
+    bool canPrint() const override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;

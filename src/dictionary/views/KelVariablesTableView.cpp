@@ -204,6 +204,16 @@ void KelVariablesTableView::on_VariableRename() {
         edit(currentIndex());
 }
 
+/// The menu means the variable, not the cell that was pointed at; what is selected stays.
+void KelVariablesTableView::editName() {
+    const QModelIndex name = currentIndex().siblingAtColumn(VariableDiccionaryModel::NameColumn);
+    if (!name.isValid())
+        return;
+    selectionModel()->setCurrentIndex(name, QItemSelectionModel::NoUpdate);
+    scrollTo(name);
+    on_VariableRename();
+}
+
 void KelVariablesTableView::on_VariableProperties() {
     if (currentVariable() != nullptr)
         emit signalShowVariablesProperties();
@@ -262,7 +272,7 @@ void KelVariablesTableView::on_ContextMenuRequested(const QPoint& position) {
     using View = KelVariablesTableView;
     connect(menu, &Menu::signalQuickView, this, &View::on_DisplayQuickView);
     connect(menu, &Menu::signalShowProperties, this, &View::on_VariableProperties);
-    connect(menu, &Menu::signalRename, this, &View::on_VariableRename);
+    connect(menu, &Menu::signalRename, this, &View::editName);
     connect(menu, &Menu::signalDelete, this, &View::deleteVariables);
     connect(menu, &Menu::signalSelectAll, this, &View::on_SelectAllVariables);
     connect(menu, &Menu::executeProgram, this, &View::executeProgram);

@@ -70,6 +70,7 @@ private:
     Kept keepSelection() const;
     void restoreSelection(const Kept& kept);
     void announce();
+    void editName();
     void deleteVariables();
     void fitColumns();
     void followFont();

@@ -5,17 +5,18 @@
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/views/MenuEntry.h"
 
-TreeViewContextMenu::TreeViewContextMenu(std::shared_ptr<TKpEntity> entity, QWidget* parent)
+TreeViewContextMenu::TreeViewContextMenu(std::shared_ptr<TKpEntity> entity, bool canPrint,
+                                         QWidget* parent)
     : QMenu(parent), entity_(std::move(entity)) {
     setObjectName(QStringLiteral("treeViewContextMenu"));
     setAttribute(Qt::WA_DeleteOnClose);
+    setToolTipsVisible(true);
     TKpEntity* shown = entity_.get();
     connect(addMenuEntry(*this, QStringLiteral("actionQuickView"), tr("Quick View"), Qt::Key_F3),
             &QAction::triggered, this, [this, shown] { emit quickView(shown); });
     connect(addMenuEntry(*this, QStringLiteral("actionProperties"), tr("Properties"), Qt::Key_F8),
             &QAction::triggered, this, [this, shown] { emit propertiesView(shown); });
-    connect(addMenuEntry(*this, QStringLiteral("actionPrint"), tr("Print"), QKeySequence::Print),
-            &QAction::triggered, this, [this, shown] { emit printView(shown); });
+    addPrint(canPrint);
     addSeparator();
     addSelectable();
     addSeparator();
@@ -31,6 +32,15 @@ TreeViewContextMenu::TreeViewContextMenu(std::shared_ptr<TKpEntity> entity, QWid
                   tr("<b>Contruction: Hide All Variables context menu </b> "));
     addUnfinished(QStringLiteral("actionUnhideAll"), tr("Unhide All Variables"),
                   tr("<b>Contruction: Unhide All Variables from context menu </b> "));
+}
+
+void TreeViewContextMenu::addPrint(bool canPrint) {
+    QAction* action =
+        addMenuEntry(*this, QStringLiteral("actionPrint"), tr("Print"), QKeySequence::Print);
+    connect(action, &QAction::triggered, this, [this] { emit printView(entity_.get()); });
+    action->setEnabled(canPrint);
+    if (!canPrint)
+        action->setToolTip(tr("Printing is not available yet"));
 }
 
 /// Tells only: what can be selected is laid down with the database.

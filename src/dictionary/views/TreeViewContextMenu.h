@@ -13,7 +13,9 @@ class TreeViewContextMenu : public QMenu {
     Q_OBJECT
 
 public:
-    explicit TreeViewContextMenu(std::shared_ptr<TKpEntity> entity, QWidget* parent = nullptr);
+    /// canPrint: somebody listens to printView().
+    TreeViewContextMenu(std::shared_ptr<TKpEntity> entity, bool canPrint,
+                        QWidget* parent = nullptr);
 
 signals:
     void quickView(TKpEntity* entity);
@@ -22,6 +24,7 @@ signals:
     void executeProgram(const QString& program);
 
 private:
+    void addPrint(bool canPrint);
     void addSelectable();
     void addUnfinished(const QString& name, const QString& text, const QString& message);
 

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr qlonglong largestTag = 9999;
+constexpr int unsetTag = -1;
 
 /// Texts come from files: taken as they are, never as rich text.
 QString toolTip(const TKpVariable& variable) {
@@ -163,8 +164,8 @@ QString VariableDiccionaryModel::cell(const TKpVariable& variable, int column) c
     case LabelColumn:
         return variable.label;
     default:
-        // A negative tag is none: "-001" in every row would meet every search for a 1.
-        return variable.tag < 0
+        // Without a tag the cell is blank: "-001" in every row would meet every search for a 1.
+        return variable.tag == unsetTag
                    ? QString()
                    : QStringLiteral("%1").arg(variable.tag, tagWidth_, 10, QChar(u'0'));
     }
@@ -229,7 +230,7 @@ bool VariableDiccionaryModel::setText(TKpVariable& variable, int column, const Q
 
 bool VariableDiccionaryModel::setTag(TKpVariable& variable, const QString& text) {
     bool isNumber = text.trimmed().isEmpty();
-    const qlonglong tag = isNumber ? -1 : text.toLongLong(&isNumber);
+    const qlonglong tag = isNumber ? unsetTag : text.toLongLong(&isNumber);
     if (!isNumber)
         return false;
     const qlonglong smallest = std::numeric_limits<int>::min();

@@ -4,6 +4,7 @@
 #include "app/messages/Messages.h"
 #include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/views/MenuEntry.h"
+#include "dictionary/views/Validate.h"
 
 #include <algorithm>
 
@@ -16,7 +17,7 @@ VariablesContextMenu::VariablesContextMenu(std::shared_ptr<TKpEntity> root,
     setToolTipsVisible(true);
     addView();
     addSeparator();
-    addEdit();
+    addEdit(*current);
     addSeparator();
     addStatistics();
     addSeparator();
@@ -32,9 +33,12 @@ void VariablesContextMenu::addView() {
             &QAction::triggered, this, &VariablesContextMenu::signalShowProperties);
 }
 
-void VariablesContextMenu::addEdit() {
-    connect(addMenuEntry(*this, QStringLiteral("actionRename"), tr("Rename"), Qt::Key_F2),
-            &QAction::triggered, this, &VariablesContextMenu::signalRename);
+void VariablesContextMenu::addEdit(const TKpVariable& current) {
+    QAction* rename = addMenuEntry(*this, QStringLiteral("actionRename"), tr("Rename"), Qt::Key_F2);
+    connect(rename, &QAction::triggered, this, &VariablesContextMenu::signalRename);
+    rename->setEnabled(current.local);
+    if (!current.local)
+        rename->setToolTip(Validate::message(Validate::NotLocal, current.fullName));
     QAction* remove =
         addMenuEntry(*this, QStringLiteral("actionDelete"), tr("Delete"), QKeySequence::Delete);
     connect(remove, &QAction::triggered, this, &VariablesContextMenu::onDeleteVar);

@@ -33,7 +33,7 @@ private slots:
 
 private:
     void addView();
-    void addEdit();
+    void addEdit(const TKpVariable& current);
     void addStatistics();
     void addMarks();
     void addGroup(const QString& group);
