@@ -1448,6 +1448,10 @@ Please, press Locate button in the Dictionary ToolBar</translation>
         <source>Selectable</source>
         <translation>Selectable</translation>
     </message>
+    <message>
+        <source>Printing is not available yet</source>
+        <translation>Printing is not available yet</translation>
+    </message>
 </context>
 <context>
     <name>UIInvoker</name>
@@ -1982,6 +1986,13 @@ Please, press Locate button in the Dictionary ToolBar</translation>
     <message>
         <source>Variable</source>
         <translation>Variable</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(and %n more)</numerusform>
+            <numerusform>(and %n more)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

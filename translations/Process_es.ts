@@ -1448,6 +1448,10 @@ Pulse el botón Localizar de la barra Diccionario</translation>
         <source>Selectable</source>
         <translation>Seleccionable</translation>
     </message>
+    <message>
+        <source>Printing is not available yet</source>
+        <translation>La impresión aún no está disponible</translation>
+    </message>
 </context>
 <context>
     <name>UIInvoker</name>
@@ -1982,6 +1986,13 @@ Pulse el botón Localizar de la barra Diccionario</translation>
     <message>
         <source>Variable</source>
         <translation>Variable</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(y %n más)</numerusform>
+            <numerusform>(y %n más)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,10 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
         <source>Selectable</source>
         <translation>Sélectionnable</translation>
     </message>
+    <message>
+        <source>Printing is not available yet</source>
+        <translation>L’impression n’est pas encore disponible</translation>
+    </message>
 </context>
 <context>
     <name>UIInvoker</name>
@@ -1982,6 +1986,13 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     <message>
         <source>Variable</source>
         <translation>Variable</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(et %n autre)</numerusform>
+            <numerusform>(et %n autres)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1448,6 +1448,10 @@ Use o botão Localizar da barra Dicionário</translation>
         <source>Selectable</source>
         <translation>Selecionável</translation>
     </message>
+    <message>
+        <source>Printing is not available yet</source>
+        <translation>A impressão ainda não está disponível</translation>
+    </message>
 </context>
 <context>
     <name>UIInvoker</name>
@@ -1982,6 +1986,13 @@ Use o botão Localizar da barra Dicionário</translation>
     <message>
         <source>Variable</source>
         <translation>Variável</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(e mais %n)</numerusform>
+            <numerusform>(e mais %n)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

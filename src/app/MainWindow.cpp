@@ -278,6 +278,8 @@ void MainWindow::on_closeAllDictionary() {
 }
 
 void MainWindow::on_dictIsDirtyReceived(bool dirty) {
+    if (infoProperties_->isVisible())
+        infoProperties_->refresh(TfrmProject::instance().root());
     emit signalDictIsDirty(dirty);
 }
 

@@ -51,6 +51,8 @@ TfrmDictionary::TfrmDictionary(Shell& shell, KelSystem& system, QObject* parent)
     : QObject(parent), shell_(shell), system_(system), loader_(new DictionaryLoader(this)),
       properties_(new TfrmProperties(shell, this)) {
     connectLoader();
+    connect(&TfrmProject::instance(), &TfrmProject::mirrorRebuilt, this,
+            &TfrmDictionary::showMirror);
     connect(properties_, &TfrmProperties::varchanged, this, &TfrmDictionary::on_varchanged);
     connect(properties_, &TfrmProperties::entchanged, this, &TfrmDictionary::on_entchanged);
 }
@@ -309,7 +311,6 @@ void TfrmDictionary::on_saveAsDictionary() {
         showError(QString::fromStdString(fault.what()));
         return;
     }
-    showMirror();
     tellPath();
     dirty_ = false;
     properties_->setChanged(false);
@@ -324,13 +325,11 @@ void TfrmDictionary::locateFiles() {
         !locateMissing(shell_.window(), *project.dictionary(), *project.root()))
         return;
     project.setAllPathsFound(rebuildMirror().missing.isEmpty());
-    showMirror();
     setDirty(true);
 }
 
 void TfrmDictionary::reloadAfterRun() {
     rebuildMirror();
-    showMirror();
     setDirty(true);
 }
 

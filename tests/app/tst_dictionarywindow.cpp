@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -230,6 +231,17 @@ private slots:
         QCOMPARE(bench_->saidWhileBusy, 0);
         QVERIFY(QApplication::overrideCursor() == nullptr);
         bench_->messages.clear();
+    }
+
+    void quickViewFollowsAnEdit() {
+        bench_->select("PERSON", "SEX");
+        QTest::keyClick(&table(), Qt::Key_F3);
+        edit(3, "Seen at once");
+        QStringList texts;
+        for (const QLabel* label : bench_->window().dock("VarProperties")->findChildren<QLabel*>())
+            texts += label->text();
+        QVERIFY2(texts.contains("Seen at once"), qPrintable(texts.join('|')));
+        bench_->window().onCloseInfoAppProperties();
     }
 
     void propertiesFollowTheSelectionAndMarkChanges() {
