@@ -323,6 +323,15 @@ void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
         opener_->dictionary()->reloadAfterRun();
 }
 
+QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outputs) {
+    QStringList faults;
+    for (TKelOutput* output : outputs)
+        if (output->options().direct)
+            faults += tr("%1: files cannot be written yet")
+                          .arg(QString::fromStdString(output->options().outputFile));
+    return faults;
+}
+
 void MainWindow::onShowResults() {
     if (resultsManager_ == nullptr)
         return;

@@ -47,6 +47,10 @@ public:
     QMdiSubWindow* addWindow(QWidget* content) override;
     bool hasWindows() const override;
     void runProgram(const QString& program) override;
+    void showResults(const std::vector<TKelOutput*>& outputs,
+                     const std::shared_ptr<TKelSession>& session,
+                     const QString& programText) override;
+    QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) override;
     QWidget* window() override { return this; }
 
     /// Opens a file of any kind; the extension tells which.
@@ -55,9 +59,6 @@ public:
     void loadLastOpened();
     bool isLoading() const;
     bool isBusy() const; ///< loading, running a program, or asking the user something
-    /// Hands the outputs of a run to the window of results, which comes to the front.
-    void showResults(const std::vector<TKelOutput*>& outputs,
-                     const std::shared_ptr<TKelSession>& session, const QString& programText);
     /// The whole ribbon anew, on the page that was shown.
     void rebuildToolbars();
 

@@ -38,7 +38,19 @@ ALLOWED["src/dictionary"] = BOUNDARY + FORMS + [
     "src/dictionary/mirror", "src/projects", "src/dictionary/loading", "src/dictionary/views",
     "src/dictionary/properties"]
 ALLOWED["src/results"] = BOUNDARY + ["src/app/widgets"]
-WORKBENCH = FORMS + [
+ALLOWED["src/engine/execution"] = BOUNDARY + FORMS + ["src/engine", "src/dictionary/mirror",
+                                                      "src/projects"]
+ALLOWED["src/editor/language"] = BOUNDARY + FORMS
+ALLOWED["src/editor/codeeditor"] = FORMS + ["src/editor/language"]
+ALLOWED["src/editor/text"] = FORMS + ["src/editor/language"]
+ALLOWED["src/editor/search"] = FORMS
+ALLOWED["src/editor/files"] = FORMS
+EDITOR = ["src/editor/language", "src/editor/codeeditor", "src/editor/text", "src/editor/search",
+          "src/editor/files"]
+ALLOWED["src/editor/program"] = BOUNDARY + FORMS + EDITOR + [
+    "src/engine", "src/engine/execution", "src/dictionary/mirror", "src/projects"]
+WORKBENCH = FORMS + EDITOR + [
+    "src/engine/execution", "src/editor/program",
     "src/engine", "src/dictionary/mirror", "src/projects", "src/app/ribbon/tt", "src/app/ribbon",
     "src/preferences", "src/dictionary/loading", "src/dictionary/views",
     "src/dictionary/properties", "src/dictionary", "src/results"]

@@ -3,10 +3,16 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
 
 class QDockWidget;
 class QMdiSubWindow;
 class QWidget;
+class TKelOutput;
+class TKelSession;
 
 /// GUI thread only.
 class Shell {
@@ -31,6 +37,14 @@ public:
 
     /// Runs a program text against the open dictionary and shows what it makes.
     virtual void runProgram(const QString& program) = 0;
+    /// Hands the outputs of a run to the window of results, which comes to the front. programText:
+    /// as the user wrote it.
+    virtual void showResults(const std::vector<TKelOutput*>& outputs,
+                             const std::shared_ptr<TKelSession>& session,
+                             const QString& programText) = 0;
+    /// Writes the files that the outputs ask for (OUTFILE) and shows nothing. Gives a line for each
+    /// one that could not be written.
+    virtual QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) = 0;
 
     /// What dialogs stand in front of.
     virtual QWidget* window() = 0;

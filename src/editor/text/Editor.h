@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The text in which a program is typed: one tab of a program window.
+#pragma once
+
+#include <QHash>
+#include <QPair>
+#include <QPlainTextEdit>
+#include <QString>
+#include <QStringList>
+
+class EditorHost;
+class KelvoraCompleter;
+class LineNumberArea;
+class QKelxHighlighter;
+class QSyntaxStyle;
+
+/// How an editor looks; read from the settings by the window, and handed down.
+struct EditorLook {
+    QFont font;
+    int colorScheme = 0; ///< index into syntaxStyles()
+    bool gutterVisible = true;
+    bool showGutterLineNumbers = true;
+};
+
+class Editor : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    /// host: where it is null, nothing is known of a dictionary, and the window's commands do
+    /// nothing.
+    explicit Editor(const EditorLook& look, EditorHost* host = nullptr, QWidget* parent = nullptr);
+    ~Editor() override;
+
+    QString filePath() const { return filePath_; } ///< empty while untitled
+    void setFilePath(const QString& path);
+    QString untitledName() const { return untitledName_; }
+    void setUntitledName(const QString& name) { untitledName_ = name; }
+    bool isUntitled() const { return untitled_; }
+    QString displayName(); ///< file name, or the untitled name, which marks it as untitled
+
+    void setEntityList(const QStringList& names);   ///< sorted here, each once
+    void setVariableList(const QStringList& names); ///< sorted here, each once
+    void setLowerCase(bool lower) { lowerCase_ = lower; }
+    void setExecuteMode(bool execute) { executeMode_ = execute; }
+    bool executeMode() const { return executeMode_; }
+    bool autoIndent() const { return autoIndent_; }
+    void setAutoIndent(bool indent) { autoIndent_ = indent; }
+    bool wordWrap() const { return wordWrap_; }
+    void setWordWrap(bool wrap);
+    /// tabWidth: in blanks.
+    void setEditorFont(const QFont& font, QFont::StyleHint hint, bool fixedPitch, int tabWidth);
+    void setSyntaxStyle(QSyntaxStyle* style);
+    void setGutter(bool visible, bool lineNumbers);
+    KelvoraCompleter* completer() const { return completer_; }
+
+    /// With the line ends of a program text: line feeds. Empty where nothing is selected.
+    QString selectedText() const;
+    int selectionFirstLine() const; ///< 0-based line where the selection begins
+
+    /// Paints a line (1-based) as faulty and goes there; 0 for none. The document is not changed.
+    void highlightErrorLine(int line);
+    void clearErrorLine();
+    int highlightedLine() const { return highlightedLine_; }
+
+    int wordCount() const { return wordCount_; }
+    int charCount() const { return charCount_; }
+    int currentLine() const { return currentLine_; }
+    int lineCount() const { return lineCount_; }
+    int currentColumn() const { return currentColumn_; }
+    /// Emits all metrics, as a window that shows them anew needs.
+    void tellMetrics();
+
+signals:
+    void findResultReady(QString message);
+    void findAllResult(QString message);
+    void gotoResultReady(QString message);
+    void wordCountChanged(int words);
+    void charCountChanged(int chars);
+    void lineCountChanged(int current, int total);
+    void columnCountChanged(int col);
+    void fileContentsChanged();
+    void gotoClose(int);
+    void executeRun();
+    void compileRun();
+    void defineOpen(QString);
+    void executeOpen(QString);
+    void tableOpen(QString);
+    void rundefOpen(QString);
+
+public slots:
+    /// Both forward from the cursor, and once round.
+    bool find(const QString& query, bool caseSensitive, bool wholeWords);
+    bool find(const QString& query, bool caseSensitive, bool wholeWords, bool replace);
+    bool findAll(const QString& query, bool caseSensitive, bool wholeWords);
+    void replace(const QString& what, const QString& with, bool caseSensitive, bool wholeWords);
+    void replaceAll(const QString& what, const QString& with, bool caseSensitive, bool wholeWords);
+    void goTo(int line);
+    void runByBlock();
+    void compileByBlock();
+    void slotCustomMenuRequested(const QPoint& pos);
+    void onRundefAssistantClick();
+    void onDefineAssistantClick();
+    void onTableAssistantClick();
+    void onExecuteAssistantClick();
+    void updateLineNumberAreaWidth();
+    void on_delete();
+    void on_toggleComment();
+    void on_wizardDefine();
+    void on_wizardTable();
+    void on_executeBlowUp();
+    void on_defineFrequency();
+    void on_syntaxClue();
+    void on_editTable();
+    void on_editGraph();
+    void on_toolBar();
+    void on_statusBar();
+    void on_errorList();
+    void on_textChanged();
+    void on_cursorPositionChanged();
+    void redrawLineNumberArea(const QRect& rectToBeRedrawn, int numPixelsScrolledVertically);
+    void setUndoAvailable(bool available);
+    void setRedoAvailable(bool available);
+    void insertCompletion(const QString& completion);
+
+private:
+    QString filePath_;
+    QString untitledName_;
+    bool untitled_ = true;
+    bool executeMode_ = false;
+    bool autoIndent_ = true;
+    bool wordWrap_ = false;
+    bool lowerCase_ = false;
+    int wordCount_ = 0;
+    int charCount_ = 0;
+    int currentLine_ = 1;
+    int lineCount_ = 1;
+    int currentColumn_ = 1;
+    int highlightedLine_ = 0;
+    KelvoraCompleter* completer_ = nullptr;
+};

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The counters of the current editor in the status bar of its window.
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+class MetricReporter : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit MetricReporter(QWidget* parent = nullptr);
+
+public slots:
+    void updateWordCount(int words);
+    void updateCharCount(int chars);
+    void updateLineCount(int current, int total);
+    void updateColumnCount(int column);
+};

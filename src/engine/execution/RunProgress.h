@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The progress window of runs: the engine's callback keeps it, and with it the program, alive while
+// the GUI thread is inside the engine.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+/// One window for all of a kind, made at the first use. It shows 400 ms after the run began, holds
+/// below 100 until the end, and goes on every way out, exceptions included. Its scope is the run.
+class RunProgress {
+public:
+    /// onCancel: called once, when the user presses Cancel or Escape.
+    RunProgress(QWidget* parent, std::function<void()> onCancel);
+    ~RunProgress();
+    RunProgress(const RunProgress&) = delete;
+    RunProgress& operator=(const RunProgress&) = delete;
+
+    /// Called as often as the engine likes: takes over both, and processes events at most every
+    /// 50 ms, without the user's input until the window shows. True where the user has cancelled.
+    bool tell(int percent, const QString& label);
+    bool wasCancelled() const;
+};
