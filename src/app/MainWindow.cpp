@@ -3,6 +3,7 @@
 
 #include "app/FileOpener.h"
 #include "app/Logging.h"
+#include "app/ProgramWindows.h"
 #include "app/RibbonHost.h"
 #include "app/StartPage.h"
 #include "app/WorkArea.h"
@@ -83,6 +84,7 @@ void MainWindow::setupWorkArea() {
     startPage_ = new StartPage;
     workArea_->setEmptyPage(startPage_);
     setCentralWidget(workArea_);
+    programs_ = new ProgramWindows(*this, *workArea_, system_, this);
     connect(startPage_, &StartPage::recentRequested, this, &MainWindow::on_openRecentDictionary);
 }
 
@@ -98,6 +100,9 @@ void MainWindow::setupToolbar() {
     connect(ribbon_, &RibbonHost::saveAsDictionary, this, &MainWindow::saveAsOpenDictionary);
     connect(ribbon_, &RibbonHost::locateDictionary, this, &MainWindow::locateFiles);
     connect(ribbon_, &RibbonHost::closeAllDictionary, this, &MainWindow::on_closeAllDictionary);
+    connect(ribbon_, &RibbonHost::newProgram, programs_, &ProgramWindows::newProgram);
+    connect(ribbon_, &RibbonHost::programFile, programs_, &ProgramWindows::openProgram);
+    connect(programs_, &ProgramWindows::recentChanged, this, &MainWindow::rebuildToolbars);
     connect(ribbon_, &RibbonHost::preferences, this, &MainWindow::onClickInPreferences);
 }
 
@@ -116,6 +121,7 @@ void MainWindow::connectOpener() {
     connect(opener_, &FileOpener::closed, this, &MainWindow::closeAll);
     connect(opener_, &FileOpener::failed, this, [this] {
         showNothingOpen();
+        settleRecovery();
         if (closeAfterLoading_)
             QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
     });
@@ -180,6 +186,9 @@ RibbonHost::State MainWindow::ribbonState() const {
     state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
                             opener_->dictionary()->isDirty();
     state.recentDictionaries = mainController_->recentDictionaries();
+    if (state.dictionaryOpen)
+        state.dictionaryPrograms =
+            ProgramWindows::programsBeside(TfrmProject::instance().dictionaryPath());
     return state;
 }
 
@@ -219,6 +228,17 @@ void MainWindow::loadLastOpened() {
     ribbon_->select(ribbon::FilePage);
 }
 
+void MainWindow::offerRecovered() {
+    recoveryDue_ = isLoading();
+    if (!recoveryDue_)
+        programs_->offerRecovered();
+}
+
+void MainWindow::settleRecovery() {
+    if (recoveryDue_)
+        QMetaObject::invokeMethod(this, &MainWindow::offerRecovered, Qt::QueuedConnection);
+}
+
 void MainWindow::onOpened(const QString& path, bool found) {
     const TfrmProject& project = TfrmProject::instance();
     const QFileInfo file(path);
@@ -229,6 +249,7 @@ void MainWindow::onOpened(const QString& path, bool found) {
     rebuildToolbars();
     startPage_->setEnabled(true);
     ribbon_->select(found ? ribbon::FilePage : ribbon::DictionaryPage);
+    settleRecovery();
 }
 
 void MainWindow::closeAll() {

@@ -18,6 +18,7 @@ class ConfigDialog;
 class FileOpener;
 class InfoProperties;
 class KelSystem;
+class ProgramWindows;
 class QMdiSubWindow;
 class ResultsManager;
 class StartPage;
@@ -57,6 +58,9 @@ public:
     void openFile(const QString& path, const QString& extension);
     /// Reopens the last file where the settings ask for it.
     void loadLastOpened();
+    /// Asks about unsaved texts of a program that ended without its user's will, once what is being
+    /// opened is open.
+    void offerRecovered();
     bool isLoading() const;
     bool isBusy() const; ///< loading, running a program, or asking the user something
     /// The whole ribbon anew, on the page that was shown.
@@ -102,6 +106,7 @@ private:
     RibbonHost::State ribbonState() const;
     void onRecentChanged();
     void connectOpener();
+    void settleRecovery();
     void onOpened(const QString& path, bool found);
     void closeAll();
     void showNothingOpen();
@@ -119,10 +124,12 @@ private:
     StartPage* startPage_ = nullptr;
     RibbonHost* ribbon_ = nullptr;
     FileOpener* opener_ = nullptr;
+    ProgramWindows* programs_ = nullptr;
     InfoProperties* infoProperties_ = nullptr; ///< hidden rather than deleted
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
     QString language_;
     bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
     bool running_ = false;
+    bool recoveryDue_ = false;
     bool engineEnded_ = false;
 };

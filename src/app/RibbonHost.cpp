@@ -68,6 +68,9 @@ void RibbonHost::build() {
     told.dictionaryDirty = state.dictionaryDirty;
     told.loading = state.loading;
     told.recentDictionaries = state.recentDictionaries;
+    told.recentPrograms = system_.recentPrograms(false);
+    told.recentExecutes = system_.recentPrograms(true);
+    told.dictionaryPrograms = state.dictionaryPrograms;
     told.language = system_.language();
     told.engineVersion = QString::fromStdString(kel::version());
     pages_ = new RibbonPages(*toolbar_, told, workArea_);
@@ -90,6 +93,8 @@ void RibbonHost::connectPages() {
     connect(pages_, &RibbonPages::saveAsDictionary, this, &RibbonHost::saveAsDictionary);
     connect(pages_, &RibbonPages::locateDictionary, this, &RibbonHost::locateDictionary);
     connect(pages_, &RibbonPages::closeAllDictionary, this, &RibbonHost::closeAllDictionary);
+    connect(pages_, &RibbonPages::newProgram, this, &RibbonHost::newProgram);
+    connect(pages_, &RibbonPages::programFile, this, &RibbonHost::programFile);
     connect(pages_, &RibbonPages::preferences, this, &RibbonHost::preferences);
 }
 

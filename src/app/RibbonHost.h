@@ -30,6 +30,7 @@ public:
         bool dictionaryDirty = false;
         bool loading = false;
         QStringList recentDictionaries;
+        QStringList dictionaryPrograms;
     };
 
     /// state: asked whenever the ribbon is built.
@@ -53,6 +54,8 @@ signals:
     void saveAsDictionary();
     void locateDictionary();
     void closeAllDictionary();
+    void newProgram(bool execute);
+    void programFile(const QString& path, bool execute);
     void preferences();
 
 private:

@@ -39,6 +39,7 @@ int main(int argc, char** argv) {
     window.show();
     logMessage(QStringLiteral("Loading the main screen settings"), false);
     window.loadLastOpened();
+    window.offerRecovered();
     logMessage(QStringLiteral("Checking for new updates"), false);
     QUpdater updater;
     updater.setBusyTest([&window] { return window.isBusy(); });

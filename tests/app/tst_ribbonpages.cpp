@@ -292,6 +292,46 @@ private slots:
         QVERIFY(!menu->isVisible());
     }
 
+    void programsBeginAndOpenFromTheirMenus() {
+        RibbonState state = open();
+        state.recentPrograms = QStringList{"/work/a.spc", "/work/b.spc"};
+        state.recentExecutes = QStringList{"/work/all.spc"};
+        state.dictionaryPrograms = QStringList{"/data/income.spc"};
+        build(state);
+        QStringList asked;
+        connect(pages_, &RibbonPages::newProgram, this,
+                [&](bool execute) { asked += execute ? "new execute" : "new"; });
+        connect(pages_, &RibbonPages::programFile, this, [&](const QString& path, bool execute) {
+            asked += path + (execute ? " execute" : "");
+        });
+        const auto press = [this](const char* name, std::initializer_list<Qt::Key> keys) {
+            QMenu* menu = button(name)->defaultAction()->menu();
+            menu->popup({});
+            QTRY_VERIFY(menu->isVisible());
+            for (const Qt::Key key : keys)
+                QTest::keyClick(menu, key);
+            QVERIFY(!menu->isVisible());
+        };
+        press("File-new", {Qt::Key_P});
+        press("File-new", {Qt::Key_E});
+        KelvoraFileDialog::answerNext("/work/c.spc");
+        press("File-open", {Qt::Key_P});
+        KelvoraFileDialog::answerNext({}); // the user cancels
+        press("File-open", {Qt::Key_P});
+        KelvoraFileDialog::answerNext("/work/d.spc");
+        press("File-open", {Qt::Key_E});
+        press("File-programs", {Qt::Key_2});
+        press("File-programs", {Qt::Key_3});
+        press("File-execute", {Qt::Key_N});
+        press("File-execute", {Qt::Key_1});
+        QCOMPARE(asked, QStringList({"new", "new execute", "/work/c.spc", "/work/d.spc execute",
+                                     "/work/b.spc", "/data/income.spc", "new execute",
+                                     "/work/all.spc execute"}));
+        build({});
+        QVERIFY(!button("File-programs")->isEnabled()); // there is none to offer
+        QVERIFY(button("File-new")->isEnabled());
+    }
+
     void windowsTileSideBySideAndAboveOneAnother() {
         const QList<QMdiSubWindow*> windows = threeWindows();
         windows[1]->showMinimized();

@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <filesystem>
@@ -345,6 +346,25 @@ private slots:
         QCOMPARE(value.toInt(), 8);
     }
 
+    void recentProgramsAreRememberedWhileTheyExist() {
+        const SettingsFolder folder;
+        folder.write(laterStart);
+        KelSystem system(folder.base());
+        const QTemporaryDir programs;
+        for (const char* name : {"a.spc", "b.spc", "c.spc"}) {
+            QFile file(programs.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            system.addRecentProgram(file.fileName(), false);
+        }
+        system.addRecentProgram(programs.filePath("a.spc"), true);
+        system.addRecentProgram(programs.filePath("b.spc"), false); // again
+        QVERIFY(QFile::remove(programs.filePath("c.spc")));
+        const KelSystem next(folder.base());
+        QCOMPARE(next.recentPrograms(false),
+                 QStringList({programs.filePath("b.spc"), programs.filePath("a.spc")}));
+        QCOMPARE(next.recentPrograms(true), QStringList(programs.filePath("a.spc")));
+    }
+
     void resettingGivesTheInstalledDefaults() {
         const SettingsFolder folder;
         folder.write(laterStart);
@@ -353,12 +373,14 @@ private slots:
             each.set(system);
         system.addRecentDictionary("/data/a.kxdb");
         system.addRecentProject("/data/a.prj.json");
+        system.addRecentProgram(folder.base(), false);
         system.resetToDefaults();
         QVERIFY(!system.firstUse());
         for (const Setting& each : settings())
             QVERIFY2(!each.isSet(system), each.path);
         QCOMPARE(system.recentDictionaries(), QStringList());
         QCOMPARE(system.recentProjects(), QStringList());
+        QCOMPARE(system.recentPrograms(false), QStringList());
         QCOMPARE(system.lastOpened(), "");
         QCOMPARE(system.screenFont(), QFont("Arial", 9));
         QCOMPARE(system.fixedFont(), QFont("Courier New", 10));

@@ -12,13 +12,14 @@ RibbonPages::RibbonPages(tt::TabToolbar& toolbar, const RibbonState& state, QMdi
     : QObject(&toolbar), toolbar_(toolbar) {
     auto* project = new ProjectToolBar(toolbar);
     dictionary_ = new DictionaryToolBar(toolbar, state);
-    auto* file = new FileToolBar(toolbar);
+    auto* file = new FileToolBar(toolbar, state);
     new StatisticalToolBar(toolbar);
     toolbar.AddPage({}); // EASY INDICATORS
     new WindowToolBar(toolbar, workArea);
     auto* general = new GeneralToolBar(toolbar, state);
     connect(project, &ProjectToolBar::projectFile, this, &RibbonPages::projectFile);
-    connect(file, &FileToolBar::openedFile, this, &RibbonPages::openedFile);
+    connect(file, &FileToolBar::newProgram, this, &RibbonPages::newProgram);
+    connect(file, &FileToolBar::programFile, this, &RibbonPages::programFile);
     connect(general, &GeneralToolBar::preferences, this, &RibbonPages::preferences);
     connectDictionary();
     retitle();

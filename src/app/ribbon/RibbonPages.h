@@ -56,7 +56,8 @@ signals:
     void checkDictionary();
     void printDictionary();
     void closeAllDictionary();
-    void openedFile();
+    void newProgram(bool execute);
+    void programFile(const QString& path, bool execute);
     void preferences();
 
 private:

@@ -10,6 +10,9 @@ struct RibbonState {
     bool dictionaryDirty = false;
     bool loading = false;           ///< nothing may be opened, saved or closed meanwhile
     QStringList recentDictionaries; ///< whole paths, the newest first
+    QStringList recentPrograms;     ///< whole paths, the newest first
+    QStringList recentExecutes;     ///< the same of programs that run others
+    QStringList dictionaryPrograms; ///< those beside the open dictionary, by name
     QString language;               ///< "Process_en" and the like
     QString engineVersion;          ///< for About
 };

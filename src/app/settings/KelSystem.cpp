@@ -223,6 +223,16 @@ void KelSystem::removeRecentProject(const QString& path) {
     save();
 }
 
+QStringList KelSystem::recentPrograms(bool execute) const {
+    return existing(execute ? values_.recentExecutes : values_.recentPrograms,
+                    values_.maxLastFiles);
+}
+
+void KelSystem::addRecentProgram(const QString& path, bool execute) {
+    updateRecentList(execute ? values_.recentExecutes : values_.recentPrograms, path);
+    save();
+}
+
 void KelSystem::setLastOpened(const QString& path) {
     values_.lastOpened = QDir::fromNativeSeparators(path);
     save();

@@ -63,6 +63,9 @@ public:
     void addRecentProject(const QString& path);
     void removeRecentDictionary(const QString& path); ///< saves
     void removeRecentProject(const QString& path);    ///< saves; either slash will do
+    /// Those that are still there. execute: of the programs that run others.
+    QStringList recentPrograms(bool execute) const;
+    void addRecentProgram(const QString& path, bool execute); ///< the newest; saves
     int maxLastFiles() const { return values_.maxLastFiles; }
     void setMaxLastFiles(int count) { values_.maxLastFiles = count; }
     QString lastOpened() const { return values_.lastOpened; } ///< with forward slashes

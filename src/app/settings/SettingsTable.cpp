@@ -156,6 +156,8 @@ constexpr auto table = std::to_array<SettingsKey>({
     {"cmdEditor/gutterVisible", &V::gutterVisible},
     {"cmdEditor/showGutterLineNumbers", &V::showGutterLineNumbers},
     {"cmdEditor/tabIndentSpaces", &V::tabIndentSpaces, SettingsUse::Both, 1, 100},
+    {"cmdEditor/lastFiles", &V::recentPrograms},
+    {"cmdEditor/lastExecuteFiles", &V::recentExecutes},
     {"selEditor/position", ConstantPosition{}},
     {"selEditor/toolbar", true},
     {"selEditor/statusbar", true},

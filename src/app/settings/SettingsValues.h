@@ -36,6 +36,8 @@ struct SettingsValues {
     int tableSeparator = 0;
     QStringList recentProjects;     ///< newest first
     QStringList recentDictionaries; ///< newest first
+    QStringList recentPrograms;     ///< newest first
+    QStringList recentExecutes;     ///< programs that run others, newest first
 
     QString defaultFolder;
     QString dictionaryFolder;
