@@ -83,6 +83,10 @@ void showRichInformation(const QString& text) {
          translated(QT_TRANSLATE_NOOP("Messages", "Information")), text, Qt::RichText);
 }
 
+void showAbout(const QString& title, const QString& html) {
+    show(MessageKind::Information, QMessageBox::Information, title, html, Qt::RichText);
+}
+
 bool askYesNo(const QString& title, const QString& text) {
     if (answerer())
         return answerer()(MessageKind::Question, text) == Choice::Yes;

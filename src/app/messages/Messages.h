@@ -14,6 +14,8 @@ void showInformation(const QString& text);
 void showWarning(const QString& text);
 /// Shows rich text, for words of ours only: never for what files or users say.
 void showRichInformation(const QString& text);
+/// An information box with a title of its own; html holds words of ours only.
+void showAbout(const QString& title, const QString& html);
 /// True for Yes. There is no Cancel; Escape means No.
 bool askYesNo(const QString& title, const QString& text);
 /// As askYesNo, with rich text of ours, a second text below it, and Yes as default.
