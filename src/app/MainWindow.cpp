@@ -319,24 +319,22 @@ void MainWindow::runProgram(const QString& program) {
 }
 
 void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
-                             const std::shared_ptr<TKelSession>& /*session*/,
+                             const std::shared_ptr<TKelSession>& session,
                              const QString& programText) {
     if (!outputs.empty())
-        addResults(outputs);
+        addResults(outputs, session);
     if (saves(programText))
         reloadDictionary();
 }
 
-void MainWindow::addResults(const std::vector<TKelOutput*>& outputs) {
+void MainWindow::addResults(const std::vector<TKelOutput*>& outputs,
+                            const std::shared_ptr<TKelSession>& session) {
     if (resultsManager_ == nullptr)
         resultsManager_ = new ResultsManager(this);
-    const std::size_t shown = resultsManager_->addOutputs(outputs);
-    if (shown > 0)
+    if (resultsManager_->addOutputs(outputs, session) > 0)
         onShowResults();
     rebuildToolbars();
-    QStringList faults = writeDirectOutputs(outputs);
-    if (shown < outputs.size())
-        faults.prepend(tr("The results cannot be shown as a frequency."));
+    const QStringList faults = writeDirectOutputs(outputs);
     if (!faults.isEmpty())
         showWarning(faults.join('\n'));
 }

@@ -111,7 +111,8 @@ private:
     void onOpened(const QString& path, bool found);
     void closeAll();
     void showNothingOpen();
-    void addResults(const std::vector<TKelOutput*>& outputs);
+    void addResults(const std::vector<TKelOutput*>& outputs,
+                    const std::shared_ptr<TKelSession>& session);
     bool canChangeDictionary() const; ///< one is open, and neither loaded nor used by a run
     bool askSaveDictionary();         ///< false where the changes could not be saved
     bool endRun();                    ///< false where the window stays open

@@ -3,33 +3,45 @@
 #pragma once
 
 #include "results/FrequencyTable.h"
+#include "results/OutputModel.h"
 
 #include <QSplitter>
 
+#include <memory>
+#include <variant>
 #include <vector>
 
 class FrequencyView;
+class OutputView;
 class QListWidget;
+class QStackedWidget;
 
-/// Tables own copies of their figures and outlive the runs that made them.
+/// Frequencies own copies of their figures; the other outputs stay with the run that made them,
+/// which lives as long as they are listed.
 class ResultsManager : public QSplitter {
     Q_OBJECT
 
 public:
     explicit ResultsManager(QWidget* parent = nullptr);
 
-    /// Appends the outputs that it can show and shows the first of them. Returns their number.
-    std::size_t addOutputs(const std::vector<TKelOutput*>& outputs);
+    /// Appends the outputs that hold figures and shows the first of them. Returns their number.
+    std::size_t addOutputs(const std::vector<TKelOutput*>& outputs,
+                           const std::shared_ptr<TKelSession>& session);
     int tableCount() const { return static_cast<int>(tables_.size()); }
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    using Table = std::variant<FrequencyTable, OutputTable>;
+
+    void addTable(Table table, const QString& name, const QString& toolTip);
     void showTable(int row);
     void retranslate();
 
-    std::vector<FrequencyTable> tables_;
+    std::vector<Table> tables_;
     QListWidget* list_;
-    FrequencyView* view_;
+    FrequencyView* frequency_;
+    OutputView* output_;
+    QStackedWidget* views_;
 };

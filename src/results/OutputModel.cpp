@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/OutputModel.h"
+
+#include "TKelDataset.h"
+#include "TKelOutput.h"
+#include "TKelSession.h"
+#include "TKelVariable.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int fieldsOfDimension = 3; ///< code, label, kind
+
+QString text(const std::string& words) {
+    return QString::fromStdString(words);
+}
+
+/// The dimensions stand as code, label and kind.
+bool hasTriples(const TKelOutput& output) {
+    const bool table =
+        output.type() == eOutputType::TABLE &&
+        (output.method() == eTableMethod::FREQUENCY || output.method() == eTableMethod::AVERAGE);
+    return output.dimension() > 0 &&
+           (table || (output.type() == eOutputType::TABOP && output.dimension() > 1));
+}
+
+QString markerName(const QString& marker) {
+    if (marker == QLatin1String("tot") || marker == QLatin1String("$tot$"))
+        return OutputModel::tr("Total");
+    if (marker == QLatin1String("mv") || marker == QLatin1String("$mv$"))
+        return OutputModel::tr("Missing");
+    if (marker == QLatin1String("na") || marker == QLatin1String("$na$"))
+        return OutputModel::tr("Not applicable");
+    return {};
+}
+
+} // namespace
+
+QString OutputTable::name() const {
+    return text(output->name());
+}
+
+QString OutputTable::title() const {
+    const QString words = text(output->options().title.value_or(""));
+    return words.isEmpty() ? name() : name() + " – " + words;
+}
+
+QString OutputTable::note() const {
+    QStringList parts;
+    const TKelOutputConfig& options = output->options();
+    if (options.weightVariable)
+        parts += OutputModel::tr("Weight: %1").arg(text(*options.weightVariable));
+    if (options.filter)
+        parts += OutputModel::tr("Filter: %1").arg(text(*options.filter));
+    if (output->suppressed() > 0)
+        parts += OutputModel::tr("%n cell(s) hidden to protect persons", nullptr,
+                                 static_cast<int>(output->suppressed()));
+    return parts.join('\n');
+}
+
+void OutputModel::setTable(const OutputTable& table) {
+    beginResetModel();
+    table_ = table;
+    columns_.clear();
+    data_ = table.output != nullptr ? table.output->dataset() : nullptr;
+    if (data_ != nullptr) {
+        int field = 0;
+        if (hasTriples(*table.output)) {
+            const int dimensions = table.output->dimension();
+            const auto variables = table.output->variables();
+            const int first = static_cast<int>(variables.size()) - dimensions;
+            for (int i = 0; i < dimensions && first >= 0; ++i)
+                addDimension(i, text(variables[static_cast<std::size_t>(first + i)]->name()));
+            field = fieldsOfDimension * dimensions;
+        }
+        for (; field < data_->numFields(); ++field)
+            addField(field);
+    }
+    endResetModel();
+}
+
+void OutputModel::addDimension(int dimension, const QString& heading) {
+    const int code = fieldsOfDimension * dimension;
+    columns_ += Column{code, code + 2, true, true, heading};
+    columns_ += Column{code + 1, code + 2, false, true, tr("Label")};
+}
+
+void OutputModel::addField(int field) {
+    const auto told = data_->field(field);
+    const QString label = text(told->label());
+    const QString marker = markerName(label);
+    const QString own = label.isEmpty() ? text(told->name()) : label;
+    std::pair<double, double> range;
+    data_->range(range, field);
+    const bool isText = range.first == 0 && range.second == 0;
+    columns_ += Column{field, -1, false, isText, marker.isEmpty() ? own : marker};
+}
+
+int OutputModel::rowCount(const QModelIndex& parent) const {
+    if (parent.isValid() || data_ == nullptr)
+        return 0;
+    return static_cast<int>(
+        std::min<std::int64_t>(data_->recCount(), std::numeric_limits<int>::max()));
+}
+
+int OutputModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+QString OutputModel::cell(int row, const Column& column) const {
+    if (column.kindField >= 0) {
+        const QString kind = text(data_->stringValue(row, column.kindField));
+        if (!kind.isEmpty())
+            return column.isCode ? QString() : markerName(kind);
+    }
+    return text(data_->stringValue(row, column.field));
+}
+
+QVariant OutputModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    const Column& column = columns_[index.column()];
+    if (role == Qt::DisplayRole)
+        return cell(index.row(), column);
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignVCenter | (column.isText ? Qt::AlignLeft : Qt::AlignRight));
+    return {};
+}
+
+QVariant OutputModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::DisplayRole)
+        return columns_.value(section).heading;
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignVCenter |
+                   (columns_.value(section).isText ? Qt::AlignLeft : Qt::AlignRight));
+    return {};
+}

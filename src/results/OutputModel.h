@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The rows of any output as the engine gives them, read from it cell by cell as they are shown.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+class TKelDataset;
+class TKelOutput;
+class TKelSession;
+
+/// An output to show, with the session that it belongs to.
+struct OutputTable {
+    std::shared_ptr<TKelSession> session;
+    TKelOutput* output = nullptr;
+
+    QString name() const;
+    QString title() const; ///< the name, and the program's title for it
+    QString note() const;  ///< weight, filter and hidden cells, a line for each
+};
+
+class OutputModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void setTable(const OutputTable& table);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Column {
+        int field = 0;
+        int kindField = -1;  ///< where the field's rows may be markers
+        bool isCode = false; ///< empty in the row of a marker
+        bool isText = true;
+        QString heading;
+    };
+    void addDimension(int dimension, const QString& heading);
+    void addField(int field);
+    QString cell(int row, const Column& column) const;
+
+    OutputTable table_;
+    TKelDataset* data_ = nullptr;
+    QList<Column> columns_;
+};
