@@ -4,6 +4,7 @@
 #include "editor/language/KelvoraCompleter.h"
 #include "editor/language/QKelxHighlighter.h"
 #include "editor/language/SyntaxStyles.h"
+#include "editor/language/WordModel.h"
 #include "editor/text/EditorCompletion.h"
 #include "editor/text/LineNumberArea.h"
 #include "editor/text/WordCounter.h"
@@ -11,22 +12,14 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
-#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
 
-#include <algorithm>
-
 namespace {
 
-/// Without regard to case, and each once.
-QStringList sortedNames(QStringList names) {
-    names.sort();
+QStringList eachOnce(QStringList names) {
     names.removeDuplicates();
-    std::stable_sort(names.begin(), names.end(), [](const QString& left, const QString& right) {
-        return left.compare(right, Qt::CaseInsensitive) < 0;
-    });
-    return names;
+    return sortedWords(names);
 }
 
 } // namespace
@@ -43,6 +36,7 @@ Editor::Editor(const EditorLook& look, EditorHost* host, QWidget* parent)
     setAcceptDrops(true);
     installEventFilter(this);
     connectSignals();
+    highlighter_->setVisibleBlocks([this] { return visibleBlocks(); });
     setSyntaxStyle(::syntaxStyle(look.colorScheme));
     setEditorFont(look.font, QFont::Monospace, true, usualTabWidth);
     setGutter(look.gutterVisible, look.showGutterLineNumbers);
@@ -95,12 +89,12 @@ QString Editor::displayName() {
 }
 
 void Editor::setEntityList(const QStringList& names) {
-    entityList_ = sortedNames(names);
+    entityList_ = eachOnce(names);
     completion_->setEntities(entityList_);
 }
 
 void Editor::setVariableList(const QStringList& names) {
-    variableList_ = sortedNames(names);
+    variableList_ = eachOnce(names);
 }
 
 void Editor::setLowerCase(bool lower) {
@@ -139,9 +133,7 @@ void Editor::setSyntaxStyle(QSyntaxStyle* style) {
     lineNumberArea_->setSyntaxStyle(*style);
     completion_->followLook();
     highlighter_->setSyntaxStyle(style);
-    // New colours are no change of the text.
-    const QSignalBlocker quiet(document());
-    highlighter_->rehighlight();
+    highlighter_->recolour();
 }
 
 void Editor::setGutter(bool visible, bool lineNumbers) {
@@ -181,6 +173,11 @@ QList<VisibleLine> Editor::visibleLines(const QRect& rect) const {
         block = block.next();
     }
     return lines;
+}
+
+QPair<int, int> Editor::visibleBlocks() const {
+    const QList<VisibleLine> lines = visibleLines(viewport()->rect());
+    return lines.isEmpty() ? QPair(0, 0) : QPair(lines.first().number - 1, lines.last().number - 1);
 }
 
 QString Editor::selectedText() const {

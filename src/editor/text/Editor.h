@@ -5,6 +5,7 @@
 #include "editor/text/EditorSearch.h"
 #include "editor/text/ErrorLine.h"
 
+#include <QPair>
 #include <QPlainTextEdit>
 #include <QString>
 #include <QStringList>
@@ -158,6 +159,7 @@ private:
     void connectEdits(const EditorContextMenu& menu);
     void connectCommands(const EditorContextMenu& menu);
     void connectAssistants(const EditorContextMenu& menu);
+    QPair<int, int> visibleBlocks() const; ///< numbers of the first and the last
     bool filterKey(QKeyEvent& event);
     bool handleOwnKey(const QKeyEvent& event);
     void retranslate();

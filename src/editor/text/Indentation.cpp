@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPlainTextEdit>
 #include <QTextBlock>
+#include <QTextDocumentFragment>
 
 namespace {
 

@@ -17,7 +17,7 @@ public:
     void setVisibility(bool gutter, bool numbers);
     void setSyntaxStyle(const QSyntaxStyle& style);
     void setCurrentLine(int line); ///< 1-based
-    int widthHint() const; ///< in pixels, for the document as it is
+    int widthHint() const;         ///< in pixels, for the document as it is
     /// The document was scrolled by dy pixels, or has to be drawn anew there.
     void follow(const QRect& rect, int dy);
 
