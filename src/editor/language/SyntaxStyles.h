@@ -5,6 +5,7 @@
 #include <QList>
 #include <QPair>
 #include <QString>
+#include <QStringList>
 
 class QSyntaxStyle;
 class QWidget;
@@ -16,5 +17,8 @@ using SyntaxStyleList = QList<QPair<QString, QSyntaxStyle*>>;
 const SyntaxStyleList& syntaxStyles();
 /// The style at the index, or the default one where there is none.
 QSyntaxStyle* syntaxStyle(int index);
-/// Text, base and highlight colour of the style, in all groups of the widget's palette.
+/// The same list from other files. The styles after the default one are the caller's.
+SyntaxStyleList readSyntaxStyles(const QStringList& files);
+/// Text, base and highlight colour of the style, in all groups of the widget's palette. Selected
+/// text keeps the text colour. What the style lacks stays as it is.
 void applyStyleColors(QWidget& widget, const QSyntaxStyle& style);
