@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Looks before a run whether the folders exist that a program writes into, so that hours of counting
-// are not lost at the last step.
+// Looks before a run whether the folders exist that a program writes into, so that hours of
+// counting are not lost at the last step.
 #pragma once
 
 #include <QString>

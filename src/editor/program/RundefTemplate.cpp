@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/program/RundefTemplate.h"
+
+QString rundefTemplate() {
+    return QStringLiteral(
+        "\n"
+        "RUNDEF\n"
+        "\tprogram_name \t//optional, program name\n"
+        "\tAREABREAK entityName \t//optional, results presented broken by entityName elements "
+        "for all tables\n"
+        "\tAUTOWEIGHT \t//optional, forces the use of an automatic weight\n"
+        "\tDECIMALS integer \t//optional, overrides the number of decimal positions in "
+        "Preferences\n"
+        "\tDICTIONARY \"dict_filename\" \t//optional, to be able to execute the program by "
+        "double-clicking its name in the explorer\n"
+        "\tFILTER logical_expression \t//optional, filter cases for all the commands in the "
+        "program\n"
+        "\tFILTERLABEL \"filter label\" \t//optional, to display a label for the process "
+        "filter in the outputs\n"
+        "\tGRAPHSTYLE \"graphStyle_filename\" \t//optional, to inform the graph style to be "
+        "used by all table graphs\n"
+        "\tMAPSTYLE \"mapStyle_filename\" \t//optional, to inform the map style to be used by "
+        "all table maps\n"
+        "\tNOWEIGHT \t//optional, overrides the automatic weight in Preferences\n"
+        "\tSELECTION \"selection_filename\" \t//optional, selects a geographical area by its "
+        "filename\n"
+        "\tSELECTION INLINE entityName \"compoundCode\" \"selection label\" entityName "
+        "\"compoundCode\" \"selection label\" ...  \t//optional, selects geographical areas by "
+        "their entity codes (as many as needed), selection label is optional\n"
+        "\tSELECTIONLABEL \"selection label\" \t//optional, to display a label for the "
+        "geographical selection in the outputs\n"
+        "\tTABLESTYLE \"tableStyle_filename\" \t//optional, to inform the table style to be "
+        "used by all tables\n"
+        "\tTITLE \"title\" \t//optional, to be able to display the program title in the "
+        "outputs\n");
+}
