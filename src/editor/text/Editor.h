@@ -2,17 +2,22 @@
 // The text in which a program is typed: one tab of a program window.
 #pragma once
 
-#include <QHash>
+#include "editor/text/EditorSearch.h"
+#include "editor/text/ErrorLine.h"
+
 #include <QPair>
 #include <QPlainTextEdit>
 #include <QString>
 #include <QStringList>
 
+class EditorCompletion;
+class EditorContextMenu;
 class EditorHost;
 class KelvoraCompleter;
 class LineNumberArea;
 class QKelxHighlighter;
 class QSyntaxStyle;
+class WordCounter;
 
 /// How an editor looks; read from the settings by the window, and handed down.
 struct EditorLook {
@@ -22,10 +27,18 @@ struct EditorLook {
     bool showGutterLineNumbers = true;
 };
 
+/// A line that is seen, as the gutter needs it.
+struct VisibleLine {
+    int number = 0; ///< 1-based
+    int top = 0;    ///< in pixels, in the viewport
+};
+
 class Editor : public QPlainTextEdit {
     Q_OBJECT
 
 public:
+    static constexpr int usualTabWidth = 5; ///< of a tab stop, in blanks
+
     /// host: where it is null, nothing is known of a dictionary, and the window's commands do
     /// nothing.
     explicit Editor(const EditorLook& look, EditorHost* host = nullptr, QWidget* parent = nullptr);
@@ -40,18 +53,25 @@ public:
 
     void setEntityList(const QStringList& names);   ///< sorted here, each once
     void setVariableList(const QStringList& names); ///< sorted here, each once
-    void setLowerCase(bool lower) { lowerCase_ = lower; }
+    QStringList entityList() const { return entityList_; }
+    QStringList variableList() const { return variableList_; }
+    void setLowerCase(bool lower); ///< whether the names of the lists are in lower case
     void setExecuteMode(bool execute) { executeMode_ = execute; }
     bool executeMode() const { return executeMode_; }
     bool autoIndent() const { return autoIndent_; }
     void setAutoIndent(bool indent) { autoIndent_ = indent; }
+    /// Whether Tab inserts four blanks in place of a tab character.
+    void setReplaceTab(bool replace) { replaceTab_ = replace; }
     bool wordWrap() const { return wordWrap_; }
     void setWordWrap(bool wrap);
     /// tabWidth: in blanks.
     void setEditorFont(const QFont& font, QFont::StyleHint hint, bool fixedPitch, int tabWidth);
     void setSyntaxStyle(QSyntaxStyle* style);
     void setGutter(bool visible, bool lineNumbers);
-    KelvoraCompleter* completer() const { return completer_; }
+    KelvoraCompleter* completer() const;
+    QList<VisibleLine> visibleLines(const QRect& rect) const; ///< that touch its height
+    bool hasUndo() const { return undoAvailable_; }
+    bool hasRedo() const { return redoAvailable_; }
 
     /// With the line ends of a program text: line feeds. Empty where nothing is selected.
     QString selectedText() const;
@@ -60,13 +80,14 @@ public:
     /// Paints a line (1-based) as faulty and goes there; 0 for none. The document is not changed.
     void highlightErrorLine(int line);
     void clearErrorLine();
-    int highlightedLine() const { return highlightedLine_; }
+    /// Where it is now: it moves with the text above it. 0 for none.
+    int highlightedLine() const { return errorLine_.number(); }
 
-    int wordCount() const { return wordCount_; }
-    int charCount() const { return charCount_; }
-    int currentLine() const { return currentLine_; }
-    int lineCount() const { return lineCount_; }
-    int currentColumn() const { return currentColumn_; }
+    int wordCount() const;
+    int charCount() const;
+    int currentLine() const; ///< 1-based, as the column
+    int lineCount() const { return blockCount(); }
+    int currentColumn() const;
     /// Emits all metrics, as a window that shows them anew needs.
     void tellMetrics();
 
@@ -122,19 +143,49 @@ public slots:
     void setRedoAvailable(bool available);
     void insertCompletion(const QString& completion);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
 private:
+    void connectSignals();
+    void connectEdits(const EditorContextMenu& menu);
+    void connectCommands(const EditorContextMenu& menu);
+    void connectAssistants(const EditorContextMenu& menu);
+    QPair<int, int> visibleBlocks() const; ///< numbers of the first and the last
+    bool filterKey(QKeyEvent& event);
+    bool handleOwnKey(const QKeyEvent& event);
+    void retranslate();
+    void clearMarks();
+    void tellTextMetrics();
+    void placeLineNumberArea();
+    void showUnderConstruction(const QString& quotedName);
+
+    EditorHost* host_;
+    LineNumberArea* lineNumberArea_;
+    QKelxHighlighter* highlighter_;
+    WordCounter* wordCounter_;
+    EditorCompletion* completion_;
+    QSyntaxStyle* style_ = nullptr;
+    EditorSearch search_;
+    ErrorLine errorLine_;
+    QStringList entityList_;
+    QStringList variableList_;
     QString filePath_;
     QString untitledName_;
     bool untitled_ = true;
     bool executeMode_ = false;
     bool autoIndent_ = true;
+    bool replaceTab_ = true;
     bool wordWrap_ = false;
-    bool lowerCase_ = false;
-    int wordCount_ = 0;
-    int charCount_ = 0;
-    int currentLine_ = 1;
-    int lineCount_ = 1;
-    int currentColumn_ = 1;
-    int highlightedLine_ = 0;
-    KelvoraCompleter* completer_ = nullptr;
+    bool undoAvailable_ = false;
+    bool redoAvailable_ = false;
+    bool replacing_ = false; ///< the edits and cursor moves are not the user's
 };

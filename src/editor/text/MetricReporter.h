@@ -17,4 +17,21 @@ public slots:
     void updateCharCount(int chars);
     void updateLineCount(int current, int total);
     void updateColumnCount(int column);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QLabel* addLabel(const char* name);
+    void showAll();
+
+    QLabel* wordLabel_;
+    QLabel* charLabel_;
+    QLabel* lineLabel_;
+    QLabel* columnLabel_;
+    int words_ = 0;
+    int chars_ = 0;
+    int line_ = 1;
+    int lines_ = 1;
+    int column_ = 1;
 };

@@ -18,9 +18,23 @@ public:
     Editor* currentEditor() const;
     Editor* editor(int index) const; ///< null out of range
     QList<Editor*> editors() const;
-    void setAutoIndent(bool indent, bool all); ///< otherwise of the current one
+    // For all: those to come too. Otherwise of the current one.
+    void setAutoIndent(bool indent, bool all);
     void setWordWrap(bool wrap, bool all);
     void setEditorFont(const QFont& font, bool all);
-    /// For all, and those to come.
+    /// For all, and those to come. A font that was chosen for one of them stays until another one
+    /// comes with the look.
     void setLook(const EditorLook& look);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    template <typename Change>
+    void change(bool all, const Change& change);
+    bool changeTab(int key);
+
+    EditorLook look_;
+    EditorHost* host_;
+    bool autoIndent_ = true;
+    bool wordWrap_ = false;
 };

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/text/Indentation.h"
+
+#include <QFontMetricsF>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextDocumentFragment>
+
+namespace {
+
+constexpr int levelColumns = 4;
+
+int leadingTabs(const QString& line) {
+    int tabs = 0;
+    while (tabs < line.size() && line[tabs] == u'\t')
+        ++tabs;
+    return tabs;
+}
+
+double tabColumns(const QPlainTextEdit& editor) {
+    const double character = QFontMetricsF(editor.font()).averageCharWidth();
+    return character > 0 ? editor.tabStopDistance() / character : levelColumns;
+}
+
+/// How many characters at the start of the line make up one level.
+int levelLength(const QString& line, double tabWidth) {
+    int length = 0;
+    double columns = 0;
+    for (; length < line.size() && columns < levelColumns; ++length) {
+        if (line[length] == u'\t')
+            columns += tabWidth;
+        else if (line[length] == u' ')
+            columns += 1;
+        else
+            break;
+    }
+    return length;
+}
+
+/// A selection that ends at the start of a line does not touch that line.
+QTextBlock lastTouched(const QTextDocument& document, const QTextCursor& cursor) {
+    const QTextBlock last = document.findBlock(cursor.selectionEnd());
+    const bool onlyItsStart = cursor.hasSelection() && last.position() == cursor.selectionEnd();
+    return onlyItsStart ? last.previous() : last;
+}
+
+} // namespace
+
+bool breakLine(QPlainTextEdit& editor, bool copyTabs) {
+    QTextCursor cursor = editor.textCursor();
+    if (cursor.position() == 0)
+        return false;
+    const int tabs = copyTabs ? leadingTabs(cursor.block().text()) : 0;
+    cursor.insertText(u'\n' + QString(tabs, u'\t'));
+    editor.setTextCursor(cursor);
+    return true;
+}
+
+void indentSelection(QPlainTextEdit& editor) {
+    QTextCursor cursor = editor.textCursor();
+    QString text = cursor.selection().toPlainText();
+    const bool endsLine = text.endsWith(u'\n');
+    if (endsLine)
+        text.chop(1);
+    text.replace(u'\n', QLatin1String("\n\t"));
+    const int start = cursor.selectionStart();
+    cursor.insertText(u'\t' + text + (endsLine ? QStringLiteral("\n") : QString()));
+    // Still selected, so that a second Tab indents once more.
+    const int end = cursor.position();
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    editor.setTextCursor(cursor);
+}
+
+void unindentLines(QPlainTextEdit& editor) {
+    const QTextCursor selection = editor.textCursor();
+    const QTextDocument& document = *editor.document();
+    const QTextBlock last = lastTouched(document, selection);
+    const double tabWidth = tabColumns(editor);
+    QTextCursor edit(selection);
+    edit.beginEditBlock();
+    QTextBlock block = document.findBlock(selection.selectionStart());
+    for (; block.isValid() && block.blockNumber() <= last.blockNumber(); block = block.next()) {
+        edit.setPosition(block.position());
+        edit.setPosition(block.position() + levelLength(block.text(), tabWidth),
+                         QTextCursor::KeepAnchor);
+        edit.removeSelectedText();
+    }
+    edit.endEditBlock();
+}
