@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -92,6 +93,19 @@ bool askYesNo(const QString& title, const QString& text) {
         return answerer()(MessageKind::Question, text) == Choice::Yes;
     return ask(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
+}
+
+bool askYesNo(const QString& title, const QString& text, const QString& yesText,
+              const QString& noText, bool yesIsDefault) {
+    if (answerer())
+        return answerer()(MessageKind::Question, text) == Choice::Yes;
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.button(QMessageBox::Yes)->setText(yesText);
+    box.button(QMessageBox::No)->setText(noText);
+    box.setDefaultButton(yesIsDefault ? QMessageBox::Yes : QMessageBox::No);
+    return run(box) == QMessageBox::Yes;
 }
 
 bool askYesNoRich(const QString& title, const QString& html, const QString& informative) {

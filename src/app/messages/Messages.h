@@ -18,6 +18,9 @@ void showRichInformation(const QString& text);
 void showAbout(const QString& title, const QString& html);
 /// True for Yes. There is no Cancel; Escape means No.
 bool askYesNo(const QString& title, const QString& text);
+/// As askYesNo, with words of its own on the buttons; Enter means Yes where yesIsDefault.
+bool askYesNo(const QString& title, const QString& text, const QString& yesText,
+              const QString& noText, bool yesIsDefault);
 /// As askYesNo, with rich text of ours, a second text below it, and Yes as default.
 bool askYesNoRich(const QString& title, const QString& html, const QString& informative);
 /// Escape means Cancel.
