@@ -9,6 +9,7 @@
 #include "dictionary/TfrmDictionary.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
+#include "engine/execution/RunGuard.h"
 #include "projects/TfrmProject.h"
 
 #include <QDir>
@@ -44,7 +45,7 @@ bool FileOpener::canOpen(const QString& path, const QString& extension) const {
 
 void FileOpener::openFile(const QString& path, const QString& extension) {
     const QString kind = extension.toLower();
-    if (isLoading() || !canOpen(path, kind))
+    if (isLoading() || RunGuard::isRunning() || !canOpen(path, kind))
         return;
     if (!workArea_.isEmptyBut(preferencesName)) {
         showError(tr("Please, close all the windows from the application work area before changing "
@@ -56,6 +57,8 @@ void FileOpener::openFile(const QString& path, const QString& extension) {
 }
 
 void FileOpener::openRecent(const QString& path) {
+    if (RunGuard::isRunning())
+        return;
     if (!QFileInfo::exists(path)) {
         system_.removeRecentDictionary(path);
         system_.removeRecentProject(path);
@@ -66,6 +69,7 @@ void FileOpener::openRecent(const QString& path) {
 
 void FileOpener::openDictionary(const QString& path) {
     dictionary_ = new TfrmDictionary(shell_, system_, this);
+    dictionary_->setBusyTest([] { return RunGuard::isRunning(); });
     connect(dictionary_, &TfrmDictionary::signalDictIsDirty, this, &FileOpener::dirtyChanged);
     connect(dictionary_, &TfrmDictionary::signalDictIsSaved, this,
             [this] { emit dirtyChanged(false); });

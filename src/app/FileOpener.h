@@ -12,7 +12,8 @@ class TKpEntity;
 class TKpVariable;
 class WorkArea;
 
-/// What is open stands in TfrmProject. While a load runs, nothing else is opened or closed.
+/// What is open stands in TfrmProject. While a load or a program runs, nothing else is opened or
+/// closed.
 class FileOpener : public QObject {
     Q_OBJECT
 

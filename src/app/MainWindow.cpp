@@ -13,8 +13,9 @@
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
 #include "dictionary/properties/InfoProperties.h"
-#include "engine/ProgramRun.h"
 #include "engine/UIInvoker.h"
+#include "engine/execution/ProcessExecuter.h"
+#include "engine/execution/RunGuard.h"
 #include "kel.h"
 #include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
@@ -134,7 +135,7 @@ bool MainWindow::isLoading() const {
 }
 
 bool MainWindow::isBusy() const {
-    return isLoading() || running_ || QApplication::activeModalWidget() != nullptr;
+    return isLoading() || RunGuard::isRunning() || QApplication::activeModalWidget() != nullptr;
 }
 
 void MainWindow::showStatus(const QString& text, bool busy) {
@@ -255,25 +256,29 @@ void MainWindow::onRecentChanged() {
     rebuildToolbars();
 }
 
+bool MainWindow::canChangeDictionary() const {
+    return opener_->dictionary() != nullptr && !isLoading() && !RunGuard::isRunning();
+}
+
 void MainWindow::saveOpenDictionary() {
     emit saveClick();
-    if (opener_->dictionary() != nullptr && !isLoading())
+    if (canChangeDictionary())
         opener_->dictionary()->on_saveDictionary();
 }
 
 void MainWindow::saveAsOpenDictionary() {
     emit saveAsClick();
-    if (opener_->dictionary() != nullptr && !isLoading())
+    if (canChangeDictionary())
         opener_->dictionary()->on_saveAsDictionary();
 }
 
 void MainWindow::locateFiles() {
-    if (opener_->dictionary() != nullptr && !isLoading())
+    if (canChangeDictionary())
         opener_->dictionary()->locateFiles();
 }
 
 void MainWindow::on_closeAllDictionary() {
-    if (!isLoading())
+    if (canChangeDictionary())
         opener_->closeDictionary();
 }
 
@@ -288,38 +293,35 @@ void MainWindow::on_dictIsSaved() {
 }
 
 void MainWindow::runProgram(const QString& program) {
-    TfrmProject& project = TfrmProject::instance();
-    if (!project.isOpen() || isLoading() || running_)
-        return;
-    showStatus(tr("Processing"), true);
-    statusBar()->repaint();
-    running_ = true;
-    const ProgramRun run = ::runProgram(project.dictionary(), program);
-    running_ = false;
-    if (!run.succeeded) {
-        showStatus(tr("Execution Failed"), false);
-        showError((run.messages + QStringList(run.failure)).join('\n'));
-        return;
-    }
-    project.setRun(run.session, run.outputs);
-    showStatus(tr("Execution Finished"), false);
-    if (!run.outputs.empty())
-        showResults(run.outputs, run.session, program);
-    if (!run.messages.isEmpty())
-        showWarning(run.messages.join('\n'));
+    if (!isLoading())
+        ProcessExecuter(*this, system_.language()).execute(program);
 }
 
 void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
                              const std::shared_ptr<TKelSession>& /*session*/,
                              const QString& programText) {
+    if (!outputs.empty())
+        addResults(outputs);
+    if (saves(programText))
+        reloadDictionary();
+}
+
+void MainWindow::addResults(const std::vector<TKelOutput*>& outputs) {
     if (resultsManager_ == nullptr)
         resultsManager_ = new ResultsManager(this);
-    if (!resultsManager_->addOutputs(outputs))
-        showWarning(tr("The results cannot be shown as a frequency."));
-    else
+    const std::size_t shown = resultsManager_->addOutputs(outputs);
+    if (shown > 0)
         onShowResults();
     rebuildToolbars();
-    if (saves(programText) && opener_->dictionary() != nullptr)
+    QStringList faults = writeDirectOutputs(outputs);
+    if (shown < outputs.size())
+        faults.prepend(tr("The results cannot be shown as a frequency."));
+    if (!faults.isEmpty())
+        showWarning(faults.join('\n'));
+}
+
+void MainWindow::reloadDictionary() {
+    if (opener_->dictionary() != nullptr)
         opener_->dictionary()->reloadAfterRun();
 }
 
@@ -436,7 +438,7 @@ bool MainWindow::endRun() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!engineEnded_ && !endRun()) {
+    if (RunGuard::isRunning() || (!engineEnded_ && !endRun())) {
         event->ignore();
         return;
     }

@@ -51,6 +51,7 @@ public:
                      const std::shared_ptr<TKelSession>& session,
                      const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) override;
+    void reloadDictionary() override;
     QWidget* window() override { return this; }
 
     /// Opens a file of any kind; the extension tells which.
@@ -105,8 +106,10 @@ private:
     void onOpened(const QString& path, bool found);
     void closeAll();
     void showNothingOpen();
-    bool askSaveDictionary(); ///< false where the changes could not be saved
-    bool endRun();            ///< false where the window stays open
+    void addResults(const std::vector<TKelOutput*>& outputs);
+    bool canChangeDictionary() const; ///< one is open, and neither loaded nor used by a run
+    bool askSaveDictionary();         ///< false where the changes could not be saved
+    bool endRun();                    ///< false where the window stays open
     void changeLanguage();
     void connectPreferences(ConfigDialog& preferences);
     InfoProperties& quickView();
@@ -123,6 +126,5 @@ private:
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
     QString language_;
     bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
-    bool running_ = false;
     bool engineEnded_ = false;
 };

@@ -7,6 +7,7 @@
 #include "app/ribbon/RibbonStyle.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
+#include "engine/execution/RunGuard.h"
 #include "kel.h"
 
 #include <QAction>
@@ -46,8 +47,10 @@ void RibbonHost::rebuild() {
     if (std::exchange(rebuilding_, true))
         return;
     QTimer::singleShot(0, this, [this] {
-        rebuilding_ = false;
-        build();
+        RunGuard::afterwards(this, [this] {
+            rebuilding_ = false;
+            build();
+        });
     });
 }
 

@@ -36,8 +36,8 @@ public:
     RibbonHost(QMainWindow& window, WorkArea& workArea, KelSystem& system,
                std::function<State()> state);
 
-    /// Builds the ribbon anew, on the page that is shown, minimised if it is: with the next events,
-    /// and once however often it was asked for.
+    /// Builds the ribbon anew, on the page that is shown, minimised if it is: with the next events
+    /// behind a run, and once however often it was asked for.
     void rebuild();
     void select(ribbon::PageIndex page);
     void setDirty(bool dirty);

@@ -275,7 +275,7 @@ void TfrmDictionary::on_saveDictionary() {
 }
 
 bool TfrmDictionary::save() {
-    if (!TfrmProject::instance().isOpen() || !settlePending())
+    if (isBusy() || !TfrmProject::instance().isOpen() || !settlePending())
         return false;
     shell_.showStatus(tr("Saving..."), true);
     try {
@@ -294,7 +294,7 @@ bool TfrmDictionary::save() {
 
 void TfrmDictionary::on_saveAsDictionary() {
     TfrmProject& project = TfrmProject::instance();
-    if (!project.isOpen() || !settlePending())
+    if (isBusy() || !project.isOpen() || !settlePending())
         return;
     const QString suffix = DictionarySaver::suffixFor(project.dictionaryKind());
     const QString path = KelvoraFileDialog(QStringLiteral("DICTIONARY"), QString(), tr("Save file"))
@@ -321,7 +321,7 @@ void TfrmDictionary::on_saveAsDictionary() {
 
 void TfrmDictionary::locateFiles() {
     TfrmProject& project = TfrmProject::instance();
-    if (!project.isOpen() || !settlePending() ||
+    if (isBusy() || !project.isOpen() || !settlePending() ||
         !locateMissing(shell_.window(), *project.dictionary(), *project.root()))
         return;
     project.setAllPathsFound(rebuildMirror().missing.isEmpty());
@@ -356,7 +356,7 @@ bool TfrmDictionary::confirmClose() {
 }
 
 bool TfrmDictionary::close() {
-    if (isLoading() || closing_ || !confirmClose())
+    if (isLoading() || closing_ || isBusy() || !confirmClose())
         return false;
     closing_ = true;
     saveWindowSizes();

@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <functional>
+
 class DictionaryLoader;
 class KelSystem;
 class KelTreeView;
@@ -27,12 +29,16 @@ public:
     TfrmDictionary(Shell& shell, KelSystem& system, QObject* parent = nullptr);
     ~TfrmDictionary() override;
 
+    /// True while others use the dictionary: it is neither saved nor closed then.
+    void setBusyTest(std::function<bool()> busy) { busy_ = std::move(busy); }
+
     /// Begins to read the file; loaded() or failed() follows. False where it is no dictionary.
     bool openDictionary(const QString& path);
     bool isLoading() const;
     /// Forgets a load that runs; false where that takes until failed().
     bool endLoading();
 
+    bool isBusy() const { return busy_ && busy_(); }
     bool isDirty() const; ///< changed here or by the engine
     /// Asks about edits in the property docks; false where the user stays with them.
     bool settlePending();
@@ -97,6 +103,7 @@ private:
     QPointer<VariablesPane> variablesPane_;
     QString currentEntity_;   ///< by name, since the mirror is rebuilt
     QString currentVariable_; ///< of the current entity
+    std::function<bool()> busy_;
     bool dirty_ = false;
     bool closing_ = false;
 };

@@ -38,6 +38,7 @@ void TfrmProject::abandonOpening() {
 
 void TfrmProject::close() {
     outputs_.clear();
+    outputOwners_.clear();
     session_.reset();
     execute_.reset();
     if (root_)
@@ -52,11 +53,22 @@ void TfrmProject::setRoot(std::shared_ptr<TKpEntity> root) {
     emit mirrorRebuilt();
 }
 
-void TfrmProject::setRun(std::shared_ptr<TKelSession> session, std::vector<TKelOutput*> outputs) {
-    outputs_ = std::move(outputs);
+void TfrmProject::setSession(std::shared_ptr<TKelSession> session) {
     session_ = std::move(session);
 }
 
 void TfrmProject::setExecute(std::shared_ptr<TKelExecute> execute) {
     execute_ = std::move(execute);
+}
+
+void TfrmProject::storeOutputs(bool append) {
+    if (!append) {
+        outputs_.clear();
+        outputOwners_.clear();
+    }
+    if (!session_)
+        return;
+    const std::vector<TKelOutput*> made = session_->outputs();
+    outputs_.insert(outputs_.end(), made.begin(), made.end());
+    outputOwners_.push_back(session_);
 }

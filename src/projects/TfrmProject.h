@@ -49,9 +49,16 @@ public:
     bool allPathsFound() const { return allPathsFound_; }
     void setAllPathsFound(bool found) { allPathsFound_ = found; }
 
-    const std::vector<TKelOutput*>& outputs() const { return outputs_; }
-    void setRun(std::shared_ptr<TKelSession> session, std::vector<TKelOutput*> outputs);
+    /// Of the last run, whether it ended well or not; null before the first.
+    const std::shared_ptr<TKelSession>& session() const { return session_; }
+    void setSession(std::shared_ptr<TKelSession> session);
+    /// Of the last list of programs; null before the first.
+    const std::shared_ptr<TKelExecute>& execute() const { return execute_; }
     void setExecute(std::shared_ptr<TKelExecute> execute);
+    /// Of the last run that ended well. They stay readable until others take their place.
+    const std::vector<TKelOutput*>& outputs() const { return outputs_; }
+    /// Takes the session's outputs: in place of those that are there, or behind them.
+    void storeOutputs(bool append);
 
 signals:
     void mirrorRebuilt(); ///< root() is another tree now, or none
@@ -71,4 +78,5 @@ private:
     std::shared_ptr<TKelExecute> execute_;
     std::shared_ptr<TKelSession> session_;
     std::vector<TKelOutput*> outputs_;
+    std::vector<std::shared_ptr<TKelSession>> outputOwners_; ///< sessions that made the outputs
 };

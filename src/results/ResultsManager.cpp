@@ -22,7 +22,7 @@ ResultsManager::ResultsManager(QWidget* parent)
     retranslate();
 }
 
-bool ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs) {
+std::size_t ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs) {
     const int before = tableCount();
     for (TKelOutput* output : outputs) {
         auto table = FrequencyTable::fromOutput(*output);
@@ -32,10 +32,10 @@ bool ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs) {
         item->setToolTip(table->title());
         tables_.push_back(std::move(*table));
     }
-    if (tableCount() == before)
-        return false;
-    list_->setCurrentRow(before);
-    return true;
+    const int added = tableCount() - before;
+    if (added > 0)
+        list_->setCurrentRow(before);
+    return static_cast<std::size_t>(added);
 }
 
 void ResultsManager::showTable(int row) {

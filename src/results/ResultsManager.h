@@ -18,9 +18,8 @@ class ResultsManager : public QSplitter {
 public:
     explicit ResultsManager(QWidget* parent = nullptr);
 
-    /// Appends the outputs and shows the first of them. False, with nothing changed, where none is
-    /// a table that it can show.
-    bool addOutputs(const std::vector<TKelOutput*>& outputs);
+    /// Appends the outputs that it can show and shows the first of them. Returns their number.
+    std::size_t addOutputs(const std::vector<TKelOutput*>& outputs);
     int tableCount() const { return static_cast<int>(tables_.size()); }
 
 protected:

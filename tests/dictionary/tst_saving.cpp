@@ -4,7 +4,6 @@
 #include "dictionary/mirror/DictionaryUtil.h"
 #include "dictionary/mirror/TKpEntity.h"
 #include "dictionary/mirror/TKpVariable.h"
-#include "engine/ProgramRun.h"
 #include "engine/TKelConfigImpl.h"
 #include "kel.h"
 #include "support/SmallDatabase.h"
@@ -41,10 +40,19 @@ DictionaryKind kindOf(const QString& path) {
     return path.endsWith(".dicx") ? DictionaryKind::Dicx : DictionaryKind::Kxdb;
 }
 
-/// What the engine makes of a program with one table.
-QString tableOf(const QString& program) {
-    const ProgramRun run = runProgram(project().dictionary(), program);
-    return run.succeeded ? QString::fromStdString(run.outputs.front()->asJson()) : run.failure;
+std::shared_ptr<TKelSession> run(const std::string& program) {
+    auto session = kel::makeDefaultSession(project().dictionary());
+    session->executeText(program, nullptr);
+    return session;
+}
+
+/// What the engine makes of a program with one table, or its fault.
+QString tableOf(const std::string& program) {
+    try {
+        return QString::fromStdString(run(program)->outputs().front()->asJson());
+    } catch (const std::runtime_error& fault) {
+        return QString::fromStdString(fault.what());
+    }
 }
 
 QString frequencies() {
@@ -298,10 +306,7 @@ private slots:
 
     void savedVariableStaysLocal() {
         open("small.dicx");
-        const ProgramRun run =
-            runProgram(project().dictionary(),
-                       "DEFINE PERSON.ADULT AS PERSON.AGE >= 18 TYPE INTEGER SAVE \"adult.kbf\"");
-        QVERIFY2(run.succeeded, qPrintable(run.failure + run.messages.join('\n')));
+        run("DEFINE PERSON.ADULT AS PERSON.AGE >= 18 TYPE INTEGER SAVE \"adult.kbf\"");
         rebuildMirror();
         QVERIFY(variable("PERSON.ADULT") != nullptr && variable("PERSON.ADULT")->local);
         QVERIFY(!variable("PERSON.AGE")->local);

@@ -2,3 +2,5 @@
 #include "app/shell/Shell.h"
 
 Shell::~Shell() = default;
+
+void Shell::reloadDictionary() {}

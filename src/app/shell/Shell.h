@@ -46,6 +46,9 @@ public:
     /// one that could not be written.
     virtual QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) = 0;
 
+    /// Runs have saved variables that are to be shown. Does nothing where no dictionary is shown.
+    virtual void reloadDictionary();
+
     /// What dialogs stand in front of.
     virtual QWidget* window() = 0;
 };

@@ -10,7 +10,9 @@
 #include <memory>
 
 class QListWidget;
+class RunProgress;
 class Shell;
+class TKelSession;
 class TKelSpcErrorsListenerImpl;
 
 /// GUI thread only. Refuses, with a message, while another run goes on.
@@ -37,15 +39,23 @@ public:
                  const QString& shownText = {});
 
     /// The listener's messages as lines, errors before warnings. report: says so where there are
-    /// none. block: they are counted from firstLine, the 0-based line where the block begins.
+    /// none. block: it is a block that they are of.
     QStringList compileMessages(const Listener& listener, bool block, bool report);
+    /// firstLine: the 0-based line where the block begins.
     QStringList compileBlockMessages(const Listener& listener, std::int64_t firstLine, bool report);
 
 public slots:
-    void on_cancelProcess();
+    void on_cancelProcess(); ///< ends the run, if one goes on
 
 private:
     struct Run;
+
+    void run(const Run& run);
+    bool executeText(TKelSession& session, const Run& run);
+    bool timerCallback(int expected, int elapsed, int percent);
+    void showOutputs(const std::shared_ptr<TKelSession>& session, const Run& run);
+
     Shell& shell_;
     QString language_;
+    RunProgress* progress_ = nullptr; ///< of the run that goes on
 };

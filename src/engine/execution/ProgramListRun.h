@@ -4,11 +4,12 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
 
 class QListWidget;
+class RunProgress;
 class Shell;
+class TKelExecute;
 class TKelSpcErrorsListenerImpl;
 
 /// GUI thread only; the same rules as ProcessExecuter, with a progress window of its own.
@@ -25,8 +26,13 @@ public:
                         QListWidget* errors);
 
 public slots:
-    void cancelExecuteProcess();
+    void cancelExecuteProcess(); ///< ends the run, if one goes on
 
 private:
+    bool execute(TKelExecute& list, const QString& program, TKelSpcErrorsListenerImpl* listener,
+                 QListWidget* errors);
+    void writeOutputs(TKelExecute& list, QListWidget* errors);
+
     Shell& shell_;
+    RunProgress* progress_ = nullptr; ///< of the run that goes on
 };

@@ -3,6 +3,10 @@
 // events, so whoever would begin something else asks first.
 #pragma once
 
+#include <functional>
+
+class QObject;
+
 class RunGuard {
 public:
     RunGuard();
@@ -12,4 +16,7 @@ public:
 
     /// True while any guard lives: no second run, no load, no closing, no rebuilt ribbon.
     static bool isRunning();
+    /// Calls it at once where nothing runs, else with the events behind the run; not at all where
+    /// the context has gone by then.
+    static void afterwards(QObject* context, std::function<void()> action);
 };

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/execution/RunGuard.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <utility>
+#include <vector>
+
+namespace {
+
+struct Waiting {
+    QPointer<QObject> context;
+    std::function<void()> action;
+};
+
+int guards = 0;
+
+std::vector<Waiting>& waiting() {
+    static std::vector<Waiting> all;
+    return all;
+}
+
+} // namespace
+
+RunGuard::RunGuard() {
+    ++guards;
+}
+
+RunGuard::~RunGuard() {
+    if (--guards > 0)
+        return;
+    for (Waiting& one : std::exchange(waiting(), {}))
+        if (one.context)
+            QMetaObject::invokeMethod(one.context, std::move(one.action), Qt::QueuedConnection);
+}
+
+bool RunGuard::isRunning() {
+    return guards > 0;
+}
+
+void RunGuard::afterwards(QObject* context, std::function<void()> action) {
+    if (isRunning())
+        waiting().push_back({context, std::move(action)});
+    else
+        action();
+}
