@@ -24,8 +24,8 @@ std::optional<bool> FormatCommands::askForAll(const QString& title) const {
     if (tabs_.count() < 2)
         return false;
     const Choice choice = askYesNoCancel(
-        title, translated(QT_TRANSLATE_NOOP("ProcessProgramSPC",
-                                            "Apply to all open and future tabs?")));
+        title,
+        translated(QT_TRANSLATE_NOOP("ProcessProgramSPC", "Apply to all open and future tabs?")));
     if (choice == Choice::Cancel)
         return std::nullopt;
     return choice == Choice::Yes;

@@ -79,8 +79,6 @@ void ProcessProgramSPC::build(Shell& shell) {
     parts.splitter = new QSplitter(Qt::Vertical, this);
     parts.splitter->setObjectName(QStringLiteral("programSplitter"));
     parts.tabs = new TabbedEditor(lookOf(system_), this, parts.splitter);
-    parts.tabs->setObjectName(QStringLiteral("programTabs"));
-    parts.tabs->setTabsClosable(true);
     parts.tabs->setContextMenuPolicy(Qt::CustomContextMenu);
     parts.bottom = new BottomPanel(parts.splitter);
     parts.splitter->setChildrenCollapsible(false);

@@ -2,6 +2,7 @@
 #include "editor/program/ProgramActions.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QMainWindow>
 #include <QMenu>
@@ -31,8 +32,8 @@ const CommandText commandTexts[] = {
      "Edit-save", nullptr},
     {Command::SaveAs, "actionSave_As", QT_TRANSLATE_NOOP("ProgramActions", "Save As"),
      "Ctrl+Shift+S", none, nullptr},
-    {Command::Print, "actionPrint", QT_TRANSLATE_NOOP("ProgramActions", "Print..."), "Ctrl+P",
-     none, nullptr},
+    {Command::Print, "actionPrint", QT_TRANSLATE_NOOP("ProgramActions", "Print..."), "Ctrl+P", none,
+     nullptr},
     {Command::Exit, "actionExit", QT_TRANSLATE_NOOP("ProgramActions", "Exit"), none, none, nullptr},
     {Command::Undo, "actionUndo", QT_TRANSLATE_NOOP("ProgramActions", "Undo"), "Ctrl+Z",
      "Edit-undo", nullptr},
@@ -113,8 +114,8 @@ const QList<MenuText>& menuTexts() {
          {{Command::Font}, {Command::AutoIndent, Command::WordWrap}}},
         {"menuLanguage",
          QT_TRANSLATE_NOOP("ProgramActions", "Language"),
-         {{Command::LanguageC, Command::LanguageCpp, Command::LanguageJava,
-           Command::LanguagePython, Command::LanguageKelx}}},
+         {{Command::LanguageC, Command::LanguageCpp, Command::LanguageJava, Command::LanguagePython,
+           Command::LanguageKelx}}},
         {"menuView",
          QT_TRANSLATE_NOOP("ProgramActions", "View"),
          {{Command::StatusBar, Command::ToolBar}}},

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The bond between an editor and its file: reads and writes it, follows it on disk, and keeps a copy
-// of what is not written yet.
+// The bond between an editor and its file: reads and writes it, follows it on disk, and keeps a
+// copy of what is not written yet.
 #pragma once
 
 #include "editor/files/TextFile.h"

@@ -69,6 +69,8 @@ void ProgramRunner::process(Work work, Editor& editor, const QString& program,
     emit busyChanged(true);
     callEngine(work, rewritten.text, listener, program);
     emit busyChanged(false);
+    if (!TfrmProject::instance().isOpen())
+        return; // the user has been told in a box
     const bool stopped = errors_.count() > 0;
     listMessages(work, listener, firstLine);
     for (const QString& suggestion : rewritten.suggestions)
