@@ -3,6 +3,7 @@
 
 #include "app/WorkArea.h"
 #include "app/settings/KelSystem.h"
+#include "app/shell/Shell.h"
 #include "editor/files/RecoveryDialog.h"
 #include "editor/files/RecoveryStore.h"
 #include "editor/program/ExecuteProgramSPC.h"

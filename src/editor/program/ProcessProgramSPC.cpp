@@ -109,6 +109,7 @@ void ProcessProgramSPC::connectParts() {
             &ProcessProgramSPC::updateTabAndWindowTitle);
     connect(parts_->files, &ProgramFiles::savedTabToClose, this,
             &ProcessProgramSPC::savedTabToClose);
+    connect(parts_->files, &ProgramFiles::fileUsed, this, &ProcessProgramSPC::fileUsed);
     connect(parts_->files, &ProgramFiles::statusTold, this,
             [this](const QString& text) { statusBar()->showMessage(text, 2000); });
     connect(parts_->runner, &ProgramRunner::busyChanged, this, &ProcessProgramSPC::setBusy);

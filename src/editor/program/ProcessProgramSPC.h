@@ -53,6 +53,7 @@ public:
 
 signals:
     void savedTabToClose(QString path);
+    void fileUsed(QString path); ///< a tab has opened or written it
     /// text: of the command that the assistant is to begin with; empty for a new one. What it makes
     /// goes to onSaveAssistant().
     void assistantRequested(Assistant assistant, QString text);

@@ -126,6 +126,7 @@ bool ProgramFiles::show(const QString& path, bool evenIfEmpty) {
     KelSystem::instance().setDirectoryFor(kind, QFileInfo(path).absolutePath());
     ProgramDocument::of(tabForFile())->show(path, file);
     emit titlesChanged();
+    emit fileUsed(path);
     return true;
 }
 
@@ -157,6 +158,8 @@ bool ProgramFiles::save(Editor& editor, Target target) {
 void ProgramFiles::write(Editor& editor, const QString& path) {
     const QString error = ProgramDocument::of(editor)->write(path);
     emit titlesChanged();
+    if (error.isEmpty())
+        emit fileUsed(path);
     if (!error.isEmpty())
         warn(error);
     else if (!editor.document()->isEmpty())

@@ -37,6 +37,7 @@ signals:
     void titlesChanged();
     void statusTold(QString text);
     void savedTabToClose(QString path);
+    void fileUsed(QString path); ///< it was opened, or written
 
 private:
     Editor* add();
