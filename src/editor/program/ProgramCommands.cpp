@@ -204,6 +204,11 @@ void ProcessProgramSPC::on_actionFind_triggered() {
     parts_->bottom->find().begin(currentEditor()->selectedText());
 }
 
+void ProcessProgramSPC::replaceInProgram() {
+    showFindPage();
+    parts_->bottom->find().beginReplacing(currentEditor()->selectedText());
+}
+
 void ProcessProgramSPC::on_actionGo_To_triggered() {
     parts_->goTo->show();
     parts_->goTo->raise();

@@ -50,6 +50,12 @@ void FindDialog::begin(const QString& query) {
     query_->setFocus(Qt::ShortcutFocusReason);
 }
 
+void FindDialog::beginReplacing(const QString& query) {
+    begin(query);
+    replacement_->selectAll();
+    replacement_->setFocus(Qt::ShortcutFocusReason);
+}
+
 void FindDialog::reject() {
     emit editorWanted();
 }

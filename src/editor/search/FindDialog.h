@@ -19,6 +19,7 @@ public:
     /// Puts the text into the query, if any, and the keys into its field. A text of several lines
     /// is left out, since none could be found.
     void begin(const QString& query);
+    void beginReplacing(const QString& query); ///< the same, with the keys in the other field
     void reject() override;
 
 signals:
