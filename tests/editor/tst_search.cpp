@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Finding, replacing and going to a line in the editor.
+#include "TypedEditor.h"
+
+#include <QSignalSpy>
+
+#include <cmath>
+
+namespace {
+
+const QString nothing = QStringLiteral("No results found.");
+const QString cameRound = QStringLiteral("No more results found.");
+
+/// The last thing that was said, which is forgotten then.
+QString said(QSignalSpy& spy) {
+    const QString text = spy.isEmpty() ? QString() : spy.last().first().toString();
+    spy.clear();
+    return text;
+}
+
+double luminance(const QColor& color) {
+    const auto part = [](double c) {
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
+           0.0722 * part(color.blueF());
+}
+
+} // namespace
+
+class TestSearch : public QObject {
+    Q_OBJECT
+
+private slots:
+    void findsRoundOnce();
+    void comesRoundWithOneMatch();
+    void findsNothing();
+    void beginsAnewAfterAnEdit();
+    void beginsAnewWithOtherFlags();
+    void marksAllMatches();
+    void replacesTheMatch();
+    void replacesRoundOnce();
+    void replacesAll_data();
+    void replacesAll();
+    void replacesAllInOneStep();
+    void tellsTheCountsOnceAfterReplacing();
+    void replacesInALongText();
+    void goesToALine();
+    void leavesAnEmptyQueryAlone();
+};
+
+void TestSearch::findsRoundOnce() {
+    TypedEditor typed(QStringLiteral("ab x\nAB\nxab"));
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.moveTo(3);
+    for (const int end : {7, 11, 2}) {
+        QVERIFY(typed.editor.find("ab", false, false));
+        QCOMPARE(typed.position(), end);
+        QCOMPARE(typed.editor.selectedText().toLower(), QStringLiteral("ab"));
+    }
+    QVERIFY(spy.isEmpty());
+    QVERIFY(!typed.editor.find("ab", false, false));
+    QCOMPARE(said(spy), cameRound);
+    QCOMPARE(typed.position(), 3);
+    QVERIFY(!typed.editor.textCursor().hasSelection());
+    QVERIFY(typed.editor.find("ab", true, true));
+    QCOMPARE(typed.position(), 2);
+}
+
+void TestSearch::comesRoundWithOneMatch() {
+    TypedEditor typed(QStringLiteral("one match here"));
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.moveTo(6);
+    QVERIFY(typed.editor.find("match", false, false));
+    QVERIFY(!typed.editor.find("match", false, false));
+    QCOMPARE(said(spy), cameRound);
+    QCOMPARE(typed.position(), 6);
+    QVERIFY(typed.editor.find("match", false, false)); // a new round
+}
+
+void TestSearch::findsNothing() {
+    TypedEditor typed(QStringLiteral("Freq frequency"));
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.moveTo(4);
+    QVERIFY(!typed.editor.find("freq", true, true));
+    QCOMPARE(said(spy), nothing);
+    QCOMPARE(typed.position(), 4);
+    QVERIFY(typed.editor.find("freq", true, false));
+    QCOMPARE(typed.position(), 9);
+}
+
+void TestSearch::beginsAnewAfterAnEdit() {
+    TypedEditor typed(QStringLiteral("a b a"));
+    QVERIFY(typed.editor.find("a", false, false));
+    QVERIFY(typed.editor.find("a", false, false));
+    typed.moveTo(3);
+    typed.type(QStringLiteral("x"));
+    typed.moveTo(0);
+    QVERIFY(typed.editor.find("a", false, false)); // the first one again, of a new round
+    QVERIFY(typed.editor.find("a", false, false));
+    QVERIFY(!typed.editor.find("a", false, false));
+    QCOMPARE(typed.position(), 0);
+}
+
+void TestSearch::beginsAnewWithOtherFlags() {
+    TypedEditor typed(QStringLiteral("A a"));
+    QVERIFY(typed.editor.find("a", true, false));
+    QCOMPARE(typed.position(), 3);
+    QVERIFY(typed.editor.find("a", false, false));
+    QCOMPARE(typed.position(), 1);
+    QVERIFY(typed.editor.find("a", false, false));
+    QVERIFY(!typed.editor.find("a", false, false));
+    QCOMPARE(typed.position(), 3);
+}
+
+void TestSearch::marksAllMatches() {
+    TypedEditor typed(QStringLiteral("sex SEX\nsexes"));
+    Editor& editor = typed.editor;
+    QSignalSpy spy(&editor, &Editor::findAllResult);
+    QVERIFY(editor.findAll("sex", false, false));
+    QCOMPARE(said(spy), QStringLiteral("Found 3 coincidences"));
+    QCOMPARE(editor.extraSelections().size(), 3);
+    const QTextCharFormat format = editor.extraSelections().first().format;
+    const QColor ground = format.background().color();
+    QCOMPARE(ground, QColor(61, 174, 233).lighter(130));
+    QVERIFY((luminance(ground) + 0.05) / (luminance(format.foreground().color()) + 0.05) > 4.5);
+    QVERIFY(editor.findAll("sex", true, true));
+    QCOMPARE(said(spy), QStringLiteral("Found 1 coincidences"));
+    QVERIFY(!editor.document()->isModified());
+    typed.type(QStringLiteral("x"));
+    QVERIFY(editor.extraSelections().isEmpty());
+    editor.findAll("sexes", false, false);
+    editor.find("sex", false, false);
+    QVERIFY(editor.extraSelections().isEmpty());
+    spy.clear();
+    QVERIFY(editor.findAll("nothing", false, false));
+    QVERIFY(spy.isEmpty());
+}
+
+void TestSearch::replacesTheMatch() {
+    TypedEditor typed(QStringLiteral("a b a b"));
+    Editor& editor = typed.editor;
+    QSignalSpy spy(&editor, &Editor::findResultReady);
+    QSignalSpy changes(&editor, &Editor::fileContentsChanged);
+    QSignalSpy chars(&editor, &Editor::charCountChanged);
+    QVERIFY(editor.find("b", false, false));
+    editor.replace("b", "long", false, false); // the one that is selected
+    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(chars.last().first().toInt(), 10);
+    typed.select(0, 1); // no match: the next one counts
+    editor.replace("b", "c", false, false);
+    QCOMPARE(typed.text(), QStringLiteral("a long a c"));
+    typed.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+    editor.replace("B", "c", true, false);
+    QCOMPARE(said(spy), nothing);
+    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+}
+
+void TestSearch::replacesRoundOnce() {
+    TypedEditor typed(QStringLiteral("a a"));
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.editor.replace("a", "aa", false, false);
+    typed.editor.replace("a", "aa", false, false);
+    QCOMPARE(typed.text(), QStringLiteral("aa aa"));
+    typed.editor.replace("a", "aa", false, false);
+    QCOMPARE(said(spy), cameRound);
+    QCOMPARE(typed.text(), QStringLiteral("aa aa"));
+}
+
+void TestSearch::replacesAll_data() {
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("with");
+    QTest::addColumn<bool>("caseSensitive");
+    QTest::addColumn<bool>("wholeWords");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<int>("count");
+    QTest::newRow("all") << "a b\na"
+                         << "a"
+                         << "c" << false << false << "c b\nc" << 2;
+    QTest::newRow("found in itself") << "aaa"
+                                     << "a"
+                                     << "aa" << false << false << "aaaaaa" << 3;
+    QTest::newRow("by nothing") << "xaxa"
+                                << "a"
+                                << "" << false << false << "xx" << 2;
+    QTest::newRow("meeting anew") << "aab b"
+                                  << "ab"
+                                  << "" << false << false << "a b" << 1;
+    QTest::newRow("any case") << "A a"
+                              << "a"
+                              << "b" << false << false << "b b" << 2;
+    QTest::newRow("this case") << "A a"
+                               << "a"
+                               << "b" << true << false << "A b" << 1;
+    QTest::newRow("whole words") << "ab a"
+                                 << "a"
+                                 << "b" << false << true << "ab b" << 1;
+    QTest::newRow("over lines") << "a,a"
+                                << ","
+                                << "\n"
+                                << false << false << "a\na" << 1;
+    QTest::newRow("none") << "a"
+                          << "b"
+                          << "c" << false << false << "a" << 0;
+}
+
+void TestSearch::replacesAll() {
+    QFETCH(QString, before);
+    QFETCH(QString, what);
+    QFETCH(QString, with);
+    QFETCH(bool, caseSensitive);
+    QFETCH(bool, wholeWords);
+    QFETCH(int, count);
+    TypedEditor typed(before);
+    typed.editor.moveCursor(QTextCursor::End);
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.editor.replaceAll(what, with, caseSensitive, wholeWords);
+    QTEST(typed.text(), "after");
+    QCOMPARE(said(spy),
+             count == 0 ? nothing
+                        : QStringLiteral("Document searched. Replaced %1 instances.").arg(count));
+    QCOMPARE(typed.editor.document()->isModified(), count > 0);
+    QCOMPARE(typed.editor.hasUndo(), count > 0);
+}
+
+void TestSearch::replacesAllInOneStep() {
+    const QString before = QStringLiteral("a b\na\n\na");
+    TypedEditor typed(before);
+    typed.editor.replaceAll("a", "x\ny", false, false);
+    QCOMPARE(typed.editor.blockCount(), 7);
+    typed.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(typed.text(), before);
+    QVERIFY(!typed.editor.hasUndo());
+    QVERIFY(!typed.editor.document()->isModified());
+    QCOMPARE(typed.editor.wordCount(), 4);
+}
+
+void TestSearch::tellsTheCountsOnceAfterReplacing() {
+    TypedEditor typed(QStringLiteral("a b\na"));
+    QSignalSpy words(&typed.editor, &Editor::wordCountChanged);
+    QSignalSpy lines(&typed.editor, &Editor::lineCountChanged);
+    typed.editor.findAll("a", false, false);
+    typed.editor.replaceAll("a", "c\nd", false, false);
+    QCOMPARE(words.count(), 1);
+    QCOMPARE(words.last().first().toInt(), 5);
+    QCOMPARE(lines.count(), 1);
+    QCOMPARE(lines.last().last().toInt(), 4);
+    QVERIFY(typed.editor.extraSelections().isEmpty());
+}
+
+void TestSearch::replacesInALongText() {
+    TypedEditor typed(QStringLiteral("freq PERSON.SEX\n").repeated(20000));
+    typed.editor.findAll("person", false, false);
+    QCOMPARE(typed.editor.extraSelections().size(), 20000);
+    typed.editor.replaceAll("PERSON", "HOUSEHOLD", true, true);
+    QCOMPARE(typed.text(), QStringLiteral("freq HOUSEHOLD.SEX\n").repeated(20000));
+}
+
+void TestSearch::goesToALine() {
+    TypedEditor typed(QString(200, u'\n'));
+    Editor& editor = typed.editor;
+    QSignalSpy refused(&editor, &Editor::gotoResultReady);
+    QSignalSpy closed(&editor, &Editor::gotoClose);
+    for (const int line : {1, 201, 120}) {
+        editor.goTo(line);
+        QCOMPARE(editor.currentLine(), line);
+        QCOMPARE(editor.currentColumn(), 1);
+        QCOMPARE(closed.last().first().toInt(), line);
+        QVERIFY(editor.viewport()->rect().contains(editor.cursorRect()));
+    }
+    QVERIFY(refused.isEmpty());
+    for (const int line : {0, -5, 202}) {
+        editor.goTo(line);
+        QCOMPARE(said(refused), QStringLiteral("Invalid line number."));
+        QCOMPARE(editor.currentLine(), 120);
+    }
+    QCOMPARE(closed.count(), 3);
+}
+
+void TestSearch::leavesAnEmptyQueryAlone() {
+    TypedEditor typed(QStringLiteral("abc"));
+    QSignalSpy spy(&typed.editor, &Editor::findResultReady);
+    typed.select(0, 2);
+    QVERIFY(!typed.editor.find({}, false, false));
+    typed.editor.findAll({}, false, false);
+    typed.editor.replace({}, "x", false, false);
+    typed.editor.replaceAll({}, "x", false, false);
+    QVERIFY(spy.isEmpty());
+    QCOMPARE(typed.text(), QStringLiteral("abc"));
+    QCOMPARE(typed.editor.selectedText(), QStringLiteral("ab"));
+}
+
+QTEST_MAIN(TestSearch)
+#include "tst_search.moc"
