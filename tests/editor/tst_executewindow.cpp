@@ -101,7 +101,7 @@ void TestExecuteWindow::runsABlockAlone() {
 }
 
 void TestExecuteWindow::refusesAFolderThatIsMissing() {
-    run("execute \"one.spc\" // outfile csv \"" + fixture_->folder() + "/no/a.csv\"");
+    run("execute \"one.spc\"\noutfile csv \"" + fixture_->folder() + "/no/a.csv\"");
     QCOMPARE(rows().size(), 1);
     QVERIFY2(rows()[0].startsWith("Error: The directory "), qPrintable(rows()[0]));
 }
