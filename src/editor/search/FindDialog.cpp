@@ -88,12 +88,6 @@ void FindDialog::changeEvent(QEvent* event) {
         retranslate();
 }
 
-/// A dialog centres itself over its parent, which a page must not.
-void FindDialog::showEvent(QShowEvent* event) {
-    if (isWindow())
-        QDialog::showEvent(event);
-}
-
 void FindDialog::addFields(QGridLayout& grid) {
     queryLabel_ = addNamed<QLabel>(grid, "queryLabel", 0, 0);
     query_ = addNamed<QLineEdit>(grid, "queryField", 0, 1);

@@ -38,7 +38,6 @@ public slots:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void addFields(QGridLayout& grid);
