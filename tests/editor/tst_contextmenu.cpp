@@ -188,16 +188,11 @@ void TestContextMenu::leavesTheKeysToTheWindow() {
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     text->setFocus();
-    auto* menu = new EditorContextMenu("freq PERSON.SEX", true, true, true, false, text);
-    const QSignalSpy blocks(menu, &EditorContextMenu::runBlock);
-    menu->popup(text->mapToGlobal(QPoint(0, 30)));
-    QTest::keyClick(menu, Qt::Key_Escape);
-    const QPointer<EditorContextMenu> second =
-        new EditorContextMenu("freq PERSON.SEX", true, true, true, false, text);
-    const QSignalSpy moreBlocks(second, &EditorContextMenu::runBlock);
+    const EditorContextMenu menu("freq PERSON.SEX", true, true, true, false, text);
+    const QSignalSpy blocks(&menu, &EditorContextMenu::runBlock);
     QTest::keyClick(text, Qt::Key_F9);
     QCOMPARE(runs.size(), 1);
-    QCOMPARE(blocks.size() + moreBlocks.size(), 0);
+    QCOMPARE(blocks.size(), 0);
 }
 
 QTEST_MAIN(TestContextMenu)

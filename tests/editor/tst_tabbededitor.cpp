@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tabs of the editors, and the counters of the one in front.
 #include "TypedEditor.h"
+#include "editor/language/QSyntaxStyle.h"
 #include "editor/language/SyntaxStyles.h"
 #include "editor/text/LineNumberArea.h"
 #include "editor/text/MetricReporter.h"

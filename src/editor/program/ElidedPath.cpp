@@ -26,7 +26,7 @@ QString elidePath(const QString& nativePath, const QFont& font, int width) {
     if (parts.size() <= 2 || fits(nativePath))
         return nativePath;
     for (qsizetype count = parts.size() - 2; count > 1; --count) {
-        if (const QString elided = withFirst(parts, count); fits(elided))
+        if (QString elided = withFirst(parts, count); fits(elided))
             return elided;
     }
     return withFirst(parts, 1);

@@ -74,7 +74,7 @@ QString missingFolder(const QString& program, const QString& folder) {
     static const QRegularExpression lineEnds(QStringLiteral("[\\r\\n]+"));
     const QStringList lines = withoutComments(program).split(lineEnds, Qt::SkipEmptyParts);
     for (const QString& line : lines) {
-        const QString message = missingFolderOfLine(line, folder);
+        QString message = missingFolderOfLine(line, folder);
         if (!message.isEmpty())
             return message;
     }

@@ -3,9 +3,11 @@
 
 #include "app/settings/KelSystem.h"
 #include "app/shell/Shell.h"
+#include "editor/language/KelvoraCompleter.h"
 #include "editor/program/BottomPanel.h"
 #include "editor/program/ErrorList.h"
 #include "editor/program/ProgramFiles.h"
+#include "editor/program/ProgramKeys.h"
 #include "editor/program/ProgramParts.h"
 #include "editor/program/ProgramTitle.h"
 #include "editor/program/SyntaxClue.h"
@@ -15,6 +17,7 @@
 #include "engine/execution/RunGuard.h"
 #include "projects/TfrmProject.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
@@ -95,6 +98,8 @@ void ProcessProgramSPC::build(Shell& shell) {
     parts.files = new ProgramFiles(*parts.tabs, executeWindow_, this);
     parts.runner = new ProgramRunner(shell, system_.shortLanguage(), errorList(), this);
     parts.clue = new SyntaxClue(this);
+    parts.keys = new ProgramKeys(*parts.actions, *this);
+    parts.keys->watchList(parts.clue->list());
     parts.format.emplace(*parts.tabs, *parts.actions, *this);
     parts.connections.emplace(*this, parts.bottom->find(), *parts.goTo, *parts.metrics);
     parts.place.emplace(system_, *this, *parts.actions->toolBar());
@@ -105,6 +110,9 @@ void ProcessProgramSPC::connectParts() {
             &ProcessProgramSPC::on_currentTabChanged);
     connect(parts_->tabs, &QTabWidget::tabCloseRequested, this,
             qOverload<int>(&ProcessProgramSPC::closeTab));
+    connect(parts_->files, &ProgramFiles::editorAdded, this,
+            [this](const Editor* editor) { watchKeys(*editor); });
+    watchKeys(*currentEditor());
     connect(parts_->files, &ProgramFiles::titlesChanged, this,
             &ProcessProgramSPC::updateTabAndWindowTitle);
     connect(parts_->files, &ProgramFiles::savedTabToClose, this,
@@ -160,6 +168,11 @@ void ProcessProgramSPC::fetchVocabulary() {
     parts_->words = Vocabulary::ofOpenDictionary();
     for (Editor* editor : parts_->tabs->editors())
         hand(*editor);
+}
+
+void ProcessProgramSPC::watchKeys(const Editor& editor) const {
+    if (editor.completer() != nullptr)
+        parts_->keys->watchList(*editor.completer()->popup());
 }
 
 void ProcessProgramSPC::hand(Editor& editor) const {
@@ -225,29 +238,6 @@ void ProcessProgramSPC::applySplit() {
 void ProcessProgramSPC::applyPreferences() {
     parts_->tabs->setLook(lookOf(system_));
     errorList().setPalette(currentEditor()->palette());
-}
-
-bool ProcessProgramSPC::event(QEvent* event) {
-    // The window around this one has some of the same keys; asked for first, they are not in doubt.
-    if (event->type() == QEvent::ShortcutOverride && parts_->actions != nullptr &&
-        actionFor(*static_cast<QKeyEvent*>(event)) != nullptr) {
-        event->accept();
-        return true;
-    }
-    return QMainWindow::event(event);
-}
-
-QAction* ProcessProgramSPC::actionFor(const QKeyEvent& event) const {
-    const QKeyCombination keys(event.modifiers() & ~Qt::KeypadModifier,
-                               static_cast<Qt::Key>(event.key()));
-    return parts_->actions->forKeys(QKeySequence(keys));
-}
-
-void ProcessProgramSPC::keyPressEvent(QKeyEvent* event) {
-    if (QAction* action = actionFor(*event))
-        action->trigger();
-    else
-        QMainWindow::keyPressEvent(event);
 }
 
 void ProcessProgramSPC::showEvent(QShowEvent* event) {

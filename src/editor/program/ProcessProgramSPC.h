@@ -117,8 +117,6 @@ protected:
     ProgramRunner& runner() const;
     ErrorList& errorList() const;
 
-    bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -136,11 +134,11 @@ private:
     void replaceInProgram();
     void fetchVocabulary();
     void hand(Editor& editor) const; ///< the vocabulary
+    void watchKeys(const Editor& editor) const;
     void applyPreferences();
     void applySplit();
     void showList(bool faults);
     void showPassedRow(QListWidgetItem* item);
-    QAction* actionFor(const QKeyEvent& event) const;
     void closeFrame();
     void showFindPage();
     void setBusy(bool busy);

@@ -16,6 +16,7 @@ class BottomPanel;
 class GotoDialog;
 class MetricReporter;
 class ProgramFiles;
+class ProgramKeys;
 class QLabel;
 class QSplitter;
 class SyntaxClue;
@@ -32,6 +33,7 @@ struct ProcessProgramSPC::Parts {
     ProgramFiles* files = nullptr;
     ProgramRunner* runner = nullptr;
     SyntaxClue* clue = nullptr;
+    ProgramKeys* keys = nullptr;
     std::optional<FormatCommands> format;
     std::optional<EditorConnections> connections;
     std::optional<WindowPlace> place;

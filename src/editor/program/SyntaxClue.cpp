@@ -6,6 +6,7 @@
 #include "editor/text/Editor.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextCursor>
@@ -44,14 +45,18 @@ void SyntaxClue::offer(Editor& editor) {
     completer_->setCompletionPrefix(begun ? word : QString());
     QAbstractItemView* popup = completer_->popup();
     popup->setAccessibleName(tr("Commands"));
+    popup->setFont(editor.font());
+    popup->setPalette(editor.palette());
+    completer_->setMaxVisibleItems(static_cast<int>(lines.size()));
     QRect place = editor.cursorRect();
-    place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width());
+    place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width() +
+                   2 * editor.fontMetrics().averageCharWidth());
     completer_->complete(place);
     popup->setCurrentIndex(completer_->completionModel()->index(0, 0));
 }
 
-bool SyntaxClue::isOffering() const {
-    return completer_->popup()->isVisible();
+QWidget& SyntaxClue::list() const {
+    return *completer_->popup();
 }
 
 void SyntaxClue::close() {
@@ -81,10 +86,18 @@ void SyntaxClue::chooseCurrent() {
         insert(line);
 }
 
+/// The list is not narrowed: whoever types on wants none of it.
+void SyntaxClue::passOn(QKeyEvent& event) {
+    close();
+    if (editor_ != nullptr)
+        QCoreApplication::sendEvent(editor_, &event);
+}
+
 bool SyntaxClue::eventFilter(QObject* object, QEvent* event) {
     if (object != completer_->popup() || event->type() != QEvent::KeyPress)
         return QObject::eventFilter(object, event);
-    switch (static_cast<QKeyEvent*>(event)->key()) {
+    auto& key = *static_cast<QKeyEvent*>(event);
+    switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Tab:
@@ -94,7 +107,10 @@ bool SyntaxClue::eventFilter(QObject* object, QEvent* event) {
         close();
         return true;
     default:
-        return false;
+        if (key.text().isEmpty())
+            return false;
+        passOn(key);
+        return true;
     }
 }
 

@@ -7,6 +7,8 @@
 
 class Editor;
 class KelvoraCompleter;
+class QKeyEvent;
+class QWidget;
 
 class SyntaxClue : public QObject {
     Q_OBJECT
@@ -15,8 +17,8 @@ public:
     explicit SyntaxClue(QObject* parent);
 
     void offer(Editor& editor);
-    bool isOffering() const;
     void close();
+    QWidget& list() const;
 
 signals:
     void inserted(QString line);
@@ -27,6 +29,7 @@ protected:
 private:
     void insert(const QString& line);
     void chooseCurrent();
+    void passOn(QKeyEvent& event);
 
     KelvoraCompleter* completer_;
     QPointer<Editor> editor_;

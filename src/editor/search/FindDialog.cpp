@@ -34,7 +34,9 @@ FindDialog::FindDialog(QWidget* parent) : QDialog(parent) {
     addFields(*grid);
     addBoxes(*grid);
     addButtons(*grid);
-    message_ = addNamed<QLabel>(*grid, "findMessage", 2, 1);
+    message_ = new QLabel(this);
+    message_->setObjectName(QStringLiteral("findMessage"));
+    grid->addWidget(message_, 2, 1, 1, 4);
     message_->setTextFormat(Qt::PlainText);
     message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     grid->setRowStretch(3, 1);
@@ -90,14 +92,6 @@ void FindDialog::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::LanguageChange)
         retranslate();
-}
-
-/// A dialog centres itself over its parent, which a page must not.
-void FindDialog::showEvent(QShowEvent* event) {
-    if (isWindow())
-        QDialog::showEvent(event);
-    else
-        QWidget::showEvent(event);
 }
 
 void FindDialog::addFields(QGridLayout& grid) {

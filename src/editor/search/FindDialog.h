@@ -39,7 +39,6 @@ public slots:
 
 protected:
     void changeEvent(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     void addFields(QGridLayout& grid);

@@ -195,6 +195,8 @@ void EditorCompletion::insert(const QString& completion) {
     if (!prefix.isEmpty())
         cursor.setPosition(cursor.block().position() +
                            wordEnd(cursor.block().text(), cursor.positionInBlock()));
+    cursor.beginEditBlock(); // or undoing it would take what was typed before along
     cursor.insertText(completion.mid(prefix.size()));
+    cursor.endEditBlock();
     editor_.setTextCursor(cursor);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/text/Indentation.h"
 
-#include <QFontMetricsF>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextDocumentFragment>
@@ -17,24 +16,13 @@ int leadingTabs(const QString& line) {
     return tabs;
 }
 
-double tabColumns(const QPlainTextEdit& editor) {
-    const double character = QFontMetricsF(editor.font()).averageCharWidth();
-    return character > 0 ? editor.tabStopDistance() / character : levelColumns;
-}
-
-/// How many characters at the start of the line make up one level.
-int levelLength(const QString& line, double tabWidth) {
+/// How many characters at the start of the line make up one level: a tab is one by itself.
+int levelLength(const QString& line) {
     int length = 0;
-    double columns = 0;
-    for (; length < line.size() && columns < levelColumns; ++length) {
-        if (line[length] == u'\t')
-            columns += tabWidth;
-        else if (line[length] == u' ')
-            columns += 1;
-        else
-            break;
-    }
-    return length;
+    while (length < line.size() && length < levelColumns && line[length] == u' ')
+        ++length;
+    const bool tab = length < levelColumns && length < line.size() && line[length] == u'\t';
+    return tab ? length + 1 : length;
 }
 
 /// A selection that ends at the start of a line does not touch that line.
@@ -76,14 +64,12 @@ void unindentLines(QPlainTextEdit& editor) {
     const QTextCursor selection = editor.textCursor();
     const QTextDocument& document = *editor.document();
     const QTextBlock last = lastTouched(document, selection);
-    const double tabWidth = tabColumns(editor);
     QTextCursor edit(selection);
     edit.beginEditBlock();
     QTextBlock block = document.findBlock(selection.selectionStart());
     for (; block.isValid() && block.blockNumber() <= last.blockNumber(); block = block.next()) {
         edit.setPosition(block.position());
-        edit.setPosition(block.position() + levelLength(block.text(), tabWidth),
-                         QTextCursor::KeepAnchor);
+        edit.setPosition(block.position() + levelLength(block.text()), QTextCursor::KeepAnchor);
         edit.removeSelectedText();
     }
     edit.endEditBlock();
