@@ -6,12 +6,15 @@
 #include "TKelSession.h"
 #include "TKelVariable.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <limits>
 
 namespace {
 
 constexpr int fieldsOfDimension = 3; ///< code, label, kind
+constexpr int usualDecimals = 2;
 
 QString text(const std::string& words) {
     return QString::fromStdString(words);
@@ -65,6 +68,7 @@ void OutputModel::setTable(const OutputTable& table) {
     table_ = table;
     columns_.clear();
     data_ = table.output != nullptr ? table.output->dataset() : nullptr;
+    decimals_ = data_ != nullptr ? table.output->options().decimals.value_or(usualDecimals) : 0;
     if (data_ != nullptr) {
         int field = 0;
         if (hasTriples(*table.output)) {
@@ -118,11 +122,19 @@ QString OutputModel::cell(int row, const Column& column) const {
     return text(data_->stringValue(row, column.field));
 }
 
+QString OutputModel::shown(const QString& figure) const {
+    if (!figure.contains(u'.'))
+        return figure.isEmpty() ? figure : QLocale().toString(figure.toLongLong());
+    return QLocale().toString(figure.toDouble(), 'f', decimals_);
+}
+
 QVariant OutputModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
     const Column& column = columns_[index.column()];
     if (role == Qt::DisplayRole)
+        return column.isText ? cell(index.row(), column) : shown(cell(index.row(), column));
+    if (role == Qt::EditRole || role == Qt::ToolTipRole)
         return cell(index.row(), column);
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignVCenter | (column.isText ? Qt::AlignLeft : Qt::AlignRight));

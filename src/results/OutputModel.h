@@ -22,6 +22,7 @@ struct OutputTable {
     QString note() const;  ///< weight, filter and hidden cells, a line for each
 };
 
+/// The display role gives figures with the output's decimals, the edit role in full precision.
 class OutputModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -46,8 +47,10 @@ private:
     void addDimension(int dimension, const QString& heading);
     void addField(int field);
     QString cell(int row, const Column& column) const;
+    QString shown(const QString& figure) const; ///< in the form of the interface language
 
     OutputTable table_;
     TKelDataset* data_ = nullptr;
     QList<Column> columns_;
+    int decimals_ = 0;
 };

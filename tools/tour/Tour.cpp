@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Tour.h"
+#include "TourSteps.h"
 
 #include "app/MainWindow.h"
 #include "app/dialogs/KelvoraFileDialog.h"
@@ -30,18 +31,6 @@
 #include <stdexcept>
 
 namespace {
-
-void require(bool condition, const QString& what) {
-    if (!condition)
-        throw std::runtime_error(what.toStdString());
-}
-
-template <typename View>
-View* find(const MainWindow& window, const char* name) {
-    auto* view = window.findChild<View*>(QLatin1String(name));
-    require(view != nullptr, QStringLiteral("no widget %1").arg(QLatin1String(name)));
-    return view;
-}
 
 /// Clicks the row that shows the text in its first column.
 void clickRow(QAbstractItemView* view, const QString& text) {
@@ -75,6 +64,7 @@ void Tour::run(const QString& dictionary) {
     menus();
     frequency();
     shoot(QStringLiteral("frequency"));
+    programs();
     dialogs();
     preferences();
     languages();
@@ -238,5 +228,8 @@ void Tour::shoot(const QString& name) {
 
 void Tour::shootScreen(const QString& name) {
     QTest::qWait(100);
-    save(QGuiApplication::primaryScreen()->grabWindow(0), name);
+    const QRect place = window_.geometry();
+    save(QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(),
+                                                      place.height()),
+         name);
 }

@@ -6,7 +6,9 @@
 
 #include <functional>
 
+class Editor;
 class MainWindow;
+class ProcessProgramSPC;
 class QAbstractItemView;
 class QPixmap;
 
@@ -32,11 +34,24 @@ private:
     void menus();
     void showMenu(QAbstractItemView* view);
     void frequency();
+    void programs();
+    void completion();
+    void compileError();
+    void colourSchemes();
+    void findPanel();
+    void executeWindow();
+    /// The programs beside the dictionary open from the ribbon and run.
+    void samplePrograms();
+    void programFromRibbon(const char* button, const QString& entry);
+    void type(const QString& text); ///< with the keys of a user
     void dialogs();
     void shootModal(const QString& name, const std::function<void()>& ask);
     void preferences();
     void languages();
     void styles();
+    ProcessProgramSPC& program() const; ///< the window in front
+    Editor& editor() const;
+
     void shoot(const QString& name);       ///< the window, as NN-name.png
     void shootScreen(const QString& name); ///< with menus
     void save(const QPixmap& picture, const QString& name);

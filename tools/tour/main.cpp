@@ -20,12 +20,24 @@
 
 namespace {
 
+/// A screen that has room for the largest window.
+const QByteArray screen = R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": 1920,
+    "height": 1080, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
+QByteArray offscreenPlatform(const QTemporaryDir& home) {
+    QFile file(home.filePath(QStringLiteral("screen.json")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(screen) != screen.size())
+        return "offscreen";
+    return "offscreen:configfile=" + file.fileName().toUtf8();
+}
+
 /// The user's own settings stay out of it, and no screen is needed.
 void separateFromUser(const QTemporaryDir& home) {
     qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
     qputenv("HOME", home.path().toUtf8());
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform == "offscreen" || (platform.isEmpty() && qEnvironmentVariableIsEmpty("DISPLAY")))
+        qputenv("QT_QPA_PLATFORM", offscreenPlatform(home));
 }
 
 QString makeSample(const QString& folder) {
@@ -81,7 +93,7 @@ int stay(const QString& dictionary) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const QTemporaryDir home;
+    static const QTemporaryDir home; // outlives what keeps files in it
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     const bool staying = std::any_of(arguments.begin(), arguments.end(), [](const char* argument) {
         return std::string_view(argument) == "--stay";
