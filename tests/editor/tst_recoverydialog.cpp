@@ -57,7 +57,7 @@ private slots:
         RecoveryStore store(folder.path());
         const RecoveryDialog dialog(store, store.abandoned());
         const auto state = [&dialog](const QString& program) {
-            return rowOf(dialog, program)->text(2);
+            return rowOf(dialog, program)->text(3);
         };
         QCOMPARE(state("changed.spc"), "Differs; the file was changed later");
         QCOMPARE(state("older.spc"), "Differs from the file");
@@ -65,7 +65,7 @@ private slots:
         QCOMPARE(state("gone.spc"), "The file is no longer there");
         QCOMPARE(state("folder.spc"), "The file cannot be read");
         QCOMPARE(state("Untitled document"), "Was never saved");
-        QCOMPARE(rowOf(dialog, "Untitled document")->text(3), "freq PERSON.SEX");
+        QCOMPARE(rowOf(dialog, "Untitled document")->text(1), "freq PERSON.SEX");
         QCOMPARE(namesOf(dialog.chosen()).contains("same.spc"), false);
         QCOMPARE(dialog.chosen().size(), 5);
     }
