@@ -17,7 +17,8 @@
 
 namespace {
 
-enum Column { Program, Written, FileState, Text, Folder };
+enum Column { Program, Text, Written, FileState, Folder };
+constexpr int widestColumn = 45; // characters
 
 QString titleOf(const RecoveryCopy& copy) {
     if (!copy.name.isEmpty())
@@ -56,22 +57,25 @@ RecoveryDialog::RecoveryDialog(RecoveryStore& store, const QList<RecoveryCopy>& 
     connect(list_, &QTreeWidget::itemChanged, this, &RecoveryDialog::enableButtons);
     enableButtons();
     list_->setFocus();
-    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 20);
+    resize(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 20);
 }
 
 void RecoveryDialog::setUpList(const QList<RecoveryCopy>& copies) {
     list_->setObjectName(QStringLiteral("recoveryList"));
     list_->setAccessibleName(tr("Programs that were not saved"));
     list_->setHeaderLabels(
-        {tr("Program"), tr("Last change"), tr("State of the file"), tr("Text"), tr("Folder")});
+        {tr("Program"), tr("Text"), tr("Last change"), tr("State of the file"), tr("Folder")});
     list_->setRootIsDecorated(false);
     list_->setUniformRowHeights(true);
     list_->setAllColumnsShowFocus(true);
     for (const RecoveryCopy& copy : copies)
         addRow(copy);
     list_->setCurrentItem(list_->topLevelItem(0));
-    for (int column = 0; column < list_->columnCount(); ++column)
+    const int widest = list_->fontMetrics().averageCharWidth() * widestColumn;
+    for (int column = Program; column < Folder; ++column) {
         list_->resizeColumnToContents(column);
+        list_->setColumnWidth(column, qMin(list_->columnWidth(column), widest));
+    }
 }
 
 void RecoveryDialog::addRow(const RecoveryCopy& copy) {
@@ -84,8 +88,8 @@ void RecoveryDialog::addRow(const RecoveryCopy& copy) {
     row->setText(Text, previewOf(copy.text));
     if (!path.isEmpty())
         row->setText(Folder, QDir::toNativeSeparators(QFileInfo(copy.filePath).path()));
-    row->setToolTip(Program, path.toHtmlEscaped());
-    row->setToolTip(Folder, path.toHtmlEscaped());
+    for (int column = Program; column <= Folder; ++column)
+        row->setToolTip(column, (path.isEmpty() ? row->text(Text) : path).toHtmlEscaped());
     row->setCheckState(Program, origin == RecoveryOrigin::Same ? Qt::Unchecked : Qt::Checked);
     copies_ += copy;
 }

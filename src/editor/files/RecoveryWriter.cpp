@@ -47,6 +47,7 @@ void RecoveryWriter::setOrigin(const QString& filePath, const QString& name) {
     if (!hasCopy_)
         return;
     kept_.reset();
+    inWork_.reset();
     noticeChange();
 }
 
@@ -145,6 +146,8 @@ void RecoveryWriter::flush() {
         return;
     if (document_.document()->isModified())
         keepSoon();
-    if (inWork_)
-        writing_.waitForFinished();
+    if (!inWork_)
+        return;
+    writing_.waitForFinished();
+    endKeeping();
 }

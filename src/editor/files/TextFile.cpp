@@ -22,10 +22,12 @@ TextFileResult failure(const QString& error) {
     return result;
 }
 
-/// Pipes and devices may never end; writing would put a file in their place.
+/// Pipes and devices may never end; writing would put a file in their place. Where nothing is
+/// allowed, nothing is known either, and the system says so.
 bool isSpecial(const QString& path) {
     const QFileInfo info(path);
-    return info.exists() && !info.isFile() && !info.isDir();
+    return info.exists() && !info.isFile() && !info.isDir() &&
+           (info.isReadable() || info.isWritable());
 }
 
 QString specialFault() {
