@@ -18,8 +18,9 @@ namespace {
 struct Triple {
     Column::Values codes, labels, kinds;
 
-    Triple(const RowTable& table, std::size_t dimension) {
+    Triple(const RowTable& table, std::size_t dimension, execution::Progress& progress) {
         for (std::uint32_t place = 0; place < placesOf(table, dimension); ++place) {
+            progress.check();
             const Category* category = categoryAt(table, dimension, place);
             if (category == nullptr)
                 add("0", "__tot__", "tot");
@@ -40,14 +41,14 @@ private:
     }
 };
 
-void addTriples(const RowTable& rows, Form& form) {
+void addTriples(const RowTable& rows, Form& form, execution::Progress& progress) {
     for (std::size_t d = 0; d < rows.dimensions.size(); ++d) {
         const std::string& name = rows.dimensions[d].name;
         const std::string& label = rows.dimensions[d].label;
         form.fields.push_back({name, label, name});
         form.fields.push_back({name + " label", label + " (label)", name});
         form.fields.push_back({name + " kind", label + " (kind)", name});
-        Triple triple(rows, d);
+        Triple triple(rows, d, progress);
         form.columns.push_back(Column::of(std::move(triple.codes), rows.places[d]));
         form.columns.push_back(Column::of(std::move(triple.labels), rows.places[d]));
         form.columns.push_back(Column::of(std::move(triple.kinds), rows.places[d]));
@@ -56,13 +57,15 @@ void addTriples(const RowTable& rows, Form& form) {
 }
 
 /// "code. label" for each dimension.
-void addTexts(const RowTable& rows, Form& form) {
+void addTexts(const RowTable& rows, Form& form, execution::Progress& progress) {
     for (std::size_t d = 0; d < rows.dimensions.size(); ++d) {
         const execution::Dimension& dimension = rows.dimensions[d];
         form.fields.push_back({dimension.name, dimension.label, dimension.name});
         Column::Values names;
-        for (std::uint32_t place = 0; place < placesOf(rows, d); ++place)
+        for (std::uint32_t place = 0; place < placesOf(rows, d); ++place) {
+            progress.check();
             names.emplace_back(placeName(categoryAt(rows, d, place)));
+        }
         form.columns.push_back(Column::of(std::move(names), rows.places[d]));
     }
 }
@@ -128,15 +131,15 @@ void addSubjectOf(const RowTable& rows, Table& table) {
         addSubject("Table", command.name, table);
 }
 
-void addForms(const RowTable& rows, Table& table) {
+void addForms(const RowTable& rows, Table& table, execution::Progress& progress) {
     if (rows.dimensions.empty())
         addSubjectOf(rows, table);
     else if (!inTexts(rows))
-        addTriples(rows, table);
+        addTriples(rows, table, progress);
     else {
-        addTexts(rows, table);
+        addTexts(rows, table, progress);
         table.inTriples.emplace();
-        addTriples(rows, *table.inTriples);
+        addTriples(rows, *table.inTriples, progress);
         addFigures(rows, *table.inTriples);
     }
     addFigures(rows, table);
@@ -252,7 +255,8 @@ Table described(const TableCommand& command, const catalog::Dictionary& dictiona
     return table;
 }
 
-Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary) {
+Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary,
+             execution::Progress& progress) {
     Laid laid;
     Table& table = laid.table;
     table = described(*rows.command, dictionary);
@@ -260,7 +264,7 @@ Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary) {
     if (rows.command->measure)
         table.variables.push_back(variableOf(*rows.command->measure));
     table.variables.insert(table.variables.end(), rows.variables.begin(), rows.variables.end());
-    addForms(rows, table);
+    addForms(rows, table, progress);
     table.suppressed = rows.suppressed();
     table.seconds = rows.seconds;
     laid.guide = guideOf(rows, table);

@@ -36,7 +36,8 @@ TableVariable variableOf(const language::Expression& expression);
 void addNames(const TableVariable& variable, std::size_t column, SortGuide& guide);
 
 /// Frequencies, counts, measures and what TABOP made.
-Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary);
+Laid layRows(const RowTable& rows, const catalog::Dictionary& dictionary,
+             execution::Progress& progress);
 /// An area list or a view. The tables of its columns are found by their numbers.
 using FindRows = std::function<const RowTable&(std::size_t table)>;
 Laid layList(const language::TableCommand& command, execution::ListResult list,

@@ -212,9 +212,11 @@ private:
         TableFigures result(crossed ? placesOf(rows, 1) : 1);
         const auto columnsAt = [&](std::uint32_t place) -> auto& {
             auto& columns = result[place];
-            while (columns.size() < rows.figures.size())
+            while (columns.size() < rows.figures.size()) {
+                progress_.checkNow(); // many columns of many areas take their time
                 columns.push_back(
                     std::make_shared<Column::Figures>(list_.records.size(), rows.none));
+            }
             return columns;
         };
         columnsAt(crossed ? rows.valid[1] : 0); // even where there is no record at all

@@ -116,6 +116,7 @@ public:
             });
         std::uint32_t rank = 0;
         for (std::size_t i = 0; i < values && !isBlank(value(order[i])); ++i) {
+            progress.check();
             if (i > 0 && (ordered || compared(value(order[i - 1]), value(order[i])) != 0))
                 ++rank;
             ranks_[order[i]] = rank;
@@ -150,6 +151,7 @@ Order orderOf(const Laid& laid, std::size_t column, const language::SortClause& 
     std::iota(order.begin(), order.end(), 0U);
     const auto firstMarker =
         std::stable_partition(order.begin(), order.end(), [&](std::uint32_t row) {
+            progress.check();
             return !guide.isMarker || !guide.isMarker(row);
         });
     std::stable_sort(order.begin(), firstMarker, [&](std::uint32_t a, std::uint32_t b) {
@@ -169,7 +171,8 @@ Order orderOf(const Laid& laid, std::size_t column, const language::SortClause& 
 /// Columns that share something go on sharing it.
 class Reordering {
 public:
-    explicit Reordering(const Order& order) : order_(order) {}
+    Reordering(const Order& order, execution::Progress& progress)
+        : order_(order), progress_(progress) {}
 
     void apply(Form& form) {
         for (Column& column : form.columns) {
@@ -179,6 +182,14 @@ public:
                 column.numbers = reordered(column.numbers, numbers_);
             else
                 column.values = reordered(column.values, values_);
+        }
+    }
+
+    /// Lets go of the columns as they were, one by one: texts without number take their time.
+    void finish() {
+        for (auto& list : kept_) {
+            list.reset();
+            progress_.checkNow();
         }
     }
 
@@ -193,8 +204,10 @@ private:
         if (!result) {
             auto made = std::make_shared<List>();
             made->reserve(order_.size());
-            for (const std::uint32_t row : order_)
+            for (const std::uint32_t row : order_) {
+                progress_.check();
                 made->push_back((*list)[row]);
+            }
             result = std::move(made);
             kept_.push_back(list);
         }
@@ -202,6 +215,7 @@ private:
     }
 
     const Order& order_;
+    execution::Progress& progress_;
     mutable std::vector<std::shared_ptr<const void>> kept_; ///< so that no address comes up again
     Done<Column::Values> values_;
     Done<Column::Numbers> numbers_;
@@ -214,10 +228,11 @@ void sortRows(Laid& laid, const language::SortClause& asked, execution::Progress
     const language::SortClause clause = understood(laid, asked);
     const std::size_t column = columnOf(laid, clause);
     const Order order = orderOf(laid, column, clause, progress);
-    Reordering reordering(order);
+    Reordering reordering(order, progress);
     reordering.apply(laid.table);
     if (laid.table.inTriples)
         reordering.apply(*laid.table.inTriples);
+    reordering.finish();
     laid.table.sort = clause;
     if (clause.column.empty() || clause.element)
         laid.table.sort->column = laid.table.fields[column].name;

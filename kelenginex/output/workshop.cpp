@@ -151,7 +151,7 @@ void Workshop::keep(std::size_t index, RowTable rows, execution::Progress& progr
     rows_[index] = std::make_shared<RowTable>(std::move(rows));
     const double start = progress.seconds();
     if (command(index).isOutput) {
-        Laid laid = layRows(*rows_[index], dictionary_);
+        Laid laid = layRows(*rows_[index], dictionary_, progress);
         show(index, std::move(laid), rows_[index]->seconds + progress.seconds() - start, progress);
     }
     if (readers_[index] == 0)

@@ -50,7 +50,6 @@ void RunDialog::tell(int percent, const QString& label) {
 
 void RunDialog::appear() {
     show();
-    raise();
     activateWindow();
 }
 

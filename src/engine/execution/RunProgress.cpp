@@ -56,7 +56,8 @@ bool RunProgress::tell(int percent, const QString& label) {
 
 void RunProgress::processEvents() {
     const QScopedValueRollback<bool> guard(processing_, true);
-    if (dialog_ && !cancelled_ && sinceBegin_.hasExpired(dialog_->minimumDuration()))
+    if (dialog_ && !dialog_->isVisible() && !cancelled_ &&
+        sinceBegin_.hasExpired(dialog_->minimumDuration()))
         dialog_->appear();
     const bool shown = dialog_ && dialog_->isVisible();
     QCoreApplication::processEvents(shown ? QEventLoop::AllEvents

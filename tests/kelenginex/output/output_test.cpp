@@ -15,7 +15,7 @@ protected:
         last_ = runAll(country_.dictionary, program);
         execution::Progress silent({});
         const output::RowTable rows = output::makeRows(last_.result.tables.at(0), silent);
-        return output::layRows(rows, country_.dictionary).table;
+        return output::layRows(rows, country_.dictionary, silent).table;
     }
     static std::vector<std::string> rows(const output::Table& table) {
         std::vector<std::string> result;

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The workbench while a program runs: what would disturb the run is refused or waits for its end.
+#include "Workbench.h"
+#include "app/ribbon/tt/TabToolbar.h"
+#include "engine/execution/RunGuard.h"
+#include "kel.h"
+#include "projects/TfrmProject.h"
+#include "sample/sample.h"
+
+#include <QDockWidget>
+#include <QMdiArea>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+class TestRunning : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<Workbench> bench_;
+
+    QString samplePath() const { return bench_->folder() + "/sample/sample.kxdb"; }
+    QProgressDialog* progress() const { return bench_->find<QProgressDialog>("runProgress"); }
+
+    /// Seconds of work.
+    static QString longProgram() {
+        return QString("FREQ PERSON.INCOME BY PERSON.AGE BY PERSON.EDUCATION\n").repeated(40);
+    }
+
+    /// Runs it, and acts from its events as soon as the progress window shows. The run ends by
+    /// Cancel where act leaves it running.
+    void runAndAct(const QString& program, std::function<void()> act) const {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            if (progress() == nullptr || !progress()->isVisible())
+                return;
+            QVERIFY(RunGuard::isRunning());
+            if (const auto once = std::exchange(act, nullptr))
+                once();
+            else // some events later, which may have brought what was put off
+                QTest::mouseClick(progress()->findChild<QPushButton*>(), Qt::LeftButton);
+        });
+        timer.start(10);
+        bench_->window().runProgram(program);
+        QVERIFY(act == nullptr);
+        QVERIFY(!RunGuard::isRunning());
+    }
+
+private slots:
+    void initTestCase() {
+        bench_ = std::make_unique<Workbench>();
+        kelx::tools::SampleRequest request;
+        request.folder = (bench_->folder() + "/sample").toStdString();
+        request.persons = 1'000'000;
+        kelx::tools::writeSample(request);
+        bench_->openByKeyboard(samplePath());
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), samplePath());
+    }
+
+    void init() { bench_->messages.clear(); }
+
+    void closingTheWindowIsRefused() {
+        runAndAct(longProgram(), [this] {
+            QVERIFY(bench_->window().isBusy());
+            QVERIFY(!bench_->window().close());
+            QVERIFY(bench_->window().isVisible());
+        });
+        QVERIFY(!bench_->window().isBusy());
+        QCOMPARE(bench_->window().statusBar()->currentMessage(), "Execution Canceled");
+        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(bench_->windowNames(), QStringList());
+    }
+
+    void dictionaryIsNeitherOpenedNorSavedNorClosed() {
+        TfrmProject::instance().dictionary()->setDirty(true);
+        runAndAct(longProgram(), [this] {
+            MainWindow& window = bench_->window();
+            window.openFile(bench_->smallPath(), "kxdb");
+            window.on_openRecentDictionary(bench_->smallPath());
+            window.saveOpenDictionary();
+            window.saveAsOpenDictionary();
+            window.on_closeAllDictionary();
+            window.dock("Dictionary")->close();
+            QCOMPARE(TfrmProject::instance().dictionaryPath(), samplePath());
+            QVERIFY(TfrmProject::instance().dictionary()->isDirty());
+            QVERIFY(!window.isLoading());
+        });
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(TfrmProject::instance().dictionaryPath(), samplePath());
+        QVERIFY(bench_->window().dock("Dictionary")->isVisible());
+        bench_->window().saveOpenDictionary();
+        QVERIFY(!TfrmProject::instance().dictionary()->isDirty());
+    }
+
+    void ribbonWaitsForTheEnd() {
+        const auto* ribbon = bench_->find<tt::TabToolbar>("ribbon");
+        runAndAct(longProgram(), [this, ribbon] {
+            bench_->window().rebuildToolbars();
+            QTest::qWait(0);
+            QCOMPARE(bench_->find<tt::TabToolbar>("ribbon"), ribbon);
+        });
+        QTRY_VERIFY(bench_->find<tt::TabToolbar>("ribbon") != ribbon);
+    }
+
+    void secondRunIsToldOfAfterwards() {
+        runAndAct(longProgram(), [this] {
+            bench_->window().runProgram("COUNT PERSON");
+            QCOMPARE(bench_->messages, QStringList());
+        });
+        QTRY_COMPARE(bench_->messages.size(), 1);
+        QCOMPARE(bench_->windowNames(), QStringList());
+    }
+
+    void whatIsNoFrequencyIsToldOnce() {
+        bench_->window().runProgram("FREQ PERSON.SEX\nCOUNT PERSON\nAVERAGE PERSON.AGE");
+        QCOMPARE(bench_->messages, QStringList("The results cannot be shown as a frequency."));
+        QCOMPARE(bench_->windowNames(), QStringList("ResultsManager"));
+        QCOMPARE(bench_->frequencyRows().size(), 3);
+        bench_->messages.clear();
+        bench_->window().runProgram("FREQ PERSON.SEX OUTFILE CSV \"sex.csv\"");
+        QCOMPARE(bench_->messages.size(), 1);
+        QVERIFY(bench_->messages[0].contains("sex.csv"));
+        QCOMPARE(bench_->find<QAbstractItemView>("resultList")->model()->rowCount(), 2);
+    }
+};
+
+QTEST_MAIN(TestRunning)
+#include "tst_running.moc"
