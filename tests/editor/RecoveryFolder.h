@@ -41,7 +41,7 @@ public:
                         const QString& name = "Untitled document",
                         const QDateTime& written = QDateTime::currentDateTimeUtc()) const {
         RecoveryStore store(path());
-        const QString id = store.newId();
+        QString id = store.newId();
         store.keep({id, filePath, name, false, written, text});
         return id;
     }

@@ -24,16 +24,17 @@ QString nearestFolder(const QString& path) {
     return folder;
 }
 
-/// Where news of a file may come from: its folder, which may itself be moved away within the one
+/// Where news of a file may come from: itself, its folder, which may be moved away within the one
 /// above, and the folder of what it is a link to.
-QStringList foldersOf(const QString& key) {
+QStringList sourcesOf(const QString& key) {
     const QString nearest = nearestFolder(key);
-    QStringList folders{nearest, QFileInfo(nearest).absolutePath()};
+    QStringList sources{nearest, QFileInfo(nearest).absolutePath()};
+    if (QFileInfo(key).isFile())
+        sources += key;
     const QString target = QFileInfo(key).canonicalFilePath();
     if (!target.isEmpty() && target != key)
-        folders += QFileInfo(target).absolutePath();
-    folders.removeDuplicates();
-    return folders;
+        sources += QFileInfo(target).absolutePath();
+    return sources;
 }
 
 } // namespace
@@ -58,7 +59,7 @@ void FileWatch::watch(const QString& path, const QByteArray& fingerprint) {
     File& file = files_[key];
     file.path = path;
     settle(file, fingerprint.isEmpty() ? fingerprintOfFile(key) : fingerprint);
-    followAll();
+    watcher_.addPaths(sourcesOf(key));
     notice();
 }
 
@@ -161,12 +162,9 @@ void FileWatch::followAll() {
     if (!old.isEmpty())
         watcher_.removePaths(old);
     QSet<QString> paths;
-    for (auto key = files_.keyBegin(); key != files_.keyEnd(); ++key) {
-        for (const QString& folder : foldersOf(*key))
-            paths += folder;
-        if (QFileInfo(*key).isFile())
-            paths += *key;
-    }
+    for (auto key = files_.keyBegin(); key != files_.keyEnd(); ++key)
+        for (const QString& source : sourcesOf(*key))
+            paths += source;
     if (!paths.isEmpty())
         watcher_.addPaths(paths.values());
 }
