@@ -125,11 +125,11 @@ public:
     explicit DimensionCategories(const language::Expression& expression)
         : names_(namesOf(expression)) {}
 
-    void note(std::uint64_t code) {
+    void note(std::uint64_t code, Progress& progress) {
         if (!codes_.empty() && codes_.back() == code)
             return;
         if (codes_.size() == most_)
-            settle();
+            settle(progress);
         codes_.push_back(code);
     }
     std::uint32_t indexOf(std::uint64_t code) const {
@@ -142,7 +142,7 @@ public:
 
     /// Valid categories in ascending order, then MV, then NA; equal ones are one.
     std::vector<Category> number(Progress& progress) {
-        settle();
+        settle(progress);
         std::vector<Category> named;
         named.reserve(codes_.size());
         for (const std::uint64_t code : codes_) {
@@ -169,6 +169,7 @@ public:
         std::vector<Category> result;
         result.reserve(index + 1U);
         for (const std::uint32_t place : order) {
+            progress.check();
             if (indices_[place] == result.size())
                 result.push_back(std::move(named[place]));
         }
@@ -179,8 +180,11 @@ private:
     static constexpr std::size_t fewCodes = 4096;
 
     /// Ascending, each once.
-    void settle() {
-        std::sort(codes_.begin(), codes_.end());
+    void settle(Progress& progress) {
+        std::sort(codes_.begin(), codes_.end(), [&](std::uint64_t a, std::uint64_t b) {
+            progress.check();
+            return a < b;
+        });
         codes_.erase(std::unique(codes_.begin(), codes_.end()), codes_.end());
         most_ = std::max(fewCodes, 2 * codes_.size());
     }
@@ -279,7 +283,7 @@ TableResult finishTable(const plan::PlannedTable& table, const TableCells& cells
     cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t, const Sum&) {
         progress.check();
         for (std::size_t d = 0; d < dimensions.size(); ++d)
-            dimensions[d].note(codes[d]);
+            dimensions[d].note(codes[d], progress);
     });
     for (std::size_t d = 0; d < dimensions.size(); ++d) {
         result.dimensions.push_back(describe(*table.dimensions[d]));

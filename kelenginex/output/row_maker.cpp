@@ -25,6 +25,7 @@ void RowMaker::fill(RowTable& table) {
     std::vector<Part> cells;
     cells.reserve(result_.cells.size());
     for (std::size_t i = 0; i < result_.cells.size(); ++i) {
+        progress_.check();
         const execution::Cells::Cell cell = result_.cells[i];
         cells.push_back({static_cast<std::uint32_t>(i), cell.records, cell.sum});
     }
