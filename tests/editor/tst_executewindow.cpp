@@ -22,6 +22,7 @@ private slots:
     void tellsWhichProgramRuns();
     void tellsAnEmptyList();
     void leadsToTheCommandThatFailed();
+    void compilesItsCommands();
     void runsABlockAlone();
     void refusesAFolderThatIsMissing();
     void isKnownToItsEditors();
@@ -77,6 +78,15 @@ void TestExecuteWindow::leadsToTheCommandThatFailed() {
              qPrintable(rows().join('|')));
     ProgramFixture::clickRow(*window_, static_cast<int>(rows().size()) - 1);
     QCOMPARE(window_->currentEditor()->highlightedLine(), 3);
+}
+
+void TestExecuteWindow::compilesItsCommands() {
+    window_->currentEditor()->setPlainText("execute \"one.spc\"");
+    window_->on_actionCompile_triggered();
+    QCOMPARE(rows(), QStringList("Compilation successful, no errors or warnings found"));
+    window_->currentEditor()->setPlainText("execute \"one.spc\"\nexecute \"none.spc\"");
+    window_->on_actionCompile_triggered();
+    QVERIFY2(rows().value(1).startsWith("2: "), qPrintable(rows().join('|')));
 }
 
 void TestExecuteWindow::runsABlockAlone() {

@@ -83,6 +83,7 @@ private slots:
     void replacesByKeys();
     void goesToALine();
     void hidesAndRemembersItsBars();
+    void comesBackWhereItStood();
     void givesThePanelATenthOrWhatItNeeds();
     void formatsOneTabOrAll_data();
     void formatsOneTabOrAll();
@@ -285,6 +286,30 @@ void TestProgramWindow::hidesAndRemembersItsBars() {
     action("actionStatus_Bar").trigger();
     window_->parentWidget()->close();
     QVERIFY(KelSystem::instance().cmdEditorToolbar());
+}
+
+void TestProgramWindow::comesBackWhereItStood() {
+    const QRect place(30, 20, 720, 480);
+    QMdiSubWindow* frame =
+        fixture_->shell.addWindow(new ProcessProgramSPC(fixture_->shell, KelSystem::instance()));
+    frame->showNormal();
+    QCoreApplication::processEvents();
+    frame->setGeometry(place);
+    frame->close();
+    frame =
+        fixture_->shell.addWindow(new ProcessProgramSPC(fixture_->shell, KelSystem::instance()));
+    frame->showNormal();
+    QTRY_COMPARE(frame->geometry(), place);
+    frame->close();
+
+    // A place of a larger screen is cut down to the work area.
+    KelSystem::instance().setCmdEditorGeometry(QRect(5000, 20, 4000, 3000));
+    frame =
+        fixture_->shell.addWindow(new ProcessProgramSPC(fixture_->shell, KelSystem::instance()));
+    frame->showNormal();
+    QTRY_COMPARE(frame->size(), fixture_->shell.area->viewport()->size());
+    QVERIFY(fixture_->shell.area->viewport()->rect().contains(frame->pos()));
+    frame->close();
 }
 
 void TestProgramWindow::givesThePanelATenthOrWhatItNeeds() {

@@ -34,6 +34,7 @@ bool BottomPanel::isFinding() const {
 
 void BottomPanel::retranslate() {
     setTabText(0, tr("Output"));
+    setAccessibleName(tr("Messages and finding"));
     errors_->retranslate();
 }
 

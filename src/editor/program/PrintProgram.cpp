@@ -33,7 +33,7 @@ void printProgram(const Editor& editor, const QString& name, QPrinter& printer) 
     paper.setPlainText(editor.toPlainText());
     QKelxHighlighter colors(&paper);
     colors.setSyntaxStyle(QSyntaxStyle::defaultStyle());
-    colors.rehighlight();
+    colors.finish();
     printer.setDocName(name);
     paper.print(&printer);
 }

@@ -102,6 +102,7 @@ void ProcessProgramSPC::build(Shell& shell) {
     parts.keys->watchList(parts.clue->list());
     parts.format.emplace(*parts.tabs, *parts.actions, *this);
     parts.connections.emplace(*this, parts.bottom->find(), *parts.goTo, *parts.metrics);
+    parts.scheme.emplace(*this);
     parts.place.emplace(system_, *this, *parts.actions->toolBar());
 }
 
@@ -166,6 +167,7 @@ QStringList ProcessProgramSPC::variablesOf(const QString& entity) const {
 
 void ProcessProgramSPC::fetchVocabulary() {
     parts_->words = Vocabulary::ofOpenDictionary();
+    parts_->scheme->setWords(parts_->words);
     for (Editor* editor : parts_->tabs->editors())
         hand(*editor);
 }
@@ -236,7 +238,9 @@ void ProcessProgramSPC::applySplit() {
 }
 
 void ProcessProgramSPC::applyPreferences() {
-    parts_->tabs->setLook(lookOf(system_));
+    const EditorLook look = lookOf(system_);
+    parts_->tabs->setLook(look);
+    parts_->scheme->setLook(look);
     errorList().setPalette(currentEditor()->palette());
 }
 

@@ -6,6 +6,7 @@
 #include "editor/program/FormatCommands.h"
 #include "editor/program/ProcessProgramSPC.h"
 #include "editor/program/ProgramActions.h"
+#include "editor/program/SchemeKeeper.h"
 #include "editor/program/Vocabulary.h"
 #include "editor/program/WindowPlace.h"
 #include "editor/text/TabbedEditor.h"
@@ -37,5 +38,6 @@ struct ProcessProgramSPC::Parts {
     std::optional<FormatCommands> format;
     std::optional<EditorConnections> connections;
     std::optional<WindowPlace> place;
+    std::optional<SchemeKeeper> scheme;
     Vocabulary words;
 };
