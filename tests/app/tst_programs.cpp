@@ -94,10 +94,13 @@ class TestPrograms : public QObject {
 
     /// From the ribbon's page FILE.
     void pressInMenu(const char* button, Qt::Key key) const {
-        bench_->find<tt::TabToolbar>("ribbon")->SetCurrentTab(2);
-        auto* found = bench_->find<tt::CompactToolButton>(button);
-        QTRY_VERIFY(found->isVisible());
-        QMenu* menu = found->defaultAction()->menu();
+        // The ribbon may be built anew meanwhile.
+        const auto found = [&] {
+            bench_->find<tt::TabToolbar>("ribbon")->SetCurrentTab(2);
+            return bench_->find<tt::CompactToolButton>(button);
+        };
+        QTRY_VERIFY(found() != nullptr && found()->isVisible());
+        QMenu* menu = found()->defaultAction()->menu();
         menu->popup({});
         QTRY_VERIFY(menu->isVisible());
         QTest::keyClick(menu, key);
