@@ -79,14 +79,14 @@ class TestPrograms : public QObject {
         return list != nullptr ? list->model()->rowCount() : 0;
     }
 
-    /// Cells joined by "|".
+    /// Cells in full precision, joined by "|".
     QStringList outputRows() const {
         const QAbstractItemModel& model = *bench_->find<QTableView>("outputTable")->model();
         QStringList rows;
         for (int row = 0; row < model.rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < model.columnCount(); ++column)
-                cells += model.index(row, column).data().toString();
+                cells += model.index(row, column).data(Qt::EditRole).toString();
             rows += cells.join('|');
         }
         return rows;
