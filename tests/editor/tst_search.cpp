@@ -13,7 +13,7 @@ const QString cameRound = QStringLiteral("No more results found.");
 
 /// The last thing that was said, which is forgotten then.
 QString said(QSignalSpy& spy) {
-    const QString text = spy.isEmpty() ? QString() : spy.last().first().toString();
+    QString text = spy.isEmpty() ? QString() : spy.last().first().toString();
     spy.clear();
     return text;
 }
@@ -255,8 +255,14 @@ void TestSearch::replacesInALongText() {
     TypedEditor typed(QStringLiteral("freq PERSON.SEX\n").repeated(20000));
     typed.editor.findAll("person", false, false);
     QCOMPARE(typed.editor.extraSelections().size(), 20000);
+    typed.moveTo(16 * 300 + 3);
     typed.editor.replaceAll("PERSON", "HOUSEHOLD", true, true);
     QCOMPARE(typed.text(), QStringLiteral("freq HOUSEHOLD.SEX\n").repeated(20000));
+    QCOMPARE(typed.editor.currentLine(), 301);
+    QCOMPARE(typed.editor.currentColumn(), 4);
+    typed.press(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(typed.text(), QStringLiteral("freq PERSON.SEX\n").repeated(20000));
+    QVERIFY(!typed.editor.hasUndo());
 }
 
 void TestSearch::goesToALine() {

@@ -3,12 +3,14 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QPair>
 #include <QString>
 #include <QTextDocument>
 #include <QTextEdit>
 
 class QPlainTextEdit;
+class QTextCursor;
 
 /// Queries must not be empty.
 class EditorSearch {
@@ -31,6 +33,9 @@ public:
 
 private:
     bool select(const QString& query, QTextDocument::FindFlags flags);
+    QList<int> starts(const QString& query, QTextDocument::FindFlags flags) const;
+    void replaceStretch(QTextCursor& edit, const QList<int>& starts, int length,
+                        const QString& with);
 
     QPlainTextEdit& editor_;
     QTextDocument::FindFlags flags_; ///< of the searches in the history
