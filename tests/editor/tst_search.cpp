@@ -253,8 +253,10 @@ void TestSearch::tellsTheCountsOnceAfterReplacing() {
 
 void TestSearch::replacesInALongText() {
     TypedEditor typed(QStringLiteral("freq PERSON.SEX\n").repeated(20000));
+    QSignalSpy spy(&typed.editor, &Editor::findAllResult);
     typed.editor.findAll("person", false, false);
-    QCOMPARE(typed.editor.extraSelections().size(), 20000);
+    QCOMPARE(said(spy), QStringLiteral("Found 20000 coincidences"));
+    QVERIFY(typed.editor.extraSelections().size() >= 1000);
     typed.moveTo(16 * 300 + 3);
     typed.editor.replaceAll("PERSON", "HOUSEHOLD", true, true);
     QCOMPARE(typed.text(), QStringLiteral("freq HOUSEHOLD.SEX\n").repeated(20000));

@@ -19,6 +19,9 @@ QTextCharFormat markFormat() {
     return format;
 }
 
+/// Each mark is a cursor, and each edit walks over all that the document ever had at a time.
+constexpr qsizetype mostMarks = 5000;
+
 /// More than that are replaced as one stretch of text.
 constexpr int manyMatches = 2000;
 
@@ -70,14 +73,14 @@ bool EditorSearch::hasMatch(const QString& query, QTextDocument::FindFlags flags
            match.selectionEnd() == cursor.selectionEnd();
 }
 
-QList<QTextEdit::ExtraSelection> EditorSearch::marks(const QString& query,
-                                                     QTextDocument::FindFlags flags) const {
+QList<QTextEdit::ExtraSelection> EditorSearch::marks(const QList<int>& starts, int length) const {
     QList<QTextEdit::ExtraSelection> marks;
     const QTextCharFormat format = markFormat();
-    QTextCursor match = editor_.document()->find(query, 0, flags);
-    while (!match.isNull()) {
+    for (const int start : starts.first(std::min(starts.size(), mostMarks))) {
+        QTextCursor match(editor_.document());
+        match.setPosition(start);
+        match.setPosition(start + length, QTextCursor::KeepAnchor);
         marks.append({match, format});
-        match = editor_.document()->find(query, match, flags);
     }
     return marks;
 }
