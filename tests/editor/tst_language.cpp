@@ -464,6 +464,8 @@ void TestLanguage::completerTakesOtherWords() {
     QCOMPARE(offered(completer, "re"), QStringList({"Relation", "RelIGION"}));
     QCOMPARE(offered(completer, "AGE"), QStringList({"age", "AGE_GROUP"}));
     QCOMPARE(offered(completer, "s"), QStringList({"SEX"}));
+    completer.setWords({"size", "age", "Sort"}); // while that prefix stays
+    QCOMPARE(completer.completionCount(), 2);
 }
 
 void TestLanguage::completerReadsAFile() {
