@@ -161,7 +161,7 @@ private slots:
         RecoveryStore store(folder.path());
         Document document(store);
         document.writer->setDelays(60s, 100ms);
-        while (folder.text().isEmpty() && document.editor.toPlainText().size() < 10000) {
+        while (folder.text().isEmpty() && document.editor.toPlainText().size() < 1000) {
             document.type("x");
             QTest::qWait(5);
         }
