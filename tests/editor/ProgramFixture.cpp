@@ -10,9 +10,11 @@
 #include "support/SmallDatabase.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QListWidget>
 #include <QMdiSubWindow>
+#include <QScopedValueRollback>
 #include <QTabWidget>
 #include <QTest>
 
@@ -44,6 +46,8 @@ ProgramFixture::ProgramFixture() {
     writeSmallDatabase(folder());
     answerMessages([this](MessageKind kind, const QString& text) {
         messages += text;
+        if (closing_)
+            return Choice::No;
         return kind == MessageKind::Question && !answers.isEmpty() ? answers.takeFirst()
                                                                    : Choice::Cancel;
     });
@@ -92,8 +96,18 @@ void ProgramFixture::place(ProcessProgramSPC& window) {
 }
 
 void ProgramFixture::closeWindows() {
-    for (QMdiSubWindow* frame : shell.area->subWindowList())
-        delete frame;
+    const QScopedValueRollback<bool> closing(closing_, true);
+    shell.area->closeAllSubWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!shell.hasWindows());
+}
+
+QStringList ProgramFixture::recoveryTexts() {
+    QDir folder(QFileInfo(KelSystem::instance().filePath()).dir().filePath("recovery"));
+    QStringList texts;
+    for (const QString& name : folder.entryList({"*.json"}, QDir::Files))
+        texts += QString::fromUtf8(read(folder.filePath(name)));
+    return texts;
 }
 
 void ProgramFixture::type(Editor& editor, const QString& text) {

@@ -65,7 +65,8 @@ public:
         place(*window);
         return *window;
     }
-    void closeWindows(); ///< without questions
+    void closeWindows();                ///< leaves nothing unsaved behind
+    static QStringList recoveryTexts(); ///< the copies that are kept now
 
     /// Types as a user does, keys of commands included.
     static void type(Editor& editor, const QString& text);
@@ -83,4 +84,5 @@ private:
     void place(ProcessProgramSPC& window);
 
     QTemporaryDir folder_;
+    bool closing_ = false;
 };

@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QCompleter>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
@@ -85,6 +86,7 @@ private slots:
     void completionOnDemandAndNone();
     void lineNumbersTakeTheirRoom();
     void schemeReachesAllParts();
+    void textBeingComposedKeepsColoursInPlace();
     void sampleIsShown();
     void tabKeysChooseTabs();
 };
@@ -367,6 +369,29 @@ void TestCodeEditor::schemeReachesAllParts() {
     }
     QVERIFY(!shown.editor.document()->isModified());
     QVERIFY(!shown.editor.document()->isUndoAvailable());
+}
+
+void TestCodeEditor::textBeingComposedKeepsColoursInPlace() {
+    Shown shown("|x by");
+    const auto keywordAt = [&] {
+        const auto formats = shown.editor.document()->begin().layout()->formats();
+        for (const QTextLayout::FormatRange& range : formats)
+            if (range.format.foreground() ==
+                shown.editor.syntaxStyle()->getFormat("Keyword").foreground())
+                return range.start;
+        return -1;
+    };
+    QCOMPARE(keywordAt(), 2);
+    QInputMethodEvent composing("ab", {});
+    QCoreApplication::sendEvent(&shown.editor, &composing);
+    QCOMPARE(keywordAt(), 4);
+    shown.editor.setSyntaxStyle(syntaxStyle(5));
+    QCOMPARE(keywordAt(), 4);
+    QInputMethodEvent done;
+    done.setCommitString("ab");
+    QCoreApplication::sendEvent(&shown.editor, &done);
+    QCOMPARE(shown.text(), "ab|x by");
+    QCOMPARE(keywordAt(), 4);
 }
 
 void TestCodeEditor::sampleIsShown() {

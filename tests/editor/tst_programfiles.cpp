@@ -48,6 +48,7 @@ private slots:
     void asksBeforeItReplacesAChangedFile();
     void reloadsAChangedFileSoThatItCanBeUndone();
     void restoresARecoveryCopy();
+    void keepsACopyUntilTheTextIsSafe();
 
 private:
     Editor& editor() const { return *window_->currentEditor(); }
@@ -364,6 +365,35 @@ void TestProgramFiles::restoresARecoveryCopy() {
     press(Qt::Key_S);
     QCOMPARE(ProgramFixture::read(path), QByteArray("rescued"));
     QCOMPARE(tabTexts(), QString("rescued.spc|Untitled document 7 *"));
+}
+
+void TestProgramFiles::keepsACopyUntilTheTextIsSafe() {
+    const auto copies = [](const char* text) {
+        return ProgramFixture::recoveryTexts().filter(QLatin1String(text)).size();
+    };
+    press(Qt::Key_N); // a tab that stays
+    for (const char* text : {"refused", "written", "failing"}) {
+        press(Qt::Key_N);
+        editor().insertPlainText(QLatin1String(text));
+        QTRY_COMPARE_WITH_TIMEOUT(copies(text), 1, 20000);
+    }
+    const QString folder = fixture_->path("away");
+    QDir().mkpath(folder);
+    KelvoraFileDialog::answerNext(folder + "/failing.spc");
+    QDir(folder).removeRecursively();
+    press(Qt::Key_S);
+    press(Qt::Key_W);
+    QCOMPARE(tabs().count(), 4);
+    QCOMPARE(copies("failing"), 1);
+
+    KelvoraFileDialog::answerNext(fixture_->path("written.spc"));
+    press(Qt::Key_S);
+    QTRY_COMPARE(copies("written"), 0);
+    press(Qt::Key_W);
+    fixture_->answers = {Choice::No};
+    press(Qt::Key_W);
+    QTRY_COMPARE(copies("refused"), 0);
+    QCOMPARE(copies("failing"), 1);
 }
 
 QTEST_MAIN(TestProgramFiles)

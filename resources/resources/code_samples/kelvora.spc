@@ -1,7 +1,7 @@
-// Groups the codes of a variable into a new one
+// Groups the codes of a variable
 
-/* Codes below 1 and above 99 take the last value;
-   what was not asked takes the default. */
+/* What has no code here
+   takes the default. */
 
 define Entity.NewVar
   as recode Entity.OldVar

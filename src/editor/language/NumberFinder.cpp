@@ -15,8 +15,8 @@ bool isDigit(QChar c) {
 bool isNumberPart(QChar c) {
     static const auto table = [] {
         std::array<bool, 128> parts{};
-        for (const char part : std::string_view("0123456789abcdefABCDEFlLpPuUxX'."))
-            parts[std::size_t(part)] = true;
+        for (const char16_t part : std::u16string_view(u"0123456789abcdefABCDEFlLpPuUxX'."))
+            parts[part] = true;
         return parts;
     }();
     return c.unicode() < table.size() && table[c.unicode()];

@@ -52,6 +52,7 @@ void QKelxHighlighter::recolour() {
 }
 
 void QKelxHighlighter::finish() {
+    spent_ = 0;
     if (hasWork())
         colourQueued(std::numeric_limits<int>::max());
 }
