@@ -25,6 +25,17 @@
     </message>
 </context>
 <context>
+    <name>BottomPanel</name>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>Messages and finding</source>
+        <translation>Messages and finding</translation>
+    </message>
+</context>
+<context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
@@ -295,6 +306,200 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Program text</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Line numbers</translation>
+    </message>
+    <message>
+        <source>Funcionalidad %1 en Construcción</source>
+        <translation>Funcionalidad %1 en Construcción</translation>
+    </message>
+    <message>
+        <source>&quot;Toggle Comment&quot;</source>
+        <translation>&quot;Toggle Comment&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Define&quot;</source>
+        <translation>&quot;Wizard Define&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Table&quot;</source>
+        <translation>&quot;Wizard Table&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Execute Blow Up&quot;</source>
+        <translation>&quot;Execute Blow Up&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Define Frequency&quot;</source>
+        <translation>&quot;Define Frequency&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Syntax Clue&quot;</source>
+        <translation>&quot;Syntax Clue&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Table&quot;</source>
+        <translation>&quot;Edit Table&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Graph&quot;</source>
+        <translation>&quot;Edit Graph&quot;</translation>
+    </message>
+    <message>
+        <source>No results found.</source>
+        <translation>No results found.</translation>
+    </message>
+    <message>
+        <source>No more results found.</source>
+        <translation>No more results found.</translation>
+    </message>
+    <message>
+        <source>Found %1 coincidences</source>
+        <translation>Found %1 coincidences</translation>
+    </message>
+    <message>
+        <source>Document searched. Replaced </source>
+        <translation>Document searched. Replaced </translation>
+    </message>
+    <message>
+        <source> instances.</source>
+        <translation> instances.</translation>
+    </message>
+    <message>
+        <source>Invalid line number.</source>
+        <translation>Invalid line number.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContextMenu</name>
+    <message>
+        <source>Toggle Comment</source>
+        <translation>Toggle Comment</translation>
+    </message>
+    <message>
+        <source>Syntax clue</source>
+        <translation>Syntax clue</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Tool bar</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Status bar</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Output</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compile</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Execute</translation>
+    </message>
+    <message>
+        <source>Assist</source>
+        <translation>Assist</translation>
+    </message>
+    <message>
+        <source>RUNDEF </source>
+        <translation>RUNDEF </translation>
+    </message>
+    <message>
+        <source>DEFINE </source>
+        <translation>DEFINE </translation>
+    </message>
+    <message>
+        <source>TABLE </source>
+        <translation>TABLE </translation>
+    </message>
+    <message>
+        <source>EXECUTE </source>
+        <translation>EXECUTE </translation>
+    </message>
+    <message>
+        <source>BlowUp</source>
+        <translation>BlowUp</translation>
+    </message>
+    <message>
+        <source>Wizards</source>
+        <translation>Wizards</translation>
+    </message>
+    <message>
+        <source>DEFINEs </source>
+        <translation>DEFINEs </translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Edit Style</source>
+        <translation>Edit Style</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+</context>
+<context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
@@ -480,6 +685,68 @@
     </message>
 </context>
 <context>
+    <name>ErrorList</name>
+    <message>
+        <source>Messages of the program</source>
+        <translation>Messages of the program</translation>
+    </message>
+    <message>
+        <source>Copy error list</source>
+        <translation>Copy error list</translation>
+    </message>
+    <message>
+        <source>Clear error list</source>
+        <translation>Clear error list</translation>
+    </message>
+</context>
+<context>
+    <name>FileChangeNotice</name>
+    <message>
+        <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
+
+Do you want to reload the file instead?</source>
+        <translation>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
+
+Do you want to reload the file instead?</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program. Do you want to reload it?</source>
+        <translation>The file %1 was changed by another program. Do you want to reload it?</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>File changed</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Reload</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be reloaded: %2</source>
+        <translation>The file %1 cannot be reloaded: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
+        <translation>The file %1 was removed by another program. Its text stays open here: save it to keep it.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
+        <translation>The file %1 was changed by another program since it was read here. Do you want to replace it?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
@@ -575,6 +842,117 @@
     <message>
         <source>Programs that run other programs</source>
         <translation>Programs that run other programs</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Program</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program</source>
+        <translation>&amp;Execute program</translation>
+    </message>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Selection</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Map</translation>
+    </message>
+    <message>
+        <source>&amp;Program...</source>
+        <translation>&amp;Program...</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program...</source>
+        <translation>&amp;Execute program...</translation>
+    </message>
+    <message>
+        <source>&amp;Selection...</source>
+        <translation>&amp;Selection...</translation>
+    </message>
+    <message>
+        <source>&amp;Map...</source>
+        <translation>&amp;Map...</translation>
+    </message>
+    <message>
+        <source>Recent programs</source>
+        <translation>Recent programs</translation>
+    </message>
+    <message>
+        <source>Programs of the dictionary</source>
+        <translation>Programs of the dictionary</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Error %s sending event</source>
+        <translation>Error %s sending event</translation>
+    </message>
+    <message>
+        <source>Open program</source>
+        <translation>Open program</translation>
+    </message>
+    <message>
+        <source>Open EXECUTE program</source>
+        <translation>Open EXECUTE program</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialog</name>
+    <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Find what: </source>
+        <translation>Find what: </translation>
+    </message>
+    <message>
+        <source>Replace with: </source>
+        <translation>Replace with: </translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Match case</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Whole words</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Find next</translation>
+    </message>
+    <message>
+        <source>Find all</source>
+        <translation>Find all</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Replace all</translation>
+    </message>
+    <message>
+        <source>Empty Field</source>
+        <translation>Empty Field</translation>
+    </message>
+    <message>
+        <source>Please enter a query.</source>
+        <translation>Please enter a query.</translation>
     </message>
 </context>
 <context>
@@ -787,6 +1165,25 @@
     </message>
 </context>
 <context>
+    <name>GotoDialog</name>
+    <message>
+        <source>Go</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>Must enter a line number.</source>
+        <translation>Must enter a line number.</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Go To</translation>
+    </message>
+    <message>
+        <source>Line number: </source>
+        <translation>Line number: </translation>
+    </message>
+</context>
+<context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
@@ -920,20 +1317,8 @@
         <translation>Do you want to save the changes in the dictionary?</translation>
     </message>
     <message>
-        <source>Processing</source>
-        <translation>Processing</translation>
-    </message>
-    <message>
-        <source>Execution Failed</source>
-        <translation>Execution Failed</translation>
-    </message>
-    <message>
-        <source>Execution Finished</source>
-        <translation>Execution Finished</translation>
-    </message>
-    <message>
-        <source>The results cannot be shown as a frequency.</source>
-        <translation>The results cannot be shown as a frequency.</translation>
+        <source>%1: files cannot be written yet</source>
+        <translation>%1: files cannot be written yet</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1337,25 @@
     </message>
 </context>
 <context>
+    <name>MetricReporter</name>
+    <message>
+        <source>Words: </source>
+        <translation>Words: </translation>
+    </message>
+    <message>
+        <source>Chars: </source>
+        <translation>Chars: </translation>
+    </message>
+    <message>
+        <source>Line: </source>
+        <translation>Line: </translation>
+    </message>
+    <message>
+        <source>Column: </source>
+        <translation>Column: </translation>
+    </message>
+</context>
+<context>
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
@@ -964,6 +1368,472 @@
     <message>
         <source>Recent dictionaries</source>
         <translation>Recent dictionaries</translation>
+    </message>
+</context>
+<context>
+    <name>OutputModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Missing</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>Not applicable</translation>
+    </message>
+    <message>
+        <source>Weight: %1</source>
+        <translation>Weight: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation>
+            <numerusform>%n cell hidden to protect persons</numerusform>
+            <numerusform>%n cells hidden to protect persons</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy Table</source>
+        <translation>Copy Table</translation>
+    </message>
+    <message>
+        <source>Rows of the result</source>
+        <translation>Rows of the result</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessExecuter</name>
+    <message>
+        <source>compiler syntax error</source>
+        <translation>compiler syntax error</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Program code is empty</source>
+        <translation>Program code is empty</translation>
+    </message>
+    <message>
+        <source>The executing program is empty</source>
+        <translation>The executing program is empty</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Execution Canceled</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Processing</translation>
+    </message>
+    <message>
+        <source>Time Expected: </source>
+        <translation>Time Expected: </translation>
+    </message>
+    <message>
+        <source> s - Time Elapsed: </source>
+        <translation> s - Time Elapsed: </translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Execution Finished</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Creating Table</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Table Created</translation>
+    </message>
+    <message>
+        <source>Compilation successful, no errors or warnings found</source>
+        <translation>Compilation successful, no errors or warnings found</translation>
+    </message>
+    <message>
+        <source>Compilation by block successful, no errors or warnings found</source>
+        <translation>Compilation by block successful, no errors or warnings found</translation>
+    </message>
+    <message>
+        <source>Compiling...</source>
+        <translation>Compiling...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progress of the run</translation>
+    </message>
+    <message>
+        <source>Dicctionary Selection</source>
+        <translation>Dicctionary Selection</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;Select at least one dictionary&lt;/b&gt; </source>
+        <translation>The &lt;b&gt;Select at least one dictionary&lt;/b&gt; </translation>
+    </message>
+    <message>
+        <source>The program was not run, since another one had not ended.</source>
+        <translation>The program was not run, since another one had not ended.</translation>
+    </message>
+    <message>
+        <source>Execution Failed</source>
+        <translation>Execution Failed</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessProgramSPC</name>
+    <message>
+        <source>Error de formato</source>
+        <translation>Error de formato</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Apply to all open and future tabs?</source>
+        <translation>Apply to all open and future tabs?</translation>
+    </message>
+    <message>
+        <source>Word wrapping</source>
+        <translation>Word wrapping</translation>
+    </message>
+    <message>
+        <source>Auto indentation</source>
+        <translation>Auto indentation</translation>
+    </message>
+    <message>
+        <source>Font change</source>
+        <translation>Font change</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Language:</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Printing</translation>
+    </message>
+    <message>
+        <source> [Unsaved]</source>
+        <translation> [Unsaved]</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramActions</name>
+    <message>
+        <source>New</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Print...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Find...</source>
+        <translation>Find...</translation>
+    </message>
+    <message>
+        <source>Replace...</source>
+        <translation>Replace...</translation>
+    </message>
+    <message>
+        <source>Go To...</source>
+        <translation>Go To...</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Time/Date</source>
+        <translation>Time/Date</translation>
+    </message>
+    <message>
+        <source>Font...</source>
+        <translation>Font...</translation>
+    </message>
+    <message>
+        <source>Auto Indent</source>
+        <translation>Auto Indent</translation>
+    </message>
+    <message>
+        <source>Word Wrap</source>
+        <translation>Word Wrap</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>C++</source>
+        <translation>C++</translation>
+    </message>
+    <message>
+        <source>Java</source>
+        <translation>Java</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Kelx</source>
+        <translation>Kelx</translation>
+    </message>
+    <message>
+        <source>Status Bar</source>
+        <translation>Status Bar</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Tool Bar</translation>
+    </message>
+    <message>
+        <source>SyntaxClue</source>
+        <translation>SyntaxClue</translation>
+    </message>
+    <message>
+        <source>Show the available commands syntax (F8)</source>
+        <translation>Show the available commands syntax (F8)</translation>
+    </message>
+    <message>
+        <source>GoTo</source>
+        <translation>GoTo</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>Go to line</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compile</translation>
+    </message>
+    <message>
+        <source>Compile the program</source>
+        <translation>Compile the program</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>Run Program</source>
+        <translation>Run Program</translation>
+    </message>
+    <message>
+        <source>Splitter</source>
+        <translation>Splitter</translation>
+    </message>
+    <message>
+        <source>Show/Hide Console</source>
+        <translation>Show/Hide Console</translation>
+    </message>
+    <message>
+        <source>Close tab</source>
+        <translation>Close tab</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Menus of the program window</source>
+        <translation>Menus of the program window</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFiles</name>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Cannot save file: </source>
+        <translation>Cannot save file: </translation>
+    </message>
+    <message>
+        <source>Untitled document</source>
+        <translation>Untitled document</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another tab.</source>
+        <translation>The file %1 is open in another tab.</translation>
+    </message>
+    <message>
+        <source>Document saved</source>
+        <translation>Document saved</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to </source>
+        <translation>Do you want to save the changes to </translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Unsaved changes</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramListRun</name>
+    <message>
+        <source>Current Program: </source>
+        <translation>Current Program: </translation>
+    </message>
+    <message>
+        <source>Current Program :</source>
+        <translation>Current Program :</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Execution Canceled</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Processing</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Execution Finished</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Creating Table</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Table Created</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRunner</name>
+    <message>
+        <source>Compile</source>
+        <translation>Compile</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Run</translation>
+    </message>
+    <message>
+        <source>Please &lt;b&gt;open &lt;/b&gt;a program file or &lt;b&gt;write&lt;/b&gt; a command </source>
+        <translation>Please &lt;b&gt;open &lt;/b&gt;a program file or &lt;b&gt;write&lt;/b&gt; a command </translation>
+    </message>
+    <message>
+        <source>Error: </source>
+        <translation>Error: </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramText</name>
+    <message>
+        <source>The typed code is incomplete to show a %1 assistant window</source>
+        <translation>The typed code is incomplete to show a %1 assistant window</translation>
+    </message>
+    <message>
+        <source>SUGGESTION</source>
+        <translation>SUGGESTION</translation>
+    </message>
+    <message>
+        <source>DEPRECATED</source>
+        <translation>DEPRECATED</translation>
+    </message>
+    <message>
+        <source>USE</source>
+        <translation>USE</translation>
+    </message>
+    <message>
+        <source>The directory %1 used in the %2 statement doesn&apos;t exist</source>
+        <translation>The directory %1 used in the %2 statement doesn&apos;t exist</translation>
     </message>
 </context>
 <context>
@@ -1033,6 +1903,13 @@
     </message>
 </context>
 <context>
+    <name>QCodeEditor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Program text</translation>
+    </message>
+</context>
+<context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
@@ -1041,6 +1918,111 @@
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
         <translation>Would you like to download the update now? Current application will be close</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Unsaved programs</source>
+        <translation>Unsaved programs</translation>
+    </message>
+    <message>
+        <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
+        <translation>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</translation>
+    </message>
+    <message>
+        <source>Programs that were not saved</source>
+        <translation>Programs that were not saved</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Last change</translation>
+    </message>
+    <message>
+        <source>State of the file</source>
+        <translation>State of the file</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>Open the ticked programs</source>
+        <translation>Open the ticked programs</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>Delete the ticked texts for good</source>
+        <translation>Delete the ticked texts for good</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>Ask again when Kelvora X starts next time</source>
+        <translation>Ask again when Kelvora X starts next time</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
+        <translation>
+            <numerusform>Do you want to discard %n program? The text cannot be brought back.</numerusform>
+            <numerusform>Do you want to discard %n programs? The text cannot be brought back.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryRow</name>
+    <message>
+        <source>Was never saved</source>
+        <translation>Was never saved</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>The file is no longer there</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>The file cannot be read</translation>
+    </message>
+    <message>
+        <source>The file holds the same text</source>
+        <translation>The file holds the same text</translation>
+    </message>
+    <message>
+        <source>Differs from the file</source>
+        <translation>Differs from the file</translation>
+    </message>
+    <message>
+        <source>Differs; the file was changed later</source>
+        <translation>Differs; the file was changed later</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +2255,13 @@
     </message>
 </context>
 <context>
+    <name>SyntaxClue</name>
+    <message>
+        <source>Commands</source>
+        <translation>Commands</translation>
+    </message>
+</context>
+<context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
@@ -1310,6 +2299,25 @@
     <message>
         <source>Thecnical specification</source>
         <translation>Thecnical specification</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>This is a device or a pipe, not a file.</source>
+        <translation>This is a device or a pipe, not a file.</translation>
+    </message>
+    <message>
+        <source>This is not a text file: line %1 has a null byte.</source>
+        <translation>This is not a text file: line %1 has a null byte.</translation>
+    </message>
+    <message>
+        <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
+        <translation>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be read (beyond 256 MB).</source>
+        <translation>The file is too large to be read (beyond 256 MB).</translation>
     </message>
 </context>
 <context>

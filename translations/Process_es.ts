@@ -25,6 +25,17 @@
     </message>
 </context>
 <context>
+    <name>BottomPanel</name>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Messages and finding</source>
+        <translation>Mensajes y búsqueda</translation>
+    </message>
+</context>
+<context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
@@ -295,6 +306,200 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texto del programa</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>Funcionalidad %1 en Construcción</source>
+        <translation>Funcionalidad %1 en construcción</translation>
+    </message>
+    <message>
+        <source>&quot;Toggle Comment&quot;</source>
+        <translation>&quot;Alternar comentario&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Define&quot;</source>
+        <translation>&quot;Asistente DEFINE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Table&quot;</source>
+        <translation>&quot;Asistente TABLE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Execute Blow Up&quot;</source>
+        <translation>&quot;Desplegar EXECUTE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Define Frequency&quot;</source>
+        <translation>&quot;Definir frecuencia&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Syntax Clue&quot;</source>
+        <translation>&quot;Ayuda de sintaxis&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Table&quot;</source>
+        <translation>&quot;Editar tabla&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Graph&quot;</source>
+        <translation>&quot;Editar gráfico&quot;</translation>
+    </message>
+    <message>
+        <source>No results found.</source>
+        <translation>No se encontraron resultados.</translation>
+    </message>
+    <message>
+        <source>No more results found.</source>
+        <translation>No se encontraron más resultados.</translation>
+    </message>
+    <message>
+        <source>Found %1 coincidences</source>
+        <translation>Se encontraron %1 coincidencias</translation>
+    </message>
+    <message>
+        <source>Document searched. Replaced </source>
+        <translation>Búsqueda finalizada. Se reemplazaron </translation>
+    </message>
+    <message>
+        <source> instances.</source>
+        <translation> coincidencias.</translation>
+    </message>
+    <message>
+        <source>Invalid line number.</source>
+        <translation>Número de línea no válido.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContextMenu</name>
+    <message>
+        <source>Toggle Comment</source>
+        <translation>Alternar comentario</translation>
+    </message>
+    <message>
+        <source>Syntax clue</source>
+        <translation>Ayuda de sintaxis</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barra de estado</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloque</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Assist</source>
+        <translation>Asistente</translation>
+    </message>
+    <message>
+        <source>RUNDEF </source>
+        <translation>RUNDEF </translation>
+    </message>
+    <message>
+        <source>DEFINE </source>
+        <translation>DEFINE </translation>
+    </message>
+    <message>
+        <source>TABLE </source>
+        <translation>TABLE </translation>
+    </message>
+    <message>
+        <source>EXECUTE </source>
+        <translation>EXECUTE </translation>
+    </message>
+    <message>
+        <source>BlowUp</source>
+        <translation>Desplegar</translation>
+    </message>
+    <message>
+        <source>Wizards</source>
+        <translation>Asistentes</translation>
+    </message>
+    <message>
+        <source>DEFINEs </source>
+        <translation>DEFINEs </translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Edit Style</source>
+        <translation>Editar estilo</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabla</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Gráfico</translation>
+    </message>
+</context>
+<context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
@@ -480,6 +685,68 @@
     </message>
 </context>
 <context>
+    <name>ErrorList</name>
+    <message>
+        <source>Messages of the program</source>
+        <translation>Mensajes del programa</translation>
+    </message>
+    <message>
+        <source>Copy error list</source>
+        <translation>Copiar la lista de errores</translation>
+    </message>
+    <message>
+        <source>Clear error list</source>
+        <translation>Limpiar la lista de errores</translation>
+    </message>
+</context>
+<context>
+    <name>FileChangeNotice</name>
+    <message>
+        <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
+
+Do you want to reload the file instead?</source>
+        <translation>Otro programa modificó el archivo %1, y este texto tiene cambios sin guardar. Si lo guarda, se reemplazará el archivo.
+
+¿Desea recargar el archivo en lugar de reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program. Do you want to reload it?</source>
+        <translation>Otro programa modificó el archivo %1. ¿Desea recargarlo?</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>Archivo modificado</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Conservar</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be reloaded: %2</source>
+        <translation>No se puede recargar el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
+        <translation>Otro programa eliminó el archivo %1. Su texto sigue abierto aquí: guárdelo para conservarlo.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
+        <translation>Otro programa modificó el archivo %1 después de que se leyó aquí. ¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
@@ -575,6 +842,117 @@
     <message>
         <source>Programs that run other programs</source>
         <translation>Programas que ejecutan otros programas</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programa</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program</source>
+        <translation>Programa &amp;EXECUTE</translation>
+    </message>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Selección</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>&amp;Program...</source>
+        <translation>&amp;Programa...</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program...</source>
+        <translation>Programa &amp;EXECUTE...</translation>
+    </message>
+    <message>
+        <source>&amp;Selection...</source>
+        <translation>&amp;Selección...</translation>
+    </message>
+    <message>
+        <source>&amp;Map...</source>
+        <translation>&amp;Mapa...</translation>
+    </message>
+    <message>
+        <source>Recent programs</source>
+        <translation>Programas recientes</translation>
+    </message>
+    <message>
+        <source>Programs of the dictionary</source>
+        <translation>Programas del diccionario</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Error %s sending event</source>
+        <translation>Error %s al enviar el evento</translation>
+    </message>
+    <message>
+        <source>Open program</source>
+        <translation>Abrir programa</translation>
+    </message>
+    <message>
+        <source>Open EXECUTE program</source>
+        <translation>Abrir programa EXECUTE</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialog</name>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Find what: </source>
+        <translation>Buscar: </translation>
+    </message>
+    <message>
+        <source>Replace with: </source>
+        <translation>Reemplazar con: </translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Palabras completas</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Buscar siguiente</translation>
+    </message>
+    <message>
+        <source>Find all</source>
+        <translation>Buscar todo</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Reemplazar todo</translation>
+    </message>
+    <message>
+        <source>Empty Field</source>
+        <translation>Campo vacío</translation>
+    </message>
+    <message>
+        <source>Please enter a query.</source>
+        <translation>Escriba el texto que desea buscar.</translation>
     </message>
 </context>
 <context>
@@ -787,6 +1165,25 @@
     </message>
 </context>
 <context>
+    <name>GotoDialog</name>
+    <message>
+        <source>Go</source>
+        <translation>Ir</translation>
+    </message>
+    <message>
+        <source>Must enter a line number.</source>
+        <translation>Debe escribir un número de línea.</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Ir a</translation>
+    </message>
+    <message>
+        <source>Line number: </source>
+        <translation>Número de línea: </translation>
+    </message>
+</context>
+<context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
@@ -920,20 +1317,8 @@
         <translation>¿Desea guardar los cambios del diccionario?</translation>
     </message>
     <message>
-        <source>Processing</source>
-        <translation>Procesando</translation>
-    </message>
-    <message>
-        <source>Execution Failed</source>
-        <translation>La ejecución falló</translation>
-    </message>
-    <message>
-        <source>Execution Finished</source>
-        <translation>Ejecución finalizada</translation>
-    </message>
-    <message>
-        <source>The results cannot be shown as a frequency.</source>
-        <translation>Los resultados no se pueden mostrar como frecuencia.</translation>
+        <source>%1: files cannot be written yet</source>
+        <translation>%1: aún no se pueden escribir archivos</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1337,25 @@
     </message>
 </context>
 <context>
+    <name>MetricReporter</name>
+    <message>
+        <source>Words: </source>
+        <translation>Palabras: </translation>
+    </message>
+    <message>
+        <source>Chars: </source>
+        <translation>Caracteres: </translation>
+    </message>
+    <message>
+        <source>Line: </source>
+        <translation>Línea: </translation>
+    </message>
+    <message>
+        <source>Column: </source>
+        <translation>Columna: </translation>
+    </message>
+</context>
+<context>
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
@@ -964,6 +1368,472 @@
     <message>
         <source>Recent dictionaries</source>
         <translation>Diccionarios recientes</translation>
+    </message>
+</context>
+<context>
+    <name>OutputModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>No aplica</translation>
+    </message>
+    <message>
+        <source>Weight: %1</source>
+        <translation>Ponderador: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation>
+            <numerusform>%n celda oculta para proteger a las personas</numerusform>
+            <numerusform>%n celdas ocultas para proteger a las personas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy Table</source>
+        <translation>Copiar tabla</translation>
+    </message>
+    <message>
+        <source>Rows of the result</source>
+        <translation>Filas del resultado</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessExecuter</name>
+    <message>
+        <source>compiler syntax error</source>
+        <translation>error de sintaxis del compilador</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Program code is empty</source>
+        <translation>El código del programa está vacío</translation>
+    </message>
+    <message>
+        <source>The executing program is empty</source>
+        <translation>El programa que se va a ejecutar está vacío</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Ejecución cancelada</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Procesando</translation>
+    </message>
+    <message>
+        <source>Time Expected: </source>
+        <translation>Tiempo previsto: </translation>
+    </message>
+    <message>
+        <source> s - Time Elapsed: </source>
+        <translation> s - Tiempo transcurrido: </translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Ejecución finalizada</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Creando tabulado</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tabulado creado</translation>
+    </message>
+    <message>
+        <source>Compilation successful, no errors or warnings found</source>
+        <translation>Compilación correcta, no se encontraron errores ni advertencias</translation>
+    </message>
+    <message>
+        <source>Compilation by block successful, no errors or warnings found</source>
+        <translation>Compilación por bloque correcta, no se encontraron errores ni advertencias</translation>
+    </message>
+    <message>
+        <source>Compiling...</source>
+        <translation>Compilando...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progreso de la ejecución</translation>
+    </message>
+    <message>
+        <source>Dicctionary Selection</source>
+        <translation>Selección de diccionario</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;Select at least one dictionary&lt;/b&gt; </source>
+        <translation>&lt;b&gt;Seleccione al menos un diccionario&lt;/b&gt; </translation>
+    </message>
+    <message>
+        <source>The program was not run, since another one had not ended.</source>
+        <translation>El programa no se ejecutó porque otro aún no había terminado.</translation>
+    </message>
+    <message>
+        <source>Execution Failed</source>
+        <translation>La ejecución falló</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessProgramSPC</name>
+    <message>
+        <source>Error de formato</source>
+        <translation>Error de formato</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Al parecer, el formato del texto de error recibido de KelEngine no coincide con el formato definido inicialmente, por lo que no es posible ir a la línea de código donde ocurre el error&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Apply to all open and future tabs?</source>
+        <translation>¿Aplicar a todas las pestañas abiertas y futuras?</translation>
+    </message>
+    <message>
+        <source>Word wrapping</source>
+        <translation>Ajuste de línea</translation>
+    </message>
+    <message>
+        <source>Auto indentation</source>
+        <translation>Sangría automática</translation>
+    </message>
+    <message>
+        <source>Font change</source>
+        <translation>Cambio de fuente</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Lenguaje:</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimiendo</translation>
+    </message>
+    <message>
+        <source> [Unsaved]</source>
+        <translation> [Sin guardar]</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramActions</name>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimir...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Find...</source>
+        <translation>Buscar...</translation>
+    </message>
+    <message>
+        <source>Replace...</source>
+        <translation>Reemplazar...</translation>
+    </message>
+    <message>
+        <source>Go To...</source>
+        <translation>Ir a...</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Time/Date</source>
+        <translation>Hora y fecha</translation>
+    </message>
+    <message>
+        <source>Font...</source>
+        <translation>Fuente...</translation>
+    </message>
+    <message>
+        <source>Auto Indent</source>
+        <translation>Sangría automática</translation>
+    </message>
+    <message>
+        <source>Word Wrap</source>
+        <translation>Ajuste de línea</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>C++</source>
+        <translation>C++</translation>
+    </message>
+    <message>
+        <source>Java</source>
+        <translation>Java</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Kelx</source>
+        <translation>Kelx</translation>
+    </message>
+    <message>
+        <source>Status Bar</source>
+        <translation>Barra de estado</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>SyntaxClue</source>
+        <translation>Ayuda de sintaxis</translation>
+    </message>
+    <message>
+        <source>Show the available commands syntax (F8)</source>
+        <translation>Mostrar la sintaxis de los comandos disponibles (F8)</translation>
+    </message>
+    <message>
+        <source>GoTo</source>
+        <translation>Ir a</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>Ir a la línea</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Compile the program</source>
+        <translation>Compilar el programa</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Run Program</source>
+        <translation>Ejecutar el programa</translation>
+    </message>
+    <message>
+        <source>Splitter</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Show/Hide Console</source>
+        <translation>Mostrar u ocultar la consola</translation>
+    </message>
+    <message>
+        <source>Close tab</source>
+        <translation>Cerrar pestaña</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lenguaje</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Menus of the program window</source>
+        <translation>Menús de la ventana del programa</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFiles</name>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Cannot save file: </source>
+        <translation>No se puede guardar el archivo: </translation>
+    </message>
+    <message>
+        <source>Untitled document</source>
+        <translation>Documento sin título</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another tab.</source>
+        <translation>El archivo %1 está abierto en otra pestaña.</translation>
+    </message>
+    <message>
+        <source>Document saved</source>
+        <translation>Documento guardado</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to </source>
+        <translation>¿Desea guardar los cambios en </translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramListRun</name>
+    <message>
+        <source>Current Program: </source>
+        <translation>Programa actual: </translation>
+    </message>
+    <message>
+        <source>Current Program :</source>
+        <translation>Programa actual:</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Ejecución cancelada</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Procesando</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Ejecución finalizada</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Creando tabulado</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tabulado creado</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRunner</name>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Please &lt;b&gt;open &lt;/b&gt;a program file or &lt;b&gt;write&lt;/b&gt; a command </source>
+        <translation>&lt;b&gt;Abra &lt;/b&gt;un archivo de programa o &lt;b&gt;escriba&lt;/b&gt; un comando </translation>
+    </message>
+    <message>
+        <source>Error: </source>
+        <translation>Error: </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramText</name>
+    <message>
+        <source>The typed code is incomplete to show a %1 assistant window</source>
+        <translation>El código ingresado no es suficiente para mostrar el asistente %1</translation>
+    </message>
+    <message>
+        <source>SUGGESTION</source>
+        <translation>SUGERENCIA</translation>
+    </message>
+    <message>
+        <source>DEPRECATED</source>
+        <translation>OBSOLETO</translation>
+    </message>
+    <message>
+        <source>USE</source>
+        <translation>USE</translation>
+    </message>
+    <message>
+        <source>The directory %1 used in the %2 statement doesn&apos;t exist</source>
+        <translation>La carpeta %1 usada en la sentencia %2 no existe</translation>
     </message>
 </context>
 <context>
@@ -1033,6 +1903,13 @@
     </message>
 </context>
 <context>
+    <name>QCodeEditor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texto del programa</translation>
+    </message>
+</context>
+<context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
@@ -1041,6 +1918,111 @@
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
         <translation>¿Desea descargar la actualización ahora? La aplicación se cerrará</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>Unsaved programs</source>
+        <translation>Programas sin guardar</translation>
+    </message>
+    <message>
+        <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
+        <translation>Kelvora X terminó antes de que se guardaran estos &amp;programas. Los programas restaurados se abren con sus cambios; sus archivos no se modifican hasta que usted los guarde.</translation>
+    </message>
+    <message>
+        <source>Programs that were not saved</source>
+        <translation>Programas que no se guardaron</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Último cambio</translation>
+    </message>
+    <message>
+        <source>State of the file</source>
+        <translation>Estado del archivo</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Open the ticked programs</source>
+        <translation>Abrir los programas marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Delete the ticked texts for good</source>
+        <translation>Eliminar definitivamente los textos marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Más tarde</translation>
+    </message>
+    <message>
+        <source>Ask again when Kelvora X starts next time</source>
+        <translation>Preguntar de nuevo la próxima vez que se inicie Kelvora X</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
+        <translation>
+            <numerusform>¿Desea descartar %n programa? El texto no se podrá recuperar.</numerusform>
+            <numerusform>¿Desea descartar %n programas? El texto no se podrá recuperar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryRow</name>
+    <message>
+        <source>Was never saved</source>
+        <translation>Nunca se guardó</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>El archivo ya no existe</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>No se puede leer el archivo</translation>
+    </message>
+    <message>
+        <source>The file holds the same text</source>
+        <translation>El archivo contiene el mismo texto</translation>
+    </message>
+    <message>
+        <source>Differs from the file</source>
+        <translation>Difiere del archivo</translation>
+    </message>
+    <message>
+        <source>Differs; the file was changed later</source>
+        <translation>Difiere; el archivo se modificó después</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +2255,13 @@
     </message>
 </context>
 <context>
+    <name>SyntaxClue</name>
+    <message>
+        <source>Commands</source>
+        <translation>Comandos</translation>
+    </message>
+</context>
+<context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
@@ -1310,6 +2299,25 @@
     <message>
         <source>Thecnical specification</source>
         <translation>Especificación técnica</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>This is a device or a pipe, not a file.</source>
+        <translation>Es un dispositivo o una canalización, no un archivo.</translation>
+    </message>
+    <message>
+        <source>This is not a text file: line %1 has a null byte.</source>
+        <translation>No es un archivo de texto: la línea %1 contiene un byte nulo.</translation>
+    </message>
+    <message>
+        <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
+        <translation>El archivo no está codificado en UTF-8: la línea %1 contiene otros bytes. Conviértalo a UTF-8 para abrirlo aquí.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be read (beyond 256 MB).</source>
+        <translation>El archivo es demasiado grande para leerlo (más de 256 MB).</translation>
     </message>
 </context>
 <context>

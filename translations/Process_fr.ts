@@ -25,6 +25,17 @@
     </message>
 </context>
 <context>
+    <name>BottomPanel</name>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Messages and finding</source>
+        <translation>Messages et recherche</translation>
+    </message>
+</context>
+<context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
@@ -295,6 +306,200 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texte du programme</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Numéros de ligne</translation>
+    </message>
+    <message>
+        <source>Funcionalidad %1 en Construcción</source>
+        <translation>Fonctionnalité %1 en construction</translation>
+    </message>
+    <message>
+        <source>&quot;Toggle Comment&quot;</source>
+        <translation>« Commenter/Décommenter »</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Define&quot;</source>
+        <translation>« Assistant DEFINE »</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Table&quot;</source>
+        <translation>« Assistant TABLE »</translation>
+    </message>
+    <message>
+        <source>&quot;Execute Blow Up&quot;</source>
+        <translation>« Déplier EXECUTE »</translation>
+    </message>
+    <message>
+        <source>&quot;Define Frequency&quot;</source>
+        <translation>« Tri à plat des DEFINE »</translation>
+    </message>
+    <message>
+        <source>&quot;Syntax Clue&quot;</source>
+        <translation>« Aide syntaxique »</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Table&quot;</source>
+        <translation>« Modifier le tableau »</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Graph&quot;</source>
+        <translation>« Modifier le graphique »</translation>
+    </message>
+    <message>
+        <source>No results found.</source>
+        <translation>Aucun résultat trouvé.</translation>
+    </message>
+    <message>
+        <source>No more results found.</source>
+        <translation>Aucun autre résultat trouvé.</translation>
+    </message>
+    <message>
+        <source>Found %1 coincidences</source>
+        <translation>Occurrences trouvées : %1</translation>
+    </message>
+    <message>
+        <source>Document searched. Replaced </source>
+        <translation>Document parcouru. Remplacement de </translation>
+    </message>
+    <message>
+        <source> instances.</source>
+        <translation> occurrence(s).</translation>
+    </message>
+    <message>
+        <source>Invalid line number.</source>
+        <translation>Numéro de ligne non valide.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContextMenu</name>
+    <message>
+        <source>Toggle Comment</source>
+        <translation>Commenter/Décommenter</translation>
+    </message>
+    <message>
+        <source>Syntax clue</source>
+        <translation>Aide syntaxique</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Barre d’outils</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barre d’état</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloc</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compiler</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Assist</source>
+        <translation>Assistants</translation>
+    </message>
+    <message>
+        <source>RUNDEF </source>
+        <translation>RUNDEF </translation>
+    </message>
+    <message>
+        <source>DEFINE </source>
+        <translation>DEFINE </translation>
+    </message>
+    <message>
+        <source>TABLE </source>
+        <translation>TABLE </translation>
+    </message>
+    <message>
+        <source>EXECUTE </source>
+        <translation>EXECUTE </translation>
+    </message>
+    <message>
+        <source>BlowUp</source>
+        <translation>Déplier</translation>
+    </message>
+    <message>
+        <source>Wizards</source>
+        <translation>Assistants</translation>
+    </message>
+    <message>
+        <source>DEFINEs </source>
+        <translation>Commandes DEFINE </translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Tri à plat</translation>
+    </message>
+    <message>
+        <source>Edit Style</source>
+        <translation>Modifier le style</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tableau</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graphique</translation>
+    </message>
+</context>
+<context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
@@ -480,6 +685,68 @@
     </message>
 </context>
 <context>
+    <name>ErrorList</name>
+    <message>
+        <source>Messages of the program</source>
+        <translation>Messages du programme</translation>
+    </message>
+    <message>
+        <source>Copy error list</source>
+        <translation>Copier la liste des erreurs</translation>
+    </message>
+    <message>
+        <source>Clear error list</source>
+        <translation>Effacer la liste des erreurs</translation>
+    </message>
+</context>
+<context>
+    <name>FileChangeNotice</name>
+    <message>
+        <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
+
+Do you want to reload the file instead?</source>
+        <translation>Le fichier %1 a été modifié par un autre programme et ce texte contient des modifications non enregistrées. L’enregistrement remplacera le fichier.
+
+Voulez-vous plutôt recharger le fichier ?</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program. Do you want to reload it?</source>
+        <translation>Le fichier %1 a été modifié par un autre programme. Voulez-vous le recharger ?</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>Fichier modifié</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Conserver</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be reloaded: %2</source>
+        <translation>Impossible de recharger le fichier %1 : %2</translation>
+    </message>
+    <message>
+        <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
+        <translation>Le fichier %1 a été supprimé par un autre programme. Son texte reste ouvert ici : enregistrez-le pour le conserver.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
+        <translation>Le fichier %1 a été modifié par un autre programme depuis sa lecture ici. Voulez-vous le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
@@ -575,6 +842,117 @@
     <message>
         <source>Programs that run other programs</source>
         <translation>Programmes qui lancent d’autres programmes</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program</source>
+        <translation>Programme &amp;EXECUTE</translation>
+    </message>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Carte</translation>
+    </message>
+    <message>
+        <source>&amp;Program...</source>
+        <translation>&amp;Programme...</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program...</source>
+        <translation>Programme &amp;EXECUTE...</translation>
+    </message>
+    <message>
+        <source>&amp;Selection...</source>
+        <translation>&amp;Sélection...</translation>
+    </message>
+    <message>
+        <source>&amp;Map...</source>
+        <translation>&amp;Carte...</translation>
+    </message>
+    <message>
+        <source>Recent programs</source>
+        <translation>Programmes récents</translation>
+    </message>
+    <message>
+        <source>Programs of the dictionary</source>
+        <translation>Programmes du dictionnaire</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir...</translation>
+    </message>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Error %s sending event</source>
+        <translation>Erreur %s lors de l’envoi de l’événement</translation>
+    </message>
+    <message>
+        <source>Open program</source>
+        <translation>Ouvrir un programme</translation>
+    </message>
+    <message>
+        <source>Open EXECUTE program</source>
+        <translation>Ouvrir un programme EXECUTE</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialog</name>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Find what: </source>
+        <translation>Rechercher : </translation>
+    </message>
+    <message>
+        <source>Replace with: </source>
+        <translation>Remplacer par : </translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Mots entiers</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Rechercher le suivant</translation>
+    </message>
+    <message>
+        <source>Find all</source>
+        <translation>Rechercher tout</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Remplacer tout</translation>
+    </message>
+    <message>
+        <source>Empty Field</source>
+        <translation>Champ vide</translation>
+    </message>
+    <message>
+        <source>Please enter a query.</source>
+        <translation>Veuillez saisir le texte à rechercher.</translation>
     </message>
 </context>
 <context>
@@ -787,6 +1165,25 @@
     </message>
 </context>
 <context>
+    <name>GotoDialog</name>
+    <message>
+        <source>Go</source>
+        <translation>Aller</translation>
+    </message>
+    <message>
+        <source>Must enter a line number.</source>
+        <translation>Veuillez saisir un numéro de ligne.</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Atteindre</translation>
+    </message>
+    <message>
+        <source>Line number: </source>
+        <translation>Numéro de ligne : </translation>
+    </message>
+</context>
+<context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
@@ -920,20 +1317,8 @@
         <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
     </message>
     <message>
-        <source>Processing</source>
-        <translation>Traitement en cours</translation>
-    </message>
-    <message>
-        <source>Execution Failed</source>
-        <translation>Échec de l’exécution</translation>
-    </message>
-    <message>
-        <source>Execution Finished</source>
-        <translation>Exécution terminée</translation>
-    </message>
-    <message>
-        <source>The results cannot be shown as a frequency.</source>
-        <translation>Les résultats ne peuvent pas être présentés sous forme de tri à plat.</translation>
+        <source>%1: files cannot be written yet</source>
+        <translation>%1 : l’écriture de fichiers n’est pas encore disponible</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1337,25 @@
     </message>
 </context>
 <context>
+    <name>MetricReporter</name>
+    <message>
+        <source>Words: </source>
+        <translation>Mots : </translation>
+    </message>
+    <message>
+        <source>Chars: </source>
+        <translation>Caractères : </translation>
+    </message>
+    <message>
+        <source>Line: </source>
+        <translation>Ligne : </translation>
+    </message>
+    <message>
+        <source>Column: </source>
+        <translation>Colonne : </translation>
+    </message>
+</context>
+<context>
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
@@ -964,6 +1368,472 @@
     <message>
         <source>Recent dictionaries</source>
         <translation>Dictionnaires récents</translation>
+    </message>
+</context>
+<context>
+    <name>OutputModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Non déclaré</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>Sans objet</translation>
+    </message>
+    <message>
+        <source>Weight: %1</source>
+        <translation>Pondération : %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtre : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation>
+            <numerusform>%n cellule masquée pour protéger les personnes</numerusform>
+            <numerusform>%n cellules masquées pour protéger les personnes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Libellé</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy Table</source>
+        <translation>Copier le tableau</translation>
+    </message>
+    <message>
+        <source>Rows of the result</source>
+        <translation>Lignes du résultat</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessExecuter</name>
+    <message>
+        <source>compiler syntax error</source>
+        <translation>erreur de syntaxe du compilateur</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Program code is empty</source>
+        <translation>Le code du programme est vide</translation>
+    </message>
+    <message>
+        <source>The executing program is empty</source>
+        <translation>Le programme à exécuter est vide</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Exécution annulée</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Traitement en cours</translation>
+    </message>
+    <message>
+        <source>Time Expected: </source>
+        <translation>Temps prévu : </translation>
+    </message>
+    <message>
+        <source> s - Time Elapsed: </source>
+        <translation> s - Temps écoulé : </translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Exécution terminée</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Création du tableau</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tableau créé</translation>
+    </message>
+    <message>
+        <source>Compilation successful, no errors or warnings found</source>
+        <translation>Compilation réussie, aucune erreur ni aucun avertissement</translation>
+    </message>
+    <message>
+        <source>Compilation by block successful, no errors or warnings found</source>
+        <translation>Compilation du bloc réussie, aucune erreur ni aucun avertissement</translation>
+    </message>
+    <message>
+        <source>Compiling...</source>
+        <translation>Compilation en cours...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Progression de l’exécution</translation>
+    </message>
+    <message>
+        <source>Dicctionary Selection</source>
+        <translation>Sélection du dictionnaire</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;Select at least one dictionary&lt;/b&gt; </source>
+        <translation>Veuillez &lt;b&gt;sélectionner au moins un dictionnaire&lt;/b&gt; </translation>
+    </message>
+    <message>
+        <source>The program was not run, since another one had not ended.</source>
+        <translation>Le programme n’a pas été exécuté, car un autre n’était pas terminé.</translation>
+    </message>
+    <message>
+        <source>Execution Failed</source>
+        <translation>Échec de l’exécution</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessProgramSPC</name>
+    <message>
+        <source>Error de formato</source>
+        <translation>Erreur de format</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Le format du texte d’erreur reçu de KelEngine ne semble pas correspondre au format défini initialement ; il est donc impossible d’atteindre la ligne de code où se produit l’erreur&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Apply to all open and future tabs?</source>
+        <translation>Appliquer à tous les onglets ouverts et à venir ?</translation>
+    </message>
+    <message>
+        <source>Word wrapping</source>
+        <translation>Retour automatique à la ligne</translation>
+    </message>
+    <message>
+        <source>Auto indentation</source>
+        <translation>Retrait automatique</translation>
+    </message>
+    <message>
+        <source>Font change</source>
+        <translation>Changement de police</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Langage :</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression en cours</translation>
+    </message>
+    <message>
+        <source> [Unsaved]</source>
+        <translation> [Non enregistré]</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramActions</name>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimer...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Find...</source>
+        <translation>Rechercher...</translation>
+    </message>
+    <message>
+        <source>Replace...</source>
+        <translation>Remplacer...</translation>
+    </message>
+    <message>
+        <source>Go To...</source>
+        <translation>Atteindre...</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Time/Date</source>
+        <translation>Heure/Date</translation>
+    </message>
+    <message>
+        <source>Font...</source>
+        <translation>Police...</translation>
+    </message>
+    <message>
+        <source>Auto Indent</source>
+        <translation>Retrait automatique</translation>
+    </message>
+    <message>
+        <source>Word Wrap</source>
+        <translation>Retour automatique à la ligne</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>C++</source>
+        <translation>C++</translation>
+    </message>
+    <message>
+        <source>Java</source>
+        <translation>Java</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Kelx</source>
+        <translation>Kelx</translation>
+    </message>
+    <message>
+        <source>Status Bar</source>
+        <translation>Barre d’état</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barre d’outils</translation>
+    </message>
+    <message>
+        <source>SyntaxClue</source>
+        <translation>Aide syntaxique</translation>
+    </message>
+    <message>
+        <source>Show the available commands syntax (F8)</source>
+        <translation>Afficher la syntaxe des commandes disponibles (F8)</translation>
+    </message>
+    <message>
+        <source>GoTo</source>
+        <translation>Atteindre</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>Atteindre une ligne</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compiler</translation>
+    </message>
+    <message>
+        <source>Compile the program</source>
+        <translation>Compiler le programme</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Run Program</source>
+        <translation>Exécuter le programme</translation>
+    </message>
+    <message>
+        <source>Splitter</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>Show/Hide Console</source>
+        <translation>Afficher/masquer la console</translation>
+    </message>
+    <message>
+        <source>Close tab</source>
+        <translation>Fermer l’onglet</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langage</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Menus of the program window</source>
+        <translation>Menus de la fenêtre de programme</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFiles</name>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Cannot save file: </source>
+        <translation>Impossible d’enregistrer le fichier : </translation>
+    </message>
+    <message>
+        <source>Untitled document</source>
+        <translation>Document sans titre</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another tab.</source>
+        <translation>Le fichier %1 est ouvert dans un autre onglet.</translation>
+    </message>
+    <message>
+        <source>Document saved</source>
+        <translation>Document enregistré</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to </source>
+        <translation>Voulez-vous enregistrer les modifications apportées à </translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramListRun</name>
+    <message>
+        <source>Current Program: </source>
+        <translation>Programme en cours : </translation>
+    </message>
+    <message>
+        <source>Current Program :</source>
+        <translation>Programme en cours :</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Exécution annulée</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Traitement en cours</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Exécution terminée</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Création du tableau</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tableau créé</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRunner</name>
+    <message>
+        <source>Compile</source>
+        <translation>Compiler</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Please &lt;b&gt;open &lt;/b&gt;a program file or &lt;b&gt;write&lt;/b&gt; a command </source>
+        <translation>Veuillez &lt;b&gt;ouvrir &lt;/b&gt;un fichier programme ou &lt;b&gt;écrire&lt;/b&gt; une commande </translation>
+    </message>
+    <message>
+        <source>Error: </source>
+        <translation>Erreur : </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramText</name>
+    <message>
+        <source>The typed code is incomplete to show a %1 assistant window</source>
+        <translation>Le code saisi est incomplet pour afficher une fenêtre d’assistant %1</translation>
+    </message>
+    <message>
+        <source>SUGGESTION</source>
+        <translation>SUGGESTION</translation>
+    </message>
+    <message>
+        <source>DEPRECATED</source>
+        <translation>OBSOLÈTE</translation>
+    </message>
+    <message>
+        <source>USE</source>
+        <translation>UTILISER</translation>
+    </message>
+    <message>
+        <source>The directory %1 used in the %2 statement doesn&apos;t exist</source>
+        <translation>Le dossier %1 utilisé dans l’instruction %2 n’existe pas</translation>
     </message>
 </context>
 <context>
@@ -1033,6 +1903,13 @@
     </message>
 </context>
 <context>
+    <name>QCodeEditor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texte du programme</translation>
+    </message>
+</context>
+<context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
@@ -1041,6 +1918,111 @@
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
         <translation>Voulez-vous télécharger la mise à jour maintenant ? L’application en cours sera fermée</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>Unsaved programs</source>
+        <translation>Programmes non enregistrés</translation>
+    </message>
+    <message>
+        <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
+        <translation>Kelvora X s’est arrêté avant l’enregistrement de ces &amp;programmes. Les programmes restaurés s’ouvrent avec leurs modifications ; leurs fichiers restent en l’état jusqu’à ce que vous enregistriez.</translation>
+    </message>
+    <message>
+        <source>Programs that were not saved</source>
+        <translation>Programmes qui n’ont pas été enregistrés</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Dernière modification</translation>
+    </message>
+    <message>
+        <source>State of the file</source>
+        <translation>État du fichier</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurer</translation>
+    </message>
+    <message>
+        <source>Open the ticked programs</source>
+        <translation>Ouvrir les programmes cochés</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>Delete the ticked texts for good</source>
+        <translation>Supprimer définitivement les textes cochés</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>Plus &amp;tard</translation>
+    </message>
+    <message>
+        <source>Ask again when Kelvora X starts next time</source>
+        <translation>Redemander au prochain démarrage de Kelvora X</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
+        <translation>
+            <numerusform>Voulez-vous abandonner %n programme ? Son texte ne pourra pas être récupéré.</numerusform>
+            <numerusform>Voulez-vous abandonner %n programmes ? Leur texte ne pourra pas être récupéré.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryRow</name>
+    <message>
+        <source>Was never saved</source>
+        <translation>Jamais enregistré</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>Le fichier n’existe plus</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>Le fichier est illisible</translation>
+    </message>
+    <message>
+        <source>The file holds the same text</source>
+        <translation>Le fichier contient le même texte</translation>
+    </message>
+    <message>
+        <source>Differs from the file</source>
+        <translation>Différent du fichier</translation>
+    </message>
+    <message>
+        <source>Differs; the file was changed later</source>
+        <translation>Différent ; le fichier a été modifié après</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +2255,13 @@
     </message>
 </context>
 <context>
+    <name>SyntaxClue</name>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+</context>
+<context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
@@ -1310,6 +2299,25 @@
     <message>
         <source>Thecnical specification</source>
         <translation>Spécifications techniques</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>This is a device or a pipe, not a file.</source>
+        <translation>Il s’agit d’un périphérique ou d’un tube, pas d’un fichier.</translation>
+    </message>
+    <message>
+        <source>This is not a text file: line %1 has a null byte.</source>
+        <translation>Ce n’est pas un fichier texte : la ligne %1 contient un octet nul.</translation>
+    </message>
+    <message>
+        <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
+        <translation>Le fichier n’est pas codé en UTF-8 : la ligne %1 contient d’autres octets. Convertissez-le en UTF-8 pour l’ouvrir ici.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be read (beyond 256 MB).</source>
+        <translation>Le fichier est trop volumineux pour être lu (plus de 256 Mo).</translation>
     </message>
 </context>
 <context>

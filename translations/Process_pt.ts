@@ -25,6 +25,17 @@
     </message>
 </context>
 <context>
+    <name>BottomPanel</name>
+    <message>
+        <source>Output</source>
+        <translation>Saída</translation>
+    </message>
+    <message>
+        <source>Messages and finding</source>
+        <translation>Mensagens e busca</translation>
+    </message>
+</context>
+<context>
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
@@ -295,6 +306,200 @@
     </message>
 </context>
 <context>
+    <name>Editor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texto do programa</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Números de linha</translation>
+    </message>
+    <message>
+        <source>Funcionalidad %1 en Construcción</source>
+        <translation>Funcionalidade %1 em construção</translation>
+    </message>
+    <message>
+        <source>&quot;Toggle Comment&quot;</source>
+        <translation>&quot;Alternar comentário&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Define&quot;</source>
+        <translation>&quot;Assistente DEFINE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Wizard Table&quot;</source>
+        <translation>&quot;Assistente TABLE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Execute Blow Up&quot;</source>
+        <translation>&quot;Desdobrar EXECUTE&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Define Frequency&quot;</source>
+        <translation>&quot;Definir frequência&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Syntax Clue&quot;</source>
+        <translation>&quot;Ajuda de sintaxe&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Table&quot;</source>
+        <translation>&quot;Editar tabela&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;Edit Graph&quot;</source>
+        <translation>&quot;Editar gráfico&quot;</translation>
+    </message>
+    <message>
+        <source>No results found.</source>
+        <translation>Nenhum resultado encontrado.</translation>
+    </message>
+    <message>
+        <source>No more results found.</source>
+        <translation>Não há mais resultados.</translation>
+    </message>
+    <message>
+        <source>Found %1 coincidences</source>
+        <translation>Ocorrências encontradas: %1</translation>
+    </message>
+    <message>
+        <source>Document searched. Replaced </source>
+        <translation>Pesquisa no documento concluída. Foram substituídas </translation>
+    </message>
+    <message>
+        <source> instances.</source>
+        <translation> ocorrências.</translation>
+    </message>
+    <message>
+        <source>Invalid line number.</source>
+        <translation>Número de linha inválido.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorContextMenu</name>
+    <message>
+        <source>Toggle Comment</source>
+        <translation>Alternar comentário</translation>
+    </message>
+    <message>
+        <source>Syntax clue</source>
+        <translation>Ajuda de sintaxe</translation>
+    </message>
+    <message>
+        <source>Tool bar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barra de status</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Saída</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Salvar como</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloco</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>Assist</source>
+        <translation>Assistente</translation>
+    </message>
+    <message>
+        <source>RUNDEF </source>
+        <translation>RUNDEF </translation>
+    </message>
+    <message>
+        <source>DEFINE </source>
+        <translation>DEFINE </translation>
+    </message>
+    <message>
+        <source>TABLE </source>
+        <translation>TABLE </translation>
+    </message>
+    <message>
+        <source>EXECUTE </source>
+        <translation>EXECUTE </translation>
+    </message>
+    <message>
+        <source>BlowUp</source>
+        <translation>Desdobrar</translation>
+    </message>
+    <message>
+        <source>Wizards</source>
+        <translation>Assistentes</translation>
+    </message>
+    <message>
+        <source>DEFINEs </source>
+        <translation>DEFINEs </translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequência</translation>
+    </message>
+    <message>
+        <source>Edit Style</source>
+        <translation>Editar estilo</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabela</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Gráfico</translation>
+    </message>
+</context>
+<context>
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
@@ -480,6 +685,68 @@
     </message>
 </context>
 <context>
+    <name>ErrorList</name>
+    <message>
+        <source>Messages of the program</source>
+        <translation>Mensagens do programa</translation>
+    </message>
+    <message>
+        <source>Copy error list</source>
+        <translation>Copiar a lista de erros</translation>
+    </message>
+    <message>
+        <source>Clear error list</source>
+        <translation>Limpar a lista de erros</translation>
+    </message>
+</context>
+<context>
+    <name>FileChangeNotice</name>
+    <message>
+        <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
+
+Do you want to reload the file instead?</source>
+        <translation>O arquivo %1 foi alterado por outro programa, e este texto tem alterações não salvas. Ao salvar, o arquivo será substituído.
+
+Deseja recarregar o arquivo em vez disso?</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program. Do you want to reload it?</source>
+        <translation>O arquivo %1 foi alterado por outro programa. Deseja recarregá-lo?</translation>
+    </message>
+    <message>
+        <source>File changed</source>
+        <translation>Arquivo alterado</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recarregar</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Manter</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be reloaded: %2</source>
+        <translation>Não é possível recarregar o arquivo %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
+        <translation>O arquivo %1 foi removido por outro programa. O texto continua aberto aqui: para conservá-lo, é preciso salvá-lo.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
+        <translation>O arquivo %1 foi alterado por outro programa depois de ter sido lido aqui. Deseja substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>FileOpener</name>
     <message>
         <source>Archivo no válido</source>
@@ -575,6 +842,117 @@
     <message>
         <source>Programs that run other programs</source>
         <translation>Programas que executam outros programas</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programa</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program</source>
+        <translation>Programa &amp;EXECUTE</translation>
+    </message>
+    <message>
+        <source>&amp;Selection</source>
+        <translation>&amp;Seleção</translation>
+    </message>
+    <message>
+        <source>&amp;Map</source>
+        <translation>&amp;Mapa</translation>
+    </message>
+    <message>
+        <source>&amp;Program...</source>
+        <translation>&amp;Programa...</translation>
+    </message>
+    <message>
+        <source>&amp;Execute program...</source>
+        <translation>Programa &amp;EXECUTE...</translation>
+    </message>
+    <message>
+        <source>&amp;Selection...</source>
+        <translation>&amp;Seleção...</translation>
+    </message>
+    <message>
+        <source>&amp;Map...</source>
+        <translation>&amp;Mapa...</translation>
+    </message>
+    <message>
+        <source>Recent programs</source>
+        <translation>Programas recentes</translation>
+    </message>
+    <message>
+        <source>Programs of the dictionary</source>
+        <translation>Programas do dicionário</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Novo</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Error %s sending event</source>
+        <translation>Erro %s ao enviar o evento</translation>
+    </message>
+    <message>
+        <source>Open program</source>
+        <translation>Abrir programa</translation>
+    </message>
+    <message>
+        <source>Open EXECUTE program</source>
+        <translation>Abrir programa EXECUTE</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialog</name>
+    <message>
+        <source>Find</source>
+        <translation>Localizar</translation>
+    </message>
+    <message>
+        <source>Find what: </source>
+        <translation>Localizar: </translation>
+    </message>
+    <message>
+        <source>Replace with: </source>
+        <translation>Substituir por: </translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Diferenciar maiúsculas de minúsculas</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Palavras inteiras</translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation>Localizar próxima</translation>
+    </message>
+    <message>
+        <source>Find all</source>
+        <translation>Localizar todas</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Substituir todas</translation>
+    </message>
+    <message>
+        <source>Empty Field</source>
+        <translation>Campo vazio</translation>
+    </message>
+    <message>
+        <source>Please enter a query.</source>
+        <translation>É necessário digitar o texto a localizar.</translation>
     </message>
 </context>
 <context>
@@ -787,6 +1165,25 @@
     </message>
 </context>
 <context>
+    <name>GotoDialog</name>
+    <message>
+        <source>Go</source>
+        <translation>Ir</translation>
+    </message>
+    <message>
+        <source>Must enter a line number.</source>
+        <translation>É necessário digitar um número de linha.</translation>
+    </message>
+    <message>
+        <source>Go To</source>
+        <translation>Ir para</translation>
+    </message>
+    <message>
+        <source>Line number: </source>
+        <translation>Número da linha: </translation>
+    </message>
+</context>
+<context>
     <name>InfoProperties</name>
     <message>
         <source>Variable</source>
@@ -920,20 +1317,8 @@
         <translation>Deseja salvar as alterações do dicionário?</translation>
     </message>
     <message>
-        <source>Processing</source>
-        <translation>Processando</translation>
-    </message>
-    <message>
-        <source>Execution Failed</source>
-        <translation>Falha na execução</translation>
-    </message>
-    <message>
-        <source>Execution Finished</source>
-        <translation>Execução concluída</translation>
-    </message>
-    <message>
-        <source>The results cannot be shown as a frequency.</source>
-        <translation>Os resultados não podem ser mostrados como frequência.</translation>
+        <source>%1: files cannot be written yet</source>
+        <translation>%1: ainda não é possível gravar arquivos</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1337,25 @@
     </message>
 </context>
 <context>
+    <name>MetricReporter</name>
+    <message>
+        <source>Words: </source>
+        <translation>Palavras: </translation>
+    </message>
+    <message>
+        <source>Chars: </source>
+        <translation>Caracteres: </translation>
+    </message>
+    <message>
+        <source>Line: </source>
+        <translation>Linha: </translation>
+    </message>
+    <message>
+        <source>Column: </source>
+        <translation>Coluna: </translation>
+    </message>
+</context>
+<context>
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
@@ -964,6 +1368,472 @@
     <message>
         <source>Recent dictionaries</source>
         <translation>Dicionários recentes</translation>
+    </message>
+</context>
+<context>
+    <name>OutputModel</name>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Ignorado</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>Não aplicável</translation>
+    </message>
+    <message>
+        <source>Weight: %1</source>
+        <translation>Peso: %1</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation>
+            <numerusform>%n célula oculta para preservar o sigilo das pessoas</numerusform>
+            <numerusform>%n células ocultas para preservar o sigilo das pessoas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Rótulo</translation>
+    </message>
+</context>
+<context>
+    <name>OutputView</name>
+    <message>
+        <source>Copy Table</source>
+        <translation>Copiar tabela</translation>
+    </message>
+    <message>
+        <source>Rows of the result</source>
+        <translation>Linhas do resultado</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessExecuter</name>
+    <message>
+        <source>compiler syntax error</source>
+        <translation>erro de sintaxe do compilador</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Program code is empty</source>
+        <translation>O código do programa está vazio</translation>
+    </message>
+    <message>
+        <source>The executing program is empty</source>
+        <translation>O programa a executar está vazio</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Execução cancelada</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Processando</translation>
+    </message>
+    <message>
+        <source>Time Expected: </source>
+        <translation>Tempo previsto: </translation>
+    </message>
+    <message>
+        <source> s - Time Elapsed: </source>
+        <translation> s - Tempo decorrido: </translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Execução concluída</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Criando a tabela</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tabela criada</translation>
+    </message>
+    <message>
+        <source>Compilation successful, no errors or warnings found</source>
+        <translation>Compilação concluída, sem erros nem avisos</translation>
+    </message>
+    <message>
+        <source>Compilation by block successful, no errors or warnings found</source>
+        <translation>Compilação do bloco concluída, sem erros nem avisos</translation>
+    </message>
+    <message>
+        <source>Compiling...</source>
+        <translation>Compilando...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Andamento da execução</translation>
+    </message>
+    <message>
+        <source>Dicctionary Selection</source>
+        <translation>Seleção de dicionário</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;Select at least one dictionary&lt;/b&gt; </source>
+        <translation>É necessário &lt;b&gt;selecionar pelo menos um dicionário&lt;/b&gt; </translation>
+    </message>
+    <message>
+        <source>The program was not run, since another one had not ended.</source>
+        <translation>O programa não foi executado porque outro ainda não havia terminado.</translation>
+    </message>
+    <message>
+        <source>Execution Failed</source>
+        <translation>Falha na execução</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessProgramSPC</name>
+    <message>
+        <source>Error de formato</source>
+        <translation>Erro de formato</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Aparentemente, o formato do texto de erro recebido do KelEngine não corresponde ao formato definido inicialmente; por isso, não é possível ir até a linha de código em que ocorre o erro&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Apply to all open and future tabs?</source>
+        <translation>Aplicar a todas as guias abertas e futuras?</translation>
+    </message>
+    <message>
+        <source>Word wrapping</source>
+        <translation>Quebra automática de linha</translation>
+    </message>
+    <message>
+        <source>Auto indentation</source>
+        <translation>Recuo automático</translation>
+    </message>
+    <message>
+        <source>Font change</source>
+        <translation>Alteração da fonte</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Linguagem:</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Imprimindo</translation>
+    </message>
+    <message>
+        <source> [Unsaved]</source>
+        <translation> [Não salvo]</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramActions</name>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Salvar como</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimir...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Find...</source>
+        <translation>Localizar...</translation>
+    </message>
+    <message>
+        <source>Replace...</source>
+        <translation>Substituir...</translation>
+    </message>
+    <message>
+        <source>Go To...</source>
+        <translation>Ir para...</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Time/Date</source>
+        <translation>Hora/data</translation>
+    </message>
+    <message>
+        <source>Font...</source>
+        <translation>Fonte...</translation>
+    </message>
+    <message>
+        <source>Auto Indent</source>
+        <translation>Recuo automático</translation>
+    </message>
+    <message>
+        <source>Word Wrap</source>
+        <translation>Quebra automática de linha</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>C++</source>
+        <translation>C++</translation>
+    </message>
+    <message>
+        <source>Java</source>
+        <translation>Java</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Kelx</source>
+        <translation>Kelx</translation>
+    </message>
+    <message>
+        <source>Status Bar</source>
+        <translation>Barra de status</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>SyntaxClue</source>
+        <translation>Ajuda de sintaxe</translation>
+    </message>
+    <message>
+        <source>Show the available commands syntax (F8)</source>
+        <translation>Mostrar a sintaxe dos comandos disponíveis (F8)</translation>
+    </message>
+    <message>
+        <source>GoTo</source>
+        <translation>Ir para</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>Ir para a linha</translation>
+    </message>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Compile the program</source>
+        <translation>Compilar o programa</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>Run Program</source>
+        <translation>Executar o programa</translation>
+    </message>
+    <message>
+        <source>Splitter</source>
+        <translation>Console</translation>
+    </message>
+    <message>
+        <source>Show/Hide Console</source>
+        <translation>Mostrar/ocultar o console</translation>
+    </message>
+    <message>
+        <source>Close tab</source>
+        <translation>Fechar guia</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formatar</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Linguagem</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Exibir</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Menus of the program window</source>
+        <translation>Menus da janela de programas</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramFiles</name>
+    <message>
+        <source>Kelx Command Set (*.spc)</source>
+        <translation>Kelx Command Set (*.spc)</translation>
+    </message>
+    <message>
+        <source>Cannot save file: </source>
+        <translation>Não é possível salvar o arquivo: </translation>
+    </message>
+    <message>
+        <source>Untitled document</source>
+        <translation>Documento sem título</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Salvar como</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another tab.</source>
+        <translation>O arquivo %1 está aberto em outra guia.</translation>
+    </message>
+    <message>
+        <source>Document saved</source>
+        <translation>Documento salvo</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to </source>
+        <translation>Deseja salvar as alterações em </translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Alterações não salvas</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramListRun</name>
+    <message>
+        <source>Current Program: </source>
+        <translation>Programa atual: </translation>
+    </message>
+    <message>
+        <source>Current Program :</source>
+        <translation>Programa atual:</translation>
+    </message>
+    <message>
+        <source>Execution Canceled</source>
+        <translation>Execução cancelada</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Processando</translation>
+    </message>
+    <message>
+        <source>Execution Finished</source>
+        <translation>Execução concluída</translation>
+    </message>
+    <message>
+        <source>Creating Table</source>
+        <translation>Criando a tabela</translation>
+    </message>
+    <message>
+        <source>Table Created</source>
+        <translation>Tabela criada</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramRunner</name>
+    <message>
+        <source>Compile</source>
+        <translation>Compilar</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>Please &lt;b&gt;open &lt;/b&gt;a program file or &lt;b&gt;write&lt;/b&gt; a command </source>
+        <translation>É necessário &lt;b&gt;abrir &lt;/b&gt;um arquivo de programa ou &lt;b&gt;escrever&lt;/b&gt; um comando </translation>
+    </message>
+    <message>
+        <source>Error: </source>
+        <translation>Erro: </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramText</name>
+    <message>
+        <source>The typed code is incomplete to show a %1 assistant window</source>
+        <translation>O código digitado está incompleto para mostrar a janela do assistente %1</translation>
+    </message>
+    <message>
+        <source>SUGGESTION</source>
+        <translation>SUGESTÃO</translation>
+    </message>
+    <message>
+        <source>DEPRECATED</source>
+        <translation>OBSOLETO</translation>
+    </message>
+    <message>
+        <source>USE</source>
+        <translation>USE</translation>
+    </message>
+    <message>
+        <source>The directory %1 used in the %2 statement doesn&apos;t exist</source>
+        <translation>A pasta %1 usada na instrução %2 não existe</translation>
     </message>
 </context>
 <context>
@@ -1033,6 +1903,13 @@
     </message>
 </context>
 <context>
+    <name>QCodeEditor</name>
+    <message>
+        <source>Program text</source>
+        <translation>Texto do programa</translation>
+    </message>
+</context>
+<context>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
@@ -1041,6 +1918,111 @@
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
         <translation>Deseja baixar a atualização agora? O aplicativo atual será fechado</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sem título</translation>
+    </message>
+    <message>
+        <source>Unsaved programs</source>
+        <translation>Programas não salvos</translation>
+    </message>
+    <message>
+        <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
+        <translation>O Kelvora X foi encerrado antes que estes &amp;programas fossem salvos. Os programas restaurados são abertos com suas alterações; seus arquivos permanecem como estão até que os programas sejam salvos.</translation>
+    </message>
+    <message>
+        <source>Programs that were not saved</source>
+        <translation>Programas que não foram salvos</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Última alteração</translation>
+    </message>
+    <message>
+        <source>State of the file</source>
+        <translation>Situação do arquivo</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Open the ticked programs</source>
+        <translation>Abrir os programas marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Delete the ticked texts for good</source>
+        <translation>Excluir definitivamente os textos marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>Mais &amp;tarde</translation>
+    </message>
+    <message>
+        <source>Ask again when Kelvora X starts next time</source>
+        <translation>Perguntar novamente na próxima vez que o Kelvora X for iniciado</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
+        <translation>
+            <numerusform>Deseja descartar %n programa? O texto não poderá ser recuperado.</numerusform>
+            <numerusform>Deseja descartar %n programas? O texto não poderá ser recuperado.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryRow</name>
+    <message>
+        <source>Was never saved</source>
+        <translation>Nunca foi salvo</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>O arquivo não existe mais</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>Não é possível ler o arquivo</translation>
+    </message>
+    <message>
+        <source>The file holds the same text</source>
+        <translation>O arquivo contém o mesmo texto</translation>
+    </message>
+    <message>
+        <source>Differs from the file</source>
+        <translation>Difere do arquivo</translation>
+    </message>
+    <message>
+        <source>Differs; the file was changed later</source>
+        <translation>Difere; o arquivo foi alterado depois</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +2255,13 @@
     </message>
 </context>
 <context>
+    <name>SyntaxClue</name>
+    <message>
+        <source>Commands</source>
+        <translation>Comandos</translation>
+    </message>
+</context>
+<context>
     <name>TabDialogVariableProperties</name>
     <message>
         <source>Properties of %1</source>
@@ -1310,6 +2299,25 @@
     <message>
         <source>Thecnical specification</source>
         <translation>Especificação técnica</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>This is a device or a pipe, not a file.</source>
+        <translation>Este é um dispositivo ou um pipe, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>This is not a text file: line %1 has a null byte.</source>
+        <translation>Este não é um arquivo de texto: a linha %1 contém um byte nulo.</translation>
+    </message>
+    <message>
+        <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
+        <translation>O arquivo não está codificado em UTF-8: a linha %1 contém outros bytes. É preciso convertê-lo para UTF-8 para abri-lo aqui.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be read (beyond 256 MB).</source>
+        <translation>O arquivo é grande demais para ser lido (acima de 256 MB).</translation>
     </message>
 </context>
 <context>

@@ -296,7 +296,7 @@ private slots:
         RibbonState state = open();
         state.recentPrograms = QStringList{"/work/a.spc", "/work/b.spc"};
         state.recentExecutes = QStringList{"/work/all.spc"};
-        state.dictionaryPrograms = QStringList{"/data/income.spc"};
+        state.dictionaryPrograms = QStringList{"/work/a.spc", "/data/income.spc"};
         build(state);
         QStringList asked;
         connect(pages_, &RibbonPages::newProgram, this,

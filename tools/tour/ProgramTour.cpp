@@ -164,3 +164,16 @@ void Tour::samplePrograms() {
         window.parentWidget()->close();
     }
 }
+
+void Tour::programIn(const QString& language) {
+    auto* area = find<QMdiArea>(window_, "workArea");
+    QMdiSubWindow* before = area->activeSubWindow();
+    for (QMdiSubWindow* frame : area->subWindowList())
+        if (qobject_cast<ProcessProgramSPC*>(frame->widget()) != nullptr)
+            area->setActiveSubWindow(frame);
+    auto* menu = find<QMenu>(program(), "menuEdit");
+    menu->popup(program().mapToGlobal(QPoint(30, 30)));
+    shootScreen(QStringLiteral("program-") + language);
+    menu->close();
+    area->setActiveSubWindow(before);
+}

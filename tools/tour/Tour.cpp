@@ -198,8 +198,10 @@ void Tour::languages() {
         require(KelSystem::instance().language() == "Process_" + language,
                 QStringLiteral("no translation for %1").arg(language));
         shoot(QStringLiteral("language-") + language);
-        if (language != QLatin1String("en"))
-            properties();
+        if (language == QLatin1String("en"))
+            continue;
+        properties();
+        programIn(language);
     }
 }
 

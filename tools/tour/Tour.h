@@ -42,6 +42,7 @@ private:
     void executeWindow();
     /// The programs beside the dictionary open from the ribbon and run.
     void samplePrograms();
+    void programIn(const QString& language); ///< with its menus of that language
     void programFromRibbon(const char* button, const QString& entry);
     void type(const QString& text); ///< with the keys of a user
     void dialogs();

@@ -65,8 +65,9 @@ void FileToolBar::makeProgramsMenu(tt::Group& group, const RibbonState& state) {
     QMenu* menu = makeMenu("programsMenu");
     const auto open = [this](const QString& path) { on_progFileSelected(path); };
     const int last = addRecentFiles(*menu, tr("Recent programs"), recentPrograms_, open);
-    addRecentFiles(*menu, tr("Programs of the dictionary"), state.dictionaryPrograms, open,
-                   last + 1);
+    QStringList others = state.dictionaryPrograms;
+    others.removeIf([this](const QString& path) { return recentPrograms_.contains(path); });
+    addRecentFiles(*menu, tr("Programs of the dictionary"), others, open, last + 1);
     QAction* button = addMenuButton(group, "programs", tr("Programs"),
                                     tr("Programs in the command language"), menu);
     button->setEnabled(!menu->isEmpty());
