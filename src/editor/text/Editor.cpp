@@ -177,7 +177,8 @@ QList<VisibleLine> Editor::visibleLines(const QRect& rect) const {
 
 QPair<int, int> Editor::visibleBlocks() const {
     const QList<VisibleLine> lines = visibleLines(viewport()->rect());
-    return lines.isEmpty() ? QPair(0, 0) : QPair(lines.first().number - 1, lines.last().number - 1);
+    return lines.isEmpty() ? QPair<int, int>(0, 0)
+                           : QPair<int, int>(lines.first().number - 1, lines.last().number - 1);
 }
 
 QString Editor::selectedText() const {

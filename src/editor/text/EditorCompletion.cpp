@@ -45,7 +45,9 @@ EditorCompletion::EditorCompletion(QPlainTextEdit& editor, const EditorHost* hos
       reserved_(completer_->words()) {
     completer_->setWidget(&editor);
     completer_->setCompletionMode(QCompleter::PopupCompletion);
-    completer_->popup()->setObjectName(QStringLiteral("completionPopup"));
+    QAbstractItemView* popup = completer_->popup();
+    popup->setObjectName(QStringLiteral("completionPopup"));
+    popup->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it is as wide as its words
 }
 
 void EditorCompletion::followLook() {

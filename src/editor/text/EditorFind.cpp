@@ -36,10 +36,10 @@ bool Editor::find(const QString& query, bool caseSensitive, bool wholeWords, boo
 bool Editor::findAll(const QString& query, bool caseSensitive, bool wholeWords) {
     if (query.isEmpty())
         return true;
-    const auto marks = search_.marks(query, flagsOf(caseSensitive, wholeWords));
-    setExtraSelections(marks);
-    if (!marks.isEmpty())
-        emit findAllResult(tr("Found %1 coincidences").arg(marks.size()));
+    const QList<int> starts = search_.starts(query, flagsOf(caseSensitive, wholeWords));
+    setExtraSelections(search_.marks(starts, static_cast<int>(query.size())));
+    if (!starts.isEmpty())
+        emit findAllResult(tr("Found %1 coincidences").arg(starts.size()));
     return true;
 }
 

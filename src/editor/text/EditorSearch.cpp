@@ -2,7 +2,10 @@
 #include "editor/text/EditorSearch.h"
 
 #include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QTextCursor>
+
+#include <algorithm>
 
 namespace {
 
@@ -14,6 +17,18 @@ QTextCharFormat markFormat() {
     format.setBackground(QColor(61, 174, 233).lighter(markLightness));
     format.setForeground(Qt::black);
     return format;
+}
+
+/// Each mark is a cursor, and each edit walks over all that the document ever had at a time.
+constexpr qsizetype mostMarks = 5000;
+
+/// More than that are replaced as one stretch of text.
+constexpr int manyMatches = 2000;
+
+void replaceAt(QTextCursor& edit, int start, int length, const QString& with) {
+    edit.setPosition(start);
+    edit.setPosition(start + length, QTextCursor::KeepAnchor);
+    edit.insertText(with);
 }
 
 } // namespace
@@ -58,33 +73,60 @@ bool EditorSearch::hasMatch(const QString& query, QTextDocument::FindFlags flags
            match.selectionEnd() == cursor.selectionEnd();
 }
 
-QList<QTextEdit::ExtraSelection> EditorSearch::marks(const QString& query,
-                                                     QTextDocument::FindFlags flags) const {
+QList<QTextEdit::ExtraSelection> EditorSearch::marks(const QList<int>& starts, int length) const {
     QList<QTextEdit::ExtraSelection> marks;
     const QTextCharFormat format = markFormat();
-    QTextCursor match = editor_.document()->find(query, 0, flags);
-    while (!match.isNull()) {
+    for (const int start : starts.first(std::min(starts.size(), mostMarks))) {
+        QTextCursor match(editor_.document());
+        match.setPosition(start);
+        match.setPosition(start + length, QTextCursor::KeepAnchor);
         marks.append({match, format});
-        match = editor_.document()->find(query, match, flags);
     }
     return marks;
 }
 
+QList<int> EditorSearch::starts(const QString& query, QTextDocument::FindFlags flags) const {
+    QList<int> starts;
+    QTextCursor match = editor_.document()->find(query, 0, flags);
+    for (; !match.isNull(); match = editor_.document()->find(query, match, flags))
+        starts.append(match.selectionStart());
+    return starts;
+}
+
 int EditorSearch::replaceAll(const QString& what, const QString& with,
                              QTextDocument::FindFlags flags) {
-    QTextDocument& document = *editor_.document();
-    QTextCursor match = document.find(what, 0, flags);
-    if (match.isNull())
+    const QList<int> found = starts(what, flags);
+    if (found.isEmpty())
         return 0;
-    QTextCursor edit(&document);
+    QTextCursor edit(editor_.document());
     edit.beginEditBlock();
-    int count = 0;
-    for (; !match.isNull(); ++count) {
-        edit.setPosition(match.selectionStart());
-        edit.setPosition(match.selectionEnd(), QTextCursor::KeepAnchor);
-        edit.insertText(with);
-        match = document.find(what, edit, flags); // behind what was inserted
-    }
+    const int length = static_cast<int>(what.size());
+    if (found.size() > manyMatches)
+        replaceStretch(edit, found, length, with);
+    else
+        for (auto start = found.crbegin(); start != found.crend(); ++start)
+            replaceAt(edit, *start, length, with);
     edit.endEditBlock();
-    return count;
+    return static_cast<int>(found.size());
+}
+
+/// All at once from the first match to the last: so many edits would take minutes. Only the
+/// cursor has to be brought back to its place then.
+void EditorSearch::replaceStretch(QTextCursor& edit, const QList<int>& starts, int length,
+                                  const QString& with) {
+    const QString before = editor_.document()->toPlainText();
+    const int line = editor_.textCursor().blockNumber();
+    const int column = editor_.textCursor().positionInBlock();
+    QString after;
+    int end = starts.first();
+    for (const int start : starts) {
+        after += QStringView(before).sliced(end, start - end);
+        after += with;
+        end = start + length;
+    }
+    replaceAt(edit, starts.first(), end - starts.first(), after);
+    const QTextBlock block = editor_.document()->findBlockByNumber(line);
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + std::min(column, block.length() - 1));
+    editor_.setTextCursor(cursor);
 }

@@ -3,12 +3,14 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QPair>
 #include <QString>
 #include <QTextDocument>
 #include <QTextEdit>
 
 class QPlainTextEdit;
+class QTextCursor;
 
 /// Queries must not be empty.
 class EditorSearch {
@@ -22,8 +24,10 @@ public:
     Outcome next(const QString& query, QTextDocument::FindFlags flags);
     /// Whether what is selected is a match.
     bool hasMatch(const QString& query, QTextDocument::FindFlags flags) const;
-    QList<QTextEdit::ExtraSelection> marks(const QString& query,
-                                           QTextDocument::FindFlags flags) const;
+    /// Positions of all matches.
+    QList<int> starts(const QString& query, QTextDocument::FindFlags flags) const;
+    /// Marks for matches there; of very many, for the first ones.
+    QList<QTextEdit::ExtraSelection> marks(const QList<int>& starts, int length) const;
     /// In the whole document, as one step to undo. How many.
     int replaceAll(const QString& what, const QString& with, QTextDocument::FindFlags flags);
     /// The next search begins a new round.
@@ -31,6 +35,8 @@ public:
 
 private:
     bool select(const QString& query, QTextDocument::FindFlags flags);
+    void replaceStretch(QTextCursor& edit, const QList<int>& starts, int length,
+                        const QString& with);
 
     QPlainTextEdit& editor_;
     QTextDocument::FindFlags flags_; ///< of the searches in the history
