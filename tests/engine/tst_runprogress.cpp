@@ -51,13 +51,12 @@ public:
 
     /// Another thread does this as soon as act was called: milliseconds later the press comes.
     void pressSoon(QAbstractButton* button, int milliseconds) {
-        hand_ = std::thread([this, button, milliseconds] {
+        const std::function<void()> press = [button] { QTest::mouseClick(button, Qt::LeftButton); };
+        hand_ = std::thread([this, button, milliseconds, press] {
             std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
             sincePress_.start();
             pressed_ = true;
-            QMetaObject::invokeMethod(
-                button, [button] { QTest::mouseClick(button, Qt::LeftButton); },
-                Qt::QueuedConnection);
+            QMetaObject::invokeMethod(button, press, Qt::QueuedConnection);
         });
     }
     /// From the press until now; -1 where there was none.

@@ -18,9 +18,8 @@ constexpr int mostUntilEnd = 99;
 RunDialog* dialogOf(RunProgress::Kind kind, QWidget* parent) {
     static std::array<QPointer<RunDialog>, 2> dialogs;
     QPointer<RunDialog>& dialog = dialogs.at(static_cast<std::size_t>(kind));
-    if (dialog && dialog->parentWidget() != parent)
-        delete dialog;
-    if (!dialog) {
+    if (!dialog || dialog->parentWidget() != parent) {
+        delete dialog.data();
         dialog = new RunDialog(parent);
         dialog->setObjectName(kind == RunProgress::Kind::Program
                                   ? QStringLiteral("runProgress")
