@@ -61,9 +61,9 @@ ProgramFixture::~ProgramFixture() {
     kel::destroy();
 }
 
-void ProgramFixture::openDictionary() {
+void ProgramFixture::openDictionary(const QString& name) {
     TfrmProject& project = TfrmProject::instance();
-    const QString file = path(QStringLiteral("small.kxdb"));
+    const QString file = path(name);
     project.beginOpening(file, DictionaryKind::Kxdb);
     project.stageDictionary(kel::readDictionary(file.toStdString(), nullptr, true));
     project.adoptStagedDictionary();

@@ -51,7 +51,7 @@ public:
     ProgramFixture(const ProgramFixture&) = delete;
     ProgramFixture& operator=(const ProgramFixture&) = delete;
 
-    void openDictionary();
+    void openDictionary(const QString& name = QStringLiteral("small.kxdb"));
     void closeDictionary();
     QString folder() const { return folder_.path(); }
     QString path(const QString& name) const { return folder_.filePath(name); }

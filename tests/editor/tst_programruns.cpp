@@ -4,16 +4,19 @@
 #include "ProgramFixture.h"
 
 #include "editor/text/Editor.h"
+#include "sample/sample.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMenu>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
+#include <QTimer>
 
 class TestProgramRuns : public QObject {
     Q_OBJECT
@@ -37,6 +40,7 @@ private slots:
     void showsAHiddenListForErrors();
     void copiesAndClearsTheList();
     void needsADictionary();
+    void canBeCancelledAndDoesNothingElseMeanwhile();
 
 private:
     void setText(const QString& text) const { window_->currentEditor()->setPlainText(text); }
@@ -243,6 +247,38 @@ void TestProgramRuns::needsADictionary() {
     press(Qt::Key_F9);
     QCOMPARE(fixture_->messages, QStringList(2, "The <b>Select at least one dictionary</b> "));
     QCOMPARE(rows(), QStringList());
+    fixture_->openDictionary();
+}
+
+void TestProgramRuns::canBeCancelledAndDoesNothingElseMeanwhile() {
+    kelx::tools::SampleRequest request;
+    request.folder = fixture_->folder().toStdString();
+    request.persons = 300'000;
+    request.overwrite = true;
+    kelx::tools::writeSample(request);
+    fixture_->openDictionary("sample.kxdb");
+    setText(QString("freq PERSON.INCOME by PERSON.AGE by PERSON.EDUCATION\n").repeated(200));
+    QElapsedTimer sinceCancel;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&] {
+        QWidget* progress = QApplication::activeModalWidget();
+        if (progress == nullptr || !progress->isActiveWindow() || sinceCancel.isValid())
+            return;
+        QVERIFY(!ProgramFixture::action(*window_, "actionRun")->isEnabled());
+        QVERIFY(!window_->parentWidget()->close());
+        window_->on_actionRun_triggered();
+        sinceCancel.start();
+        QTest::keyClick(progress, Qt::Key_Escape);
+    });
+    user.start(10);
+    press(Qt::Key_F9);
+    QVERIFY2(sinceCancel.isValid(), "the run ended before its progress showed");
+    QVERIFY2(sinceCancel.elapsed() < 1000, qPrintable(QString::number(sinceCancel.elapsed())));
+    QCOMPARE(fixture_->shell.programs, QStringList());
+    QVERIFY(fixture_->shell.statuses.contains("Execution Canceled"));
+    QCOMPARE(rows(), QStringList());
+    QVERIFY(window_->isVisible());
+    QVERIFY(ProgramFixture::action(*window_, "actionRun")->isEnabled());
     fixture_->openDictionary();
 }
 
