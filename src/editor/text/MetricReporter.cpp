@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/text/MetricReporter.h"
 
+#include "app/widgets/ElidedLabel.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 
 MetricReporter::MetricReporter(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("metricReporter"));
@@ -17,8 +18,8 @@ MetricReporter::MetricReporter(QWidget* parent) : QFrame(parent) {
     showAll();
 }
 
-QLabel* MetricReporter::addLabel(const char* name) {
-    auto* label = new QLabel(this);
+ElidedLabel* MetricReporter::addLabel(const char* name) {
+    auto* label = new ElidedLabel(this); // a narrow window has no room for all
     label->setObjectName(QLatin1String(name));
     layout()->addWidget(label);
     return label;
@@ -26,23 +27,24 @@ QLabel* MetricReporter::addLabel(const char* name) {
 
 void MetricReporter::updateWordCount(int words) {
     words_ = words;
-    wordLabel_->setText(tr("Words: ") + QString::number(words));
+    wordLabel_->setFullText(tr("Words: ") + QString::number(words));
 }
 
 void MetricReporter::updateCharCount(int chars) {
     chars_ = chars;
-    charLabel_->setText(tr("Chars: ") + QString::number(chars));
+    charLabel_->setFullText(tr("Chars: ") + QString::number(chars));
 }
 
 void MetricReporter::updateLineCount(int current, int total) {
     line_ = current;
     lines_ = total;
-    lineLabel_->setText(tr("Line: ") + QString::number(current) + u'/' + QString::number(total));
+    lineLabel_->setFullText(tr("Line: ") + QString::number(current) + u'/' +
+                            QString::number(total));
 }
 
 void MetricReporter::updateColumnCount(int column) {
     column_ = column;
-    columnLabel_->setText(tr("Column: ") + QString::number(column));
+    columnLabel_->setFullText(tr("Column: ") + QString::number(column));
 }
 
 void MetricReporter::showAll() {

@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-class QLabel;
+class ElidedLabel;
 
 class MetricReporter : public QFrame {
     Q_OBJECT
@@ -22,13 +22,13 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QLabel* addLabel(const char* name);
+    ElidedLabel* addLabel(const char* name);
     void showAll();
 
-    QLabel* wordLabel_;
-    QLabel* charLabel_;
-    QLabel* lineLabel_;
-    QLabel* columnLabel_;
+    ElidedLabel* wordLabel_;
+    ElidedLabel* charLabel_;
+    ElidedLabel* lineLabel_;
+    ElidedLabel* columnLabel_;
     int words_ = 0;
     int chars_ = 0;
     int line_ = 1;
