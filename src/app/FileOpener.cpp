@@ -47,13 +47,19 @@ void FileOpener::openFile(const QString& path, const QString& extension) {
     const QString kind = extension.toLower();
     if (isLoading() || RunGuard::isRunning() || !canOpen(path, kind))
         return;
-    if (!workArea_.isEmptyBut(preferencesName)) {
-        showError(tr("Please, close all the windows from the application work area before changing "
-                     "the dictionary"));
+    // Programs may be open before the first dictionary is.
+    if (TfrmProject::instance().isOpen() && windowsStandAgainst())
         return;
-    }
     if (closeDictionary())
         openDictionary(path);
+}
+
+bool FileOpener::windowsStandAgainst() const {
+    if (workArea_.isEmptyBut(preferencesName))
+        return false;
+    showError(tr("Please, close all the windows from the application work area before changing "
+                 "the dictionary"));
+    return true;
 }
 
 void FileOpener::openRecent(const QString& path) {
@@ -64,6 +70,8 @@ void FileOpener::openRecent(const QString& path) {
         system_.removeRecentProject(path);
         emit recentGone();
     }
+    if (QFileInfo::exists(path) && windowsStandAgainst())
+        return;
     openFile(path, QFileInfo(path).suffix());
 }
 

@@ -46,6 +46,7 @@ signals:
     void quickViewEntity(TKpEntity* entity);
 
 private:
+    bool windowsStandAgainst() const; ///< tells the user
     bool canOpen(const QString& path, const QString& extension) const;
     void openDictionary(const QString& path);
     void onLoaded(bool found);

@@ -41,10 +41,13 @@ MainWindow* theWindow = nullptr;
 const QString preferencesName = QStringLiteral("Preferences");
 const QString quickViewName = QStringLiteral("VarProperties");
 
-bool saves(const QString& program) {
-    static const QRegularExpression clause(QStringLiteral(R"(.*save\s+\"([^\"]*)\".*)"),
-                                           QRegularExpression::CaseInsensitiveOption);
-    return clause.match(program).hasMatch();
+/// A program that is called may save as well.
+bool maySave(const QString& program) {
+    static const QRegularExpression save(QStringLiteral(R"(.*save\s+\"([^\"]*)\".*)"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression execute(QStringLiteral(R"(execute\s+\")"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return save.match(program).hasMatch() || execute.match(program).hasMatch();
 }
 
 } // namespace
@@ -323,7 +326,9 @@ void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
                              const QString& programText) {
     if (!outputs.empty())
         addResults(outputs, session);
-    if (saves(programText))
+    // A table that is saved leaves the dictionary as it is.
+    const auto& dictionary = TfrmProject::instance().dictionary();
+    if (maySave(programText) && dictionary != nullptr && dictionary->isDirty())
         reloadDictionary();
 }
 
@@ -334,9 +339,6 @@ void MainWindow::addResults(const std::vector<TKelOutput*>& outputs,
     if (resultsManager_->addOutputs(outputs, session) > 0)
         onShowResults();
     rebuildToolbars();
-    const QStringList faults = writeDirectOutputs(outputs);
-    if (!faults.isEmpty())
-        showWarning(faults.join('\n'));
 }
 
 void MainWindow::reloadDictionary() {
@@ -348,7 +350,7 @@ QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outpu
     QStringList faults;
     for (TKelOutput* output : outputs)
         if (output->options().direct)
-            faults += tr("%1: files cannot be written yet")
+            faults += tr("%1 was not written: the workbench writes no results into files yet")
                           .arg(QString::fromStdString(output->options().outputFile));
     return faults;
 }

@@ -58,7 +58,7 @@ QString countedUnit(const TKelOutput& output, const TKelVariable& variable) {
 
 } // namespace
 
-std::optional<FrequencyTable> FrequencyTable::fromOutput(TKelOutput& output) {
+std::optional<FrequencyTable> FrequencyTable::fromOutput(TKelOutput& output, const QString& areas) {
     TKelDataset* data = output.dataset();
     const auto variables = output.variables();
     if (output.type() != eOutputType::TABLE || output.method() != eTableMethod::FREQUENCY ||
@@ -73,6 +73,8 @@ std::optional<FrequencyTable> FrequencyTable::fromOutput(TKelOutput& output) {
     table.unit_ = countedUnit(output, variable);
     table.weight_ = QString::fromStdString(output.options().weightVariable.value_or(""));
     table.filter_ = QString::fromStdString(output.options().filter.value_or(""));
+    table.programTitle_ = QString::fromStdString(output.options().title.value_or(""));
+    table.areas_ = areas;
     table.decimals_ = output.options().decimals.value_or(2);
     table.suppressed_ = output.suppressed();
     for (std::int64_t row = 0; row < data->recCount(); ++row)
@@ -84,12 +86,16 @@ std::optional<FrequencyTable> FrequencyTable::fromOutput(TKelOutput& output) {
 }
 
 QString FrequencyTable::title() const {
+    if (!programTitle_.isEmpty())
+        return programTitle_;
     return variableLabel_.isEmpty() ? variable_ : variable_ + " – " + variableLabel_;
 }
 
 QString FrequencyTable::note() const {
     QStringList parts{tr("Unit of count: %1").arg(unit_)};
     parts += weight_.isEmpty() ? tr("Not weighted") : tr("Weight: %1").arg(weight_);
+    if (!areas_.isEmpty())
+        parts += tr("Areas: %1").arg(areas_);
     if (!filter_.isEmpty())
         parts += tr("Filter: %1").arg(filter_);
     if (suppressed_ > 0)

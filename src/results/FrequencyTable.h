@@ -28,11 +28,12 @@ class FrequencyTable {
 
 public:
     /// Nothing where the output is no frequency of one variable.
-    static std::optional<FrequencyTable> fromOutput(TKelOutput& output);
+    /// areas: what the run was limited to.
+    static std::optional<FrequencyTable> fromOutput(TKelOutput& output, const QString& areas = {});
 
     const QList<FrequencyRow>& rows() const { return rows_; }
     QString variable() const { return variable_; } ///< ENTITY.VARIABLE
-    QString title() const;                         ///< the variable and its label
+    QString title() const;                         ///< the program's, or the variable and its label
     QString unit() const { return unit_; }         ///< the counted entity
     QString weight() const { return weight_; }     ///< empty for a plain count
     /// What was counted, how it was weighted, what was left out: a line for each.
@@ -48,7 +49,7 @@ public:
 
 private:
     QList<FrequencyRow> rows_;
-    QString variable_, variableLabel_, unit_, weight_, filter_;
+    QString variable_, variableLabel_, programTitle_, unit_, weight_, filter_, areas_;
     std::int64_t suppressed_ = 0;
     int decimals_ = 2;
     bool fractions_ = false;

@@ -41,6 +41,11 @@ QString markerName(const QString& marker) {
 
 } // namespace
 
+QString selectedAreas(TKelSession& session) {
+    const auto definition = session.runDefinition();
+    return definition ? text(definition->selection()->label()) : QString();
+}
+
 QString OutputTable::name() const {
     return text(output->name());
 }
@@ -52,6 +57,9 @@ QString OutputTable::title() const {
 
 QString OutputTable::note() const {
     QStringList parts;
+    const QString areas = selectedAreas(*session);
+    if (!areas.isEmpty())
+        parts += OutputModel::tr("Areas: %1").arg(areas);
     const TKelOutputConfig& options = output->options();
     if (options.weightVariable)
         parts += OutputModel::tr("Weight: %1").arg(text(*options.weightVariable));
@@ -87,8 +95,8 @@ void OutputModel::setTable(const OutputTable& table) {
 
 void OutputModel::addDimension(int dimension, const QString& heading) {
     const int code = fieldsOfDimension * dimension;
-    columns_ += Column{code, code + 2, true, true, heading};
-    columns_ += Column{code + 1, code + 2, false, true, tr("Label")};
+    columns_ += Column{code, code + 2, true, true, true, heading};
+    columns_ += Column{code + 1, code + 2, false, true, true, tr("Label")};
 }
 
 void OutputModel::addField(int field) {
@@ -99,7 +107,10 @@ void OutputModel::addField(int field) {
     std::pair<double, double> range;
     data_->range(range, field);
     const bool isText = range.first == 0 && range.second == 0;
-    columns_ += Column{field, -1, false, isText, marker.isEmpty() ? own : marker};
+    // Those of variables bear their names; a code or a year is no figure to group.
+    const bool isStored = table_.output->type() == eOutputType::AREALIST &&
+                          QString::fromStdString(told->name()).contains(u'.');
+    columns_ += Column{field, -1, false, isText, isStored, marker.isEmpty() ? own : marker};
 }
 
 int OutputModel::rowCount(const QModelIndex& parent) const {
@@ -122,10 +133,12 @@ QString OutputModel::cell(int row, const Column& column) const {
     return text(data_->stringValue(row, column.field));
 }
 
-QString OutputModel::shown(const QString& figure) const {
-    if (!figure.contains(u'.'))
-        return figure.isEmpty() ? figure : QLocale().toString(figure.toLongLong());
-    return QLocale().toString(figure.toDouble(), 'f', decimals_);
+QString OutputModel::shown(const QString& figure, bool isStored) const {
+    bool isNumber = false;
+    const double number = figure.toDouble(&isNumber);
+    if (!isNumber || isStored)
+        return figure;
+    return QLocale().toString(number, 'f', figure.contains(u'.') ? decimals_ : 0);
 }
 
 QVariant OutputModel::data(const QModelIndex& index, int role) const {
@@ -133,7 +146,8 @@ QVariant OutputModel::data(const QModelIndex& index, int role) const {
         return {};
     const Column& column = columns_[index.column()];
     if (role == Qt::DisplayRole)
-        return column.isText ? cell(index.row(), column) : shown(cell(index.row(), column));
+        return column.isText ? cell(index.row(), column)
+                             : shown(cell(index.row(), column), column.isStored);
     if (role == Qt::EditRole || role == Qt::ToolTipRole)
         return cell(index.row(), column);
     if (role == Qt::TextAlignmentRole)

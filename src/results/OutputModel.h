@@ -12,6 +12,9 @@ class TKelDataset;
 class TKelOutput;
 class TKelSession;
 
+/// What the run was limited to; empty for the whole database.
+QString selectedAreas(TKelSession& session);
+
 /// An output to show, with the session that it belongs to.
 struct OutputTable {
     std::shared_ptr<TKelSession> session;
@@ -19,7 +22,7 @@ struct OutputTable {
 
     QString name() const;
     QString title() const; ///< the name, and the program's title for it
-    QString note() const;  ///< weight, filter and hidden cells, a line for each
+    QString note() const;  ///< areas, weight, filter and hidden cells, a line for each
 };
 
 /// The display role gives figures with the output's decimals, the edit role in full precision.
@@ -42,12 +45,14 @@ private:
         int kindField = -1;  ///< where the field's rows may be markers
         bool isCode = false; ///< empty in the row of a marker
         bool isText = true;
+        bool isStored = false; ///< a value of the database, shown as it stands
         QString heading;
     };
     void addDimension(int dimension, const QString& heading);
     void addField(int field);
     QString cell(int row, const Column& column) const;
-    QString shown(const QString& figure) const; ///< in the form of the interface language
+    /// In the form of the interface language.
+    QString shown(const QString& figure, bool isStored) const;
 
     OutputTable table_;
     TKelDataset* data_ = nullptr;

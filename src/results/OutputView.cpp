@@ -73,8 +73,7 @@ void OutputView::copySelection() const {
     const QItemSelectionModel& selection = *table_->selectionModel();
     for (int row = 0; row < model_->rowCount(); ++row)
         if (!selection.hasSelection() || selection.isRowSelected(row))
-            text +=
-                line([&](int column) { return model_->index(row, column).data(Qt::DisplayRole); });
+            text += line([&](int column) { return model_->index(row, column).data(Qt::EditRole); });
     QGuiApplication::clipboard()->setText(text);
 }
 

@@ -34,8 +34,9 @@ ResultsManager::ResultsManager(QWidget* parent)
 std::size_t ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs,
                                        const std::shared_ptr<TKelSession>& session) {
     const int before = tableCount();
+    const QString areas = selectedAreas(*session);
     for (TKelOutput* output : outputs) {
-        if (auto table = FrequencyTable::fromOutput(*output)) {
+        if (auto table = FrequencyTable::fromOutput(*output, areas)) {
             const QString name = table->variable();
             const QString title = table->title();
             addTable(std::move(*table), name, title);

@@ -8,10 +8,13 @@
 #include "sample/sample.h"
 
 #include <QDockWidget>
+#include <QLabel>
+#include <QLocale>
 #include <QMdiArea>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 
@@ -124,6 +127,31 @@ private slots:
         QCOMPARE(bench_->messages.size(), 1);
         QVERIFY(bench_->messages[0].contains("sex.csv"));
         QCOMPARE(bench_->find<QAbstractItemView>("resultList")->model()->rowCount(), 4);
+    }
+
+    void figuresShowInTheirForm() {
+        const auto* table = bench_->find<QTableView>("outputTable");
+        const auto shown = [&](int row, int column, Qt::ItemDataRole role = Qt::DisplayRole) {
+            return table->model()->index(row, column).data(role).toString();
+        };
+        // A year is no figure to group.
+        bench_->window().runProgram("VIEW EMIGRANT, EMIGRANT.YEAR");
+        QTRY_VERIFY(table->isVisible());
+        QVERIFY2(shown(0, 1).startsWith("20") && shown(0, 1).size() == 4, qPrintable(shown(0, 1)));
+        bench_->window().runProgram("COUNT PERSON");
+        QCOMPARE(shown(0, 1), "1,000,000");
+        // Beyond the whole numbers of 64 bits.
+        bench_->window().runProgram(
+            "DEFINE PERSON.BIG AS PERSON.AGE * 1000000000000000.0 * 10000.0\n"
+            "SUM PERSON.BIG\n");
+        const double sum = shown(0, 0, Qt::EditRole).toDouble();
+        QVERIFY2(sum > 1e26, qPrintable(shown(0, 0, Qt::EditRole)));
+        QCOMPARE(QLocale().toDouble(shown(0, 0)), sum);
+        bench_->window().runProgram("RUNDEF SELECTION INLINE PROVINCE \"01\"\n"
+                                    "FREQ PERSON.SEX TITLE \"Sex in the first province\"");
+        QCOMPARE(bench_->messages, QStringList());
+        QCOMPARE(bench_->find<QLabel>("frequencyTitle")->text(), "Sex in the first province");
+        QVERIFY(bench_->find<QLabel>("frequencyNote")->text().contains("Areas: "));
     }
 };
 

@@ -9,8 +9,9 @@
 MetricReporter::MetricReporter(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("metricReporter"));
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(fontMetrics().horizontalAdvance(u'9') * 2);
+    const int gap = fontMetrics().horizontalAdvance(u'9') * 2;
+    row->setContentsMargins(gap, 0, 0, 0);
+    row->setSpacing(gap);
     wordLabel_ = addLabel("wordLabel");
     charLabel_ = addLabel("charLabel");
     lineLabel_ = addLabel("lineLabel");

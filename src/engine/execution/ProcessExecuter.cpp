@@ -182,6 +182,11 @@ void ProcessExecuter::showOutputs(const std::shared_ptr<TKelSession>& session, c
     shell_.showResults(outputs, session, run.shownText);
     if (creating)
         shell_.showStatus(tr("Table Created"), false);
+    const QStringList faults = shell_.writeDirectOutputs(outputs);
+    if (run.errors != nullptr)
+        run.errors->addItems(faults);
+    else if (!faults.isEmpty())
+        showWarning(faults.join(u'\n'));
 }
 
 QStringList ProcessExecuter::compileMessages(const Listener& listener, bool block, bool report) {
