@@ -7,6 +7,7 @@
 #include "app/ribbon/tt/CompactToolButton.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "app/settings/KelSystem.h"
+#include "editor/files/RecoveryDialog.h"
 #include "editor/program/ProcessProgramSPC.h"
 #include "editor/text/Editor.h"
 
@@ -17,8 +18,13 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QProgressDialog>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+
+#include <stdexcept>
 
 namespace {
 
@@ -52,13 +58,15 @@ void Tour::programs() {
     colourSchemes();
     findPanel();
     executeWindow();
+    progress();
     samplePrograms();
 }
 
 ProcessProgramSPC& Tour::program() const {
     const QMdiSubWindow* frame = find<QMdiArea>(window_, "workArea")->activeSubWindow();
     auto* window = frame != nullptr ? qobject_cast<ProcessProgramSPC*>(frame->widget()) : nullptr;
-    require(window != nullptr, QStringLiteral("no program window is in front"));
+    if (window == nullptr)
+        throw std::runtime_error("no program window is in front");
     return *window;
 }
 
@@ -149,6 +157,45 @@ void Tour::executeWindow() {
     shoot(QStringLiteral("program-execute"));
 }
 
+/// A long run, which ends by its Cancel button.
+void Tour::progress() {
+    programFromRibbon("File-new", QStringLiteral("newProgram"));
+    editor().insertPlainText(
+        QStringLiteral("FREQ PERSON.INCOME BY PERSON.AGE BY PERSON.OCCUPATION\n").repeated(300));
+    int seen = 0; // times, until it is painted
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        auto* dialog = window_.findChild<QProgressDialog*>(QStringLiteral("runProgress"));
+        if (dialog == nullptr || !dialog->isVisible() || ++seen != 5)
+            return;
+        saveScreen(QStringLiteral("program-progress"));
+        QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
+    });
+    timer.start(20);
+    QTest::keyClick(&editor(), Qt::Key_F9);
+    require(seen >= 5, QStringLiteral("the run shows no progress"));
+    program().parentWidget()->close();
+}
+
+void Tour::recovery() {
+    const QTemporaryDir folder;
+    RecoveryStore store(folder.path());
+    RecoveryCopy untitled;
+    untitled.id = QStringLiteral("1");
+    untitled.name = QStringLiteral("Untitled document");
+    untitled.written = QDateTime(QDate(2026, 1, 15), QTime(9, 30));
+    untitled.text = faulty;
+    RecoveryCopy saved = untitled;
+    saved.id = QStringLiteral("2");
+    saved.name = QStringLiteral("population.spc");
+    saved.filePath = QStringLiteral("/data/census/population.spc");
+    saved.text = QStringLiteral("FREQ PERSON.SEX\n");
+    RecoveryDialog dialog(store, {untitled, saved}, &window_);
+    dialog.show();
+    QTest::qWait(100);
+    save(dialog.grab(), QStringLiteral("recovery"));
+}
+
 void Tour::samplePrograms() {
     for (const QString name : {"population.spc", "districts.spc", "housing.spc", "income.spc",
                                "provinces.spc", "capital.spc", "profiles.spc", "variables.spc"}) {
@@ -171,9 +218,10 @@ void Tour::programIn(const QString& language) {
     for (QMdiSubWindow* frame : area->subWindowList())
         if (qobject_cast<ProcessProgramSPC*>(frame->widget()) != nullptr)
             area->setActiveSubWindow(frame);
+    shoot(QStringLiteral("program-") + language);
     auto* menu = find<QMenu>(program(), "menuEdit");
     menu->popup(program().mapToGlobal(QPoint(30, 30)));
-    shootScreen(QStringLiteral("program-") + language);
+    shootScreen(QStringLiteral("program-menu-") + language);
     menu->close();
     area->setActiveSubWindow(before);
 }

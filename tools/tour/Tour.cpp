@@ -169,6 +169,7 @@ void Tour::dialogs() {
     PathLocator::Item missing;
     missing.entity =
         DictionaryUtil().findEntity(TfrmProject::instance().root(), QStringLiteral("HOUSEHOLD"));
+    recovery();
     shootModal(QStringLiteral("locate"), [&] { LocatePaths(missing, 1, 3, &window_).exec(); });
 }
 
@@ -230,6 +231,10 @@ void Tour::shoot(const QString& name) {
 
 void Tour::shootScreen(const QString& name) {
     QTest::qWait(100);
+    saveScreen(name);
+}
+
+void Tour::saveScreen(const QString& name) {
     const QRect place = window_.geometry();
     save(QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(),
                                                       place.height()),

@@ -40,6 +40,8 @@ private:
     void colourSchemes();
     void findPanel();
     void executeWindow();
+    void progress();
+    void recovery();
     /// The programs beside the dictionary open from the ribbon and run.
     void samplePrograms();
     void programIn(const QString& language); ///< with its menus of that language
@@ -55,6 +57,7 @@ private:
 
     void shoot(const QString& name);       ///< the window, as NN-name.png
     void shootScreen(const QString& name); ///< with menus
+    void saveScreen(const QString& name);  ///< the same at once
     void save(const QPixmap& picture, const QString& name);
 
     MainWindow& window_;

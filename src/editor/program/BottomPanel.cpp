@@ -5,14 +5,31 @@
 #include "editor/search/FindDialog.h"
 
 #include <QKeyEvent>
+#include <QScrollArea>
+
+namespace {
+
+/// Some languages need more width than a small window has.
+QScrollArea* pageAround(QWidget* content) {
+    auto* page = new QScrollArea;
+    page->setFrameShape(QFrame::NoFrame);
+    page->setFocusPolicy(Qt::NoFocus);
+    page->setWidgetResizable(true);
+    page->setWidget(content);
+    page->setMinimumHeight(content->minimumSizeHint().height());
+    return page;
+}
+
+} // namespace
 
 BottomPanel::BottomPanel(QWidget* parent)
-    : QTabWidget(parent), errors_(new ErrorList(this)), find_(new FindDialog(this)) {
+    : QTabWidget(parent), errors_(new ErrorList(this)), find_(new FindDialog(this)),
+      findPage_(pageAround(find_)) {
     setObjectName(QStringLiteral("bottomTabs"));
     setDocumentMode(true);
     setTabPosition(QTabWidget::South);
     addTab(errors_, QString());
-    addTab(find_, find_->windowTitle());
+    addTab(findPage_, find_->windowTitle());
     connect(find_, &FindDialog::editorWanted, this, &BottomPanel::left);
     connect(find_, &QWidget::windowTitleChanged, this,
             [this](const QString& title) { setTabText(1, title); });
@@ -24,11 +41,11 @@ void BottomPanel::showErrors() {
 }
 
 void BottomPanel::showFind() {
-    setCurrentWidget(find_);
+    setCurrentWidget(findPage_);
 }
 
 bool BottomPanel::isFinding() const {
-    return isVisible() && currentWidget() == find_ && find_->focusWidget() != nullptr &&
+    return isVisible() && currentWidget() == findPage_ && find_->focusWidget() != nullptr &&
            find_->focusWidget()->hasFocus();
 }
 

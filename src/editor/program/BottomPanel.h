@@ -29,4 +29,5 @@ protected:
 private:
     ErrorList* errors_;
     FindDialog* find_;
+    QWidget* findPage_;
 };
