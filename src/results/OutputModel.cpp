@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr int fieldsOfDimension = 3; ///< code, label, kind
+constexpr int fieldsOfDimension = 3;  ///< code, label, kind
+constexpr int columnsOfDimension = 2; ///< code and label
 constexpr int usualDecimals = 2;
 
 QString text(const std::string& words) {
@@ -80,12 +81,12 @@ void OutputModel::setTable(const OutputTable& table) {
     if (data_ != nullptr) {
         int field = 0;
         if (hasTriples(*table.output)) {
-            const int dimensions = table.output->dimension();
             const auto variables = table.output->variables();
-            const int first = static_cast<int>(variables.size()) - dimensions;
-            for (int i = 0; i < dimensions && first >= 0; ++i)
-                addDimension(i, text(variables[static_cast<std::size_t>(first + i)]->name()));
-            field = fieldsOfDimension * dimensions;
+            const auto dimensions = static_cast<std::size_t>(table.output->dimension());
+            // The measured variable stands before those that span the table.
+            for (std::size_t i = variables.size() - dimensions; i < variables.size(); ++i)
+                addDimension(text(variables[i]->name()));
+            field = fieldsOfDimension * table.output->dimension();
         }
         for (; field < data_->numFields(); ++field)
             addField(field);
@@ -93,8 +94,8 @@ void OutputModel::setTable(const OutputTable& table) {
     endResetModel();
 }
 
-void OutputModel::addDimension(int dimension, const QString& heading) {
-    const int code = fieldsOfDimension * dimension;
+void OutputModel::addDimension(const QString& heading) {
+    const int code = fieldsOfDimension * static_cast<int>(columns_.size()) / columnsOfDimension;
     columns_ += Column{code, code + 2, true, true, true, heading};
     columns_ += Column{code + 1, code + 2, false, true, true, tr("Label")};
 }

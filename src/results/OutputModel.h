@@ -48,7 +48,7 @@ private:
         bool isStored = false; ///< a value of the database, shown as it stands
         QString heading;
     };
-    void addDimension(int dimension, const QString& heading);
+    void addDimension(const QString& heading);
     void addField(int field);
     QString cell(int row, const Column& column) const;
     /// In the form of the interface language.

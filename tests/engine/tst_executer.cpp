@@ -161,7 +161,7 @@ private slots:
         const auto session = TfrmProject::instance().session();
         executer_.reset();
         // Would call both, had they stayed.
-        QVERIFY_EXCEPTION_THROWN(session->compile("FREQ PERSON.SEXX"), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, session->compile("FREQ PERSON.SEXX"));
         session->executeText("COUNT PERSON", nullptr);
         QVERIFY(!listener->hasErrors());
     }
