@@ -22,14 +22,20 @@ constexpr int mostBeside = 30; ///< entries of a menu
 ProgramWindows::ProgramWindows(Shell& shell, WorkArea& workArea, KelSystem& system, QObject* parent)
     : QObject(parent), shell_(shell), workArea_(workArea), system_(system) {}
 
-ProcessProgramSPC* ProgramWindows::makeWindow(bool execute) {
-    auto* window =
-        execute ? new ExecuteProgramSPC(shell_, system_) : new ProcessProgramSPC(shell_, system_);
-    connect(window, &ProcessProgramSPC::fileUsed, this, [this, execute](const QString& path) {
-        system_.addRecentProgram(path, execute);
-        emit recentChanged();
-    });
+ProcessProgramSPC* ProgramWindows::makeWindow(bool execute, const QString& path) {
+    ProcessProgramSPC* window = execute ? new ExecuteProgramSPC(shell_, system_, path)
+                                        : new ProcessProgramSPC(shell_, system_, path);
+    connect(window, &ProcessProgramSPC::fileUsed, this,
+            [this, execute](const QString& used) { noteUse(used, execute); });
+    window->setOtherWindows(
+        {[this, window](const QString& wanted) { return frameOf(wanted, window) != nullptr; },
+         [this, window](const QString& wanted) { return goTo(wanted, window); }});
     return window;
+}
+
+void ProgramWindows::noteUse(const QString& path, bool execute) {
+    system_.addRecentProgram(path, execute);
+    emit recentChanged();
 }
 
 void ProgramWindows::show(ProcessProgramSPC* window) {
@@ -40,34 +46,53 @@ void ProgramWindows::newProgram(bool execute) {
     show(makeWindow(execute));
 }
 
-bool ProgramWindows::goTo(const QString& path, bool execute) {
+QMdiSubWindow* ProgramWindows::frameOf(const QString& path, const QWidget* besides) const {
     for (QMdiSubWindow* frame : workArea_.windows()) {
-        auto* window = qobject_cast<ProcessProgramSPC*>(frame->widget());
-        if (window == nullptr || window->isExecuteWindow() != execute || !window->hasFile(path))
-            continue;
-        workArea_.setActiveSubWindow(frame);
-        return window->openFile(path);
+        const auto* window = qobject_cast<ProcessProgramSPC*>(frame->widget());
+        if (window != nullptr && window != besides && window->hasFile(path))
+            return frame;
     }
-    return false;
+    return nullptr;
+}
+
+bool ProgramWindows::goTo(const QString& path, const QWidget* besides) {
+    QMdiSubWindow* frame = frameOf(path, besides);
+    if (frame == nullptr)
+        return false;
+    workArea_.setActiveSubWindow(frame);
+    return qobject_cast<ProcessProgramSPC*>(frame->widget())->openFile(path);
 }
 
 void ProgramWindows::openProgram(const QString& path, bool execute) {
-    if (goTo(path, execute))
+    if (goTo(path))
         return;
-    ProcessProgramSPC* window = makeWindow(execute);
-    if (window->openFile(path))
-        show(window);
-    else
+    ProcessProgramSPC* window = makeWindow(execute, path);
+    if (!window->hasRead()) {
         delete window; // it has told why
+        return;
+    }
+    show(window);
+    if (window->hasFile(path))
+        noteUse(path, execute); // it was read before anyone listened
+}
+
+ProcessProgramSPC* ProgramWindows::windowFor(const RecoveryCopy& copy, MadeWindows& made) {
+    if (QMdiSubWindow* frame = copy.filePath.isEmpty() ? nullptr : frameOf(copy.filePath)) {
+        workArea_.setActiveSubWindow(frame);
+        return qobject_cast<ProcessProgramSPC*>(frame->widget());
+    }
+    ProcessProgramSPC*& window = made[copy.executeMode];
+    if (window == nullptr) {
+        window = makeWindow(copy.executeMode);
+        show(window);
+    }
+    return window;
 }
 
 void ProgramWindows::offerRecovered() {
-    for (const RecoveryCopy& copy :
-         RecoveryDialog::ask(RecoveryStore::instance(), shell_.window())) {
-        ProcessProgramSPC* window = makeWindow(copy.executeMode);
-        window->restore(copy);
-        show(window);
-    }
+    MadeWindows made;
+    for (const RecoveryCopy& copy : RecoveryDialog::ask(RecoveryStore::instance(), shell_.window()))
+        windowFor(copy, made)->restore(copy);
 }
 
 QStringList ProgramWindows::programsBeside(const QString& dictionaryPath) {

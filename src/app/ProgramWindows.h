@@ -3,13 +3,16 @@
 // behind.
 #pragma once
 
+#include <QMap>
 #include <QObject>
 #include <QStringList>
 
 class KelSystem;
 class ProcessProgramSPC;
+class QMdiSubWindow;
 class Shell;
 class WorkArea;
+struct RecoveryCopy;
 
 class ProgramWindows : public QObject {
     Q_OBJECT
@@ -19,7 +22,7 @@ public:
 
     /// execute: a program that runs others.
     void newProgram(bool execute);
-    /// Goes to the window that has the file, or opens one.
+    /// Goes to the window that has the file, of whichever kind, or opens one.
     void openProgram(const QString& path, bool execute);
     /// Asks what becomes of unsaved texts of a program that ended without its user's will.
     void offerRecovered();
@@ -31,9 +34,17 @@ signals:
     void recentChanged();
 
 private:
-    ProcessProgramSPC* makeWindow(bool execute);
+    using MadeWindows = QMap<bool, ProcessProgramSPC*>; ///< by whether they run other programs
+
+    /// path: empty for a new program.
+    ProcessProgramSPC* makeWindow(bool execute, const QString& path = {});
     void show(ProcessProgramSPC* window);
-    bool goTo(const QString& path, bool execute);
+    /// Where it is open, or the one made now for its kind.
+    ProcessProgramSPC* windowFor(const RecoveryCopy& copy, MadeWindows& made);
+    /// Whichever kind it is; null where none has the file.
+    QMdiSubWindow* frameOf(const QString& path, const QWidget* besides = nullptr) const;
+    bool goTo(const QString& path, const QWidget* besides = nullptr);
+    void noteUse(const QString& path, bool execute);
 
     Shell& shell_;
     WorkArea& workArea_;

@@ -12,6 +12,7 @@
 #include "editor/text/Editor.h"
 #include "projects/TfrmProject.h"
 #include "support/ModalAnswer.h"
+#include "support/OwnSettings.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -23,6 +24,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QTreeWidget>
@@ -121,6 +123,33 @@ class TestPrograms : public QObject {
         editor().insertPlainText(text);
     }
 
+    QList<ProcessProgramSPC*> windows() const {
+        QList<ProcessProgramSPC*> found;
+        for (QMdiSubWindow* frame : bench_->find<QMdiArea>("workArea")->subWindowList())
+            if (auto* program = qobject_cast<ProcessProgramSPC*>(frame->widget()))
+                found += program;
+        return found;
+    }
+    ProcessProgramSPC* front() const {
+        return qobject_cast<ProcessProgramSPC*>(
+            bench_->find<QMdiArea>("workArea")->activeSubWindow()->widget());
+    }
+    static QStringList tabsOf(const ProcessProgramSPC& program) {
+        const auto* tabs = program.findChild<QTabWidget*>("tabbedEditor");
+        QStringList texts;
+        for (int index = 0; index < tabs->count(); ++index)
+            texts += tabs->tabText(index);
+        return texts;
+    }
+    static void leaveBehind(const QString& path, const QString& name, bool execute) {
+        RecoveryStore crashed(recoveryFolder());
+        QVERIFY(crashed.keep({crashed.newId(), path, name, execute, QDateTime::currentDateTimeUtc(),
+                              "rescued " + name}));
+    }
+    static QString recoveryFolder() {
+        return QFileInfo(KelSystem::instance().filePath()).absolutePath() + "/recovery";
+    }
+
     QMdiSubWindow* frameOfProgram() const {
         for (QMdiSubWindow* frame : bench_->find<QMdiArea>("workArea")->subWindowList())
             if (qobject_cast<ProcessProgramSPC*>(frame->widget()) != nullptr)
@@ -136,7 +165,10 @@ class TestPrograms : public QObject {
     }
 
 private slots:
-    void initTestCase() { bench_ = std::make_unique<Workbench>(); }
+    void initTestCase() {
+        takeOwnSettings();
+        bench_ = std::make_unique<Workbench>();
+    }
 
     void init() {
         bench_->openSmall();
@@ -274,6 +306,8 @@ private slots:
         KelvoraFileDialog::answerNext(path);
         pressInMenu("File-open", Qt::Key_P);
         QCOMPARE(bench_->windowNames().size(), 1);
+        window()->newProgram();
+        QCOMPARE(tabsOf(*window()), QStringList({"remembered.spc", "Untitled document"}));
         // The ribbon offers it, and what else lies beside the dictionary.
         QTRY_VERIFY(bench_->find<tt::CompactToolButton>("File-programs") != nullptr &&
                     bench_->find<tt::CompactToolButton>("File-programs")->isEnabled());
@@ -324,24 +358,13 @@ private slots:
     /// What an earlier run of the program left unsaved.
     void rescuedTextsAreOffered() {
         const QString path = write("saved.spc", "old\n");
-        const QString folder =
-            QFileInfo(KelSystem::instance().filePath()).absolutePath() + "/recovery";
-        {
-            RecoveryStore crashed(folder);
-            RecoveryCopy copy;
-            copy.id = crashed.newId();
-            copy.filePath = path;
-            copy.name = "saved.spc";
-            copy.written = QDateTime::currentDateTime();
-            copy.text = "new and unsaved\n";
-            QVERIFY(crashed.keep(copy));
-        }
+        leaveBehind(path, "saved.spc", false);
         answerNextDialog([](QDialog& dialog) {
             QTest::mouseClick(dialog.findChild<QPushButton*>("restoreButton"), Qt::LeftButton);
         });
         bench_->window().offerRecovered();
         QTRY_VERIFY(window() != nullptr);
-        QCOMPARE(editor().toPlainText(), "new and unsaved\n");
+        QCOMPARE(editor().toPlainText(), "rescued saved.spc");
         QCOMPARE(editor().filePath(), path);
         QVERIFY(editor().document()->isModified());
         QFile file(path);
@@ -351,7 +374,62 @@ private slots:
         editor().setFocus();
         press(Qt::Key_S, Qt::ControlModifier);
         QTRY_VERIFY(!editor().document()->isModified());
-        QVERIFY(RecoveryStore(folder).abandoned().isEmpty());
+        QVERIFY(RecoveryStore(recoveryFolder()).abandoned().isEmpty());
+    }
+
+    void rescuedTextsComeAsTabsOfAWindowForEachKind() {
+        const QString path = write("open.spc", "old\n");
+        KelvoraFileDialog::answerNext(path);
+        pressInMenu("File-open", Qt::Key_P);
+        QTRY_COMPARE(windows().size(), 1);
+        leaveBehind({}, "one", false);
+        leaveBehind({}, "list", true);
+        leaveBehind(path, "open.spc", true); // under which kind does not matter
+        leaveBehind({}, "two", false);
+        answerNextDialog([](QDialog& dialog) {
+            QTest::mouseClick(dialog.findChild<QPushButton*>("restoreButton"), Qt::LeftButton);
+        });
+        bench_->window().offerRecovered();
+        QTRY_COMPARE(windows().size(), 3);
+        QCOMPARE(tabsOf(*windows()[0]), QStringList("open.spc *"));
+        QCOMPARE(windows()[0]->currentEditor()->toPlainText(), "rescued open.spc");
+        QCOMPARE(tabsOf(*windows()[1]), QStringList({"one *", "two *"}));
+        QVERIFY(!windows()[1]->isExecuteWindow());
+        QCOMPARE(tabsOf(*windows()[2]), QStringList("list *"));
+        QVERIFY(windows()[2]->isExecuteWindow());
+    }
+
+    void noFileIsOpenInTwoWindows() {
+        const QString path = write("once.spc", "freq person.sex\n");
+        KelvoraFileDialog::answerNext(path);
+        pressInMenu("File-open", Qt::Key_P);
+        QTRY_VERIFY(window() != nullptr);
+        ProcessProgramSPC* first = window();
+        pressInMenu("File-new", Qt::Key_E);
+        QTRY_COMPARE(windows().size(), 2);
+        ProcessProgramSPC* second = windows()[1];
+        QTRY_VERIFY(second->currentEditor()->hasFocus());
+        // By the window's own key, and by the ribbon for the other kind.
+        KelvoraFileDialog::answerNext(path);
+        press(Qt::Key_O, Qt::ControlModifier);
+        QTRY_COMPARE(front(), first);
+        QVERIFY(!second->hasFile(path));
+        bench_->find<QMdiArea>("workArea")
+            ->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(second->parentWidget()));
+        KelvoraFileDialog::answerNext(path);
+        pressInMenu("File-open", Qt::Key_E);
+        QTRY_COMPARE(front(), first);
+        QCOMPARE(windows().size(), 2);
+        QCOMPARE(bench_->messages, QStringList());
+        // Nor by saving.
+        second->currentEditor()->insertPlainText("EXECUTE \"once.spc\"");
+        KelvoraFileDialog::answerNext(path);
+        second->saveProgramAs();
+        QCOMPARE(bench_->messages, QStringList("The file once.spc is open in another window."));
+        QVERIFY(!second->hasFile(path));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), "freq person.sex\n");
     }
 };
 

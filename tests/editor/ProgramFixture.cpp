@@ -7,6 +7,7 @@
 #include "engine/TKelConfigImpl.h"
 #include "kel.h"
 #include "projects/TfrmProject.h"
+#include "support/OwnSettings.h"
 #include "support/SmallDatabase.h"
 
 #include <QAction>
@@ -41,6 +42,9 @@ void RecordingShell::showResults(const std::vector<TKelOutput*>& made,
 }
 
 ProgramFixture::ProgramFixture() {
+    const QString own = takeOwnSettings();
+    if (!KelSystem::instance().filePath().startsWith(own + '/'))
+        qFatal("the settings were read before the test had its own");
     kel::init(std::make_shared<TKelConfigImpl>());
     kel::setupLocale("en");
     writeSmallDatabase(folder());

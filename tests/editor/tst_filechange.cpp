@@ -57,6 +57,7 @@ public:
     FileChangeNotice notice{watch, [this](const QString&) { return isOpen ? &editor : nullptr; },
                             [this] { return isFree; }};
     QSignalSpy reloaded{&notice, &FileChangeNotice::reloaded};
+    QSignalSpy kept{&notice, &FileChangeNotice::kept};
     Choice answer = Choice::Yes;
     QStringList questions;
     QStringList warnings;
@@ -79,6 +80,7 @@ private slots:
         QVERIFY(!file.modified());
         QVERIFY(!file.watch.changedSince(file.path()));
         QCOMPARE(file.reloaded.size(), 1);
+        QCOMPARE(file.kept.size(), 0);
         QCOMPARE(file.editor.textCursor().blockNumber(), 1);
         QTest::keyClick(&file.editor, Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(file.text(), "line 1\nline 2\n");
@@ -92,6 +94,7 @@ private slots:
         QTRY_VERIFY(file.modified());
         QCOMPARE(file.text(), "line 1\nline 2\n");
         QCOMPARE(file.questions.size(), 1);
+        QCOMPARE(file.kept.size(), 1);
         QVERIFY2(file.notice.maySave(file.path()), "asked twice for the same contents");
         file.write("theirs again");
         QTRY_COMPARE(file.questions.size(), 2);
@@ -114,6 +117,7 @@ private slots:
         QTRY_COMPARE(file.warnings.size(), 1);
         QVERIFY(file.warnings[0].contains("was removed by another program"));
         QVERIFY(file.modified());
+        QCOMPARE(file.kept, QList<QVariantList>{{file.path()}});
         QCOMPARE(file.text(), "line 1\nline 2\n");
         QVERIFY(file.notice.maySave(file.path()));
         // It comes back as it was: a branch that was switched there and back.

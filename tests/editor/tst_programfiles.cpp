@@ -4,6 +4,7 @@
 #include "ProgramFixture.h"
 
 #include "app/dialogs/KelvoraFileDialog.h"
+#include "editor/files/Fingerprint.h"
 #include "editor/files/RecoveryStore.h"
 #include "editor/text/Editor.h"
 #include "engine/execution/RunGuard.h"
@@ -19,7 +20,6 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
-#include <QUuid>
 
 class TestProgramFiles : public QObject {
     Q_OBJECT
@@ -49,7 +49,12 @@ private slots:
     void asksBeforeItReplacesAChangedFile();
     void reloadsAChangedFileSoThatItCanBeUndone();
     void restoresARecoveryCopy();
+    void asksBeforeARestoredTextReplacesANewerFile_data();
+    void asksBeforeARestoredTextReplacesANewerFile();
     void keepsACopyUntilTheTextIsSafe();
+    void keepsACopyOfWhatTheFileHasLost_data();
+    void keepsACopyOfWhatTheFileHasLost();
+    void asksTheOtherWindows();
 
 private:
     Editor& editor() const { return *window_->currentEditor(); }
@@ -356,7 +361,8 @@ void TestProgramFiles::reloadsAChangedFileSoThatItCanBeUndone() {
 void TestProgramFiles::restoresARecoveryCopy() {
     RecoveryStore& store = RecoveryStore::instance();
     const QString path = fixture_->write("rescued.spc", "old");
-    window_->restore({store.newId(), path, "rescued.spc", false, {}, "rescued"});
+    const QDateTime later = QDateTime::currentDateTimeUtc().addSecs(60);
+    window_->restore({store.newId(), path, "rescued.spc", false, later, "rescued"});
     window_->restore({store.newId(), {}, "Untitled document 7", false, {}, "draft"});
     QCOMPARE(tabTexts(), QString("rescued.spc *|Untitled document 7 *"));
     QVERIFY(window_->isWindowModified());
@@ -368,15 +374,100 @@ void TestProgramFiles::restoresARecoveryCopy() {
     QCOMPARE(tabTexts(), QString("rescued.spc|Untitled document 7 *"));
 }
 
+void TestProgramFiles::asksBeforeARestoredTextReplacesANewerFile_data() {
+    QTest::addColumn<int>("writtenLater"); // the copy, in seconds
+    QTest::addColumn<QByteArray>("basis");
+    QTest::addColumn<bool>("asks");
+    const QByteArray theirs = fingerprintOf("theirs");
+    QTest::newRow("the file is newer") << -3600 << QByteArray() << true;
+    QTest::newRow("the copy is newer") << 3600 << QByteArray() << false;
+    QTest::newRow("changed while it was typed") << 3600 << fingerprintOf("base") << true;
+    QTest::newRow("only touched since") << -3600 << theirs << false;
+}
+
+void TestProgramFiles::asksBeforeARestoredTextReplacesANewerFile() {
+    QFETCH(int, writtenLater);
+    QFETCH(QByteArray, basis);
+    QFETCH(bool, asks);
+    const QString path = fixture_->write("newer.spc", "theirs");
+    const QDateTime written = QDateTime::currentDateTimeUtc().addSecs(writtenLater);
+    window_->restore(
+        {RecoveryStore::instance().newId(), path, "newer.spc", false, written, "rescued", basis});
+    press(Qt::Key_S);
+    if (asks) {
+        QCOMPARE(fixture_->messages.size(), 1);
+        QVERIFY(fixture_->messages[0].contains("since it was read here"));
+        QCOMPARE(ProgramFixture::read(path), QByteArray("theirs"));
+        QVERIFY(editor().document()->isModified());
+        fixture_->messages.clear();
+        fixture_->answers = {Choice::Yes};
+        press(Qt::Key_S);
+        fixture_->messages.clear();
+    }
+    QCOMPARE(ProgramFixture::read(path), QByteArray("rescued"));
+    ProgramFixture::type(editor(), "x");
+    press(Qt::Key_S);
+    QCOMPARE(ProgramFixture::read(path), QByteArray("xrescued"));
+    QCOMPARE(fixture_->messages, QStringList());
+}
+
+void TestProgramFiles::keepsACopyOfWhatTheFileHasLost_data() {
+    QTest::addColumn<bool>("removed");
+    QTest::newRow("removed") << true;
+    QTest::newRow("kept after a change") << false;
+}
+
+void TestProgramFiles::keepsACopyOfWhatTheFileHasLost() {
+    QFETCH(bool, removed);
+    const QString text = removed ? "freq removed" : "freq replaced";
+    const auto copies = [&text] { return ProgramFixture::recoveryTexts().filter(text).size(); };
+    const QString path = fixture_->write("lost.spc", text.toUtf8());
+    window_->openFile(path);
+    if (removed)
+        QFile::remove(path);
+    else
+        fixture_->write("lost.spc", "theirs");
+    QTRY_COMPARE(fixture_->messages.size(), 1); // which keeps the text
+    QTRY_COMPARE_WITH_TIMEOUT(copies(), 1, 20000);
+    press(Qt::Key_S);
+    QCOMPARE(ProgramFixture::read(path), text.toUtf8());
+    QTRY_COMPARE(copies(), 0);
+}
+
+void TestProgramFiles::asksTheOtherWindows() {
+    const QString theirs = fixture_->write("theirs.spc", "freq PERSON.AGE");
+    const QString mine = fixture_->write("mine.spc", "freq PERSON.SEX");
+    QStringList shown;
+    window_->setOtherWindows({[&](const QString& path) { return path == theirs; },
+                              [&](const QString& path) {
+                                  shown += path;
+                                  return path == theirs;
+                              }});
+    KelvoraFileDialog::answerNext(theirs);
+    press(Qt::Key_O);
+    QCOMPARE(shown, QStringList(theirs));
+    QCOMPARE(tabTexts(), QString("Untitled document"));
+    KelvoraFileDialog::answerNext(mine);
+    press(Qt::Key_O);
+    QCOMPARE(tabTexts(), QString("mine.spc"));
+
+    ProgramFixture::type(editor(), "x");
+    KelvoraFileDialog::answerNext(theirs);
+    press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(fixture_->messages, QStringList("The file theirs.spc is open in another window."));
+    QCOMPARE(ProgramFixture::read(theirs), QByteArray("freq PERSON.AGE"));
+    QVERIFY(editor().document()->isModified());
+    press(Qt::Key_S);
+    QCOMPARE(ProgramFixture::read(mine), QByteArray("xfreq PERSON.SEX"));
+}
+
 void TestProgramFiles::keepsACopyUntilTheTextIsSafe() {
-    // Copies of earlier runs may still lie there.
-    const QString mark = QUuid::createUuid().toString();
-    const auto copies = [&mark](const char* text) {
-        return ProgramFixture::recoveryTexts().filter(text + mark).size();
+    const auto copies = [](const char* text) {
+        return ProgramFixture::recoveryTexts().filter(text).size();
     };
     for (const char* text : {"refused", "written", "failing"}) {
         press(Qt::Key_N);
-        editor().insertPlainText(text + mark);
+        editor().insertPlainText(text);
         QTRY_COMPARE_WITH_TIMEOUT(copies(text), 1, 20000);
     }
     const QString folder = fixture_->path("away");

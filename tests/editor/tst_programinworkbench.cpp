@@ -7,6 +7,7 @@
 #include "app/settings/KelSystem.h"
 #include "editor/program/ProcessProgramSPC.h"
 #include "editor/text/Editor.h"
+#include "support/OwnSettings.h"
 
 #include <QFile>
 #include <QMdiSubWindow>
@@ -18,7 +19,10 @@ class TestProgramInWorkbench : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { bench_ = std::make_unique<Workbench>(); }
+    void initTestCase() {
+        takeOwnSettings();
+        bench_ = std::make_unique<Workbench>();
+    }
     void cleanupTestCase() { bench_.reset(); }
     void savesWhatHasTheKeys();
     void opensWhatHasTheKeys();

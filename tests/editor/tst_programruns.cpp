@@ -39,6 +39,7 @@ private slots:
     void replacesADeprecatedClauseForTheEngineAlone();
     void showsAHiddenListForErrors();
     void copiesAndClearsTheList();
+    void keepsCopiesBeforeTheEngineBegins();
     void needsADictionary();
     void canBeCancelledAndDoesNothingElseMeanwhile();
 
@@ -238,6 +239,25 @@ void TestProgramRuns::copiesAndClearsTheList() {
     QTest::keyClick(menu, Qt::Key_Down);
     QTest::keyClick(menu, Qt::Key_Return);
     QCOMPARE(rows(), QStringList());
+}
+
+/// It may take the whole program with it.
+void TestProgramRuns::keepsCopiesBeforeTheEngineBegins() {
+    const auto copies = [](const QString& text) {
+        return ProgramFixture::recoveryTexts().filter(text).size();
+    };
+    window_->currentEditor()->insertPlainText("freq PERSON.SEX // in another tab");
+    press(Qt::Key_N, Qt::ControlModifier);
+    window_->currentEditor()->insertPlainText("freq PERSON.SEX // that runs");
+    int before = 0;
+    connect(ProgramFixture::action(*window_, "actionRun"), &QAction::enabledChanged, this,
+            [&](bool enabled) {
+                if (!enabled)
+                    before = int(copies("in another tab") + copies("that runs"));
+            });
+    press(Qt::Key_F9);
+    QCOMPARE(fixture_->shell.programs, QStringList("freq PERSON.SEX // that runs"));
+    QCOMPARE(before, 2);
 }
 
 void TestProgramRuns::needsADictionary() {

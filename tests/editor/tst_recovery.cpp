@@ -5,6 +5,7 @@
 #include "app/settings/KelSystem.h"
 #include "editor/files/RecoveryWriter.h"
 #include "editor/files/TextFile.h"
+#include "support/OwnSettings.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>
@@ -140,6 +141,42 @@ private slots:
         QTRY_COMPARE(folder.names(), QStringList());
     }
 
+    /// Another program has removed or replaced it.
+    void aTextThatItsFileHasLostIsKept() {
+        const RecoveryFolder folder;
+        {
+            RecoveryStore store(folder.path());
+            Document document(store);
+            document.writer->setOrigin("/data/a.spc", "a.spc");
+            document.editor.setPlainText("freq");
+            document.writer->written("as it was");
+            document.editor.document()->setModified(true);
+            document.writer->lostFile("theirs \xff");
+            QTRY_COMPARE(folder.text(), "freq");
+            document.writer->lostFile("theirs again \xff");
+            document.writer->flush();
+        }
+        RecoveryStore store(folder.path());
+        QCOMPARE(store.abandoned().value(0).basis, QByteArray("theirs again \xff"));
+    }
+
+    void aRestoredTextRemembersWhatItStemsFrom() {
+        const RecoveryFolder folder;
+        const QString id = folder.leaveBehind("first", "/data/a.spc", "a.spc");
+        {
+            RecoveryStore store(folder.path());
+            Document document(store);
+            document.writer->setOrigin("/data/a.spc", "a.spc");
+            document.writer->adopt(id, "read");
+            document.type("more");
+            QTRY_COMPARE(folder.text(), "more");
+            document.writer->setOrigin("/data/b.spc", "b.spc");
+            document.writer->flush();
+        }
+        RecoveryStore store(folder.path());
+        QVERIFY2(store.abandoned().value(0).basis.isEmpty(), "of another file");
+    }
+
     void aSaveThatFailedKeepsTheCopy() {
         const RecoveryFolder folder;
         {
@@ -180,6 +217,24 @@ private slots:
         Document other(store);
         other.type("other");
         QTRY_COMPARE(folder.text(), "other");
+    }
+
+    /// As before a run, which is not to wait for a slow disk.
+    void hurryingBeginsAtOnceAndWaitsBriefly() {
+        const RecoveryFolder folder;
+        RecoveryStore store(folder.path());
+        Document document(store);
+        document.writer->setDelays(60s, 60s);
+        document.type("unsaved");
+        document.writer->hurry();
+        store.waitBriefly(60s);
+        QCOMPARE(folder.text(), "unsaved");
+        document.editor.selectAll();
+        document.editor.insertPlainText(QString("freq PERSON.SEX\n").repeated(650000));
+        document.writer->hurry();
+        store.waitBriefly(1ms);
+        QVERIFY2(folder.text() == "unsaved", "it has waited for 10 MB");
+        QTRY_COMPARE(folder.text().size(), 10400000);
     }
 
     void theLastStateLands() {
@@ -349,6 +404,7 @@ int main(int argc, char** argv) {
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == "--type")
         return type(arguments.value(2), arguments.value(3), arguments.value(4));
+    takeOwnSettings();
     TestRecovery test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -3,9 +3,13 @@
 #include "RecoveryFolder.h"
 #include "app/messages/Messages.h"
 #include "editor/files/RecoveryDialog.h"
+#include "editor/files/RecoveryRow.h"
+#include "editor/files/TextFile.h"
 #include "support/ModalAnswer.h"
 
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -66,8 +70,49 @@ private slots:
         QCOMPARE(state("folder.spc"), "The file cannot be read");
         QCOMPARE(state("Untitled document"), "Was never saved");
         QCOMPARE(rowOf(dialog, "Untitled document")->text(1), "freq PERSON.SEX");
-        QCOMPARE(namesOf(dialog.chosen()).contains("same.spc"), false);
-        QCOMPARE(dialog.chosen().size(), 5);
+        const QStringList ticked = namesOf(dialog.chosen());
+        QVERIFY(!ticked.contains("same.spc"));
+        QVERIFY2(!ticked.contains("changed.spc"), "Enter would open an old text over a newer one");
+        QCOMPARE(ticked.size(), 4);
+    }
+
+    /// Times tell nothing where a file was changed while its text was being typed, or only touched.
+    void whatTheTextStemsFromTellsMoreThanTimes() {
+        const RecoveryFolder folder;
+        const QString file = folder.write("a.spc", "theirs");
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QByteArray held = readTextFile(file).fingerprint;
+        QCOMPARE(originOf({"1", file, "a", false, now.addDays(1), "mine", "another"}),
+                 RecoveryOrigin::Newer);
+        QCOMPARE(originOf({"1", file, "a", false, now.addDays(-1), "mine", held}),
+                 RecoveryOrigin::Older);
+        QCOMPARE(originOf({"1", file, "a", false, now.addDays(-1), "theirs", "another"}),
+                 RecoveryOrigin::Same);
+    }
+
+    void rowsAreReadAndTheDialogIsNoWider() {
+        const RecoveryFolder folder;
+        folder.leaveBehind("x");
+        const QString text = "freq PERSON.AGE by HOUSEHOLD.ROOMS";
+        RecoveryStore store(folder.path());
+        RecoveryDialog narrow(store, store.abandoned());
+        narrow.show();
+        folder.leaveBehind("\n  \n" + text + "\nfreq", {}, "b");
+        RecoveryDialog wide(store, store.abandoned());
+        wide.show();
+        QTreeWidgetItem* row = rowOf(wide, "b");
+        QCOMPARE(row->text(1), text);
+        const QTreeWidget& list = *listOf(wide);
+        QVERIFY(list.columnWidth(1) > list.fontMetrics().horizontalAdvance(text));
+        QVERIFY(!list.horizontalScrollBar()->isVisible());
+        QVERIFY2(narrow.width() < wide.width(), qPrintable(QString::number(narrow.width())));
+        const QString deep = folder.file(QString("a_long_folder/").repeated(20) + "c.spc");
+        folder.leaveBehind("define PERSON.AGEGROUP as recode(PERSON.AGE, 0-14 = 1, 15-64 = 2)",
+                           deep, "c.spc");
+        RecoveryDialog full(store, store.abandoned());
+        full.show();
+        QVERIFY(full.width() <= full.screen()->availableGeometry().width());
+        QVERIFY(list.columnWidth(1) > list.fontMetrics().horizontalAdvance(text));
     }
 
     void theTickedOnesAreRestoredAndTheOthersStay() {

@@ -123,6 +123,7 @@ void FileChangeNotice::keepText(const QString& path, QPlainTextEdit& editor,
                                 const QByteArray& seen) {
     watch_.accept(path, seen);
     editor.document()->setModified(true);
+    emit kept(path);
 }
 
 void FileChangeNotice::tellRemoval(const QString& path, QPlainTextEdit& editor) {

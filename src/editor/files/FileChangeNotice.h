@@ -32,6 +32,8 @@ public:
 signals:
     /// The document holds what the file holds, and is unmodified.
     void reloaded(QString path);
+    /// The document alone holds its text now, and is modified.
+    void kept(QString path);
 
 private:
     bool isFree() const;

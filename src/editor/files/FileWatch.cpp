@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int pauseLength = 200; // milliseconds
+const QByteArray fingerprintOfNoFile = QByteArrayLiteral("?");
 
 QString keyOf(const QString& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
@@ -104,6 +105,15 @@ void FileWatch::accept(const QString& path, const QByteArray& fingerprint) {
         return;
     settle(*file, fingerprint);
     notice();
+}
+
+void FileWatch::distrust(const QString& path, const QByteArray& fingerprint) {
+    if (const auto file = files_.find(keyOf(path)); file != files_.end())
+        file->known = fingerprint.isEmpty() ? fingerprintOfNoFile : fingerprint;
+}
+
+QByteArray FileWatch::knownOf(const QString& path) const {
+    return files_.value(keyOf(path)).known;
 }
 
 void FileWatch::settle(File& file, const QByteArray& fingerprint) {

@@ -37,6 +37,11 @@ public:
     /// The user knows that the file holds this, or with an empty fingerprint that it is gone, and
     /// keeps his text.
     void accept(const QString& path, const QByteArray& fingerprint);
+    /// The text at hand stems from what the file held once (empty: nobody knows what), and nobody
+    /// has seen here what it holds now: that counts as changed, but is not reported.
+    void distrust(const QString& path, const QByteArray& fingerprint);
+    /// What stateOf() compares with; empty for a file that is gone or not watched.
+    QByteArray knownOf(const QString& path) const;
 
 signals:
     void changed(QString path); ///< its contents differ from what was read or written last

@@ -12,13 +12,16 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace {
 
 enum Column { Program, Text, Written, FileState, Folder };
-constexpr int widestColumn = 45; // characters
+constexpr int widestColumn = 60; // average characters
+constexpr int narrowest = 60;    ///< the dialog
 
 QString titleOf(const RecoveryCopy& copy) {
     if (!copy.name.isEmpty())
@@ -57,7 +60,7 @@ RecoveryDialog::RecoveryDialog(RecoveryStore& store, const QList<RecoveryCopy>& 
     connect(list_, &QTreeWidget::itemChanged, this, &RecoveryDialog::enableButtons);
     enableButtons();
     list_->setFocus();
-    resize(fontMetrics().averageCharWidth() * 165, fontMetrics().height() * 20);
+    fitSize();
 }
 
 void RecoveryDialog::setUpList(const QList<RecoveryCopy>& copies) {
@@ -72,10 +75,21 @@ void RecoveryDialog::setUpList(const QList<RecoveryCopy>& copies) {
         addRow(copy);
     list_->setCurrentItem(list_->topLevelItem(0));
     const int widest = list_->fontMetrics().averageCharWidth() * widestColumn;
-    for (int column = Program; column < Folder; ++column) {
+    for (int column = Program; column <= Folder; ++column) {
         list_->resizeColumnToContents(column);
         list_->setColumnWidth(column, qMin(list_->columnWidth(column), widest));
     }
+}
+
+/// As wide as the rows, within the screen; the text above wraps.
+void RecoveryDialog::fitSize() {
+    const QMargins margins = layout()->contentsMargins();
+    const int wanted = list_->header()->length() + 2 * list_->frameWidth() +
+                       list_->verticalScrollBar()->sizeHint().width() + margins.left() +
+                       margins.right();
+    const int least = fontMetrics().averageCharWidth() * narrowest;
+    resize(qMin(qMax(wanted, least), screen()->availableGeometry().width()),
+           fontMetrics().height() * 20);
 }
 
 void RecoveryDialog::addRow(const RecoveryCopy& copy) {
@@ -89,8 +103,10 @@ void RecoveryDialog::addRow(const RecoveryCopy& copy) {
     if (!path.isEmpty())
         row->setText(Folder, QDir::toNativeSeparators(QFileInfo(copy.filePath).path()));
     for (int column = Program; column <= Folder; ++column)
-        row->setToolTip(column, (path.isEmpty() ? row->text(Text) : path).toHtmlEscaped());
-    row->setCheckState(Program, origin == RecoveryOrigin::Same ? Qt::Unchecked : Qt::Checked);
+        row->setToolTip(
+            column, (path.isEmpty() || column == Text ? row->text(Text) : path).toHtmlEscaped());
+    const bool wanted = origin != RecoveryOrigin::Same && origin != RecoveryOrigin::Newer;
+    row->setCheckState(Program, wanted ? Qt::Checked : Qt::Unchecked);
     copies_ += copy;
 }
 

@@ -30,6 +30,7 @@ private:
     void addRow(const RecoveryCopy& copy);
     void discardChosen();
     void enableButtons();
+    void fitSize();
 
     RecoveryStore& store_;
     QList<RecoveryCopy> copies_; ///< as the rows

@@ -28,7 +28,9 @@ RecoveryOrigin originOf(const RecoveryCopy& copy) {
         return RecoveryOrigin::Unreadable;
     if (file.text == copy.text)
         return RecoveryOrigin::Same;
-    return info.lastModified() > copy.written ? RecoveryOrigin::Newer : RecoveryOrigin::Older;
+    const bool newer =
+        copy.basis.isEmpty() ? info.lastModified() > copy.written : file.fingerprint != copy.basis;
+    return newer ? RecoveryOrigin::Newer : RecoveryOrigin::Older;
 }
 
 QString originText(RecoveryOrigin origin) {

@@ -16,7 +16,6 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <chrono>
 
 namespace {
 
@@ -44,6 +43,7 @@ QByteArray jsonOf(const RecoveryCopy& copy) {
         {QStringLiteral("mode"),
          copy.executeMode ? QStringLiteral("execute") : QStringLiteral("program")},
         {QStringLiteral("time"), copy.written.toUTC().toString(Qt::ISODateWithMs)},
+        {QStringLiteral("basis"), QString::fromLatin1(copy.basis.toHex())},
         {QStringLiteral("text"), copy.text}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
@@ -84,7 +84,8 @@ RecoveryCopy readCopy(const QString& path, const QString& id) {
             object.value(QLatin1String("name")).toString(),
             object.value(QLatin1String("mode")).toString() == QLatin1String("execute"),
             written.isValid() ? written : QFileInfo(path).lastModified(),
-            text.toString()};
+            text.toString(),
+            QByteArray::fromHex(object.value(QLatin1String("basis")).toString().toLatin1())};
 }
 
 QFuture<bool> futureOf(bool result) {
@@ -160,6 +161,10 @@ QFuture<bool> RecoveryStore::keepSoon(const RecoveryCopy& copy) {
         promise->finish();
     });
     return promise->future();
+}
+
+void RecoveryStore::waitBriefly(std::chrono::milliseconds longest) {
+    pool_.waitForDone(static_cast<int>(longest.count()));
 }
 
 void RecoveryStore::take(const QString& id) {

@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -24,6 +25,7 @@ struct RecoveryCopy {
     bool executeMode = false;
     QDateTime written;
     QString text;
+    QByteArray basis = {}; ///< fingerprint of the file that the text stems from; empty: not known
 };
 
 /// One folder, shared by all programs that run: each keeps to its own copies, and only those of
@@ -43,6 +45,8 @@ public:
     bool keep(const RecoveryCopy& copy);              ///< false where it could not be written
     QFuture<bool> keepSoon(const RecoveryCopy& copy); ///< the same without waiting for the disk
     void drop(const QString& id);                     ///< does not wait
+    /// Until all is written, but no longer than that.
+    void waitBriefly(std::chrono::milliseconds longest);
     /// Left behind by programs that have ended, oldest first; damaged ones are skipped. They stay
     /// until drop(). No other program offers them while this one runs.
     QList<RecoveryCopy> abandoned();

@@ -42,6 +42,8 @@ RecoveryWriter::Mark RecoveryWriter::markOf(const QString& text) {
 void RecoveryWriter::setOrigin(const QString& filePath, const QString& name) {
     if (filePath == filePath_ && name == name_)
         return;
+    if (filePath != filePath_)
+        basis_.clear();
     filePath_ = filePath;
     name_ = name;
     if (!hasCopy_)
@@ -51,20 +53,29 @@ void RecoveryWriter::setOrigin(const QString& filePath, const QString& name) {
     noticeChange();
 }
 
-void RecoveryWriter::adopt(const QString& id) {
+void RecoveryWriter::adopt(const QString& id, const QByteArray& basis) {
     if (id != id_)
         forget();
     stopWaiting();
     store_.take(id);
     id_ = id;
     hasCopy_ = true;
+    basis_ = basis;
     safe_.reset();
     kept_ = markOf(textOf(*document_.document()));
 }
 
-void RecoveryWriter::written() {
+void RecoveryWriter::written(const QByteArray& basis) {
+    basis_ = basis;
     safe_ = markOf(textOf(*document_.document()));
     forget();
+}
+
+void RecoveryWriter::lostFile(const QByteArray& basis) {
+    basis_ = basis;
+    safe_.reset();
+    kept_.reset();
+    noticeChange();
 }
 
 void RecoveryWriter::discard() {
@@ -110,7 +121,7 @@ RecoveryCopy RecoveryWriter::copyOf(const QString& text) {
     if (id_.isEmpty())
         id_ = store_.newId();
     hasCopy_ = true;
-    return {id_, filePath_, name_, executeMode_, QDateTime::currentDateTimeUtc(), text};
+    return {id_, filePath_, name_, executeMode_, QDateTime::currentDateTimeUtc(), text, basis_};
 }
 
 /// An empty text is no loss; closing does not ask about it either.
@@ -141,8 +152,17 @@ void RecoveryWriter::endKeeping() {
     }
 }
 
+bool RecoveryWriter::isDue() const {
+    return quiet_.isActive() || longest_.isActive() || due_;
+}
+
+void RecoveryWriter::hurry() {
+    if (isDue() && document_.document()->isModified())
+        keepSoon();
+}
+
 void RecoveryWriter::flush() {
-    if (!quiet_.isActive() && !longest_.isActive() && !due_ && !inWork_)
+    if (!isDue() && !inWork_)
         return;
     if (document_.document()->isModified())
         keepSoon();

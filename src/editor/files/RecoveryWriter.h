@@ -25,12 +25,17 @@ public:
     RecoveryWriter(RecoveryStore& store, QPlainTextEdit& document, bool executeMode);
     /// What the copy says of its origin.
     void setOrigin(const QString& filePath, const QString& name);
-    void adopt(const QString& id); ///< takes over the copy that the text was restored from
+    /// Takes over the copy that the text was restored from.
+    /// basis, here and below: fingerprint of what the file holds, or held as the text was read.
+    void adopt(const QString& id, const QByteArray& basis = {});
     /// The text as it stands was read from its file, or written to it. Best before the document is
     /// called unmodified.
-    void written();
+    void written(const QByteArray& basis = {});
+    /// The file holds something else now, or is gone.
+    void lostFile(const QByteArray& basis);
     void discard(); ///< the user wants none of the text; not before the tab is sure to close
     void flush();   ///< writes now what is due, and waits for it
+    void hurry();   ///< begins now to write what is due, and does not wait
     /// quiet: after the last change; longest: after the first one that is not kept yet.
     void setDelays(std::chrono::milliseconds quiet, std::chrono::milliseconds longest);
 
@@ -43,6 +48,7 @@ private:
     };
     static Mark markOf(const QString& text);
 
+    bool isDue() const;
     RecoveryCopy copyOf(const QString& text);
     void noticeChange();
     void noticeModification(bool modified);
@@ -57,6 +63,7 @@ private:
     bool executeMode_;
     QString filePath_;
     QString name_;
+    QByteArray basis_;
     QString id_;
     bool hasCopy_ = false;
     bool due_ = false;           ///< to be written once the disk is done with the one before

@@ -64,7 +64,7 @@ ProcessProgramSPC::ProcessProgramSPC(Shell& shell, KelSystem& system, Kind kind,
     parts_->actions->action(Command::Splitter)->setChecked(true);
     on_currentTabChanged(0);
     if (!path.isEmpty())
-        openFile(path);
+        read_ = openFile(path);
     if (currentEditor()->filePath().isEmpty())
         parts_->files->nameFirst();
 }
@@ -157,6 +157,10 @@ bool ProcessProgramSPC::hasFile(const QString& path) const {
     return parts_->files->editorOf(path) != nullptr;
 }
 
+void ProcessProgramSPC::setOtherWindows(OtherWindows others) {
+    parts_->files->setOtherWindows(std::move(others));
+}
+
 void ProcessProgramSPC::restore(const RecoveryCopy& copy) {
     parts_->files->restore(copy);
 }
@@ -221,6 +225,8 @@ void ProcessProgramSPC::showLanguage() {
 }
 
 void ProcessProgramSPC::setBusy(bool busy) {
+    if (busy)
+        parts_->files->keepCopies(); // what runs may take the whole program with it
     parts_->actions->action(Command::Compile)->setEnabled(!busy);
     parts_->actions->action(Command::Run)->setEnabled(!busy);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "editor/program/AssistantText.h"
+#include "editor/program/OtherWindows.h"
 #include "editor/program/ProgramRunner.h"
 #include "editor/text/EditorHost.h"
 
@@ -35,6 +36,10 @@ public:
     /// Goes to the tab of that file, or opens it in one; false where it could not be read.
     bool openFile(const QString& path);
     bool hasFile(const QString& path) const;
+    /// False where the file that it was made for could not be read; the user has been told.
+    bool hasRead() const { return read_; }
+    /// Asked before a file is opened or written, so that none is open twice.
+    void setOtherWindows(OtherWindows others);
     /// Opens a tab with the copy's text, which counts as modified.
     void restore(const RecoveryCopy& copy);
 
@@ -148,5 +153,6 @@ private:
     KelSystem& system_;
     bool executeWindow_;
     bool closing_ = false;
+    bool read_ = true;
     std::unique_ptr<Parts> parts_;
 };

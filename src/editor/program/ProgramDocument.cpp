@@ -2,6 +2,7 @@
 #include "editor/program/ProgramDocument.h"
 
 #include "editor/files/FileWatch.h"
+#include "editor/files/RecoveryRow.h"
 #include "editor/files/RecoveryStore.h"
 #include "editor/files/RecoveryWriter.h"
 #include "editor/text/Editor.h"
@@ -42,8 +43,20 @@ void ProgramDocument::show(const QString& path, const TextFileResult& file) {
 
 void ProgramDocument::noticeReload() {
     editor_.document()->setModified(false);
-    copy_->written();
+    copy_->written(basis());
     failed_ = false;
+}
+
+void ProgramDocument::noticeLoss() {
+    copy_->lostFile(basis());
+}
+
+void ProgramDocument::keepCopy() {
+    copy_->hurry();
+}
+
+QByteArray ProgramDocument::basis() const {
+    return watch_->knownOf(editor_.filePath());
 }
 
 QString ProgramDocument::write(const QString& path) {
@@ -56,7 +69,7 @@ QString ProgramDocument::write(const QString& path) {
     if (failed_)
         copy_->flush();
     else
-        copy_->written();
+        copy_->written(basis());
     editor_.document()->setModified(false);
     return result.error;
 }
@@ -67,8 +80,11 @@ void ProgramDocument::restore(const RecoveryCopy& copy) {
     } else {
         bind(copy.filePath);
         watch_->watch(copy.filePath);
+        const RecoveryOrigin origin = originOf(copy);
+        if (origin == RecoveryOrigin::Newer || origin == RecoveryOrigin::Unreadable)
+            watch_->distrust(copy.filePath, copy.basis);
     }
-    copy_->adopt(copy.id);
+    copy_->adopt(copy.id, basis());
     editor_.setPlainText(copy.text);
     editor_.document()->setModified(true);
 }

@@ -29,13 +29,17 @@ public:
     /// as well; only its copy stays.
     QString write(const QString& path);
     bool hasFailedToWrite() const { return failed_; }
-    void restore(const RecoveryCopy& copy); ///< its text, modified
+    /// Its text, modified. A file that has changed since is not replaced unasked.
+    void restore(const RecoveryCopy& copy);
     void nameUntitled(const QString& name);
     void noticeReload(); ///< the editor holds what the file holds
+    void noticeLoss();   ///< the file holds something else, or is gone, and the text stays
+    void keepCopy();     ///< begins to write the copy where it is due
     void discard();      ///< the user closes it and keeps no changes
 
 private:
     void bind(const QString& path);
+    QByteArray basis() const;
 
     Editor& editor_;
     QPointer<FileWatch> watch_;

@@ -12,12 +12,14 @@
 #include "engine/execution/RunGuard.h"
 #include "projects/TfrmProject.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QTextDocument>
 
 namespace {
 
 const QString kind = QStringLiteral("PROGRAM");
+constexpr std::chrono::milliseconds longestDelay{80}; ///< of a run, by the copies
 
 QString filter() {
     return ProgramFiles::tr("Kelx Command Set (*.spc)");
@@ -50,8 +52,19 @@ ProgramFiles::ProgramFiles(TabbedEditor& tabs, bool executeMode, QObject* parent
             ProgramDocument::of(*editor)->noticeReload();
         emit titlesChanged();
     });
+    connect(notice_, &FileChangeNotice::kept, this, [this](const QString& path) {
+        if (Editor* editor = editorOf(path))
+            ProgramDocument::of(*editor)->noticeLoss();
+    });
     for (Editor* editor : tabs_.editors())
         adopt(*editor);
+}
+
+void ProgramFiles::keepCopies() {
+    const QDeadlineTimer end(longestDelay);
+    for (Editor* editor : tabs_.editors())
+        ProgramDocument::of(*editor)->keepCopy();
+    RecoveryStore::instance().waitBriefly(std::chrono::milliseconds(end.remainingTime()));
 }
 
 ProgramDocument& ProgramFiles::adopt(Editor& editor) {
@@ -118,6 +131,8 @@ bool ProgramFiles::show(const QString& path, bool evenIfEmpty) {
         tabs_.setCurrentWidget(open);
         return true;
     }
+    if (others_.goTo && others_.goTo(path))
+        return true;
     const TextFileResult file = readTextFile(path);
     if (!file.succeeded)
         warn(file.error);
@@ -143,16 +158,28 @@ bool ProgramFiles::save(Editor& editor, Target target) {
         path = askPath(editor, target);
     if (path.isEmpty())
         return false;
-    const Editor* holder = editorOf(path);
-    if (holder != nullptr && holder != &editor) {
-        showWarning(tr("The file %1 is open in another tab.").arg(QFileInfo(path).fileName()));
-        return false;
-    }
-    // About another file the dialog has asked.
-    if (holder != nullptr && !notice_->maySave(path))
+    if (!mayWrite(editor, path))
         return false;
     write(editor, path);
     return true;
+}
+
+bool ProgramFiles::isElsewhere(const QString& path) const {
+    return others_.have && others_.have(path);
+}
+
+bool ProgramFiles::mayWrite(Editor& editor, const QString& path) {
+    const Editor* holder = editorOf(path);
+    if (holder == &editor)
+        return notice_->maySave(path);
+    const QString name = QFileInfo(path).fileName();
+    if (holder != nullptr)
+        showWarning(tr("The file %1 is open in another tab.").arg(name));
+    else if (isElsewhere(path))
+        showWarning(tr("The file %1 is open in another window.").arg(name));
+    else
+        return true; // the dialog has asked whether to replace it
+    return false;
 }
 
 void ProgramFiles::write(Editor& editor, const QString& path) {

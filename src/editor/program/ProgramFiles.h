@@ -2,6 +2,8 @@
 // New, open, save and close of a program window, with their questions.
 #pragma once
 
+#include "editor/program/OtherWindows.h"
+
 #include <QObject>
 #include <QString>
 
@@ -31,6 +33,10 @@ public:
     bool close(Editor& editor);
     void restore(const RecoveryCopy& copy);
     Editor* editorOf(const QString& path) const; ///< null where no tab has that file
+    /// Without them, the tabs here are all there is.
+    void setOtherWindows(OtherWindows others) { others_ = std::move(others); }
+    /// Begins to write the copies that are due, and waits a moment for them.
+    void keepCopies();
 
 signals:
     void editorAdded(Editor* editor);
@@ -49,10 +55,13 @@ private:
     void write(Editor& editor, const QString& path);
     bool mayClose(Editor& editor);
     void remove(Editor& editor);
+    bool isElsewhere(const QString& path) const;
+    bool mayWrite(Editor& editor, const QString& path);
 
     TabbedEditor& tabs_;
     FileWatch* watch_;
     FileChangeNotice* notice_;
     bool executeMode_;
+    OtherWindows others_;
     int untitled_ = 0; ///< documents named so far
 };
