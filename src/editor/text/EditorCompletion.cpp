@@ -56,6 +56,8 @@ EditorCompletion::EditorCompletion(QPlainTextEdit& editor, const EditorHost* hos
     QAbstractItemView* popup = completer_->popup();
     popup->setObjectName(QStringLiteral("completionPopup"));
     popup->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it is as wide as its words
+    connect(editor.document(), &QTextDocument::contentsChange, this,
+            &EditorCompletion::forgetReplacedText);
 }
 
 void EditorCompletion::followLook() {
@@ -71,6 +73,12 @@ void EditorCompletion::offer(const QStringList& words) {
 
 void EditorCompletion::offerReservedWords() {
     offer(reserved_);
+}
+
+/// The lines of a text that another one replaces may go by the same names.
+void EditorCompletion::forgetReplacedText(int position, int /*removed*/, int added) {
+    if (position == 0 && added > 1 && added >= editor_.document()->characterCount() - 1)
+        offerReservedWords();
 }
 
 void EditorCompletion::offerWordsOfPlace() {

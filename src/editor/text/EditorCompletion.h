@@ -43,6 +43,7 @@ private:
 
     static Trigger triggerOf(const QKeyEvent& event);
     void offer(const QStringList& words);
+    void forgetReplacedText(int position, int removed, int added);
     static bool typesWord(const QKeyEvent& event);
     bool lookUpEntity(const QString& word);
     QStringList variablesOf(const QString& entity) const;
