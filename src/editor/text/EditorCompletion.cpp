@@ -87,16 +87,13 @@ void EditorCompletion::offerWordsOfPlace() {
     const QStringView before = QStringView(line).first(wordStart(line, cursor.positionInBlock()));
     const QStringView words = before.trimmed();
     const bool afterBlank = !before.isEmpty() && before.back().isSpace();
-    if (inProse())
-        offerReservedWords();
-    else if (before.endsWith(u'.') && lookUpEntity(wordAround(line, int(before.size()) - 1)))
+    if (!inProse() && before.endsWith(u'.') &&
+        lookUpEntity(wordAround(line, int(before.size()) - 1)))
         return;
-    else if (afterBlank && isVariableTrigger(wordAround(words, int(words.size()))))
-        offer(entities_);
-    else if (words.endsWith(u',') && listsEntities(words))
-        offer(entities_);
-    else
-        offerReservedWords();
+    const bool wantsEntity =
+        (afterBlank && isVariableTrigger(wordAround(words, int(words.size())))) ||
+        (words.endsWith(u',') && listsEntities(words));
+    offer(wantsEntity && !inProse() ? entities_ : reserved_);
 }
 
 bool EditorCompletion::takes(const QKeyEvent& event) const {
