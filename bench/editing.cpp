@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "editing.h"
 
+#include "editor/text/Editor.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -47,8 +49,21 @@ void moveTo(QPlainTextEdit& editor, int line) {
     editor.ensureCursorVisible();
 }
 
+constexpr double mostForOpening = 2000; // milliseconds, as the others
+constexpr double mostForAKey = 16;
+constexpr double mostForTheWorstKey = 50;
+
+void check(const char* what, double took, double most, QStringList& faults) {
+    if (took > most)
+        faults += QStringLiteral("%1: %2 ms, more than %3")
+                      .arg(QString::fromLatin1(what))
+                      .arg(took, 0, 'f', 1)
+                      .arg(most);
+}
+
 /// Each key with its painting.
-void measureTyping(const char* what, QPlainTextEdit& editor, int line, const QString& typed) {
+void measureTyping(const char* what, QPlainTextEdit& editor, int line, const QString& typed,
+                   QStringList& faults) {
     moveTo(editor, line);
     paint(editor);
     std::vector<double> times;
@@ -61,9 +76,11 @@ void measureTyping(const char* what, QPlainTextEdit& editor, int line, const QSt
     }
     std::sort(times.begin(), times.end());
     print(what, times[times.size() / 2], times.back());
+    check(what, times[times.size() / 2], mostForAKey, faults);
+    check(what, times.back(), mostForTheWorstKey, faults);
 }
 
-void measureOpening(QPlainTextEdit& editor, const QString& program) {
+void measureOpening(QPlainTextEdit& editor, const QString& program, QStringList& faults) {
     QElapsedTimer timer;
     timer.start();
     editor.setPlainText(program);
@@ -73,14 +90,16 @@ void measureOpening(QPlainTextEdit& editor, const QString& program) {
     paint(editor);
     const double shown = elapsed(timer);
     std::printf("%-36s %8.2f ms, of which the text %.2f\n", "open", shown, text);
+    check("open", shown, mostForOpening, faults);
 }
 
-void measureEverywhere(QPlainTextEdit& editor, const QString& typed, const char* when) {
+void measureEverywhere(QPlainTextEdit& editor, const QString& typed, const char* when,
+                       QStringList& faults) {
     const int lines = editor.document()->blockCount();
     const QString words = QString::fromLatin1(when);
-    measureTyping(qPrintable("type at the start" + words), editor, 0, typed);
-    measureTyping(qPrintable("type in the middle" + words), editor, lines / 2, typed);
-    measureTyping(qPrintable("type at the end" + words), editor, lines - 1, typed);
+    measureTyping(qPrintable("type at the start" + words), editor, 0, typed, faults);
+    measureTyping(qPrintable("type in the middle" + words), editor, lines / 2, typed, faults);
+    measureTyping(qPrintable("type at the end" + words), editor, lines - 1, typed, faults);
 }
 
 QString block(QRandomGenerator& random, int number) {
@@ -150,19 +169,20 @@ void measureUntil(const char* what, const std::function<bool()>& done) {
     std::printf("%-36s %8.2f ms, longest turn %.2f\n", what, elapsed(timer), slowest);
 }
 
-void measureEditor(QPlainTextEdit& editor, const QString& program,
-                   const std::function<bool()>& finished) {
+QStringList measureEditor(QPlainTextEdit& editor, const QString& program,
+                          const std::function<bool()>& finished) {
     static const QString typed =
         QStringLiteral("freq PERSON.SEX by 12 \"label\" // why\n").repeated(6);
-    measureOpening(editor, program);
-    measureEverywhere(editor, typed, ", colours due");
+    QStringList faults;
+    measureOpening(editor, program, faults);
+    measureEverywhere(editor, typed, ", colours due", faults);
     measureUntil("  until all is coloured", finished);
-    measureEverywhere(editor, typed, "");
+    measureEverywhere(editor, typed, "", faults);
     // A comment that opens or closes concerns all the lines below.
     measureTyping("open and close a comment above all", editor, 0,
-                  QStringLiteral("/* */ /* */ /* */\n"));
-    measureTyping("leave one open", editor, 0, QStringLiteral("/*"));
-    measureTyping("type below it", editor, editor.document()->blockCount() / 2, typed);
+                  QStringLiteral("/* */ /* */ /* */\n"), faults);
+    measureTyping("leave one open", editor, 0, QStringLiteral("/*"), faults);
+    measureTyping("type below it", editor, editor.document()->blockCount() / 2, typed, faults);
     measureUntil("  until all is coloured", finished);
     measureRepeated(
         "undo a paste of 5000 lines", 5, [&] { editor.undo(); },
@@ -171,4 +191,26 @@ void measureEditor(QPlainTextEdit& editor, const QString& program,
             editor.insertPlainText(program.left(program.size() / 20));
         });
     measureUntil("  until all is coloured", finished);
+    return faults;
+}
+
+void measureAllLines(Editor& editor) {
+    const QString word = QStringLiteral("person");
+    measureRepeated("find all", 5, [&] { editor.findAll(word, false, false); });
+    bool replaced = false;
+    measureRepeated(
+        "replace all", 3, [&] { editor.replaceAll(word, "HOUSEHOLD", false, true); },
+        [&] {
+            if (replaced)
+                editor.undo();
+            replaced = true;
+        });
+    editor.undo();
+    measureRepeated(
+        "undo it", 3, [&] { editor.undo(); },
+        [&] { editor.replaceAll(word, "HOUSEHOLD", false, true); });
+    measureRepeated(
+        "indent all", 3, [&] { press(editor, Qt::Key_Tab, QStringLiteral("\t")); },
+        [&] { editor.selectAll(); });
+    measureRepeated("undo it", 3, [&] { editor.undo(); });
 }

@@ -48,6 +48,9 @@ private slots:
     void closesOnOtherCharacters();
     void narrowsAndWidens();
     void opensByCtrlSpace();
+    void asksByPlace_data();
+    void asksByPlace();
+    void forgetsTheWordsOfAnotherLine();
     void staysAwayFromProse();
     void leavesNothingToAcceptAlone();
     void keepsCapitalsWhereTheListHasThem();
@@ -235,6 +238,71 @@ void TestCompletion::opensByCtrlSpace() {
     QCOMPARE(typed.text(), QStringLiteral("tab\nfreq \nabs"));
 }
 
+void TestCompletion::asksByPlace_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("behind an entity") << "freq person.sex by person."
+                                      << "age";
+    QTest::newRow("within a variable") << "freq person.se"
+                                       << "sector";
+    QTest::newRow("behind no entity") << "freq nobody."
+                                      << "abs";
+    QTest::newRow("behind a trigger") << "freq person.sex by "
+                                      << "country";
+    QTest::newRow("within an entity") << "freq person.sex by ho"
+                                      << "household";
+    QTest::newRow("next of a list") << "AREALIST country, "
+                                    << "country";
+    QTest::newRow("within the next of a list") << "freq person.age,ho"
+                                               << "household";
+    QTest::newRow("a list of other things") << "abs(1, "
+                                            << "abs";
+    QTest::newRow("a word at the start") << "tab"
+                                         << "table";
+    QTest::newRow("behind a variable") << "freq person.sex "
+                                       << "abs";
+}
+
+void TestCompletion::asksByPlace() {
+    QFETCH(QString, text);
+    TypedEditor typed(QStringLiteral("\n") + text);
+    for (const char* before : {"", "freq person.", "freq x,"}) { // whatever was offered last
+        typed.moveTo(0);
+        typed.type(QLatin1String(before));
+        typed.press(Qt::Key_Escape);
+        typed.moveTo(static_cast<int>(typed.text().size()));
+        typed.press(Qt::Key_Space, Qt::ControlModifier);
+        QVERIFY(isOpen(typed));
+        QTEST(offered(typed).first(), "first");
+        typed.press(Qt::Key_Escape);
+    }
+}
+
+void TestCompletion::forgetsTheWordsOfAnotherLine() {
+    TypedEditor typed(QStringLiteral("\n\n"));
+    typed.type(QStringLiteral("freq person."));
+    typed.press(Qt::Key_Escape);
+    typed.press(Qt::Key_Down);
+    typed.type(QStringLiteral("se"));
+    QCOMPARE(offered(typed), QStringList({"selection", "selectionlabel", "sensitive"}));
+    typed.press(Qt::Key_Escape);
+    typed.type(QStringLiteral(" by "));
+    typed.press(Qt::Key_Escape);
+    const QPoint third =
+        typed.editor.cursorRect().center() + QPoint(0, typed.editor.cursorRect().height());
+    QTest::mouseClick(typed.editor.viewport(), Qt::LeftButton, {}, third);
+    QCOMPARE(typed.editor.currentLine(), 3);
+    typed.type(QStringLiteral("ho"));
+    QVERIFY(!offered(typed).contains(QStringLiteral("household")));
+    typed.press(Qt::Key_Escape);
+    typed.editor.setPlainText({});
+    typed.type(QStringLiteral("freq person."));
+    typed.press(Qt::Key_Escape);
+    typed.editor.selectAll();
+    typed.type(QStringLiteral("ta"));
+    QCOMPARE(offered(typed).first(), QStringLiteral("table"));
+}
+
 void TestCompletion::staysAwayFromProse() {
     TypedEditor typed;
     for (const char* line : {"// sorted by ", "/* all", "a */ \"by ", "\" // person."}) {
@@ -245,6 +313,9 @@ void TestCompletion::staysAwayFromProse() {
     QVERIFY(typed.host.asked.isEmpty());
     typed.type(QStringLiteral("fr"));
     QVERIFY(isOpen(typed));
+    typed.press(Qt::Key_Escape);
+    typed.type(QStringLiteral(" \"a,\" ta")); // a comma of a string asks for nothing
+    QCOMPARE(offered(typed).first(), QStringLiteral("table"));
 }
 
 void TestCompletion::leavesNothingToAcceptAlone() {

@@ -16,10 +16,12 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QRandomGenerator>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QUrl>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -56,6 +58,20 @@ QColor lineColor(Editor& editor, int line) {
     return image.pixelColor(image.width() - 2, y);
 }
 
+double luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+    const double x = luminance(a) + 0.05;
+    const double y = luminance(b) + 0.05;
+    return std::max(x, y) / std::min(x, y);
+}
+
 bool showsColor(QWidget& widget, const QColor& color) {
     const QImage image = widget.grab().toImage();
     for (int y = 0; y < image.height(); ++y)
@@ -82,6 +98,8 @@ private slots:
     void indents_data();
     void indents();
     void takesIndentationBackInOneStep();
+    void indentsNothingButLines();
+    void keepsTheCursorInView();
     void answersWhatIsUnderConstruction();
     void countsAsTheWholeWalkDoes();
     void countsWhileEditedAtRandom();
@@ -91,6 +109,7 @@ private slots:
     void paintsTheGutter();
     void marksAFaultyLineWithoutEditing();
     void followsTheFaultyLine();
+    void writesTheFaultyLineReadably();
     void clearsTheFaultyLineByDoubleClick();
     void namesItsDocument();
     void givesSelectionsWithLineFeeds();
@@ -202,6 +221,52 @@ void TestEditor::takesIndentationBackInOneStep() {
     QCOMPARE(typed.text(), QStringLiteral("\t\ta\n\tb"));
     typed.press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(typed.text(), QStringLiteral("\t\t\ta\n\t\tb"));
+}
+
+void TestEditor::indentsNothingButLines() {
+    const QString hard(QChar::Nbsp);
+    TypedEditor typed("a" + hard + "b\nc" + hard + "\nd");
+    typed.select(1, 6);
+    typed.press(Qt::Key_Tab, Qt::ControlModifier);
+    QVERIFY(!typed.editor.document()->isModified());
+    typed.press(Qt::Key_Tab);
+    QCOMPARE(typed.editor.document()->toRawText(),
+             QString("a\t" + hard + "b\n\tc" + hard + "\nd")
+                 .replace(u'\n', QChar(QChar::ParagraphSeparator)));
+    QCOMPARE(typed.editor.selectedText(), "\t" + hard + "b\n\tc" + hard);
+    typed.press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!typed.editor.hasUndo());
+    QCOMPARE(typed.editor.document()->toRawText().count(u'\t'), 0);
+}
+
+void TestEditor::keepsTheCursorInView() {
+    TypedEditor typed(longProgram(400));
+    Editor& editor = typed.editor;
+    const auto away = [&](int anchor, int position) {
+        typed.select(anchor, position);
+        editor.verticalScrollBar()->setValue(0);
+        return !editor.viewport()->rect().intersects(editor.cursorRect());
+    };
+    const auto seen = [&] { return editor.viewport()->rect().intersects(editor.cursorRect()); };
+    const int far = editor.document()->findBlockByNumber(300).position();
+    QVERIFY(away(far, far));
+    typed.press(Qt::Key_Tab);
+    QVERIFY(seen());
+    QVERIFY(away(far, far));
+    typed.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(seen());
+    QVERIFY(away(far, far));
+    typed.press(Qt::Key_Return, Qt::ShiftModifier);
+    QVERIFY(seen());
+    QVERIFY(away(far, far + 4));
+    typed.press(Qt::Key_Tab);
+    QVERIFY(seen());
+    QVERIFY(away(far, far + 4));
+    editor.on_delete();
+    QVERIFY(seen());
+    QVERIFY(away(far, far));
+    editor.replace("define", "x", false, false);
+    QVERIFY(seen());
 }
 
 void TestEditor::answersWhatIsUnderConstruction() {
@@ -403,6 +468,32 @@ void TestEditor::followsTheFaultyLine() {
     QCOMPARE(editor.highlightedLine(), 0);
 }
 
+void TestEditor::writesTheFaultyLineReadably() {
+    TypedEditor typed(QStringLiteral("freq 12 \"a\" // b\nfreq 12 \"a\" // b"));
+    Editor& editor = typed.editor;
+    for (int scheme = 0; scheme < syntaxStyles().size(); ++scheme) {
+        editor.highlightErrorLine(2);
+        editor.setSyntaxStyle(syntaxStyle(scheme));
+        QCOMPARE(editor.extraSelections().size(), 1);
+        const QColor words = editor.extraSelections().first().format.foreground().color();
+        const QColor ground = lineColor(editor, 2);
+        QVERIFY2(contrast(words, ground) >= 4.5, qPrintable(syntaxStyles()[scheme].first));
+        editor.clearErrorLine();
+        QVERIFY(editor.extraSelections().isEmpty());
+        QTRY_VERIFY(showsColor(*editor.viewport(), styleColor(scheme, "Keyword")));
+    }
+    editor.highlightErrorLine(2);
+    editor.findAll("freq", false, false);
+    QCOMPARE(editor.extraSelections().size(), 3);
+    QVERIFY(showsColor(*editor.viewport(), QColor(61, 174, 233).lighter(130).rgb()));
+    typed.type(QStringLiteral("x")); // into the faulty line, which stays one
+    QCOMPARE(editor.extraSelections().size(), 1);
+    QCOMPARE(editor.extraSelections().first().cursor.selectedText(),
+             QStringLiteral("xfreq 12 \"a\" // b"));
+    editor.setPlainText(QStringLiteral("1\n2"));
+    QVERIFY(editor.extraSelections().isEmpty());
+}
+
 void TestEditor::clearsTheFaultyLineByDoubleClick() {
     TypedEditor typed(QStringLiteral("freq PERSON.SEX\nfaulty"));
     Editor& editor = typed.editor;
@@ -436,6 +527,9 @@ void TestEditor::givesSelectionsWithLineFeeds() {
     typed.select(9, 2);
     QCOMPARE(typed.editor.selectedText(), QStringLiteral("// x\nb\n"));
     QCOMPARE(typed.editor.selectionFirstLine(), 0);
+    TypedEditor hard(QStringLiteral("a\u00a0b\n\u00a0"));
+    hard.editor.selectAll(); // a run of it is one of the whole text
+    QCOMPARE(hard.editor.selectedText(), QStringLiteral("a\u00a0b\n\u00a0"));
     typed.select(7, 10);
     QCOMPARE(typed.editor.selectionFirstLine(), 1);
     QSignalSpy define(&typed.editor, &Editor::defineOpen);

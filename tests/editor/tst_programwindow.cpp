@@ -244,6 +244,8 @@ void TestProgramWindow::replacesByKeys() {
     press(Qt::Key_F, Qt::ControlModifier);
     press(Qt::Key_F, Qt::ControlModifier);
     QTest::keyClicks(QApplication::focusWidget(), "one");
+    find<QAbstractButton>("findAllButton").click();
+    QCOMPARE(find<QLabel>("findMessage").text(), QString("Found 2 coincidences"));
     find<QAbstractButton>("replaceAllButton").click();
     QCOMPARE(editor().toPlainText(), QString("two two"));
     QVERIFY(window_->isWindowModified());

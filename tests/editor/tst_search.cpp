@@ -2,8 +2,10 @@
 // Finding, replacing and going to a line in the editor.
 #include "TypedEditor.h"
 
+#include <QScrollBar>
 #include <QSignalSpy>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -39,7 +41,13 @@ private slots:
     void beginsAnewWithOtherFlags();
     void marksAllMatches();
     void replacesTheMatch();
+    void replacesRoundOnce_data();
     void replacesRoundOnce();
+    void keepsHardBlanksInALongText();
+    void findsAllAsOneByOne();
+    void marksWhereverOneScrolls();
+    void marksGoOnAfterAReplacement();
+    void showsPlacesInTheMiddle();
     void replacesAll_data();
     void replacesAll();
     void replacesAllInOneStep();
@@ -133,8 +141,11 @@ void TestSearch::marksAllMatches() {
     editor.find("sex", false, false);
     QVERIFY(editor.extraSelections().isEmpty());
     spy.clear();
+    QSignalSpy none(&editor, &Editor::findResultReady);
     QVERIFY(editor.findAll("nothing", false, false));
     QVERIFY(spy.isEmpty());
+    QCOMPARE(said(none), nothing);
+    QVERIFY(editor.extraSelections().isEmpty());
 }
 
 void TestSearch::replacesTheMatch() {
@@ -144,29 +155,170 @@ void TestSearch::replacesTheMatch() {
     QSignalSpy changes(&editor, &Editor::fileContentsChanged);
     QSignalSpy chars(&editor, &Editor::charCountChanged);
     QVERIFY(editor.find("b", false, false));
-    editor.replace("b", "long", false, false); // the one that is selected
-    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+    editor.replace("b", "long", false, false); // the one behind the cursor, not that before it
+    QCOMPARE(typed.text(), QStringLiteral("a b a long"));
+    QCOMPARE(typed.position(), 10);
     QCOMPARE(changes.count(), 1);
     QCOMPARE(chars.last().first().toInt(), 10);
-    typed.select(0, 1); // no match: the next one counts
-    editor.replace("b", "c", false, false);
-    QCOMPARE(typed.text(), QStringLiteral("a long a c"));
+    typed.moveTo(0);
+    editor.replace("A", "cd", false, false);
+    QCOMPARE(typed.text(), QStringLiteral("cd b a long"));
     typed.press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+    QCOMPARE(typed.text(), QStringLiteral("a b a long"));
     editor.replace("B", "c", true, false);
     QCOMPARE(said(spy), nothing);
-    QCOMPARE(typed.text(), QStringLiteral("a long a b"));
+    QCOMPARE(typed.text(), QStringLiteral("a b a long"));
+}
+
+void TestSearch::replacesRoundOnce_data() {
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("cursor");
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("with");
+    QTest::addColumn<int>("presses");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("cursorAfter");
+    QTest::newRow("from the start") << "a a" << 0 << "a"
+                                    << "aa" << 3 << "aa aa" << cameRound << 0;
+    QTest::newRow("round the end") << "x x x" << 1 << "x"
+                                   << "xx" << 4 << "xx xx xx" << cameRound << 2;
+    QTest::newRow("within the text put in") << "x x x" << 1 << "x"
+                                            << "axb" << 4 << "axb axb axb" << cameRound << 3;
+    QTest::newRow("longer ones before") << "x\nx\nx" << 4 << "x"
+                                        << "xyz" << 4 << "xyz\nxyz\nxyz" << cameRound << 8;
+    QTest::newRow("with its neighbours") << "aab" << 0 << "ab"
+                                         << "b" << 2 << "ab" << cameRound << 0;
+    QTest::newRow("by nothing") << "a-a-" << 2 << "a"
+                                << "" << 3 << "--" << nothing << 0;
+    QTest::newRow("by another") << "a a" << 1 << "a"
+                                << "b" << 3 << "b b" << nothing << 1;
 }
 
 void TestSearch::replacesRoundOnce() {
-    TypedEditor typed(QStringLiteral("a a"));
+    QFETCH(QString, before);
+    QFETCH(int, cursor);
+    QFETCH(QString, what);
+    QFETCH(QString, with);
+    QFETCH(int, presses);
+    TypedEditor typed(before);
     QSignalSpy spy(&typed.editor, &Editor::findResultReady);
-    typed.editor.replace("a", "aa", false, false);
-    typed.editor.replace("a", "aa", false, false);
-    QCOMPARE(typed.text(), QStringLiteral("aa aa"));
-    typed.editor.replace("a", "aa", false, false);
-    QCOMPARE(said(spy), cameRound);
-    QCOMPARE(typed.text(), QStringLiteral("aa aa"));
+    typed.moveTo(cursor);
+    for (int press = 0; press < presses; ++press) {
+        QVERIFY(spy.isEmpty());
+        typed.editor.replace(what, with, false, false);
+    }
+    QTEST(said(spy), "message");
+    QTEST(typed.text(), "after");
+    QTEST(typed.position(), "cursorAfter");
+}
+
+void TestSearch::keepsHardBlanksInALongText() {
+    const QChar hard(QChar::Nbsp);
+    const QString before = (QStringLiteral("a") + hard + QStringLiteral("b a\n")).repeated(3000);
+    TypedEditor typed(before);
+    typed.editor.replaceAll("a", "c\nd", false, false);
+    QString after = typed.editor.document()->toRawText();
+    after.replace(QChar::ParagraphSeparator, u'\n');
+    QVERIFY(after == (QStringLiteral("c\nd") + hard + QStringLiteral("b c\nd\n")).repeated(3000));
+    typed.press(Qt::Key_Z, Qt::ControlModifier);
+    after = typed.editor.document()->toRawText();
+    after.replace(QChar::ParagraphSeparator, u'\n');
+    QVERIFY(after == before);
+}
+
+void TestSearch::findsAllAsOneByOne() {
+    const QString hard(QChar::Nbsp);
+    TypedEditor typed("ab ABab ab_ab\naab, ab;aab ab" + hard + "ab aba" + hard +
+                      "b\n\nabababab a b");
+    Editor& editor = typed.editor;
+    const QTextDocument& document = *editor.document();
+    for (const QString& query : {QString("ab"), QString("a"), QString("ab ab"), QString("aba"),
+                                 QString("a b"), QString(" ")})
+        for (int flags = 0; flags < 4; ++flags) {
+            const bool matchCase = (flags & 1) != 0;
+            const bool whole = (flags & 2) != 0;
+            QTextDocument::FindFlags asked;
+            asked.setFlag(QTextDocument::FindCaseSensitively, matchCase);
+            asked.setFlag(QTextDocument::FindWholeWords, whole);
+            QList<int> expected;
+            for (QTextCursor match = document.find(query, 0, asked); !match.isNull();
+                 match = document.find(query, match, asked))
+                expected.append(match.selectionStart());
+            editor.findAll(query, matchCase, whole);
+            QList<int> starts;
+            for (const auto& mark : editor.extraSelections())
+                starts.append(mark.cursor.selectionStart());
+            QCOMPARE(starts, expected);
+        }
+    typed.moveTo(0);
+    QVERIFY(editor.find("ab" + hard + "ab", false, false)); // as it is taken from a selection
+    QCOMPARE(editor.selectedText(), QStringLiteral("ab AB"));
+}
+
+void TestSearch::marksWhereverOneScrolls() {
+    TypedEditor typed(QStringLiteral("freq PERSON.SEX\n").repeated(20000));
+    Editor& editor = typed.editor;
+    editor.findAll("person", false, false);
+    const QColor mark = QColor(61, 174, 233).lighter(130).rgb();
+    const auto isMarked = [&](int y) {
+        const int x = editor.cursorRect(editor.cursorForPosition({0, y})).x() +
+                      editor.fontMetrics().horizontalAdvance(QStringLiteral("freq PER"));
+        const QImage image = editor.viewport()->grab().toImage();
+        const int half = editor.fontMetrics().height() / 2;
+        for (int row = std::max(0, y - half); row < std::min(image.height(), y + half); ++row)
+            if (image.pixelColor(x, row) == mark)
+                return true;
+        return false;
+    };
+    QScrollBar& bar = *editor.verticalScrollBar();
+    for (const int line : {0, 7000, 19000, 12345}) {
+        bar.setValue(line);
+        const int height = editor.viewport()->height();
+        for (int y = 4; y < height - 20; y += 40)
+            QVERIFY2(isMarked(y), qPrintable(QString::number(line)));
+        QVERIFY(editor.extraSelections().size() < 1000);
+    }
+    editor.resize(editor.width(), editor.height() + 200);
+    QTRY_VERIFY(isMarked(editor.viewport()->height() - 30));
+    typed.type(QStringLiteral("x"));
+    QVERIFY(editor.extraSelections().isEmpty());
+    bar.setValue(0);
+    QVERIFY(editor.extraSelections().isEmpty());
+}
+
+void TestSearch::marksGoOnAfterAReplacement() {
+    for (const int lines : {10, 5000}) { // all are marked, and those in view
+        TypedEditor typed(QStringLiteral("a b\n").repeated(lines));
+        Editor& editor = typed.editor;
+        editor.findAll("a", false, false);
+        typed.moveTo(4);
+        editor.replace("a", "long", false, false);
+        QVERIFY(!editor.extraSelections().isEmpty());
+        for (const auto& mark : editor.extraSelections()) {
+            QCOMPARE(mark.cursor.selectedText(), QStringLiteral("a"));
+            QVERIFY(mark.cursor.blockNumber() != 1);
+        }
+    }
+}
+
+void TestSearch::showsPlacesInTheMiddle() {
+    TypedEditor typed(QStringLiteral("freq PERSON.SEX\n").repeated(500) + "needle\n" +
+                      QStringLiteral("freq PERSON.SEX\n").repeated(500));
+    Editor& editor = typed.editor;
+    const auto isCentred = [&] {
+        const int height = editor.viewport()->height();
+        return std::abs(editor.cursorRect().center().y() - height / 2) < height / 8;
+    };
+    editor.goTo(300);
+    QVERIFY(isCentred());
+    const int top = editor.verticalScrollBar()->value();
+    editor.goTo(303); // in view: nothing moves
+    QCOMPARE(editor.verticalScrollBar()->value(), top);
+    QVERIFY(editor.find("needle", false, false));
+    QVERIFY(isCentred());
+    editor.highlightErrorLine(800);
+    QVERIFY(isCentred());
 }
 
 void TestSearch::replacesAll_data() {
@@ -256,7 +408,6 @@ void TestSearch::replacesInALongText() {
     QSignalSpy spy(&typed.editor, &Editor::findAllResult);
     typed.editor.findAll("person", false, false);
     QCOMPARE(said(spy), QStringLiteral("Found 20000 coincidences"));
-    QVERIFY(typed.editor.extraSelections().size() >= 1000);
     typed.moveTo(16 * 300 + 3);
     typed.editor.replaceAll("PERSON", "HOUSEHOLD", true, true);
     QCOMPARE(typed.text(), QStringLiteral("freq HOUSEHOLD.SEX\n").repeated(20000));

@@ -175,7 +175,7 @@ private slots:
         QFETCH(int, index);
         const QSyntaxStyle& style = *syntaxStyle(index);
         const QColor ground = style.getFormat("Text").background().color();
-        for (const char* back : {"Text", "CurrentLine", "Selection"})
+        for (const char* back : {"Text", "CurrentLine", "Selection", "Parentheses"})
             for (const char* front :
                  {"Text", "Keyword", "Number", "String", "Comment", "LineNumber",
                   "CurrentLineNumber", "Type", "Function", "Operator"}) {

@@ -40,6 +40,8 @@ void EditorConnections::connectFinding(Editor& editor) {
                               &FindDialog::onFindResultReady)
           << QObject::connect(&editor, &Editor::findAllResult, &window_,
                               &ProcessProgramSPC::onFindAllResult)
+          << QObject::connect(&editor, &Editor::findAllResult, &find_,
+                              &FindDialog::onFindResultReady)
           << QObject::connect(&editor, &Editor::gotoResultReady, &goTo_,
                               &GotoDialog::onGotoResultReady)
           << QObject::connect(&editor, &Editor::gotoClose, &goTo_, &QWidget::hide);

@@ -10,16 +10,16 @@ bool belongsToWord(QChar c) {
     return c == u'_' || (!c.isSpace() && !endsWord(c));
 }
 
-int wordStart(QStringView line, int column) {
-    while (column > 0 && belongsToWord(line[column - 1]))
-        --column;
-    return column;
-}
-
 } // namespace
 
 bool endsWord(QChar c) {
     return QStringView(u"~!@#$%^&*()_+{}|:\"<>?,./;'[]\\-=").contains(c);
+}
+
+int wordStart(QStringView line, int column) {
+    while (column > 0 && belongsToWord(line[column - 1]))
+        --column;
+    return column;
 }
 
 int wordEnd(QStringView line, int column) {

@@ -10,7 +10,8 @@ bool endsWord(QChar c);
 
 /// The word that the column (0-based) lies in or touches; empty between two separators.
 QString wordAround(QStringView line, int column);
-int wordEnd(QStringView line, int column); ///< column behind that word
+int wordStart(QStringView line, int column); ///< column where that word begins
+int wordEnd(QStringView line, int column);   ///< column behind that word
 
 /// Whether what is typed at the column is no command: text of a comment or a string that has begun.
 /// inComment: of the lines before.

@@ -7,13 +7,13 @@
 #include "editor/language/WordModel.h"
 #include "editor/text/EditorCompletion.h"
 #include "editor/text/LineNumberArea.h"
+#include "editor/text/ShowPlace.h"
 #include "editor/text/WordCounter.h"
 
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
 
 namespace {
 
@@ -58,6 +58,7 @@ void Editor::connectSignals() {
     connect(this, &QPlainTextEdit::blockCountChanged, this, tellCursor);
     connect(this, &QPlainTextEdit::blockCountChanged, this, &Editor::updateLineNumberAreaWidth);
     connect(this, &QPlainTextEdit::updateRequest, this, &Editor::redrawLineNumberArea);
+    connect(this, &QPlainTextEdit::updateRequest, this, &Editor::renewMarks);
     connect(this, &QPlainTextEdit::undoAvailable, this, &Editor::setUndoAvailable);
     connect(this, &QPlainTextEdit::redoAvailable, this, &Editor::setRedoAvailable);
     connect(this, &QWidget::customContextMenuRequested, this, &Editor::slotCustomMenuRequested);
@@ -132,6 +133,7 @@ void Editor::setSyntaxStyle(QSyntaxStyle* style) {
     applyStyleColors(*this, *style);
     lineNumberArea_->setSyntaxStyle(*style);
     completion_->followLook();
+    showMarks();
     highlighter_->setSyntaxStyle(style);
     highlighter_->recolour();
 }
@@ -182,7 +184,10 @@ QPair<int, int> Editor::visibleBlocks() const {
 }
 
 QString Editor::selectedText() const {
-    return textCursor().selection().toPlainText();
+    QString text = textCursor().selectedText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
+    return text;
 }
 
 int Editor::selectionFirstLine() const {
@@ -196,12 +201,14 @@ void Editor::highlightErrorLine(int line) {
         return;
     }
     errorLine_.mark(block);
-    setTextCursor(QTextCursor(block));
+    showMarks();
+    showPlace(*this, QTextCursor(block));
     viewport()->update();
 }
 
 void Editor::clearErrorLine() {
     errorLine_.clear();
+    showMarks();
     viewport()->update();
 }
 
@@ -225,6 +232,10 @@ void Editor::insertFromMimeData(const QMimeData* source) {
     QString text = source->text();
     // The engine counts lines by line feeds.
     text.replace(QChar::LineSeparator, u'\n');
+    insertTyped(text);
+}
+
+void Editor::insertTyped(const QString& text) {
     textCursor().insertText(text);
     ensureCursorVisible();
 }
@@ -255,9 +266,27 @@ void Editor::tellMetrics() {
     on_cursorPositionChanged();
 }
 
+/// The words of the faulty line come first: a mark paints over what is drawn before it.
+void Editor::showMarks() {
+    QList<QTextEdit::ExtraSelection> marks = errorLine_.words(palette().color(QPalette::Base));
+    markedBlocks_ = visibleBlocks();
+    const QTextBlock last = document()->findBlockByNumber(markedBlocks_.second);
+    marks += found_.selections(*document(),
+                               document()->findBlockByNumber(markedBlocks_.first).position(),
+                               last.position() + last.length());
+    if (!marks.isEmpty() || !extraSelections().isEmpty())
+        setExtraSelections(marks);
+}
+
+/// Many marks are only those in view, which is another part of the text now and then.
+void Editor::renewMarks() {
+    if (found_.areMany() && visibleBlocks() != markedBlocks_)
+        showMarks();
+}
+
 void Editor::clearMarks() {
-    if (!extraSelections().isEmpty())
-        setExtraSelections({});
+    found_.clear();
+    showMarks();
 }
 
 void Editor::on_textChanged() {

@@ -4,6 +4,7 @@
 
 #include "editor/text/EditorSearch.h"
 #include "editor/text/ErrorLine.h"
+#include "editor/text/FoundMarks.h"
 
 #include <QPair>
 #include <QPlainTextEdit>
@@ -73,7 +74,8 @@ public:
     bool hasUndo() const { return undoAvailable_; }
     bool hasRedo() const { return redoAvailable_; }
 
-    /// With the line ends of a program text: line feeds. Empty where nothing is selected.
+    /// With the line ends of a program text: line feeds. Hard blanks stay. Empty where nothing is
+    /// selected.
     QString selectedText() const;
     int selectionFirstLine() const; ///< 0-based line where the selection begins
 
@@ -163,6 +165,9 @@ private:
     bool filterKey(QKeyEvent& event);
     bool handleOwnKey(const QKeyEvent& event);
     void retranslate();
+    void insertTyped(const QString& text);
+    void showMarks();
+    void renewMarks();
     void clearMarks();
     void tellTextMetrics();
     void placeLineNumberArea();
@@ -176,6 +181,8 @@ private:
     QSyntaxStyle* style_ = nullptr;
     EditorSearch search_;
     ErrorLine errorLine_;
+    FoundMarks found_;
+    QPair<int, int> markedBlocks_; ///< that were in view when the marks were set
     QStringList entityList_;
     QStringList variableList_;
     QString filePath_;

@@ -65,6 +65,7 @@ void Editor::connectAssistants(const EditorContextMenu& menu) {
 
 void Editor::on_delete() {
     textCursor().removeSelectedText();
+    ensureCursorVisible();
 }
 
 void Editor::runByBlock() {

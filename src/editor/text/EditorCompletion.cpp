@@ -4,14 +4,15 @@
 #include "editor/language/KelvoraCompleter.h"
 #include "editor/text/CompletionPlace.h"
 #include "editor/text/EditorHost.h"
+#include "editor/text/WaitCursor.h"
 
 #include <QAbstractItemView>
 #include <QDebug>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTextBlock>
+
+#include <algorithm>
 
 namespace {
 
@@ -20,6 +21,13 @@ bool isVariableTrigger(const QString& word) {
     static const QStringList triggers{QStringLiteral("AREALIST"), QStringLiteral("FREQ"),
                                       QStringLiteral("BY"), QStringLiteral("AREABREAK")};
     return triggers.contains(word.toUpper());
+}
+
+/// Whether one of those words stands in the line so far.
+bool listsEntities(QStringView line) {
+    const auto words = line.split(u' ', Qt::SkipEmptyParts);
+    return std::any_of(words.begin(), words.end(),
+                       [](QStringView word) { return isVariableTrigger(word.toString()); });
 }
 
 bool isCommand(const QKeyEvent& event) {
@@ -48,6 +56,8 @@ EditorCompletion::EditorCompletion(QPlainTextEdit& editor, const EditorHost* hos
     QAbstractItemView* popup = completer_->popup();
     popup->setObjectName(QStringLiteral("completionPopup"));
     popup->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // it is as wide as its words
+    connect(editor.document(), &QTextDocument::contentsChange, this,
+            &EditorCompletion::forgetReplacedText);
 }
 
 void EditorCompletion::followLook() {
@@ -56,8 +66,34 @@ void EditorCompletion::followLook() {
     popup->setPalette(editor_.palette());
 }
 
+void EditorCompletion::offer(const QStringList& words) {
+    completer_->setWords(words);
+    offeredIn_ = editor_.textCursor().block();
+}
+
 void EditorCompletion::offerReservedWords() {
-    completer_->setWords(reserved_);
+    offer(reserved_);
+}
+
+/// The lines of a text that another one replaces may go by the same names.
+void EditorCompletion::forgetReplacedText(int position, int /*removed*/, int added) {
+    if (position == 0 && added > 1 && added >= editor_.document()->characterCount() - 1)
+        offerReservedWords();
+}
+
+void EditorCompletion::offerWordsOfPlace() {
+    const QTextCursor cursor = editor_.textCursor();
+    const QString line = cursor.block().text();
+    const QStringView before = QStringView(line).first(wordStart(line, cursor.positionInBlock()));
+    const QStringView words = before.trimmed();
+    const bool afterBlank = !before.isEmpty() && before.back().isSpace();
+    if (!inProse() && before.endsWith(u'.') &&
+        lookUpEntity(wordAround(line, int(before.size()) - 1)))
+        return;
+    const bool wantsEntity =
+        (afterBlank && isVariableTrigger(wordAround(words, int(words.size())))) ||
+        (words.endsWith(u',') && listsEntities(words));
+    offer(wantsEntity && !inProse() ? entities_ : reserved_);
 }
 
 bool EditorCompletion::takes(const QKeyEvent& event) const {
@@ -92,10 +128,13 @@ EditorCompletion::Trigger EditorCompletion::triggerOf(const QKeyEvent& event) {
 
 void EditorCompletion::beforeKey(const QKeyEvent& event) {
     const Trigger trigger = triggerOf(event);
+    const QTextCursor cursor = editor_.textCursor();
+    if (typesWord(event) && (cursor.block() != offeredIn_ || cursor.selectionStart() == 0))
+        offerReservedWords();
     afterEntityDot_ =
         trigger == Trigger::Dot && !inProse() && lookUpEntity(wordAt(editor_.textCursor()));
-    if (trigger == Trigger::Comma)
-        completer_->setWords(entities_);
+    if (trigger == Trigger::Comma && !inProse())
+        offer(entities_);
 }
 
 bool EditorCompletion::lookUpEntity(const QString& word) {
@@ -103,16 +142,15 @@ bool EditorCompletion::lookUpEntity(const QString& word) {
     const QString name = lowerCase_ ? word.toLower() : word.toUpper();
     if (!entities_.contains(name))
         return false;
-    completer_->setWords(variablesOf(name));
+    offer(variablesOf(name));
     return true;
 }
 
 QStringList EditorCompletion::variablesOf(const QString& entity) const {
     if (host_ == nullptr)
         return {};
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const WaitCursor wait;
     QStringList names = host_->variablesOf(entity);
-    QGuiApplication::restoreOverrideCursor();
     if (lowerCase_)
         for (QString& name : names)
             name = name.toLower();
@@ -121,7 +159,7 @@ QStringList EditorCompletion::variablesOf(const QString& entity) const {
 
 void EditorCompletion::afterKey(const QKeyEvent& event) {
     if (asksForWords(event)) {
-        offersAfter(Trigger::Blank); // the entities, where they belong here
+        offerWordsOfPlace();
         open(wordAt(editor_.textCursor()));
         return;
     }
@@ -144,7 +182,7 @@ bool EditorCompletion::offersAfter(Trigger trigger) {
     case Trigger::Blank:
         if (!wordAt(cursor).isEmpty() || !isVariableTrigger(wordAt(cursor, 1)))
             return false;
-        completer_->setWords(entities_);
+        offer(entities_);
         return true;
     case Trigger::Comma:
         return cursor.block().text().trimmed().size() > 1;
@@ -156,11 +194,15 @@ bool EditorCompletion::offersAfter(Trigger trigger) {
     return false;
 }
 
-bool EditorCompletion::offersForWord(const QKeyEvent& event) const {
+bool EditorCompletion::typesWord(const QKeyEvent& event) {
     const QString text = event.text();
-    const bool types = !text.isEmpty() && !isCommand(event) &&
-                       (text.back().isPrint() || event.key() == Qt::Key_Backspace);
-    return types && !endsWord(text.back()) && !wordAt(editor_.textCursor()).isEmpty();
+    return !text.isEmpty() && !isCommand(event) &&
+           (text.back().isPrint() || event.key() == Qt::Key_Backspace);
+}
+
+bool EditorCompletion::offersForWord(const QKeyEvent& event) const {
+    return typesWord(event) && !endsWord(event.text().back()) &&
+           !wordAt(editor_.textCursor()).isEmpty();
 }
 
 bool EditorCompletion::inProse() const {
@@ -201,4 +243,5 @@ void EditorCompletion::insert(const QString& completion) {
     cursor.insertText(completion.mid(prefix.size()));
     cursor.endEditBlock();
     editor_.setTextCursor(cursor);
+    editor_.ensureCursorVisible();
 }

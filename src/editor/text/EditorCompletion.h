@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTextBlock>
 
 class EditorHost;
 class KelvoraCompleter;
@@ -32,6 +33,7 @@ public:
     /// Opens, narrows or closes the list.
     void afterKey(const QKeyEvent& event);
     void offerReservedWords();
+    void offerWordsOfPlace(); ///< whatever was typed last, and wherever
     /// Adds what the word at the cursor lacks of the completion.
     void insert(const QString& completion);
     void followLook(); ///< font and colours of the editor
@@ -40,6 +42,9 @@ private:
     enum class Trigger { None, Blank, Comma, Dot };
 
     static Trigger triggerOf(const QKeyEvent& event);
+    void offer(const QStringList& words);
+    void forgetReplacedText(int position, int removed, int added);
+    static bool typesWord(const QKeyEvent& event);
     bool lookUpEntity(const QString& word);
     QStringList variablesOf(const QString& entity) const;
     bool offersAfter(Trigger trigger);
@@ -54,5 +59,6 @@ private:
     QStringList reserved_;
     QStringList entities_;
     bool lowerCase_ = false;
+    QTextBlock offeredIn_;        ///< the line for which the words were chosen
     bool afterEntityDot_ = false; ///< the last "." followed the name of an entity
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The editor's side of the search page and of going to a line.
 #include "editor/text/Editor.h"
+#include "editor/text/ShowPlace.h"
+#include "editor/text/WaitCursor.h"
 
 #include <QScopedValueRollback>
 #include <QTextBlock>
@@ -36,9 +38,13 @@ bool Editor::find(const QString& query, bool caseSensitive, bool wholeWords, boo
 bool Editor::findAll(const QString& query, bool caseSensitive, bool wholeWords) {
     if (query.isEmpty())
         return true;
+    const WaitCursor wait;
     const QList<int> starts = search_.starts(query, flagsOf(caseSensitive, wholeWords));
-    setExtraSelections(search_.marks(starts, static_cast<int>(query.size())));
-    if (!starts.isEmpty())
+    found_.set(starts, static_cast<int>(query.size()));
+    showMarks();
+    if (starts.isEmpty())
+        emit findResultReady(tr("No results found."));
+    else
         emit findAllResult(tr("Found %1 coincidences").arg(starts.size()));
     return true;
 }
@@ -49,13 +55,13 @@ void Editor::replace(const QString& what, const QString& with, bool caseSensitiv
         return;
     {
         const QScopedValueRollback<bool> quiet(replacing_, true);
-        // The match that Find next shows is the one that the user means.
-        const bool found = search_.hasMatch(what, flagsOf(caseSensitive, wholeWords)) ||
-                           find(what, caseSensitive, wholeWords, true);
-        if (found)
-            textCursor().insertText(with);
-        else
+        if (!find(what, caseSensitive, wholeWords, true))
             return;
+        const int start = textCursor().selectionStart();
+        const int removed = textCursor().selectionEnd() - start;
+        search_.replaceSelection(with);
+        found_.follow(start, removed, textCursor().position() - start);
+        showMarks();
     }
     // Not on_textChanged(): the round of the search goes on.
     tellMetrics();
@@ -66,6 +72,7 @@ void Editor::replaceAll(const QString& what, const QString& with, bool caseSensi
                         bool wholeWords) {
     if (what.isEmpty())
         return;
+    const WaitCursor wait;
     clearMarks();
     int count = 0;
     {
@@ -84,6 +91,6 @@ void Editor::goTo(int line) {
         emit gotoResultReady(tr("Invalid line number."));
         return;
     }
-    setTextCursor(QTextCursor(document()->findBlockByNumber(line - 1)));
+    showPlace(*this, QTextCursor(document()->findBlockByNumber(line - 1)));
     emit gotoClose(line);
 }

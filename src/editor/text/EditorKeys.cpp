@@ -3,8 +3,11 @@
 #include "editor/text/Editor.h"
 #include "editor/text/EditorCompletion.h"
 #include "editor/text/Indentation.h"
+#include "editor/text/WaitCursor.h"
 
 #include <QKeyEvent>
+
+#include <optional>
 
 namespace {
 
@@ -15,6 +18,14 @@ const QString& tabReplace() {
 
 bool isReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isPlainTab(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Tab && event.modifiers() == Qt::NoModifier;
+}
+
+bool goesBack(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
 }
 
 } // namespace
@@ -33,9 +44,11 @@ bool Editor::filterKey(QKeyEvent& event) {
         completion_->offerReservedWords();
         return breakLine(*this, autoIndent_);
     }
-    const bool indents = event.key() == Qt::Key_Tab && textCursor().hasSelection();
-    if (indents)
+    const bool indents = isPlainTab(event) && textCursor().hasSelection();
+    if (indents) {
+        const WaitCursor wait;
         indentSelection(*this);
+    }
     return indents;
 }
 
@@ -54,9 +67,12 @@ void Editor::keyPressEvent(QKeyEvent* event) {
         event->key() == Qt::Key_Space && event->modifiers() == Qt::ControlModifier;
     if (!asksForWords) {
         completion_->beforeKey(*event);
+        std::optional<WaitCursor> wait; // after a change of all lines this takes its time
+        if (goesBack(*event))
+            wait.emplace();
         // Shift would insert a separator that is no line end to the engine.
         if (isReturn(*event))
-            textCursor().insertBlock();
+            insertTyped(QStringLiteral("\n"));
         else
             QPlainTextEdit::keyPressEvent(event);
     }
@@ -65,8 +81,8 @@ void Editor::keyPressEvent(QKeyEvent* event) {
 
 /// Keys that end here.
 bool Editor::handleOwnKey(const QKeyEvent& event) {
-    if (replaceTab_ && event.key() == Qt::Key_Tab && event.modifiers() == Qt::NoModifier)
-        textCursor().insertText(tabReplace());
+    if (replaceTab_ && isPlainTab(event))
+        insertTyped(tabReplace());
     else if (event.key() == Qt::Key_T && event.modifiers() == Qt::ControlModifier)
         on_toggleComment();
     else if (replaceTab_ && event.key() == Qt::Key_Backtab)

@@ -1,35 +1,52 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/text/EditorSearch.h"
 
+#include "editor/text/ShowPlace.h"
+
 #include <QPlainTextEdit>
+#include <QStringMatcher>
 #include <QTextBlock>
 #include <QTextCursor>
 
-#include <algorithm>
-
 namespace {
 
-constexpr int markLightness = 130; // per cent
-
-/// Light in every scheme, so the words on it are dark in every scheme.
-QTextCharFormat markFormat() {
-    QTextCharFormat format;
-    format.setBackground(QColor(61, 174, 233).lighter(markLightness));
-    format.setForeground(Qt::black);
-    return format;
+QString withPlainBlanks(QString text) {
+    return text.replace(QChar::Nbsp, u' ');
 }
 
-/// Each mark is a cursor, and each edit walks over all that the document ever had at a time.
-constexpr qsizetype mostMarks = 5000;
-
-/// More than that are replaced as one stretch of text.
-constexpr int manyMatches = 2000;
-
-void replaceAt(QTextCursor& edit, int start, int length, const QString& with) {
-    edit.setPosition(start);
-    edit.setPosition(start + length, QTextCursor::KeepAnchor);
-    edit.insertText(with);
+bool isWhole(QStringView line, qsizetype start, qsizetype end) {
+    return (start == 0 || !line[start - 1].isLetterOrNumber()) &&
+           (end == line.size() || !line[end].isLetterOrNumber());
 }
+
+/// Where the same matches are as QTextDocument::find() tells one by one; each of its answers is a
+/// cursor, which the document would have to move in every edit.
+class LineMatcher {
+public:
+    LineMatcher(const QString& query, QTextDocument::FindFlags flags)
+        : matcher_(query, flags.testFlag(QTextDocument::FindCaseSensitively) ? Qt::CaseSensitive
+                                                                             : Qt::CaseInsensitive),
+          wholeWords_(flags.testFlag(QTextDocument::FindWholeWords)), length_(query.size()) {}
+
+    void append(const QTextBlock& block, QList<int>& starts) const {
+        const QString line = withPlainBlanks(block.text());
+        qsizetype from = 0;
+        while (from <= line.size()) {
+            const qsizetype start = matcher_.indexIn(line, from);
+            if (start < 0)
+                return;
+            const bool counts = !wholeWords_ || isWhole(line, start, start + length_);
+            if (counts)
+                starts.append(block.position() + static_cast<int>(start));
+            from = start + length_ + (counts ? 0 : 1);
+        }
+    }
+
+private:
+    QStringMatcher matcher_;
+    bool wholeWords_;
+    qsizetype length_;
+};
 
 } // namespace
 
@@ -37,59 +54,45 @@ EditorSearch::Outcome EditorSearch::next(const QString& query, QTextDocument::Fi
     if (flags != flags_)
         forget();
     flags_ = flags;
-    const int start = editor_.textCursor().position();
-    if (!select(query, flags))
+    const QTextCursor match = locate(query, flags);
+    if (match.isNull())
         return Outcome::Nothing;
-    const int match = editor_.textCursor().position();
-    const auto first = history_.constFind(query);
-    if (first == history_.constEnd()) {
-        history_.insert(query, {start, match});
+    const Match place{match.selectionStart(), match.selectionEnd()};
+    if (rounds_.takes(query, editor_.textCursor().position(), place)) {
+        showPlace(editor_, match);
         return Outcome::Found;
     }
-    if (match != first->second)
-        return Outcome::Found;
     QTextCursor cursor = editor_.textCursor();
-    cursor.setPosition(first->first);
-    editor_.setTextCursor(cursor);
+    cursor.setPosition(rounds_.begin(query));
+    showPlace(editor_, cursor);
     forget();
     return Outcome::CameRound;
 }
 
-bool EditorSearch::select(const QString& query, QTextDocument::FindFlags flags) {
-    QTextDocument& document = *editor_.document();
-    QTextCursor match = document.find(query, editor_.textCursor(), flags);
-    if (match.isNull())
-        match = document.find(query, 0, flags);
-    if (!match.isNull())
-        editor_.setTextCursor(match);
-    return !match.isNull();
+QTextCursor EditorSearch::locate(const QString& query, QTextDocument::FindFlags flags) const {
+    const QString plain = withPlainBlanks(query);
+    const QTextDocument& document = *editor_.document();
+    const QTextCursor match = document.find(plain, editor_.textCursor(), flags);
+    return match.isNull() ? document.find(plain, 0, flags) : match;
 }
 
-bool EditorSearch::hasMatch(const QString& query, QTextDocument::FindFlags flags) const {
-    const QTextCursor cursor = editor_.textCursor();
+void EditorSearch::replaceSelection(const QString& with) {
+    QTextCursor cursor = editor_.textCursor();
     const int start = cursor.selectionStart();
-    const QTextCursor match = editor_.document()->find(query, start, flags);
-    return cursor.hasSelection() && !match.isNull() && match.selectionStart() == start &&
-           match.selectionEnd() == cursor.selectionEnd();
-}
-
-QList<QTextEdit::ExtraSelection> EditorSearch::marks(const QList<int>& starts, int length) const {
-    QList<QTextEdit::ExtraSelection> marks;
-    const QTextCharFormat format = markFormat();
-    for (const int start : starts.first(std::min(starts.size(), mostMarks))) {
-        QTextCursor match(editor_.document());
-        match.setPosition(start);
-        match.setPosition(start + length, QTextCursor::KeepAnchor);
-        marks.append({match, format});
-    }
-    return marks;
+    const int removed = cursor.selectionEnd() - start;
+    cursor.beginEditBlock();
+    cursor.insertText(with);
+    cursor.endEditBlock();
+    rounds_.follow(start, removed, cursor.position() - start);
+    editor_.setTextCursor(cursor);
+    editor_.ensureCursorVisible();
 }
 
 QList<int> EditorSearch::starts(const QString& query, QTextDocument::FindFlags flags) const {
     QList<int> starts;
-    QTextCursor match = editor_.document()->find(query, 0, flags);
-    for (; !match.isNull(); match = editor_.document()->find(query, match, flags))
-        starts.append(match.selectionStart());
+    const LineMatcher matcher(withPlainBlanks(query), flags);
+    for (QTextBlock block = editor_.document()->firstBlock(); block.isValid(); block = block.next())
+        matcher.append(block, starts);
     return starts;
 }
 
@@ -101,32 +104,11 @@ int EditorSearch::replaceAll(const QString& what, const QString& with,
     QTextCursor edit(editor_.document());
     edit.beginEditBlock();
     const int length = static_cast<int>(what.size());
-    if (found.size() > manyMatches)
-        replaceStretch(edit, found, length, with);
-    else
-        for (auto start = found.crbegin(); start != found.crend(); ++start)
-            replaceAt(edit, *start, length, with);
+    for (auto start = found.crbegin(); start != found.crend(); ++start) {
+        edit.setPosition(*start);
+        edit.setPosition(*start + length, QTextCursor::KeepAnchor);
+        edit.insertText(with);
+    }
     edit.endEditBlock();
     return static_cast<int>(found.size());
-}
-
-/// All at once from the first match to the last: so many edits would take minutes. Only the
-/// cursor has to be brought back to its place then.
-void EditorSearch::replaceStretch(QTextCursor& edit, const QList<int>& starts, int length,
-                                  const QString& with) {
-    const QString before = editor_.document()->toPlainText();
-    const int line = editor_.textCursor().blockNumber();
-    const int column = editor_.textCursor().positionInBlock();
-    QString after;
-    int end = starts.first();
-    for (const int start : starts) {
-        after += QStringView(before).sliced(end, start - end);
-        after += with;
-        end = start + length;
-    }
-    replaceAt(edit, starts.first(), end - starts.first(), after);
-    const QTextBlock block = editor_.document()->findBlockByNumber(line);
-    QTextCursor cursor(block);
-    cursor.setPosition(block.position() + std::min(column, block.length() - 1));
-    editor_.setTextCursor(cursor);
 }

@@ -3,7 +3,6 @@
 
 #include <QPlainTextEdit>
 #include <QTextBlock>
-#include <QTextDocumentFragment>
 
 namespace {
 
@@ -41,23 +40,30 @@ bool breakLine(QPlainTextEdit& editor, bool copyTabs) {
     const int tabs = copyTabs ? leadingTabs(cursor.block().text()) : 0;
     cursor.insertText(u'\n' + QString(tabs, u'\t'));
     editor.setTextCursor(cursor);
+    editor.ensureCursorVisible();
     return true;
 }
 
 void indentSelection(QPlainTextEdit& editor) {
     QTextCursor cursor = editor.textCursor();
-    QString text = cursor.selection().toPlainText();
-    const bool endsLine = text.endsWith(u'\n');
-    if (endsLine)
-        text.chop(1);
-    text.replace(u'\n', QLatin1String("\n\t"));
     const int start = cursor.selectionStart();
-    cursor.insertText(u'\t' + text + (endsLine ? QStringLiteral("\n") : QString()));
+    int end = cursor.selectionEnd();
+    QTextCursor edit(editor.document());
+    edit.beginEditBlock();
+    // From below, so that the blocks above keep their positions; only the tabs are put in.
+    for (QTextBlock block = editor.document()->findBlock(end - 1); block.position() > start;
+         block = block.previous(), ++end) {
+        edit.setPosition(block.position());
+        edit.insertText(QStringLiteral("\t"));
+    }
+    edit.setPosition(start);
+    edit.insertText(QStringLiteral("\t"));
+    edit.endEditBlock();
     // Still selected, so that a second Tab indents once more.
-    const int end = cursor.position();
     cursor.setPosition(start);
-    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.setPosition(end + 1, QTextCursor::KeepAnchor);
     editor.setTextCursor(cursor);
+    editor.ensureCursorVisible();
 }
 
 void unindentLines(QPlainTextEdit& editor) {
@@ -73,4 +79,5 @@ void unindentLines(QPlainTextEdit& editor) {
         edit.removeSelectedText();
     }
     edit.endEditBlock();
+    editor.ensureCursorVisible();
 }
