@@ -1012,6 +1012,10 @@ Do you want to reload the file instead?</translation>
         <source>Weighted count</source>
         <translation>Weighted count</translation>
     </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Areas: %1</translation>
+    </message>
 </context>
 <context>
     <name>FrequencyView</name>
@@ -1317,8 +1321,8 @@ Do you want to reload the file instead?</translation>
         <translation>Do you want to save the changes in the dictionary?</translation>
     </message>
     <message>
-        <source>%1: files cannot be written yet</source>
-        <translation>%1: files cannot be written yet</translation>
+        <source>%1 was not written: the workbench writes no results into files yet</source>
+        <translation>%1 was not written: the workbench writes no results into files yet</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1406,10 @@ Do you want to reload the file instead?</translation>
     <message>
         <source>Label</source>
         <translation>Label</translation>
+    </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Areas: %1</translation>
     </message>
 </context>
 <context>
@@ -1761,6 +1769,10 @@ Do you want to reload the file instead?</translation>
     <message>
         <source>Unsaved changes</source>
         <translation>Unsaved changes</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another window.</source>
+        <translation>The file %1 is open in another window.</translation>
     </message>
 </context>
 <context>

@@ -1012,6 +1012,10 @@ Do you want to reload the file instead?</source>
         <source>Weighted count</source>
         <translation>Casos ponderados</translation>
     </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Áreas: %1</translation>
+    </message>
 </context>
 <context>
     <name>FrequencyView</name>
@@ -1317,8 +1321,8 @@ Do you want to reload the file instead?</source>
         <translation>¿Desea guardar los cambios del diccionario?</translation>
     </message>
     <message>
-        <source>%1: files cannot be written yet</source>
-        <translation>%1: aún no se pueden escribir archivos</translation>
+        <source>%1 was not written: the workbench writes no results into files yet</source>
+        <translation>%1 no se escribió: el programa aún no guarda resultados en archivos</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1406,10 @@ Do you want to reload the file instead?</source>
     <message>
         <source>Label</source>
         <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Áreas: %1</translation>
     </message>
 </context>
 <context>
@@ -1761,6 +1769,10 @@ Do you want to reload the file instead?</source>
     <message>
         <source>Unsaved changes</source>
         <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another window.</source>
+        <translation>El archivo %1 está abierto en otra ventana.</translation>
     </message>
 </context>
 <context>

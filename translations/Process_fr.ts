@@ -1012,6 +1012,10 @@ Voulez-vous plutôt recharger le fichier ?</translation>
         <source>Weighted count</source>
         <translation>Effectif pondéré</translation>
     </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Zones : %1</translation>
+    </message>
 </context>
 <context>
     <name>FrequencyView</name>
@@ -1317,8 +1321,8 @@ Voulez-vous plutôt recharger le fichier ?</translation>
         <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
     </message>
     <message>
-        <source>%1: files cannot be written yet</source>
-        <translation>%1 : l’écriture de fichiers n’est pas encore disponible</translation>
+        <source>%1 was not written: the workbench writes no results into files yet</source>
+        <translation>%1 n’a pas été écrit : le programme n’enregistre pas encore de résultats dans des fichiers</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1406,10 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message>
         <source>Label</source>
         <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Zones : %1</translation>
     </message>
 </context>
 <context>
@@ -1761,6 +1769,10 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message>
         <source>Unsaved changes</source>
         <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another window.</source>
+        <translation>Le fichier %1 est ouvert dans une autre fenêtre.</translation>
     </message>
 </context>
 <context>

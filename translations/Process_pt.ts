@@ -1012,6 +1012,10 @@ Deseja recarregar o arquivo em vez disso?</translation>
         <source>Weighted count</source>
         <translation>Casos ponderados</translation>
     </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Áreas: %1</translation>
+    </message>
 </context>
 <context>
     <name>FrequencyView</name>
@@ -1317,8 +1321,8 @@ Deseja recarregar o arquivo em vez disso?</translation>
         <translation>Deseja salvar as alterações do dicionário?</translation>
     </message>
     <message>
-        <source>%1: files cannot be written yet</source>
-        <translation>%1: ainda não é possível gravar arquivos</translation>
+        <source>%1 was not written: the workbench writes no results into files yet</source>
+        <translation>%1 não foi gravado: o programa ainda não grava resultados em arquivos</translation>
     </message>
 </context>
 <context>
@@ -1402,6 +1406,10 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <message>
         <source>Label</source>
         <translation>Rótulo</translation>
+    </message>
+    <message>
+        <source>Areas: %1</source>
+        <translation>Áreas: %1</translation>
     </message>
 </context>
 <context>
@@ -1761,6 +1769,10 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <message>
         <source>Unsaved changes</source>
         <translation>Alterações não salvas</translation>
+    </message>
+    <message>
+        <source>The file %1 is open in another window.</source>
+        <translation>O arquivo %1 está aberto em outra janela.</translation>
     </message>
 </context>
 <context>
