@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -218,15 +219,25 @@ private slots:
 
     void runShowsHowFarItIs() {
         Watcher watcher(shell());
+        QMenu menu(shell().window());
+        menu.addAction("Run");
+        menu.popup(QPoint(0, 0));
+        QCOMPARE(QApplication::activePopupWidget(), &menu);
+        auto* line = new QLineEdit;
+        qobject_cast<QMainWindow*>(shell().window())->setCentralWidget(line);
+        line->setFocus();
         bool modal = false;
         watcher.act = [&](QProgressDialog& dialog) {
-            modal = QApplication::activeModalWidget() == &dialog;
+            modal = QApplication::activeModalWidget() == &dialog &&
+                    QApplication::activePopupWidget() == nullptr;
+            QTest::keyClick(shell().window()->windowHandle(), Qt::Key_X);
         };
         ProcessExecuter executer(shell(), "Process_en");
         executer.runText(tables_.left(tables_.size() / 6), ExecuterFixture::listener(),
                          &fixture_->errors);
         QCOMPARE(shell().shown.size(), 1);
         QVERIFY(modal);
+        QCOMPARE(line->text(), "");
         QCOMPARE(shell().progress()->windowTitle(), "Running");
         const int average = shell().progress()->fontMetrics().averageCharWidth();
         QVERIFY(shell().progress()->minimumWidth() >= 50 * average);
