@@ -124,13 +124,11 @@ class TestRunProgress : public QObject {
     const QString tables_ = repeated(60, "FREQ PERSON.INCOME BY PERSON.AGE BY PERSON.EDUCATION\n");
 
     RecordingShell& shell() const { return fixture_->shell; }
-    /// What waits behind the events that are being handled.
+    /// Waits behind the events that are being handled.
     void holdKey(Qt::Key key) {
-        QWidget* target = shell().window()->focusWidget();
-        for (const QString& text : {QString(), QStringLiteral("y")})
-            QCoreApplication::postEvent(target, new QKeyEvent(QEvent::KeyPress,
-                                                              text.isEmpty() ? key : Qt::Key_Y,
-                                                              Qt::NoModifier, text, true));
+        QWindow* window = shell().window()->windowHandle();
+        QMetaObject::invokeMethod(
+            window, [window, key] { QTest::keyClick(window, key); }, Qt::QueuedConnection);
     }
     QString file(const QString& name) const { return folder_->filePath(name); }
 
@@ -275,8 +273,8 @@ private slots:
         action.setShortcut(Qt::Key_F9);
         connect(&action, &QAction::triggered, this, [&] {
             ++runs;
-            QTimer::singleShot(0, qApp, [&] { holdKey(Qt::Key_F9); });
-            holdKey(Qt::Key_F9);
+            for (const Qt::Key key : {Qt::Key_F9, Qt::Key_Y, Qt::Key_F9})
+                holdKey(key);
             executer.runText(tables_.left(tables_.size() / 60), ExecuterFixture::listener());
         });
         QLineEdit line;
