@@ -90,6 +90,8 @@ private:
             longestSilence = std::max(longestSilence, sinceLook_.elapsed());
         sinceLook_.start();
         QProgressDialog* dialog = shell_.progress(window_);
+        if (firstSeen >= 0 && !dialog->isVisible())
+            return; // the run is over but for the last events
         labels += dialog->labelText();
         values += dialog->value();
         if (!dialog->isVisible())
