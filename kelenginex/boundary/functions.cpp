@@ -9,6 +9,7 @@
 #include "boundary/state.h"
 #include "boundary/variants.h"
 #include "catalog/reader.h"
+#include "execution/discard.h"
 #include "language/message_table.h"
 #include "language/reserved_words.h"
 #include "storage/folder_lock.h"
@@ -62,6 +63,7 @@ namespace kel {
 
 void init(std::shared_ptr<TKelConfig> config) {
     kelx::boundary::setConfiguration(std::move(config));
+    kelx::execution::Discards::open();
 }
 
 void setupLocale(const std::string& /*locale*/) {
@@ -70,6 +72,7 @@ void setupLocale(const std::string& /*locale*/) {
 
 void destroy() {
     kelx::boundary::setConfiguration(nullptr);
+    kelx::execution::Discards::close();
 }
 
 std::string version() {

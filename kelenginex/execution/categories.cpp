@@ -141,9 +141,9 @@ public:
     }
 
     /// Valid categories in ascending order, then MV, then NA; equal ones are one.
-    std::vector<Category> number(Progress& progress) {
+    LargeVector<Category> number(Progress& progress) {
         settle(progress);
-        std::vector<Category> named;
+        LargeVector<Category> named;
         named.reserve(codes_.size());
         for (const std::uint64_t code : codes_) {
             progress.check();
@@ -166,7 +166,7 @@ public:
             indices_[order[i]] = index;
         }
         makeDirect();
-        std::vector<Category> result;
+        LargeVector<Category> result;
         result.reserve(index + 1U);
         for (const std::uint32_t place : order) {
             progress.check();
@@ -191,24 +191,25 @@ private:
 
     /// Codes that lie close together are looked up by their place; that of blanks lies far off.
     void makeDirect() {
+        direct_.reserve(codes_.size());
         while (direct_.size() < codes_.size() &&
                codes_[direct_.size()] - codes_.front() == direct_.size())
             direct_.push_back(indices_[direct_.size()]);
     }
 
     std::unique_ptr<CodeNames> names_;
-    std::vector<std::uint64_t> codes_;
+    LargeVector<std::uint64_t> codes_;
     std::size_t most_ = fewCodes;        ///< codes, before they are settled again
-    std::vector<std::uint32_t> indices_; ///< of the codes' categories
-    std::vector<std::uint32_t> direct_;  ///< the same for the codes without a gap from the first on
+    LargeVector<std::uint32_t> indices_; ///< of the codes' categories
+    LargeVector<std::uint32_t> direct_;  ///< the same for the codes without a gap from the first on
 };
 
 /// Cells with the numbers of their categories, in any order and perhaps more than once.
 struct LooseCells {
     std::size_t dimensions = 0;
-    std::vector<std::uint32_t> categories;
-    std::vector<std::uint64_t> records;
-    std::vector<Sum> sums;
+    LargeVector<std::uint32_t> categories;
+    LargeVector<std::uint64_t> records;
+    LargeVector<Sum> sums;
 
     const std::uint32_t* of(std::size_t cell) const {
         return categories.data() + cell * dimensions;
@@ -222,6 +223,11 @@ LooseCells number(const TableCells& cells, const std::vector<DimensionCategories
                   Progress& progress) {
     LooseCells result;
     result.dimensions = dimensions.size();
+    if (!cells.shape().dense()) { // growing would copy it all, again and again
+        result.categories.reserve(cells.hashed.size() * dimensions.size());
+        result.records.reserve(cells.hashed.size());
+        result.sums.reserve(cells.shape().weighted ? cells.hashed.size() : 0);
+    }
     cells.forEach([&](std::span<const std::uint64_t> codes, std::uint64_t records, const Sum& sum) {
         progress.check();
         for (std::size_t d = 0; d < dimensions.size(); ++d)

@@ -45,31 +45,80 @@ std::uint64_t HashCells::hash(const std::uint64_t* codes) const {
 }
 
 std::size_t HashCells::find(const std::uint64_t* codes) {
-    if ((counts_.size() + 1) * 2 > slots_.size())
-        grow();
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t slot = static_cast<std::size_t>(hash(codes)) & mask;
-    while (slots_[slot] != 0) {
-        const std::size_t cell = slots_[slot] - 1;
-        if (std::equal(codes, codes + dimensions_, codes_.data() + cell * dimensions_))
+    const std::uint64_t full = hash(codes);
+    if (tables_.empty())
+        tables_.resize(1);
+    if (tables_.size() == 1 && size_ == mostInOne)
+        makeMany();
+    Table& table = tableOf(full);
+    if (table.used == table.most)
+        grow(table);
+    const auto wanted = static_cast<std::uint32_t>(full);
+    const std::size_t mask = table.slots.size() - 1;
+    std::size_t at = wanted & mask;
+    for (; table.slots[at].cell != 0; at = (at + 1) & mask) {
+        const std::size_t cell = table.slots[at].cell - 1;
+        if (table.slots[at].hash == wanted && std::equal(codes, codes + dimensions_, codesOf(cell)))
             return cell;
-        slot = (slot + 1) & mask;
     }
-    codes_.insert(codes_.end(), codes, codes + dimensions_);
-    counts_.push_back(0);
-    sums_.emplace_back();
-    slots_[slot] = counts_.size();
-    return counts_.size() - 1;
+    const std::size_t cell = append(codes);
+    table.slots[at] = {static_cast<std::uint32_t>(cell + 1), wanted};
+    ++table.used;
+    return cell;
 }
 
-void HashCells::grow() {
-    slots_.assign(std::max<std::size_t>(slots_.size() * 2, 1024), 0);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t cell = 0; cell < counts_.size(); ++cell) {
-        std::size_t slot = static_cast<std::size_t>(hash(codes(cell).data())) & mask;
-        while (slots_[slot] != 0)
-            slot = (slot + 1) & mask;
-        slots_[slot] = cell + 1;
+std::size_t HashCells::append(const std::uint64_t* codes) {
+    const std::size_t number = size_ / pieceCells;
+    if (number == pieces_.size()) {
+        Piece& next = pieces_.emplace_back();
+        if (number > 0) { // one that is not the first is likely to be filled
+            next.codes.reserve(pieceCells * dimensions_);
+            next.counts.reserve(pieceCells);
+            next.sums.reserve(pieceCells);
+        }
+    }
+    Piece& piece = pieces_[number];
+    piece.codes.insert(piece.codes.end(), codes, codes + dimensions_);
+    piece.counts.push_back(0);
+    piece.sums.emplace_back();
+    return size_++;
+}
+
+void HashCells::put(Table& table, Slot slot) {
+    const std::size_t mask = table.slots.size() - 1;
+    std::size_t at = slot.hash & mask;
+    while (table.slots[at].cell != 0)
+        at = (at + 1) & mask;
+    table.slots[at] = slot;
+    ++table.used;
+}
+
+/// Tables bear different loads, else all of them would grow at about the same time.
+void HashCells::grow(Table& table) {
+    const std::size_t fewest = tables_.size() == 1 ? 1024 : 256;
+    std::vector<Slot> old = std::move(table.slots);
+    const auto number = static_cast<std::size_t>(&table - tables_.data());
+    const std::size_t slots = std::max(old.size() * 2, fewest);
+    table.slots.assign(slots, {});
+    table.used = 0;
+    table.most = slots / 2 - slots / 4 * number / tables_.size();
+    for (const Slot& slot : old) {
+        if (slot.cell != 0)
+            put(table, slot);
+    }
+}
+
+void HashCells::makeMany() {
+    tables_ = LargeVector<Table, 16>(manyTables);
+    lastTable_ = manyTables - 1;
+    for (Table& table : tables_)
+        grow(table);
+    for (std::size_t cell = 0; cell < size_; ++cell) {
+        const std::uint64_t full = hash(codesOf(cell));
+        Table& table = tableOf(full);
+        if (table.used == table.most)
+            grow(table);
+        put(table, {static_cast<std::uint32_t>(cell + 1), static_cast<std::uint32_t>(full)});
     }
 }
 
@@ -90,10 +139,16 @@ bool HashCells::merge(const HashCells& other, const GoOn& goOn) {
 }
 
 void HashCells::clear() {
-    codes_.clear();
-    counts_.clear();
-    sums_.clear();
-    std::fill(slots_.begin(), slots_.end(), 0);
+    size_ = 0;
+    for (Piece& piece : pieces_) {
+        piece.codes.clear();
+        piece.counts.clear();
+        piece.sums.clear();
+    }
+    for (Table& table : tables_) {
+        std::fill(table.slots.begin(), table.slots.end(), Slot{});
+        table.used = 0;
+    }
 }
 
 } // namespace kelx::execution

@@ -2,6 +2,7 @@
 // The figures of a table while it is being made.
 #pragma once
 
+#include "execution/discard.h"
 #include "execution/sum.h"
 
 #include <cstddef>
@@ -28,7 +29,9 @@ struct DenseCells {
     void clear();
 };
 
-/// Cells of a large domain, found by their codes: a hash table with open addressing.
+/// Cells of a large domain, found by their codes: hash tables with open addressing. It grows bit by
+/// bit, so that whoever adds to it is never held up for long: cells lie in pieces that stay where
+/// they are, and past some size there are many tables that grow one by one.
 class HashCells {
 public:
     explicit HashCells(std::size_t dimensions = 1) : dimensions_(dimensions) {}
@@ -37,29 +40,59 @@ public:
     /// numbered as they come up.
     std::size_t add(const std::uint64_t* codes, std::uint64_t count, const Sum& sum);
     void addTo(std::size_t cell, std::uint64_t count, const Sum& sum) {
-        counts_[cell] += count;
-        sums_[cell].add(sum);
+        Piece& piece = pieces_[cell / pieceCells];
+        piece.counts[cell % pieceCells] += count;
+        piece.sums[cell % pieceCells].add(sum);
     }
     /// In the order in which the other's cells came up; false where it was ended.
     bool merge(const HashCells& other, const GoOn& goOn);
     void clear();
 
-    std::size_t size() const { return counts_.size(); }
+    std::size_t size() const { return size_; }
     std::span<const std::uint64_t> codes(std::size_t cell) const {
-        return {codes_.data() + cell * dimensions_, dimensions_};
+        return {codesOf(cell), dimensions_};
     }
-    std::uint64_t count(std::size_t cell) const { return counts_[cell]; }
-    const Sum& sum(std::size_t cell) const { return sums_[cell]; }
+    std::uint64_t count(std::size_t cell) const {
+        return pieces_[cell / pieceCells].counts[cell % pieceCells];
+    }
+    const Sum& sum(std::size_t cell) const {
+        return pieces_[cell / pieceCells].sums[cell % pieceCells];
+    }
 
 private:
+    static constexpr std::size_t pieceCells = 1U << 14;
+    static constexpr std::size_t manyTables = 1024;
+    static constexpr std::size_t mostInOne = 1U << 16; ///< cells
+
+    struct Piece {
+        std::vector<std::uint64_t> codes, counts;
+        std::vector<Sum> sums;
+    };
+    struct Slot {
+        std::uint32_t cell = 0; ///< + 1, 0 where free
+        std::uint32_t hash = 0;
+    };
+    struct Table {
+        std::vector<Slot> slots;
+        std::size_t used = 0;
+        std::size_t most = 0; ///< before it grows
+    };
+    const std::uint64_t* codesOf(std::size_t cell) const {
+        return pieces_[cell / pieceCells].codes.data() + cell % pieceCells * dimensions_;
+    }
+    Table& tableOf(std::uint64_t hash) { return tables_[(hash >> 32) & lastTable_]; }
     std::size_t find(const std::uint64_t* codes);
-    void grow();
+    std::size_t append(const std::uint64_t* codes);
+    void grow(Table& table);
+    void makeMany();
     std::uint64_t hash(const std::uint64_t* codes) const;
+    static void put(Table& table, Slot slot);
 
     std::size_t dimensions_;
-    std::vector<std::uint64_t> codes_, counts_;
-    std::vector<Sum> sums_;
-    std::vector<std::size_t> slots_; ///< cell + 1, 0 where free
+    std::size_t size_ = 0;
+    std::size_t lastTable_ = 0;
+    LargeVector<Piece, 16> pieces_;
+    LargeVector<Table, 16> tables_;
 };
 
 } // namespace kelx::execution

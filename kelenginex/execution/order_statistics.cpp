@@ -72,9 +72,10 @@ void OrderStatistics::count(const StageShare& share, Progress& progress) {
     chooseScale();
     counts_.assign(lists_->cells(), 0);
     firstPiece_.assign(lists_->cells() + 1, 0);
-    std::vector<ValuePiece> all = lists_->pieces();
+    const LargeVector<ValuePiece> all = lists_->pieces(progress);
     std::vector<std::size_t> small;
     for (std::size_t i = 0; i < all.size(); ++i) {
+        progress.check();
         if (isLarge(all[i].cell)) {
             pieces_.push_back(all[i]);
             ++firstPiece_[all[i].cell + 1];

@@ -2,6 +2,7 @@
 // What a run leaves behind: cells and categories, not yet a table.
 #pragma once
 
+#include "execution/discard.h"
 #include "execution/sum.h"
 #include "language/bound.h"
 
@@ -41,7 +42,7 @@ struct Dimension {
     const catalog::Variable* variable = nullptr; ///< null for an expression
     std::string name;                            ///< ENTITY.VARIABLE or the expression's text
     std::string label;
-    std::vector<Category> categories;
+    LargeVector<Category> categories;
 };
 
 /// The cells that at least one record fell into.
@@ -76,9 +77,9 @@ private:
 
     std::size_t dimensions_;
     bool weighted_;
-    std::vector<std::uint32_t> categories_;
-    std::vector<std::uint64_t> records_;
-    std::vector<Sum> sums_; ///< where weighted
+    LargeVector<std::uint32_t> categories_;
+    LargeVector<std::uint64_t> records_;
+    LargeVector<Sum> sums_; ///< where weighted
 };
 
 /// A figure of a measure; blank where there is none.
@@ -87,8 +88,8 @@ using Figure = std::variant<std::monostate, std::int64_t, double>;
 /// The rows of a table, each with the cells that it joins: row r has those from begins[r] to
 /// begins[r + 1] - 1.
 struct RowCells {
-    std::vector<std::uint32_t> cells;
-    std::vector<std::size_t> begins{0};
+    LargeVector<std::uint32_t> cells;
+    LargeVector<std::size_t> begins{0};
 
     std::size_t rows() const { return begins.size() - 1; }
     std::span<const std::uint32_t> of(std::size_t row) const {
@@ -116,8 +117,8 @@ using ListValue = std::variant<std::monostate, std::int64_t, double, std::string
 
 /// Values of a list's column: one a row, or each once with the number of its value for every row.
 struct ListValues {
-    std::vector<ListValue> values;
-    std::vector<std::uint32_t> numbers; ///< empty: values are by row
+    LargeVector<ListValue> values;
+    LargeVector<std::uint32_t> numbers; ///< empty: values are by row
 };
 
 /// The records of an area list or a view, in their order.

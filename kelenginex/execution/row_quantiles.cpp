@@ -33,7 +33,7 @@ std::vector<double> RowQuantiles::work(const StageShare& share, Progress& progre
     shareOut(
         large_.size(), of_.threads_, first,
         [this](std::size_t i, const GoOn& goOn) { choose(*large_[i], goOn); }, progress);
-    makeItems();
+    makeItems(progress);
     shareOut(
         items_.size(), of_.threads_, second,
         [this](std::size_t i, const GoOn& goOn) { pick(items_[i], goOn); }, progress);
@@ -156,10 +156,12 @@ void RowQuantiles::chooseByWeight(LargeRow& row, const std::vector<Sum>& weights
     }
 }
 
-void RowQuantiles::makeItems() {
-    std::vector<ValuePiece> all = of_.lists_->pieces();
+void RowQuantiles::makeItems(Progress& progress) {
+    const LargeVector<ValuePiece> all = of_.lists_->pieces(progress);
+    pieces_.reserve(all.size());
     std::uint64_t values = itemValues;
     for (const ValuePiece& piece : all) {
+        progress.check();
         if (cellBegins_[piece.cell] == cellBegins_[piece.cell + 1])
             continue;
         if (values >= itemValues) {

@@ -56,7 +56,7 @@ private:
     void chooseByWeight(LargeRow& row, const std::vector<Sum>& weights);
     template <class Use>
     void forEachBin(std::uint32_t cell, Use use) const;
-    void makeItems();
+    void makeItems(Progress& progress);
     void pick(const Item& item, const GoOn& goOn);
     void pickWeighted(const ValuePiece& piece);
     void pickPlain(const ValuePiece& piece);

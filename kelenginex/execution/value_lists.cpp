@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "execution/value_lists.h"
 
+#include "execution/progress.h"
+
 #include <numeric>
 
 namespace kelx::execution {
@@ -23,15 +25,21 @@ void ValueLists::add(std::uint32_t cell, const ValueStretch& stretch) {
     stretches_.push_back(stretch);
 }
 
-void ValueLists::group(std::size_t cells) {
+void ValueLists::group(std::size_t cells, Progress& progress) {
     begins_.assign(cells + 1, 0);
     sizes_.assign(cells, 0);
-    for (const std::uint32_t cell : added_)
+    for (const std::uint32_t cell : added_) {
+        progress.check();
         ++begins_[cell + 1];
+    }
+    progress.checkNow();
     std::partial_sum(begins_.begin(), begins_.end(), begins_.begin());
-    std::vector<ValueStretch> grouped(stretches_.size());
-    std::vector<std::size_t> next(begins_.begin(), begins_.end() - 1);
+    progress.checkNow();
+    LargeVector<ValueStretch> grouped(stretches_.size());
+    progress.checkNow();
+    LargeVector<std::size_t> next(begins_.begin(), begins_.end() - 1);
     for (std::size_t i = 0; i < added_.size(); ++i) {
+        progress.check();
         grouped[next[added_[i]]++] = stretches_[i];
         sizes_[added_[i]] += stretches_[i].count;
     }
@@ -39,12 +47,14 @@ void ValueLists::group(std::size_t cells) {
     added_ = {};
 }
 
-std::vector<ValuePiece> ValueLists::pieces() const {
-    std::vector<ValuePiece> result;
+LargeVector<ValuePiece> ValueLists::pieces(Progress& progress) const {
+    LargeVector<ValuePiece> result;
+    result.reserve(cells());
     for (std::size_t cell = 0; cell < cells(); ++cell) {
         std::size_t stretch = begins_[cell];
         std::uint64_t offset = 0;
         for (std::uint64_t left = sizes_[cell]; left > 0;) {
+            progress.check();
             const std::uint64_t count = std::min(left, mostInPiece);
             result.push_back({static_cast<std::uint32_t>(cell), stretch, offset, count});
             left -= count;

@@ -2,6 +2,7 @@
 // The measured values of a table's cells, for figures that need them all.
 #pragma once
 
+#include "execution/discard.h"
 #include "execution/value_states.h"
 
 #include <algorithm>
@@ -12,6 +13,8 @@
 #include <vector>
 
 namespace kelx::execution {
+
+class Progress;
 
 /// Values that lie side by side: a part of a column in place, or copies.
 struct ValueStretch {
@@ -50,14 +53,15 @@ public:
     /// Behind the cell's earlier ones. Owner is kept as long as the lists.
     void add(std::uint32_t cell, const ValueStretch& stretch);
     void keep(std::shared_ptr<const void> owner) { owners_.push_back(std::move(owner)); }
-    /// To be called once, when all is added.
-    void group(std::size_t cells);
+    /// To be called once, when all is added. Throws Cancelled.
+    void group(std::size_t cells, Progress& progress);
 
     std::size_t cells() const { return begins_.size() - 1; }
     /// Values of a cell, excluded ones too.
     std::uint64_t size(std::size_t cell) const { return sizes_[cell]; }
     /// All values, cell by cell. Where pieces end does not depend on the stretches.
-    std::vector<ValuePiece> pieces() const;
+    /// Throws Cancelled.
+    LargeVector<ValuePiece> pieces(Progress& progress) const;
     /// use(values, weights, count) for the parts of a piece in their order, each at most so long.
     template <class Use>
     void forEach(const ValuePiece& piece, std::uint64_t longest, Use use) const {
@@ -90,10 +94,10 @@ public:
     std::vector<double> sample() const;
 
 private:
-    std::vector<std::uint32_t> added_; ///< cell of each stretch, until grouped
-    std::vector<ValueStretch> stretches_;
-    std::vector<std::size_t> begins_{0};
-    std::vector<std::uint64_t> sizes_;
+    LargeVector<std::uint32_t> added_; ///< cell of each stretch, until grouped
+    LargeVector<ValueStretch> stretches_;
+    LargeVector<std::size_t> begins_{0};
+    LargeVector<std::uint64_t> sizes_;
     std::vector<std::shared_ptr<const void>> owners_;
 };
 

@@ -49,8 +49,12 @@ public:
         if (all.size() > mostRows)
             throwTooManyRows(*table_.command);
         takeTotals(found, numbers);
-        for (const WideCells::Added& added : found.stretches)
+        std::size_t done = 0;
+        for (const WideCells::Added& added : found.stretches) {
+            if (++done % 4096 == 0 && !goOn())
+                return false;
             lists_->add(numbers[added.cell], added.stretch);
+        }
         for (auto& owner : found.owners)
             lists_->keep(std::move(owner));
         total_->raw = total_->raw || found.raw;
@@ -69,7 +73,7 @@ public:
         HashCells& hashed = total_->cells.hashed;
         lists_->mayExclude = total_->raw && mayExclude_;
         lists_->weighted = form_.weighted;
-        lists_->group(hashed.size());
+        lists_->group(hashed.size(), progress);
         auto measured = std::make_shared<WideMeasured>(form_, lists_, threads_);
         measured->takeTotals(std::move(total_->totals), hashed, total_->raw, progress);
         const TableCells cells = validCells(*measured, progress);

@@ -124,7 +124,7 @@ RowValues WideMeasured::add(std::span<const std::uint32_t> cells) const {
 
 /// About the mean of each cell; rows put them together.
 void WideMeasured::findSquares(const StageShare& share, Progress& progress) {
-    const std::vector<ValuePiece> pieces = lists_->pieces();
+    const LargeVector<ValuePiece> pieces = lists_->pieces(progress);
     std::vector<double> sums(pieces.size());
     const auto findSum = [&](std::size_t i, const GoOn&) {
         const double mean = cell(pieces[i].cell).mean(form_);

@@ -19,6 +19,8 @@ struct Triple {
     Column::Values codes, labels, kinds;
 
     Triple(const RowTable& table, std::size_t dimension, execution::Progress& progress) {
+        for (Column::Values* values : {&codes, &labels, &kinds})
+            values->reserve(placesOf(table, dimension));
         for (std::uint32_t place = 0; place < placesOf(table, dimension); ++place) {
             progress.check();
             const Category* category = categoryAt(table, dimension, place);
@@ -62,6 +64,7 @@ void addTexts(const RowTable& rows, Form& form, execution::Progress& progress) {
         const execution::Dimension& dimension = rows.dimensions[d];
         form.fields.push_back({dimension.name, dimension.label, dimension.name});
         Column::Values names;
+        names.reserve(placesOf(rows, d));
         for (std::uint32_t place = 0; place < placesOf(rows, d); ++place) {
             progress.check();
             names.emplace_back(placeName(categoryAt(rows, d, place)));

@@ -22,7 +22,7 @@ RowMaker::RowMaker(const execution::TableResult& result, execution::Progress& pr
 }
 
 void RowMaker::fill(RowTable& table) {
-    std::vector<Part> cells;
+    execution::LargeVector<Part> cells;
     cells.reserve(result_.cells.size());
     for (std::size_t i = 0; i < result_.cells.size(); ++i) {
         progress_.check();
@@ -124,8 +124,13 @@ RowMaker::Parts RowMaker::joined(std::size_t dimension, Parts parts) {
     if (parts.empty() || category(parts.front(), dimension) == category(parts.back(), dimension))
         return parts; // in order, and each different
     const std::size_t next = dimension + 1;
-    std::vector<Part>& result = totals_[dimension];
-    result.assign(parts.begin(), parts.end());
+    execution::LargeVector<Part>& result = totals_[dimension];
+    result.clear();
+    result.reserve(parts.size());
+    for (const Part& part : parts) {
+        progress_.check();
+        result.push_back(part);
+    }
     if (next < place_.size())
         sortFrom(next, result);
     if (result_.measured)

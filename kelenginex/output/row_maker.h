@@ -55,14 +55,14 @@ private:
 
     const execution::TableResult& result_;
     execution::Progress& progress_;
-    std::vector<std::uint32_t> valid_;      ///< number of valid categories by dimension
-    std::vector<std::uint32_t> place_;      ///< of the row that is being made
-    std::vector<std::vector<Part>> totals_; ///< joined cells by dimension
-    bool withoutFirstTotal_ = false;        ///< nobody reads the total of the first dimension
-    bool counting_ = false;                 ///< rows are only counted
+    std::vector<std::uint32_t> valid_;                 ///< number of valid categories by dimension
+    std::vector<std::uint32_t> place_;                 ///< of the row that is being made
+    std::vector<execution::LargeVector<Part>> totals_; ///< joined cells by dimension
+    bool withoutFirstTotal_ = false; ///< nobody reads the total of the first dimension
+    bool counting_ = false;          ///< rows are only counted
     std::size_t rows_ = 0;
     std::vector<Column::Numbers> places_;
-    std::vector<std::uint64_t> records_;
+    execution::LargeVector<std::uint64_t> records_;
     Column::Figures figures_;
     execution::RowCells cells_; ///< of a measure
 };

@@ -24,9 +24,9 @@ struct RowTable {
     std::vector<std::shared_ptr<Column::Numbers>> places; ///< by dimension, of each row
     std::vector<std::shared_ptr<Column::Figures>> figures;
     std::vector<std::string> figureNames;
-    std::vector<std::uint64_t> records; ///< behind each row
-    std::vector<std::uint8_t> hidden;   ///< by row; empty: no row is suppressed
-    Figure none;                        ///< what stands where there is no row: 0 of a count
+    execution::LargeVector<std::uint64_t> records; ///< behind each row
+    std::vector<std::uint8_t> hidden;              ///< by row; empty: no row is suppressed
+    Figure none; ///< what stands where there is no row: 0 of a count
     double seconds = 0;
 
     std::size_t rows() const { return figures.front()->size(); }

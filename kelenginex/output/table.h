@@ -3,6 +3,7 @@
 #pragma once
 
 #include "catalog/model.h"
+#include "execution/discard.h"
 #include "execution/result.h"
 
 #include <cstddef>
@@ -34,9 +35,9 @@ struct Field {
 /// repeat, each one once with the number of its value for every row. Columns share what is the
 /// same.
 struct Column {
-    using Numbers = std::vector<std::uint32_t>;
-    using Values = std::vector<Value>;
-    using Figures = std::vector<Figure>;
+    using Numbers = execution::LargeVector<std::uint32_t>;
+    using Values = execution::LargeVector<Value>;
+    using Figures = execution::LargeVector<Figure>;
     std::shared_ptr<const Values> values;
     std::shared_ptr<const Numbers> numbers; ///< null: values are by row
     std::shared_ptr<const Figures> figures; ///< then there are no values

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr int minimumTime = 400; ///< milliseconds
+constexpr int minimumTime = 400;      ///< milliseconds
+constexpr int minimumCharacters = 50; ///< the width, so that the label can grow
 
 QString translated(const char* text) {
     return QCoreApplication::translate("ProcessExecuter", text);
@@ -34,6 +35,8 @@ RunDialog::RunDialog(QWidget* parent) : QProgressDialog(parent), bar_(new QProgr
 void RunDialog::begin(std::function<void()> onCancel) {
     onCancel_ = std::move(onCancel);
     reset();
+    setWindowTitle(translated(QT_TRANSLATE_NOOP("ProcessExecuter", "Running")));
+    setMinimumWidth(minimumCharacters * fontMetrics().averageCharWidth());
     setLabelText(translated(QT_TRANSLATE_NOOP("ProcessExecuter", "Compiling...")));
     setCancelButtonText(translated(QT_TRANSLATE_NOOP("ProcessExecuter", "Cancel")));
     bar_->setAccessibleName(

@@ -30,8 +30,34 @@ RunDialog* dialogOf(RunProgress::Kind kind, QWidget* parent) {
 
 } // namespace
 
+/// Drops what the user presses while there is no window to take it: a key that is held down would
+/// begin one run after the other.
+class InputFilter : public QObject {
+public:
+    explicit InputFilter(const QWidget& dialog) : dialog_(&dialog) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            return !dialog_ || !dialog_->isVisible();
+        default:
+            return false;
+        }
+    }
+
+private:
+    QPointer<const QWidget> dialog_;
+};
+
 RunProgress::RunProgress(Kind kind, QWidget* parent, std::function<void()> onCancel)
-    : dialog_(dialogOf(kind, parent)), onCancel_(std::move(onCancel)) {
+    : dialog_(dialogOf(kind, parent)), filter_(std::make_unique<InputFilter>(*dialog_)),
+      onCancel_(std::move(onCancel)) {
     dialog_->begin([this] { cancel(); });
     sinceBegin_.start();
     sinceEvents_.start();
@@ -40,6 +66,7 @@ RunProgress::RunProgress(Kind kind, QWidget* parent, std::function<void()> onCan
 RunProgress::~RunProgress() {
     if (dialog_)
         dialog_->end();
+    QCoreApplication::processEvents(); // those that still wait, while the filter is there
 }
 
 bool RunProgress::tell(int percent, const QString& label) {

@@ -8,12 +8,15 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class QWidget;
+class InputFilter;
 class RunDialog;
 
 /// One window for all of a kind, made at the first use. It shows 400 ms after the run began, holds
 /// below 100 until the end, and goes on every way out, exceptions included. Its scope is the run.
+/// What the user presses and clicks meanwhile reaches nothing but the window, not even afterwards.
 class RunProgress {
 public:
     enum class Kind { Program, ProgramList };
@@ -35,6 +38,7 @@ private:
     void processEvents();
 
     QPointer<RunDialog> dialog_;
+    std::unique_ptr<InputFilter> filter_;
     std::function<void()> onCancel_;
     QElapsedTimer sinceBegin_;
     QElapsedTimer sinceEvents_;
