@@ -1509,6 +1509,10 @@ Do you want to reload the file instead?</translation>
         <source>Execution Failed</source>
         <translation>Execution Failed</translation>
     </message>
+    <message>
+        <source>Running</source>
+        <translation>Running</translation>
+    </message>
 </context>
 <context>
     <name>ProcessProgramSPC</name>

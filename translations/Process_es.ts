@@ -1509,6 +1509,10 @@ Do you want to reload the file instead?</source>
         <source>Execution Failed</source>
         <translation>La ejecución falló</translation>
     </message>
+    <message>
+        <source>Running</source>
+        <translation>En ejecución</translation>
+    </message>
 </context>
 <context>
     <name>ProcessProgramSPC</name>

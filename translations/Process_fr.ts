@@ -1509,6 +1509,10 @@ Voulez-vous plutôt recharger le fichier ?</translation>
         <source>Execution Failed</source>
         <translation>Échec de l’exécution</translation>
     </message>
+    <message>
+        <source>Running</source>
+        <translation>Exécution en cours</translation>
+    </message>
 </context>
 <context>
     <name>ProcessProgramSPC</name>

@@ -1509,6 +1509,10 @@ Deseja recarregar o arquivo em vez disso?</translation>
         <source>Execution Failed</source>
         <translation>Falha na execução</translation>
     </message>
+    <message>
+        <source>Running</source>
+        <translation>Em execução</translation>
+    </message>
 </context>
 <context>
     <name>ProcessProgramSPC</name>
