@@ -40,10 +40,12 @@ protected:
     }
     /// One value a row.
     static std::vector<ListValue> all(const ListValues& values) {
+        if (values.numbers.empty())
+            return values.values;
         std::vector<ListValue> result;
         for (const std::uint32_t number : values.numbers)
             result.push_back(values.values.at(number));
-        return values.numbers.empty() ? values.values : result;
+        return result;
     }
     using Row = std::vector<ListValue>;
     static std::vector<ListValue> texts(const std::vector<std::string>& values) {
