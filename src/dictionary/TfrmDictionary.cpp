@@ -146,8 +146,8 @@ void TfrmDictionary::connectTree() {
     connect(treeView_, &KelTreeView::quickViewRequested, this, &TfrmDictionary::quickViewEntity);
     connect(treeView_, &KelTreeView::propertiesRequested, this,
             [this](TKpEntity* entity) { showProperties(entity); });
-    connect(treeView_, &KelTreeView::executeProgram, this,
-            [this](const QString& program) { shell_.runProgram(program); });
+    connect(treeView_, &KelTreeView::executeProgram, this, &TfrmDictionary::run,
+            Qt::QueuedConnection);
 }
 
 void TfrmDictionary::tellPath() {
@@ -177,8 +177,14 @@ void TfrmDictionary::connectTable() {
             &TfrmDictionary::quickViewVariable);
     connect(table, &KelVariablesTableView::signalShowVariablesProperties, this,
             [this] { showProperties(variablesPane_->table()->currentVariable()); });
-    connect(table, &KelVariablesTableView::executeProgram, this,
-            [this](const QString& program) { shell_.runProgram(program); });
+    connect(table, &KelVariablesTableView::executeProgram, this, &TfrmDictionary::run,
+            Qt::QueuedConnection);
+}
+
+/// With the next events: a run processes some of its own, and with them goes the menu that is still
+/// at work on the click.
+void TfrmDictionary::run(const QString& program) {
+    shell_.runProgram(program);
 }
 
 void TfrmDictionary::showMirror() {

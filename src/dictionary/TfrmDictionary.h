@@ -82,6 +82,7 @@ signals:
 
 private:
     void connectLoader();
+    void run(const QString& program);
     void showDictionary();
     void connectTree();
     void connectTable();

@@ -577,7 +577,7 @@ void TestEditor::runsTheContextMenu() {
         QSignalSpy spy(&editor, signal);
         QVERIFY(QMetaObject::invokeMethod(menu, signalName));
         menu->close();
-        QCOMPARE(spy.count(), 1);
+        QTRY_COMPARE(spy.count(), 1);
         QTRY_VERIFY(editor.findChildren<QMenu*>().isEmpty());
     };
     choose("runBlock", &Editor::executeRun);

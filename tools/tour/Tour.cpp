@@ -155,8 +155,8 @@ void Tour::frequency() {
     showMenu(find<QTableView>(window_, "variableTable"));
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     auto* entry = menu->findChild<QAction*>(QStringLiteral("actionFrequency"));
-    QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {},
-                      menu->actionGeometry(entry).center());
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    QTest::qWait(100); // the run begins with the next events
     const auto* table = find<QTableView>(window_, "frequencyTable");
     require(table->isVisible() && table->model()->rowCount() > 1,
             QStringLiteral("the frequency shows nothing"));

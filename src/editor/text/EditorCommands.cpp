@@ -31,8 +31,9 @@ void Editor::connectEdits(const EditorContextMenu& menu) {
     connect(&menu, &Menu::erase, this, &Editor::on_delete);
     connect(&menu, &Menu::selectAll, this, &QPlainTextEdit::selectAll);
     connect(&menu, &Menu::toggleComment, this, &Editor::on_toggleComment);
-    connect(&menu, &Menu::runBlock, this, &Editor::runByBlock);
-    connect(&menu, &Menu::compileBlock, this, &Editor::compileByBlock);
+    // The menu must be done with the click: a run processes events, and with them the menu goes.
+    connect(&menu, &Menu::runBlock, this, &Editor::runByBlock, Qt::QueuedConnection);
+    connect(&menu, &Menu::compileBlock, this, &Editor::compileByBlock, Qt::QueuedConnection);
 }
 
 void Editor::connectCommands(const EditorContextMenu& menu) {
