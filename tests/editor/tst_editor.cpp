@@ -374,14 +374,14 @@ void TestEditor::tellsWhereTheCursorIs() {
     typed.press(Qt::Key_Down);
     typed.press(Qt::Key_End);
     QCOMPARE(lines.last(), QVariantList({2, 3}));
-    QCOMPARE(columns.last(), QVariantList({3}));
+    QCOMPARE(columns.last(), QVariantList() << 3);
     typed.press(Qt::Key_Delete); // the cursor stays, a line goes
     QCOMPARE(lines.last(), QVariantList({2, 2}));
     QSignalSpy words(&typed.editor, &Editor::wordCountChanged);
     QSignalSpy chars(&typed.editor, &Editor::charCountChanged);
     typed.editor.tellMetrics();
-    QCOMPARE(words.last(), QVariantList({2}));
-    QCOMPARE(chars.last(), QVariantList({7}));
+    QCOMPARE(words.last(), QVariantList() << 2);
+    QCOMPARE(chars.last(), QVariantList() << 7);
 }
 
 void TestEditor::widensTheGutter() {
