@@ -41,13 +41,17 @@ std::uint64_t HashCells::hash(const std::uint64_t* codes) const {
         result = (result ^ codes[i]) * 0xff51afd7ed558ccdULL;
         result ^= result >> 32;
     }
-    return result;
+    // The table is chosen by the uppermost bits and the slot by the lowest: both from all of it.
+    result *= 0xc4ceb9fe1a85ec53ULL;
+    return result ^ result >> 33;
 }
 
 std::size_t HashCells::find(const std::uint64_t* codes) {
     const std::uint64_t full = hash(codes);
-    if (tables_.empty())
+    if (tables_.empty()) {
         tables_.resize(1);
+        lastTable_ = 0;
+    }
     if (tables_.size() == 1 && size_ == mostInOne)
         makeMany();
     Table& table = tableOf(full);

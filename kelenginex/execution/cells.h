@@ -80,7 +80,7 @@ private:
     const std::uint64_t* codesOf(std::size_t cell) const {
         return pieces_[cell / pieceCells].codes.data() + cell % pieceCells * dimensions_;
     }
-    Table& tableOf(std::uint64_t hash) { return tables_[(hash >> 32) & lastTable_]; }
+    Table& tableOf(std::uint64_t hash) { return tables_[(hash >> 54) & lastTable_]; }
     std::size_t find(const std::uint64_t* codes);
     std::size_t append(const std::uint64_t* codes);
     void grow(Table& table);

@@ -2,9 +2,9 @@
 #include "execution/discard.h"
 
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <new>
-#include <system_error>
 #include <thread>
 
 namespace kelx::execution {
@@ -40,7 +40,7 @@ public:
         try {
             thread_ = std::thread([this] { work(); });
             running_ = true;
-        } catch (const std::system_error&) {
+        } catch (const std::exception&) { // no thread, or no memory for it
             what = std::move(waiting_.back());
             waiting_.pop_back();
         }
