@@ -294,9 +294,9 @@ private slots:
 
     void programsBeginAndOpenFromTheirMenus() {
         RibbonState state = open();
-        state.recentPrograms = QStringList{"/work/a.spc", "/work/b.spc"};
-        state.recentExecutes = QStringList{"/work/all.spc"};
-        state.dictionaryPrograms = QStringList{"/work/a.spc", "/data/income.spc"};
+        state.recentPrograms = QStringList{"/home/someone/a.spc", "/home/someone/b.spc"};
+        state.recentExecutes = QStringList{"/home/someone/all.spc"};
+        state.dictionaryPrograms = QStringList{"/home/someone/a.spc", "/data/income.spc"};
         build(state);
         QStringList asked;
         connect(pages_, &RibbonPages::newProgram, this,
@@ -314,19 +314,20 @@ private slots:
         };
         press("File-new", {Qt::Key_P});
         press("File-new", {Qt::Key_E});
-        KelvoraFileDialog::answerNext("/work/c.spc");
+        KelvoraFileDialog::answerNext("/home/someone/c.spc");
         press("File-open", {Qt::Key_P});
         KelvoraFileDialog::answerNext({}); // the user cancels
         press("File-open", {Qt::Key_P});
-        KelvoraFileDialog::answerNext("/work/d.spc");
+        KelvoraFileDialog::answerNext("/home/someone/d.spc");
         press("File-open", {Qt::Key_E});
         press("File-programs", {Qt::Key_2});
         press("File-programs", {Qt::Key_3});
         press("File-execute", {Qt::Key_N});
         press("File-execute", {Qt::Key_1});
-        QCOMPARE(asked, QStringList({"new", "new execute", "/work/c.spc", "/work/d.spc execute",
-                                     "/work/b.spc", "/data/income.spc", "new execute",
-                                     "/work/all.spc execute"}));
+        QCOMPARE(asked,
+                 QStringList({"new", "new execute", "/home/someone/c.spc",
+                              "/home/someone/d.spc execute", "/home/someone/b.spc",
+                              "/data/income.spc", "new execute", "/home/someone/all.spc execute"}));
         build({});
         QVERIFY(!button("File-programs")->isEnabled()); // there is none to offer
         QVERIFY(button("File-new")->isEnabled());
