@@ -3,6 +3,7 @@
 
 #include "app/widgets/ReadOnlyTable.h"
 #include "results/FrequencyModel.h"
+#include "results/ResultLabels.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -13,15 +14,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QLabel* makeLabel(const QString& objectName) {
-    auto* label = new QLabel;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setWordWrap(true);
-    return label;
-}
 
 QTableView* makeTable(QAbstractItemModel* model) {
     auto* table = new ReadOnlyTable(model, QStringLiteral("frequencyTable"));
@@ -35,13 +27,9 @@ QTableView* makeTable(QAbstractItemModel* model) {
 
 FrequencyView::FrequencyView(QWidget* parent)
     : QWidget(parent), model_(new FrequencyModel(this)),
-      title_(makeLabel(QStringLiteral("frequencyTitle"))),
-      note_(makeLabel(QStringLiteral("frequencyNote"))), table_(makeTable(model_)),
+      title_(makeResultTitle(QStringLiteral("frequencyTitle"))),
+      note_(makeResultNote(QStringLiteral("frequencyNote"))), table_(makeTable(model_)),
       copy_(new QAction(this)) {
-    QFont bold = title_->font();
-    bold.setBold(true);
-    bold.setPointSizeF(bold.pointSizeF() * 1.2);
-    title_->setFont(bold);
     copy_->setObjectName(QStringLiteral("actionCopyTable"));
     copy_->setShortcut(QKeySequence::Copy);
     copy_->setShortcutContext(Qt::WidgetWithChildrenShortcut);

@@ -3,6 +3,7 @@
 
 #include "app/widgets/ReadOnlyTable.h"
 #include "results/OutputModel.h"
+#include "results/ResultLabels.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -18,26 +19,13 @@ namespace {
 
 constexpr int rowsMeasured = 200; ///< for the width of columns
 
-QLabel* makeLabel(const QString& objectName) {
-    auto* label = new QLabel;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 OutputView::OutputView(QWidget* parent)
     : QWidget(parent), model_(new OutputModel(this)),
-      title_(makeLabel(QStringLiteral("outputTitle"))),
-      note_(makeLabel(QStringLiteral("outputNote"))),
+      title_(makeResultTitle(QStringLiteral("outputTitle"))),
+      note_(makeResultNote(QStringLiteral("outputNote"))),
       table_(new ReadOnlyTable(model_, QStringLiteral("outputTable"))), copy_(new QAction(this)) {
-    QFont bold = title_->font();
-    bold.setBold(true);
-    bold.setPointSizeF(bold.pointSizeF() * 1.2);
-    title_->setFont(bold);
     copy_->setObjectName(QStringLiteral("actionCopyOutput"));
     copy_->setShortcut(QKeySequence::Copy);
     copy_->setShortcutContext(Qt::WidgetWithChildrenShortcut);

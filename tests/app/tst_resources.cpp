@@ -40,21 +40,6 @@ QStringList pictures(const QString& folder) {
     return names;
 }
 
-double luminance(QRgb colour) {
-    const auto linear = [](int part) {
-        const double value = part / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
-           0.0722 * linear(qBlue(colour));
-}
-
-double contrast(QRgb a, QRgb b) {
-    const double x = luminance(a) + 0.05;
-    const double y = luminance(b) + 0.05;
-    return std::max(x, y) / std::min(x, y);
-}
-
 /// Mean difference of the colour parts, 0 to 255, drawn over white.
 double difference(const QImage& a, const QImage& b) {
     double sum = 0;
@@ -134,8 +119,9 @@ private slots:
                 for (int x = 0; x < image.width(); ++x) {
                     const QRgb colour = image.pixel(x, y);
                     strong += qAlpha(colour) == 255;
-                    clear += qAlpha(colour) == 255 && contrast(colour, 0xfff7f7f8) >= 2.95 &&
-                             contrast(colour, 0xff2b2b2f) >= 2.95;
+                    clear += qAlpha(colour) == 255 &&
+                             contrast(QColor(colour), QColor(0xf7f7f8)) >= 2.95 &&
+                             contrast(QColor(colour), QColor(0x2b2b2f)) >= 2.95;
                 }
             QVERIFY2(strong > 500, qPrintable(name + " is nearly empty"));
             QVERIFY2(clear >= strong * 95 / 100, qPrintable(name + " is too pale or too dark"));
@@ -223,4 +209,5 @@ private slots:
 };
 
 QTEST_MAIN(TestResources)
+#include "support/Contrast.h"
 #include "tst_resources.moc"

@@ -17,7 +17,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <cmath>
 #include <memory>
 
 using namespace tt;
@@ -32,21 +31,6 @@ QString thrown(const std::function<void()>& call) {
         return fault.what();
     }
     return {};
-}
-
-// Contrast as the accessibility guidelines of the web define it.
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 /// A window with a ribbon of two pages and something else to focus.
@@ -422,4 +406,5 @@ private slots:
 };
 
 QTEST_MAIN(TestRibbon)
+#include "support/Contrast.h"
 #include "tst_ribbon.moc"

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Finding, replacing and going to a line in the editor.
 #include "TypedEditor.h"
+#include "support/Contrast.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -18,14 +18,6 @@ QString said(QSignalSpy& spy) {
     QString text = spy.isEmpty() ? QString() : spy.last().first().toString();
     spy.clear();
     return text;
-}
-
-double luminance(const QColor& color) {
-    const auto part = [](double c) {
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
-           0.0722 * part(color.blueF());
 }
 
 } // namespace
@@ -131,7 +123,7 @@ void TestSearch::marksAllMatches() {
     const QTextCharFormat format = editor.extraSelections().first().format;
     const QColor ground = format.background().color();
     QCOMPARE(ground, QColor(61, 174, 233).lighter(130));
-    QVERIFY((luminance(ground) + 0.05) / (luminance(format.foreground().color()) + 0.05) > 4.5);
+    QVERIFY(contrast(ground, format.foreground().color()) > 4.5);
     QVERIFY(editor.findAll("sex", true, true));
     QCOMPARE(said(spy), QStringLiteral("Found 1 coincidences"));
     QVERIFY(!editor.document()->isModified());
@@ -453,4 +445,5 @@ void TestSearch::leavesAnEmptyQueryAlone() {
 }
 
 QTEST_MAIN(TestSearch)
+#include "support/Contrast.h"
 #include "tst_search.moc"

@@ -2,6 +2,7 @@
 // Colour schemes: how their files are read, and whether text can be read in those that we bring.
 #include "editor/language/QSyntaxStyle.h"
 #include "editor/language/SyntaxStyles.h"
+#include "support/Contrast.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -9,24 +10,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cmath>
 #include <memory>
 
 namespace {
-
-double luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double x = luminance(a) + 0.05;
-    const double y = luminance(b) + 0.05;
-    return std::max(x, y) / std::min(x, y);
-}
 
 QString contents(const QString& path) {
     QFile file(path);
