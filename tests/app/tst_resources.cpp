@@ -10,6 +10,7 @@
 #include "dictionary/mirror/MirrorBuilder.h"
 #include "engine/TKelConfigImpl.h"
 #include "kel.h"
+#include "support/Contrast.h"
 #include "support/SmallDatabase.h"
 
 #include <QAction>
@@ -209,5 +210,4 @@ private slots:
 };
 
 QTEST_MAIN(TestResources)
-#include "support/Contrast.h"
 #include "tst_resources.moc"

@@ -6,6 +6,7 @@
 #include "app/ribbon/tt/Style.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "app/ribbon/tt/WaitingSpinnerWidget.h"
+#include "support/Contrast.h"
 
 #include <QAction>
 #include <QApplication>
@@ -406,5 +407,4 @@ private slots:
 };
 
 QTEST_MAIN(TestRibbon)
-#include "support/Contrast.h"
 #include "tst_ribbon.moc"

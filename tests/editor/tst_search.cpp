@@ -445,5 +445,4 @@ void TestSearch::leavesAnEmptyQueryAlone() {
 }
 
 QTEST_MAIN(TestSearch)
-#include "support/Contrast.h"
 #include "tst_search.moc"
