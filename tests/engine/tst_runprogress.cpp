@@ -30,6 +30,8 @@ namespace {
 
 /// The aim, which instrumented code cannot reach.
 constexpr qint64 soon = SANITIZED ? 1500 : 200; ///< milliseconds
+/// Where there is one try only, and other programs may hold the processors.
+constexpr qint64 inOneTry = 5 * soon; ///< milliseconds
 
 /// Of many commands, numbered.
 QString repeated(int times, const QString& command) {
@@ -242,8 +244,9 @@ private slots:
         const int average = shell().progress()->fontMetrics().averageCharWidth();
         QVERIFY(shell().progress()->minimumWidth() >= 50 * average);
         QVERIFY2(watcher.firstSeen >= 400, qPrintable(QString::number(watcher.firstSeen)));
-        QVERIFY2(watcher.firstSeen < 800, qPrintable(QString::number(watcher.firstSeen)));
-        QVERIFY2(watcher.longestSilence < soon,
+        QVERIFY2(watcher.firstSeen < 400 + inOneTry,
+                 qPrintable(QString::number(watcher.firstSeen)));
+        QVERIFY2(watcher.longestSilence < inOneTry,
                  qPrintable(QString::number(watcher.longestSilence) + " ms without an event"));
         const QRegularExpression label("^Time Expected: \\d+ s - Time Elapsed: \\d+ s$");
         QVERIFY(label.match(watcher.labels.last()).hasMatch());
@@ -327,7 +330,7 @@ private slots:
         lists.runExecuteText("EXECUTE \"many.spc\"\nEXECUTE \"many.spc\"",
                              ExecuterFixture::listener(), &fixture_->errors);
         const qint64 passed = watcher.sincePress();
-        QVERIFY2(passed >= 0 && passed < soon, qPrintable(QString::number(passed) + " ms"));
+        QVERIFY2(passed >= 0 && passed < inOneTry, qPrintable(QString::number(passed) + " ms"));
         QCOMPARE(shell().statuses, QStringList({"Processing...", "Execution Canceled"}));
         QCOMPARE(fixture_->rows(), QStringList("Current Program: many.spc - 1/2"));
         QVERIFY(shell().direct.empty());

@@ -138,6 +138,9 @@ double secondsWorked() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
+/// The longest silence allowed, in seconds: the aim is 0.1, and sanitizers slow the work down.
+constexpr double longestSilence = 0.4;
+
 TEST(Wide, isStoppedWhileItIsLaidOut) {
     WideCountry country(2000, 10); // scanned in a moment, laid out in seconds
     int calls = 0;
@@ -147,7 +150,7 @@ TEST(Wide, isStoppedWhileItIsLaidOut) {
         asked = secondsWorked();
         return elapsed >= 150;
     });
-    EXPECT_LT(secondsWorked() - asked, 0.5); // the aim is 0.2; sanitizers slow it down
+    EXPECT_LT(secondsWorked() - asked, 2 * longestSilence);
     EXPECT_TRUE(run.cancelled);
     EXPECT_TRUE(run.tables.empty());
     EXPECT_GE(calls, 2);
@@ -170,7 +173,7 @@ TEST(Wide, tellsProgressWhileItIsLaidOut) {
     EXPECT_EQ(told.back(), 100);
     // Steps in between, not one leap to the end.
     EXPECT_GE(std::count_if(told.begin(), told.end(), [](int p) { return p > 5 && p < 95; }), 3);
-    EXPECT_LT(longest, 0.3); // the aim is 0.1; sanitizers slow it down
+    EXPECT_LT(longest, longestSilence);
 }
 
 TEST(Wide, tellsProgressWhileItIsSorted) {
@@ -186,7 +189,7 @@ TEST(Wide, tellsProgressWhileItIsSorted) {
         country.run("VIEW PERSON, PERSON.*, PERSON.* SORT DESC PERSON.V3", tell);
     ASSERT_EQ(run.tables.size(), 1U);
     EXPECT_EQ(run.tables[0].rows(), 1000000);
-    EXPECT_LT(longest, 0.1);
+    EXPECT_LT(longest, longestSilence);
 }
 
 } // namespace
