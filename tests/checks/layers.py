@@ -27,7 +27,12 @@ ALLOWED["src/app/ribbon/tt"] = []
 # What every form may use.
 FORMS = ["src/app/messages", "src/app/settings", "src/app/dialogs", "src/app/widgets",
          "src/app/shell"]
-ALLOWED["src/app/ribbon"] = FORMS + ["src/app/ribbon/tt"]
+ALLOWED["src/results/tables"] = BOUNDARY
+ALLOWED["src/results/workbook"] = ["src/results/tables"]
+ALLOWED["src/results/exports"] = BOUNDARY + FORMS + ["src/results/tables", "src/results/workbook"]
+ALLOWED["src/results/options"] = FORMS + ["src/results/tables"]
+ALLOWED["src/results/styles"] = FORMS
+ALLOWED["src/app/ribbon"] = FORMS + ["src/app/ribbon/tt", "src/results/styles"]
 ALLOWED["src/preferences"] = FORMS + ["src/app/ribbon/tt"]
 ALLOWED["src/dictionary/loading"] = BOUNDARY + FORMS + [
     "src/engine", "src/dictionary/mirror", "src/projects"]
@@ -37,7 +42,9 @@ ALLOWED["src/dictionary/properties"] = BOUNDARY + FORMS + ["src/dictionary/mirro
 ALLOWED["src/dictionary"] = BOUNDARY + FORMS + [
     "src/dictionary/mirror", "src/projects", "src/dictionary/loading", "src/dictionary/views",
     "src/dictionary/properties"]
-ALLOWED["src/results"] = BOUNDARY + ["src/app/widgets"]
+RESULTS = ["src/results/tables", "src/results/workbook", "src/results/exports",
+           "src/results/options", "src/results/styles"]
+ALLOWED["src/results"] = BOUNDARY + FORMS + RESULTS
 ALLOWED["src/engine/execution"] = BOUNDARY + FORMS + ["src/engine", "src/dictionary/mirror",
                                                       "src/projects"]
 ALLOWED["src/editor/language"] = BOUNDARY + FORMS
@@ -49,7 +56,7 @@ EDITOR = ["src/editor/language", "src/editor/codeeditor", "src/editor/text", "sr
           "src/editor/files"]
 ALLOWED["src/editor/program"] = BOUNDARY + FORMS + EDITOR + [
     "src/engine", "src/engine/execution", "src/dictionary/mirror", "src/projects"]
-WORKBENCH = FORMS + EDITOR + [
+WORKBENCH = FORMS + EDITOR + RESULTS + [
     "src/engine/execution", "src/editor/program",
     "src/engine", "src/dictionary/mirror", "src/projects", "src/app/ribbon/tt", "src/app/ribbon",
     "src/preferences", "src/dictionary/loading", "src/dictionary/views",

@@ -10,6 +10,7 @@
 
 class TKelDataset;
 class TKelEntity;
+class TKelRunDefinition;
 class TKelVariable;
 
 /// Belongs to the session that made it.
@@ -36,6 +37,9 @@ public:
     /// The output as one JSON object, UTF-8, its rows in triples for every dimension.
     std::string asJson() const;
     std::int64_t suppressed() const; ///< number of cells hidden for disclosure control
+    /// The settings that this output was made under; a program may change them as it goes on. Never
+    /// null.
+    std::shared_ptr<TKelRunDefinition> runDefinition() const;
 
 private:
     friend struct KelBoundaryAccess;
