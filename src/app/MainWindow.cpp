@@ -108,6 +108,7 @@ void MainWindow::setupToolbar() {
     connect(ribbon_, &RibbonHost::programFile, programs_, &ProgramWindows::openProgram);
     connect(programs_, &ProgramWindows::recentChanged, this, &MainWindow::rebuildToolbars);
     connect(ribbon_, &RibbonHost::preferences, this, &MainWindow::onClickInPreferences);
+    connect(ribbon_, &RibbonHost::showResults, this, &MainWindow::onShowResults);
 }
 
 void MainWindow::setupInfoProperties() {
@@ -186,6 +187,7 @@ void MainWindow::rebuildToolbars() {
 RibbonHost::State MainWindow::ribbonState() const {
     RibbonHost::State state;
     state.loading = isLoading();
+    state.hasResults = hasResults_;
     state.dictionaryOpen = !state.loading && TfrmProject::instance().isOpen();
     state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
                             opener_->dictionary()->isDirty();
@@ -261,8 +263,9 @@ void MainWindow::closeAll() {
     infoProperties_->hide();
     infoProperties_->clear();
     workArea_->closeAllSubWindows();
-    if (ResultsManager* gone = std::exchange(resultsManager_, nullptr))
-        gone->deleteLater();
+    // Before the dictionary is released, of which its tables are.
+    delete std::exchange(resultsManager_, nullptr);
+    hasResults_ = false;
     showNothingOpen();
     ribbon_->select(ribbon::ProjectPage);
 }
@@ -321,24 +324,35 @@ void MainWindow::runProgram(const QString& program) {
         ProcessExecuter(*this, system_.language()).execute(program);
 }
 
-void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
-                             const std::shared_ptr<TKelSession>& session,
-                             const QString& programText) {
-    if (!outputs.empty())
-        addResults(outputs, session);
+QStringList MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
+                                    const std::shared_ptr<TKelSession>& session,
+                                    const QString& programText) {
+    const auto styled = std::find_if(outputs.begin(), outputs.end(), [](TKelOutput* output) {
+        return output->options().style.has_value();
+    });
+    const QString style = styled == outputs.end()
+                              ? QString()
+                              : QString::fromStdString(*(*styled)->options().style);
+    const QStringList notes = resultsManager().addOutputs(outputs, session, style);
+    onShowResults();
+    rebuildToolbars();
     // A table that is saved leaves the dictionary as it is.
     const auto& dictionary = TfrmProject::instance().dictionary();
     if (maySave(programText) && dictionary != nullptr && dictionary->isDirty())
         reloadDictionary();
+    return notes;
 }
 
-void MainWindow::addResults(const std::vector<TKelOutput*>& outputs,
-                            const std::shared_ptr<TKelSession>& session) {
-    if (resultsManager_ == nullptr)
-        resultsManager_ = new ResultsManager(this);
-    if (resultsManager_->addOutputs(outputs, session) > 0)
-        onShowResults();
-    rebuildToolbars();
+ResultsManager& MainWindow::resultsManager() {
+    if (resultsManager_ == nullptr) {
+        resultsManager_ = new ResultsManager(system_, this);
+        connect(resultsManager_, &ResultsManager::signalCloseWindow, this,
+                &MainWindow::onHideResults);
+        connect(resultsManager_, &ResultsManager::signalTableShowed, this,
+                &MainWindow::onResultsManagerTableShowed);
+        hasResults_ = true;
+    }
+    return *resultsManager_;
 }
 
 void MainWindow::reloadDictionary() {
@@ -347,12 +361,7 @@ void MainWindow::reloadDictionary() {
 }
 
 QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outputs) {
-    QStringList faults;
-    for (TKelOutput* output : outputs)
-        if (output->options().direct)
-            faults += tr("%1 was not written: the workbench writes no results into files yet")
-                          .arg(QString::fromStdString(output->options().outputFile));
-    return faults;
+    return writeOutputFiles(outputs, system_);
 }
 
 void MainWindow::onShowResults() {
@@ -362,7 +371,6 @@ void MainWindow::onShowResults() {
     if (frame == nullptr) {
         frame = workArea_->addWindow(resultsManager_);
         frame->setAttribute(Qt::WA_DeleteOnClose, false);
-        frame->installEventFilter(this);
     }
     resultsManager_->show();
     workArea_->setActiveSubWindow(frame);
@@ -374,7 +382,7 @@ void MainWindow::onHideResults() {
         resultsManager_ != nullptr ? workArea_->find(resultsManager_->objectName()) : nullptr;
     if (frame == nullptr)
         return;
-    // The tables outlive their sub-window, which is still within its own close event.
+    // The tables outlive their sub-window, which is still within its own close event and hides them.
     workArea_->removeSubWindow(resultsManager_);
     resultsManager_->setParent(this);
     resultsManager_->hide();
@@ -382,11 +390,8 @@ void MainWindow::onHideResults() {
     frame->deleteLater();
 }
 
-bool MainWindow::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::Close && resultsManager_ != nullptr &&
-        object == workArea_->find(resultsManager_->objectName()))
-        onHideResults();
-    return QMainWindow::eventFilter(object, event);
+void MainWindow::onResultsManagerTableShowed(TableBase* table) {
+    emit resultTableShowed(table);
 }
 
 InfoProperties& MainWindow::quickView() {

@@ -22,6 +22,7 @@ class ProgramWindows;
 class QMdiSubWindow;
 class ResultsManager;
 class StartPage;
+class TableBase;
 class TKelOutput;
 class TKelSession;
 class TKpEntity;
@@ -48,9 +49,9 @@ public:
     QMdiSubWindow* addWindow(QWidget* content) override;
     bool hasWindows() const override;
     void runProgram(const QString& program) override;
-    void showResults(const std::vector<TKelOutput*>& outputs,
-                     const std::shared_ptr<TKelSession>& session,
-                     const QString& programText) override;
+    QStringList showResults(const std::vector<TKelOutput*>& outputs,
+                            const std::shared_ptr<TKelSession>& session,
+                            const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) override;
     void reloadDictionary() override;
     QWidget* window() override { return this; }
@@ -83,6 +84,7 @@ public slots:
     void onClickInPreferences();
     void onShowResults();
     void onHideResults();
+    void onResultsManagerTableShowed(TableBase* table);
     void onQuickViewVariable(TKpVariable* variable);
     void onQuickViewEntity(TKpEntity* entity);
     void onCloseInfoAppProperties();
@@ -93,12 +95,14 @@ signals:
     void saveAsClick();
     void signalDictIsDirty(bool dirty);
     void signalProjecIsDirty(bool dirty);
+    /// The one that the window of results shows now. It is valid until another is shown, or the
+    /// dictionary closes.
+    void resultTableShowed(TableBase* table);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     QMenu* createPopupMenu() override;
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void setupWorkArea();
@@ -111,8 +115,7 @@ private:
     void onOpened(const QString& path, bool found);
     void closeAll();
     void showNothingOpen();
-    void addResults(const std::vector<TKelOutput*>& outputs,
-                    const std::shared_ptr<TKelSession>& session);
+    ResultsManager& resultsManager(); ///< made where there is none yet
     bool canChangeDictionary() const; ///< one is open, and neither loaded nor used by a run
     bool askSaveDictionary();         ///< false where the changes could not be saved
     bool endRun();                    ///< false where the window stays open
@@ -131,6 +134,7 @@ private:
     ProgramWindows* programs_ = nullptr;
     InfoProperties* infoProperties_ = nullptr; ///< hidden rather than deleted
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
+    bool hasResults_ = false;
     QString language_;
     bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
     bool recoveryDue_ = false;

@@ -70,6 +70,7 @@ void RibbonHost::build() {
     told.dictionaryOpen = state.dictionaryOpen;
     told.dictionaryDirty = state.dictionaryDirty;
     told.loading = state.loading;
+    told.hasResults = state.hasResults;
     told.recentDictionaries = state.recentDictionaries;
     told.recentPrograms = system_.recentPrograms(false);
     told.recentExecutes = system_.recentPrograms(true);
@@ -99,6 +100,7 @@ void RibbonHost::connectPages() {
     connect(pages_, &RibbonPages::newProgram, this, &RibbonHost::newProgram);
     connect(pages_, &RibbonPages::programFile, this, &RibbonHost::programFile);
     connect(pages_, &RibbonPages::preferences, this, &RibbonHost::preferences);
+    connect(pages_, &RibbonPages::showResults, this, &RibbonHost::showResults);
 }
 
 void RibbonHost::select(ribbon::PageIndex page) {

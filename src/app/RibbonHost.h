@@ -29,6 +29,7 @@ public:
         bool dictionaryOpen = false;
         bool dictionaryDirty = false;
         bool loading = false;
+        bool hasResults = false;
         QStringList recentDictionaries;
         QStringList dictionaryPrograms;
     };
@@ -57,6 +58,7 @@ signals:
     void newProgram(bool execute);
     void programFile(const QString& path, bool execute);
     void preferences();
+    void showResults();
 
 private:
     void build();

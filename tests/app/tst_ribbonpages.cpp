@@ -170,13 +170,16 @@ private slots:
     }
 
     void buttonsFollowTheState() {
-        const QStringList windows = {"Restore", "Tile vertical", "Tile horizontal",
-                                     "Cascade", "Minimize All",  "Arrange Icons"};
+        QStringList windows = {"Restore", "Tile vertical", "Tile horizontal",
+                               "Cascade", "Minimize All",  "Arrange Icons"};
         QCOMPARE(enabledOn(ribbon::DictionaryPage), QStringList("Open"));
         QCOMPARE(enabledOn(ribbon::WindowPage), windows);
         QCOMPARE(enabledOn(ribbon::GeneralPage), QStringList({"Preferences", "Help", "About"}));
         RibbonState state = open();
+        state.hasResults = true;
         build(state);
+        windows += "Results";
+        QCOMPARE(enabledOn(ribbon::WindowPage), windows);
         const QStringList clean = {"Open", "Save As", "Locate", "Close"};
         QCOMPARE(enabledOn(ribbon::DictionaryPage), clean);
         pages_->enableSaveDictionary(true);

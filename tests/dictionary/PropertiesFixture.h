@@ -29,8 +29,10 @@ public:
     QMdiSubWindow* addWindow(QWidget*) override { return nullptr; }
     bool hasWindows() const override { return false; }
     void runProgram(const QString&) override {}
-    void showResults(const std::vector<TKelOutput*>&, const std::shared_ptr<TKelSession>&,
-                     const QString&) override {}
+    QStringList showResults(const std::vector<TKelOutput*>&, const std::shared_ptr<TKelSession>&,
+                            const QString&) override {
+        return {};
+    }
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>&) override { return {}; }
     QWidget* window() override { return &window_; }
 

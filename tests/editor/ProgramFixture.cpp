@@ -35,10 +35,12 @@ QMdiSubWindow* RecordingShell::addWindow(QWidget* content) {
     return frame;
 }
 
-void RecordingShell::showResults(const std::vector<TKelOutput*>& made,
-                                 const std::shared_ptr<TKelSession>&, const QString& programText) {
+QStringList RecordingShell::showResults(const std::vector<TKelOutput*>& made,
+                                        const std::shared_ptr<TKelSession>&,
+                                        const QString& programText) {
     outputs = static_cast<int>(made.size());
     programs += programText;
+    return {};
 }
 
 ProgramFixture::ProgramFixture() {

@@ -31,7 +31,7 @@ public:
     QMdiSubWindow* addWindow(QWidget* content) override;
     bool hasWindows() const override { return !area->subWindowList().isEmpty(); }
     void runProgram(const QString&) override {}
-    void showResults(const std::vector<TKelOutput*>& outputs,
+    QStringList showResults(const std::vector<TKelOutput*>& outputs,
                      const std::shared_ptr<TKelSession>& session,
                      const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>&) override { return {}; }

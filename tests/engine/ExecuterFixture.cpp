@@ -12,12 +12,13 @@ void RecordingShell::showStatus(const QString& text, bool busy) {
     statuses += busy ? text + "..." : text;
 }
 
-void RecordingShell::showResults(const std::vector<TKelOutput*>& /*outputs*/,
-                                 const std::shared_ptr<TKelSession>& /*session*/,
-                                 const QString& programText) {
+QStringList RecordingShell::showResults(const std::vector<TKelOutput*>& outputs,
+                                        const std::shared_ptr<TKelSession>& /*session*/,
+                                        const QString& programText) {
     shown += programText;
     if (onResults)
         onResults();
+    return outputs.empty() ? QStringList() : writeFaults;
 }
 
 QStringList RecordingShell::writeDirectOutputs(const std::vector<TKelOutput*>& outputs) {

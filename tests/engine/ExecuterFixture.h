@@ -26,7 +26,7 @@ public:
     QMdiSubWindow* addWindow(QWidget*) override { return nullptr; }
     bool hasWindows() const override { return false; }
     void runProgram(const QString&) override {}
-    void showResults(const std::vector<TKelOutput*>& outputs,
+    QStringList showResults(const std::vector<TKelOutput*>& outputs,
                      const std::shared_ptr<TKelSession>& session,
                      const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) override;

@@ -15,11 +15,12 @@ RibbonPages::RibbonPages(tt::TabToolbar& toolbar, const RibbonState& state, QMdi
     auto* file = new FileToolBar(toolbar, state);
     new StatisticalToolBar(toolbar);
     toolbar.AddPage({}); // EASY INDICATORS
-    new WindowToolBar(toolbar, workArea);
+    auto* window = new WindowToolBar(toolbar, workArea, state);
     auto* general = new GeneralToolBar(toolbar, state);
     connect(project, &ProjectToolBar::projectFile, this, &RibbonPages::projectFile);
     connect(file, &FileToolBar::newProgram, this, &RibbonPages::newProgram);
     connect(file, &FileToolBar::programFile, this, &RibbonPages::programFile);
+    connect(window, &WindowToolBar::showResults, this, &RibbonPages::showResults);
     connect(general, &GeneralToolBar::preferences, this, &RibbonPages::preferences);
     connectDictionary();
     retitle();

@@ -59,6 +59,7 @@ signals:
     void newProgram(bool execute);
     void programFile(const QString& path, bool execute);
     void preferences();
+    void showResults();
 
 private:
     void connectDictionary();

@@ -9,6 +9,7 @@ struct RibbonState {
     bool dictionaryOpen = false;
     bool dictionaryDirty = false;
     bool loading = false;           ///< nothing may be opened, saved or closed meanwhile
+    bool hasResults = false;        ///< a run has made some
     QStringList recentDictionaries; ///< whole paths, the newest first
     QStringList recentPrograms;     ///< whole paths, the newest first
     QStringList recentExecutes;     ///< the same of programs that run others

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ribbon/WindowToolBar.h"
 
+#include "app/ribbon/RibbonState.h"
 #include "app/ribbon/WorkAreaModes.h"
 
-WindowToolBar::WindowToolBar(tt::TabToolbar& toolbar, QMdiArea& workArea)
+WindowToolBar::WindowToolBar(tt::TabToolbar& toolbar, QMdiArea& workArea, const RibbonState& state)
     : RibbonPage(toolbar, "Window"), workArea_(workArea) {
     tt::Group& view = addGroup(tr("Tabs"));
     QAction* restore = add(view, "restore", tr("Restore"), tr("Show the windows as tabs again"));
@@ -16,6 +17,10 @@ WindowToolBar::WindowToolBar(tt::TabToolbar& toolbar, QMdiArea& workArea)
     QAction* minimize = add(arrange, "minimize", tr("Minimize All"), tr("Minimize all windows"));
     QAction* icons = add(arrange, "arrange", tr("Arrange Icons"),
                          tr("Line up the minimized windows at the bottom"));
+    tt::Group& results = addGroup(tr("Results"));
+    QAction* show = add(results, "results", tr("Results"), tr("Show the tables made so far"));
+    show->setEnabled(state.hasResults);
+    connect(show, &QAction::triggered, this, &WindowToolBar::showResults);
     connect(restore, &QAction::triggered, this, &WindowToolBar::on_restore);
     connect(vertical, &QAction::triggered, this, &WindowToolBar::on_vertical);
     connect(horizontal, &QAction::triggered, this, &WindowToolBar::on_horizontal);

@@ -5,13 +5,14 @@
 #include "app/ribbon/RibbonPage.h"
 
 class QMdiArea;
+struct RibbonState;
 
 class WindowToolBar : public RibbonPage {
     Q_OBJECT
 
 public:
     /// The area must outlive the ribbon.
-    WindowToolBar(tt::TabToolbar& toolbar, QMdiArea& workArea);
+    WindowToolBar(tt::TabToolbar& toolbar, QMdiArea& workArea, const RibbonState& state);
 
 public slots:
     void on_vertical();
@@ -20,6 +21,9 @@ public slots:
     void on_minimizeAll();
     void on_arrangeIcons();
     void on_restore();
+
+signals:
+    void showResults(); ///< brings the window of results back
 
 private:
     QMdiArea& workArea_;

@@ -179,10 +179,9 @@ void ProcessExecuter::showOutputs(const std::shared_ptr<TKelSession>& session, c
     if (creating)
         shell_.showStatus(tr("Creating Table"), true);
     // Without outputs too: what the program has saved shows elsewhere.
-    shell_.showResults(outputs, session, run.shownText);
+    const QStringList faults = shell_.showResults(outputs, session, run.shownText);
     if (creating)
         shell_.showStatus(tr("Table Created"), false);
-    const QStringList faults = shell_.writeDirectOutputs(outputs);
     if (run.errors != nullptr)
         run.errors->addItems(faults);
     else if (!faults.isEmpty())
