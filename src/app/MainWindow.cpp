@@ -330,9 +330,8 @@ QStringList MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
     const auto styled = std::find_if(outputs.begin(), outputs.end(), [](TKelOutput* output) {
         return output->options().style.has_value();
     });
-    const QString style = styled == outputs.end()
-                              ? QString()
-                              : QString::fromStdString(*(*styled)->options().style);
+    const QString style =
+        styled == outputs.end() ? QString() : QString::fromStdString(*(*styled)->options().style);
     const QStringList notes = resultsManager().addOutputs(outputs, session, style);
     onShowResults();
     rebuildToolbars();
@@ -382,7 +381,8 @@ void MainWindow::onHideResults() {
         resultsManager_ != nullptr ? workArea_->find(resultsManager_->objectName()) : nullptr;
     if (frame == nullptr)
         return;
-    // The tables outlive their sub-window, which is still within its own close event and hides them.
+    // The tables outlive their sub-window, which is still within its own close event and hides
+    // them.
     workArea_->removeSubWindow(resultsManager_);
     resultsManager_->setParent(this);
     resultsManager_->hide();

@@ -32,8 +32,8 @@ public:
     bool hasWindows() const override { return !area->subWindowList().isEmpty(); }
     void runProgram(const QString&) override {}
     QStringList showResults(const std::vector<TKelOutput*>& outputs,
-                     const std::shared_ptr<TKelSession>& session,
-                     const QString& programText) override;
+                            const std::shared_ptr<TKelSession>& session,
+                            const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>&) override { return {}; }
     QWidget* window() override { return &main; }
 

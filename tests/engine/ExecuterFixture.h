@@ -27,8 +27,8 @@ public:
     bool hasWindows() const override { return false; }
     void runProgram(const QString&) override {}
     QStringList showResults(const std::vector<TKelOutput*>& outputs,
-                     const std::shared_ptr<TKelSession>& session,
-                     const QString& programText) override;
+                            const std::shared_ptr<TKelSession>& session,
+                            const QString& programText) override;
     QStringList writeDirectOutputs(const std::vector<TKelOutput*>& outputs) override;
     void reloadDictionary() override { ++reloads; }
     QWidget* window() override { return &window_; }

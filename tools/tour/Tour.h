@@ -34,6 +34,9 @@ private:
     void menus();
     void showMenu(QAbstractItemView* view);
     void frequency();
+    void results();
+    void shootResult(const QString& program, const QString& name, bool report);
+    void exports(const QString& folder);
     void programs();
     void completion();
     void compileError();
