@@ -2,6 +2,7 @@
 // A result table of made rows, without an engine behind it: what reads tables is tested with it.
 #pragma once
 
+#include "TKelOutput.h"
 #include "results/tables/TableBase.h"
 
 #include <memory>
@@ -9,14 +10,17 @@
 #include <utility>
 #include <vector>
 
-class MadeTable : public TableBase {
+/// Built before the table that refers to it.
+struct MadeOutput {
+    TKelOutput emptyOutput;
+};
+
+class MadeTable : private MadeOutput, public TableBase {
 public:
     explicit MadeTable(TableLayout layout, TableMetadata metadata = {},
                        TablePreferences preferences = {})
-        : TableBase({nullptr, std::move(preferences), std::move(metadata)}),
-          made_(std::move(layout)) {
-        MadeTable::rebuild();
-    }
+        : TableBase({&emptyOutput, std::move(preferences), std::move(metadata)}),
+          made_(std::move(layout)) {}
 
     QString outputName() const override { return metadata().name; }
     QString tableName() const override { return metadata().name; }
@@ -27,6 +31,8 @@ public:
     bool exportedDirectly() const override { return direct; }
     int kind() const override { return metadata().kind; }
     QString dictionaryVariableName() const override { return {}; }
+
+    TKelOutputConfig& program() { return emptyOutput.options(); } ///< what it asked for
 
     std::string json = "{}";
     bool direct = false;
