@@ -20,6 +20,7 @@
 #include "kel.h"
 #include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
+#include "results/DirectOutputs.h"
 #include "results/ResultsManager.h"
 
 #include <QApplication>
@@ -335,9 +336,14 @@ void MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
 void MainWindow::addResults(const std::vector<TKelOutput*>& outputs,
                             const std::shared_ptr<TKelSession>& session) {
     if (resultsManager_ == nullptr)
-        resultsManager_ = new ResultsManager(this);
-    if (resultsManager_->addOutputs(outputs, session) > 0)
-        onShowResults();
+        resultsManager_ =
+            new ResultsManager(system_, TfrmProject::instance().dictionaryPath(), this);
+    QString style;
+    for (TKelOutput* output : outputs)
+        if (style.isEmpty())
+            style = QString::fromStdString(output->options().style.value_or(""));
+    directLines_ = resultsManager_->addOutputs(outputs, session, style);
+    onShowResults();
     rebuildToolbars();
 }
 
@@ -347,12 +353,12 @@ void MainWindow::reloadDictionary() {
 }
 
 QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outputs) {
-    QStringList faults;
-    for (TKelOutput* output : outputs)
-        if (output->options().direct)
-            faults += tr("%1 was not written: the workbench writes no results into files yet")
-                          .arg(QString::fromStdString(output->options().outputFile));
-    return faults;
+    if (auto written = std::exchange(directLines_, std::nullopt))
+        return *written; // with the results that were shown
+    TfrmProject& project = TfrmProject::instance();
+    if (project.dictionary() == nullptr)
+        return {};
+    return DirectOutputs(system_, *project.dictionary(), project.dictionaryPath()).write(outputs);
 }
 
 void MainWindow::onShowResults() {

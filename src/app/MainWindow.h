@@ -12,6 +12,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class ConfigDialog;
@@ -131,6 +132,7 @@ private:
     ProgramWindows* programs_ = nullptr;
     InfoProperties* infoProperties_ = nullptr; ///< hidden rather than deleted
     ResultsManager* resultsManager_ = nullptr; ///< null until the first results
+    std::optional<QStringList> directLines_; ///< of files written with the results shown last
     QString language_;
     bool closeAfterLoading_ = false; ///< the user has closed the window meanwhile
     bool recoveryDue_ = false;

@@ -31,8 +31,7 @@ ResultActions::ResultActions(QWidget* window)
       csvNameAsHeader(make(window, "actionCsvNameAsHeader", "Results-csv")),
       json(make(window, "actionJson", "Results-json")),
       xlsx(make(window, "actionXlsx", "Results-xlsx")),
-      xml(make(window, "actionXml", "Results-xml")),
-      pdf(make(window, "actionPdf", "Results-pdf")),
+      xml(make(window, "actionXml", "Results-xml")), pdf(make(window, "actionPdf", "Results-pdf")),
       order(make(window, "actionOrder", "Results-options")),
       copy(make(window, "actionCopy", "Edit-copy")) {
     copy->setShortcut(QKeySequence::Copy);

@@ -42,7 +42,9 @@ ResultHeader::ResultHeader(const TableBase& table) {
         for (qsizetype i = 0; i < texts[row].size(); ++i) {
             const auto [columns, rows] = spans.value(row).value(i, {1, 1});
             const auto [column, top] = positions.value(row).value(i, {i, row});
-            place({texts[row][i], shortHeader(texts[row][i]), QColor(colors.value(row).value(i)),
+            place({texts[row][i],
+                   shortHeader(texts[row][i]),
+                   QColor(colors.value(row).value(i)),
                    {top, column, rows, columns}});
         }
 }

@@ -10,7 +10,7 @@
 
 /// Roles beside those of Qt.
 namespace resultrole {
-inline constexpr int raw = Qt::UserRole; ///< the cell in full precision
+inline constexpr int raw = Qt::UserRole;      ///< the cell in full precision
 inline constexpr int kind = Qt::UserRole + 1; ///< a CellKind as int
 } // namespace resultrole
 

@@ -24,7 +24,10 @@ void askArealist(TableBase& table, QWidget* parent) {
 }
 
 void askOrder(TableBase& table, QWidget* parent) {
-    OrderDialog dialog(table.rowsOrder(), parent);
+    // A style file may hold any number.
+    const int order = table.rowsOrder();
+    const bool known = order == TableViewConfig::Ascending || order == TableViewConfig::Descending;
+    OrderDialog dialog(known ? order : TableViewConfig::Default, parent);
     if (dialog.exec() != QDialog::Accepted)
         return;
     table.setRowsOrder(dialog.order());

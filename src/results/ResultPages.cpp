@@ -118,8 +118,7 @@ void ResultListPage::addFact(const QString& label, const QString& value) {
 
 void ResultListPage::limitFacts() {
     const int line = fontMetrics().height() + std::max(0, form_->verticalSpacing());
-    facts_->setMaximumHeight(
-        std::min(form_->sizeHint().height() + 2, mostFactLines * line));
+    facts_->setMaximumHeight(std::min(form_->sizeHint().height() + 2, mostFactLines * line));
     facts_->setVisible(form_->rowCount() > 0);
 }
 

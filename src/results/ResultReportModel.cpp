@@ -34,8 +34,7 @@ void ResultReportModel::showTable(const TableBase* table) {
         shown.columns = static_cast<int>(std::max(table->columnHeaders().size(), first)) + 2;
         shown.top = static_cast<int>(lines_.size()) + 1;
         shown.left = 1;
-        shown.rows =
-            facts.reportRows(shown.header.rows(), static_cast<int>(shown.cells.size()));
+        shown.rows = facts.reportRows(shown.header.rows(), static_cast<int>(shown.cells.size()));
     }
     setContents(std::move(shown));
     endResetModel();
