@@ -19,6 +19,7 @@ public:
     /// False once it cannot be written or was cancelled: all that follows is passed over.
     bool goesOn() const { return outcome_.written(); }
     void write(std::string_view utf8);
+    void write(const char* utf8) { write(std::string_view(utf8)); }
     void write(const QString& text) { write(std::string_view(text.toStdString())); }
     void cellDone();
 

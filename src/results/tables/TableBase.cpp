@@ -87,6 +87,10 @@ QList<QList<std::pair<int, int>>> TableBase::headerPositions() const {
     return built().layout.header.positions;
 }
 
+QString TableBase::layoutNote() const {
+    return built().layout.note;
+}
+
 QString TableBase::outputName() const {
     return QString::fromStdString(output().name());
 }

@@ -83,6 +83,9 @@ public:
     virtual QList<double> columnValues(int column) const; ///< skips rows that end before it
     virtual QStringList columnDisplays(int column) const; ///< skips rows that end before it
 
+    /// Why the table has headers only, to be shown in its place; empty where nothing is missing.
+    QString layoutNote() const;
+
     const TableMetadata& metadata() const { return source_.metadata; }
     void setMetadata(TableMetadata metadata) { source_.metadata = std::move(metadata); }
 

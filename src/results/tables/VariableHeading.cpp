@@ -11,7 +11,12 @@
 namespace {
 
 QString withLabel(const QString& name, const QString& label) {
-    return label.isEmpty() ? name : name + " (" + label + ")";
+    return label.isEmpty() || label == name ? name : name + " (" + label + ")";
+}
+
+/// A column may be worked out from variables; then its name is the text of that.
+bool isExpression(const std::string& name) {
+    return name.find_first_of(" .()+-*/<>=,") != std::string::npos;
 }
 
 QString orPath(const std::string& text, const QString& path) {
@@ -23,7 +28,7 @@ QString orPath(const std::string& text, const QString& path) {
 QString variablePath(const TKelVariable& variable) {
     const TKelEntity* entity = variable.entity(false);
     const QString name = QString::fromStdString(variable.name());
-    if (entity == nullptr || entity->name().empty())
+    if (entity == nullptr || entity->name().empty() || isExpression(variable.name()))
         return name;
     return QString::fromStdString(entity->name()) + "." + name;
 }
