@@ -191,6 +191,7 @@ RibbonHost::State MainWindow::ribbonState() const {
     state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
                             opener_->dictionary()->isDirty();
     state.recentDictionaries = mainController_->recentDictionaries();
+    state.activeProgram = [this] { return programs_->activePath(); };
     if (state.dictionaryOpen)
         state.dictionaryPrograms =
             ProgramWindows::programsBeside(TfrmProject::instance().dictionaryPath());

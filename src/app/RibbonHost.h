@@ -31,6 +31,7 @@ public:
         bool loading = false;
         QStringList recentDictionaries;
         QStringList dictionaryPrograms;
+        std::function<QString()> activeProgram; ///< path of the program in front, or empty
     };
 
     /// state: asked whenever the ribbon is built.
