@@ -56,6 +56,10 @@ std::int64_t TKelOutput::suppressed() const {
     return d->table.suppressed;
 }
 
+std::shared_ptr<TKelRunDefinition> TKelOutput::runDefinition() const {
+    return d->definition;
+}
+
 namespace kelx::boundary {
 
 namespace {
@@ -124,6 +128,13 @@ void setSort(TKelOutputConfig& options, const language::SortClause& clause) {
     options.sort = sort;
 }
 
+/// Taken from the table, since one made of others has theirs where they agree.
+std::shared_ptr<TKelRunDefinition> definitionOf(const output::Table& table) {
+    const std::string label = table.area == output::wholeDatabase ? std::string() : table.area;
+    return std::make_shared<TKelRunDefinition>(std::make_shared<TKelRunSelection>(label),
+                                               table.universalFilter);
+}
+
 } // namespace
 
 std::unique_ptr<TKelOutput> makeOutput(output::Table table, const language::TableCommand& command,
@@ -146,6 +157,7 @@ std::unique_ptr<TKelOutput> makeOutput(output::Table table, const language::Tabl
         data.variables.push_back(shownVariable(data, variable, state));
     }
     data.entity = state.wrapperOf(data.table.entity);
+    data.definition = definitionOf(data.table);
     data.dataset = std::make_unique<TableDataset>(data.table);
     return result;
 }

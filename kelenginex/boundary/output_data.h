@@ -3,6 +3,7 @@
 #pragma once
 
 #include "TKelOutput.h"
+#include "TKelSession.h"
 
 #include "boundary/state.h"
 #include "boundary/table_dataset.h"
@@ -19,6 +20,8 @@ struct TKelOutput::Data {
     std::vector<TKelVariable*> variables;
     std::vector<std::unique_ptr<TKelVariable>> ownVariables; ///< made by the program
     TKelEntity* entity = nullptr;
+    std::shared_ptr<TKelRunDefinition> definition =
+        std::make_shared<TKelRunDefinition>(nullptr, std::nullopt);
 };
 
 namespace kelx::boundary {

@@ -176,7 +176,7 @@ std::optional<std::string> universalFilterOf(const language::RunSettings* run) {
 std::string_view areaOf(const language::RunSettings& run) {
     if (run.selection && !run.selection->label.empty())
         return run.selection->label;
-    return "All Database";
+    return wholeDatabase;
 }
 
 } // namespace

@@ -74,6 +74,9 @@ struct TableVariable {
     std::string label;
 };
 
+/// The area of a table that counts all records.
+constexpr std::string_view wholeDatabase = "All Database";
+
 /// The form of its own is the dataset's.
 struct Table : Form {
     std::string name;        ///< of the command
@@ -84,7 +87,7 @@ struct Table : Form {
     int dimension = 0;
     std::string unit;     ///< entity whose records are counted; empty where there is no one such
     std::string database; ///< label of the database, else its file name
-    std::string area;     ///< selection label, else "All Database", or "Several areas"
+    std::string area;     ///< selection label, else wholeDatabase, or "Several areas"
     std::optional<std::string> title, filter, weight, tally, universalFilter;
     std::optional<int> decimals;
     /// As it was done: the field that was sorted by where the program names none or one by number.

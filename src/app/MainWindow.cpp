@@ -20,6 +20,7 @@
 #include "kel.h"
 #include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
+#include "results/DirectOutputs.h"
 #include "results/ResultsManager.h"
 
 #include <QApplication>
@@ -192,6 +193,7 @@ RibbonHost::State MainWindow::ribbonState() const {
     state.dictionaryDirty = state.dictionaryOpen && opener_->dictionary() != nullptr &&
                             opener_->dictionary()->isDirty();
     state.recentDictionaries = mainController_->recentDictionaries();
+    state.activeProgram = [this] { return programs_->activePath(); };
     if (state.dictionaryOpen)
         state.dictionaryPrograms =
             ProgramWindows::programsBeside(TfrmProject::instance().dictionaryPath());
@@ -344,7 +346,8 @@ QStringList MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
 
 ResultsManager& MainWindow::resultsManager() {
     if (resultsManager_ == nullptr) {
-        resultsManager_ = new ResultsManager(system_, this);
+        resultsManager_ =
+            new ResultsManager(system_, TfrmProject::instance().dictionaryPath(), this);
         connect(resultsManager_, &ResultsManager::signalCloseWindow, this,
                 &MainWindow::onHideResults);
         connect(resultsManager_, &ResultsManager::signalTableShowed, this,
@@ -360,7 +363,10 @@ void MainWindow::reloadDictionary() {
 }
 
 QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outputs) {
-    return writeOutputFiles(outputs, system_);
+    TfrmProject& project = TfrmProject::instance();
+    if (project.dictionary() == nullptr)
+        return {};
+    return DirectOutputs(system_, *project.dictionary(), project.dictionaryPath()).write(outputs);
 }
 
 void MainWindow::onShowResults() {

@@ -8,6 +8,7 @@
 #include "editor/files/RecoveryStore.h"
 #include "editor/program/ExecuteProgramSPC.h"
 #include "editor/program/ProcessProgramSPC.h"
+#include "editor/text/Editor.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -74,6 +75,16 @@ void ProgramWindows::openProgram(const QString& path, bool execute) {
     show(window);
     if (window->hasFile(path))
         noteUse(path, execute); // it was read before anyone listened
+}
+
+QString ProgramWindows::activePath() const {
+    // Not the active one: there is none while a dialog has the keys.
+    const QMdiSubWindow* frame = workArea_.currentSubWindow();
+    const auto* window =
+        frame != nullptr ? qobject_cast<ProcessProgramSPC*>(frame->widget()) : nullptr;
+    const bool has =
+        window != nullptr && !window->isExecuteWindow() && window->currentEditor() != nullptr;
+    return has ? window->currentEditor()->filePath() : QString();
 }
 
 ProcessProgramSPC* ProgramWindows::windowFor(const RecoveryCopy& copy, MadeWindows& made) {

@@ -24,6 +24,8 @@ public:
     void newProgram(bool execute);
     /// Goes to the window that has the file, of whichever kind, or opens one.
     void openProgram(const QString& path, bool execute);
+    /// The file in front; empty where the window in front has none, or runs other programs.
+    QString activePath() const;
     /// Asks what becomes of unsaved texts of a program that ended without its user's will.
     void offerRecovered();
 

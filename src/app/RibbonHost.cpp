@@ -75,6 +75,7 @@ void RibbonHost::build() {
     told.recentPrograms = system_.recentPrograms(false);
     told.recentExecutes = system_.recentPrograms(true);
     told.dictionaryPrograms = state.dictionaryPrograms;
+    told.activeProgram = state.activeProgram;
     told.language = system_.language();
     told.engineVersion = QString::fromStdString(kel::version());
     pages_ = new RibbonPages(*toolbar_, told, workArea_);

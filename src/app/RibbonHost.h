@@ -32,6 +32,7 @@ public:
         bool hasResults = false;
         QStringList recentDictionaries;
         QStringList dictionaryPrograms;
+        std::function<QString()> activeProgram; ///< path of the program in front, or empty
     };
 
     /// state: asked whenever the ribbon is built.

@@ -56,6 +56,18 @@ QString KelvoraFileDialog::saveFile(const QString& filter, const QString& suffix
     return path;
 }
 
+QString KelvoraFileDialog::chooseFolder() const {
+    QString folder;
+    if (auto answer = std::exchange(preparedAnswer(), std::nullopt))
+        folder = *answer;
+    else
+        folder = QFileDialog::getExistingDirectory(QApplication::activeWindow(), caption_, folder_,
+                                                   QFileDialog::ShowDirsOnly);
+    if (!folder.isEmpty())
+        KelSystem::instance().setDirectoryFor(kind_, folder);
+    return folder;
+}
+
 void KelvoraFileDialog::remember(const QString& path) const {
     if (!path.isEmpty())
         KelSystem::instance().setDirectoryFor(kind_, QFileInfo(path).absolutePath());

@@ -18,6 +18,9 @@ public:
     QString saveFile(const QString& filter, const QString& suffix,
                      const QString& proposal = {}) const;
 
+    /// An existing folder, which is remembered; empty where the user cancels.
+    QString chooseFolder() const;
+
     /// The next dialog is not shown and gives this path, for tests and tours.
     static void answerNext(const QString& path);
 

@@ -69,6 +69,10 @@ void showError(const QString& text) {
          translated(QT_TRANSLATE_NOOP("Messages", "Error")), text);
 }
 
+void showError(const QString& title, const QString& text) {
+    show(MessageKind::Error, QMessageBox::Critical, title, text);
+}
+
 void showInformation(const QString& text) {
     show(MessageKind::Information, QMessageBox::Information,
          translated(QT_TRANSLATE_NOOP("Messages", "Information")), text);

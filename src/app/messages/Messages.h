@@ -10,6 +10,7 @@ enum class MessageKind { Error, Information, Warning, Question };
 enum class Choice { Yes, No, Cancel };
 
 void showError(const QString& text);
+void showError(const QString& title, const QString& text);
 void showInformation(const QString& text);
 void showWarning(const QString& text);
 /// Shows rich text, for words of ours only: never for what files or users say.

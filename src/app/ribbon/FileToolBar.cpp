@@ -5,6 +5,7 @@
 #include "app/messages/Messages.h"
 #include "app/ribbon/RecentFiles.h"
 #include "app/ribbon/RibbonState.h"
+#include "results/styles/TableStylesButtonMenu.h"
 
 #include <QDebug>
 #include <QMenu>
@@ -19,11 +20,7 @@ FileToolBar::FileToolBar(tt::TabToolbar& toolbar, const RibbonState& state)
     makeProgramsMenu(documents, state);
     addLater(documents, "selections", tr("Selections"), tr("Selections of areas"));
     addLater(documents, "maps", tr("Maps"), tr("Thematic maps"));
-    tt::Group& styles = addGroup(tr("Styles"));
-    QAction* table = addLater(styles, "tablestyles", tr("Table Styles"), tr("How tables look"));
-    QAction* graph = addLater(styles, "graphstyles", tr("Graph Styles"), tr("How charts look"));
-    connect(table, &QAction::triggered, this, &FileToolBar::on_TableStylesClick);
-    connect(graph, &QAction::triggered, this, &FileToolBar::on_GraphStylesClick);
+    makeStyles(addGroup(tr("Styles")), state);
     makeExecuteMenu(addGroup(tr("Run")));
 }
 
@@ -80,6 +77,16 @@ void FileToolBar::makeExecuteMenu(tt::Group& group) {
     addRecentFiles(*menu, tr("Recent programs"), recentExecutes_,
                    [this](const QString& path) { on_executeFileSelected(path); });
     addMenuButton(group, "execute", tr("Execute"), tr("Programs that run other programs"), menu);
+}
+
+/// A button with a menu has no click of its own: it opens.
+void FileToolBar::makeStyles(tt::Group& group, const RibbonState& state) {
+    auto* menu = new TableStylesButtonMenu(state.activeProgram, page());
+    menu->setObjectName(QStringLiteral("tableStylesMenu"));
+    connect(menu, &QMenu::aboutToShow, this, &FileToolBar::on_TableStylesClick);
+    addMenuButton(group, "tablestyles", tr("Table Styles"), tr("How tables look"), menu);
+    QAction* graph = addLater(group, "graphstyles", tr("Graph Styles"), tr("How charts look"));
+    connect(graph, &QAction::triggered, this, &FileToolBar::on_GraphStylesClick);
 }
 
 QString FileToolBar::chooseProgram(const QString& caption) const {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The page FILE: programs, and programs that run others. The windows of selections, maps and styles
-// are not there yet: their entries cannot be chosen.
+// The page FILE: programs, programs that run others, and the styles of tables. The windows of
+// selections, maps and the styles of charts are not there yet: their entries cannot be chosen.
 #pragma once
 
 #include "app/ribbon/RibbonPage.h"
@@ -38,6 +38,7 @@ private:
     void makeFileMenus(tt::Group& group);
     void makeProgramsMenu(tt::Group& group, const RibbonState& state);
     void makeExecuteMenu(tt::Group& group);
+    void makeStyles(tt::Group& group, const RibbonState& state);
     QMenu* makeMenu(const char* name);
     QAction* addEntry(QMenu* menu, const char* name, const QString& text,
                       void (FileToolBar::*slot)());

@@ -11,7 +11,8 @@ class TableStylesButtonMenu : public QMenu {
     Q_OBJECT
 
 public:
-    /// activeProgram: path of the program in front, empty where there is none.
+    /// activeProgram: path of the program in front, empty where there is none. Its editors outlive
+    /// the menu, and ask it as well.
     explicit TableStylesButtonMenu(std::function<QString()> activeProgram,
                                    QWidget* parent = nullptr);
 
@@ -21,5 +22,7 @@ public slots:
     void onStyleSaved(const QString& stylePath);
 
 private:
+    void edit(const QString& path);
+
     std::function<QString()> activeProgram_;
 };

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/ResTableDelegate.h"
+
+#include "results/ResultReportModel.h"
+
+#include <QPainter>
+
+void ResTableDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                       const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // The word of the frame stands where an icon would, and makes room for one.
+    option->features &= ~QStyleOptionViewItem::HasDecoration;
+    option->icon = QIcon();
+    option->decorationSize = QSize();
+}
+
+void ResTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    const QString frame = index.data(resultrole::frame).toString();
+    if (frame.isEmpty())
+        return;
+    painter->save();
+    painter->setPen(QPen(Qt::black, frame == QLatin1String("header") ? 3 : 1));
+    // Neighbours share their lines.
+    painter->drawRect(option.rect.adjusted(-1, -1, -1, -1));
+    painter->restore();
+}

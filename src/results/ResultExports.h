@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The export commands: asks where the chosen tables are to go, writes them, and tells how it went.
+#pragma once
+
+#include "results/exports/ResultFileWriter.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class ExportProgress;
+class KelSystem;
+class QWidget;
+class TableBase;
+
+/// One thing that is chosen in the tree: a table, or a process with all of its tables.
+struct ExportEntry {
+    QList<const TableBase*> tables;
+    bool wholeProcess = false;
+};
+
+enum class ExportFormat { CsvLabelAsHeader, CsvNameAsHeader, Json, Xml, Pdf };
+
+class ResultExports {
+    Q_DECLARE_TR_FUNCTIONS(ResultExports)
+
+public:
+    /// tell: takes a line of how an export failed or that it was cancelled.
+    ResultExports(const KelSystem& settings, QWidget* parent,
+                  std::function<void(const QString& line)> tell);
+
+    /// A single table into a file, all else into a folder. A table that is chosen twice is written
+    /// once; nothing in the folder is overwritten.
+    void write(ExportFormat format, const QList<ExportEntry>& chosen) const;
+    /// All tables into one workbook: their reports, or their grids alone.
+    void writeWorkbook(const QList<ExportEntry>& chosen, bool report) const;
+
+private:
+    struct File {
+        const TableBase* table;
+        QString path;
+    };
+
+    // Nothing where the user cancels.
+    std::optional<QList<File>> askFile(ExportFormat format, const TableBase& table) const;
+    std::optional<QList<File>> askFolder(ExportFormat format,
+                                         const QList<ExportEntry>& chosen) const;
+    bool writeFiles(ExportFormat format, const QList<File>& files) const; ///< false: cancelled
+    WriteOutcome writeFile(ExportFormat format, const File& file, ExportProgress& progress) const;
+    /// False where the user has cancelled.
+    bool goOn(const WriteOutcome& outcome) const;
+
+    ResultFileWriter writer_;
+    QWidget* parent_;
+    std::function<void(const QString&)> tell_;
+};

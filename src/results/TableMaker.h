@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Makes the result tables of a run, and writes those that a program sends to files.
+#pragma once
+
+#include "results/tables/TableBase.h"
+#include "results/workbook/WriteOutcome.h"
+
+#include <QStringList>
+
+#include <memory>
+
+class KelSystem;
+class TKelDictionary;
+
+class TableMaker {
+public:
+    /// The dictionary that the outputs are about and the path of its file.
+    TableMaker(const KelSystem& settings, TKelDictionary& dictionary, QString databasePath);
+
+    /// With its metadata, laid out as the style file says, or as the preferences where the path is
+    /// empty.
+    std::unique_ptr<TableBase> make(TKelOutput& output, const QString& stylePath) const;
+    /// The file of a table that goes to one. Gives a line where it is not written, or elsewhere.
+    QStringList writeDirect(const TableBase& table, TKelOutput& output,
+                            const WriteProgress& progress = {}) const;
+
+private:
+    TableViewConfig viewConfig(const QString& stylePath) const;
+
+    const KelSystem* settings_;
+    TKelDictionary* dictionary_;
+    QString databasePath_;
+    TablePreferences preferences_;
+};
+
+/// What the user prefers for tables.
+TablePreferences tablePreferences(const KelSystem& settings);
