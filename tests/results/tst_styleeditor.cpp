@@ -197,7 +197,7 @@ private slots:
     }
 
     void aStyleIsChangedInItsFile() {
-        write("s.json", R"({"general": {"name": "Old\nname", "thousandSep": "'", "font": "x"},
+        write("s.json", R"({"general": {"name": "Old\nname", "thousandSep": "\u0027", "font": "x"},
                             "frequency1Var": {"rowsOrder": "byLabel", "showMv": false}})");
         edit(path("s.json"));
         QCOMPARE(editor_->windowTitle(), u"Table Style — s.json"_qs);

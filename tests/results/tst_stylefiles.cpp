@@ -5,6 +5,8 @@
 #include "results/tables/TableViewConfig.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -162,7 +164,7 @@ private slots:
     void filesThatCannotBeReadWarn() {
         const QByteArray name = path("pipe").toLocal8Bit();
         QCOMPARE(mkfifo(name.constData(), 0600), 0); // would never end
-        write(R"({"general": {"decimals": 0}, "x": ")" + QByteArray(2 * 1024 * 1024, 'x') + "\"}");
+        write(R"({"general": {"decimals": 0}})" + QByteArray(2 * 1024 * 1024, ' '));
         for (const QString& file : {path("none.json"), folder_.path(), path("pipe"), path()}) {
             expectWarning("^TableViewConfig: cannot open style file: ");
             QCOMPARE(TableViewConfig(file, preferences_).decimals, 4);
