@@ -7,8 +7,8 @@
 struct CellFigure {
     enum class Kind { Empty, Whole, Real, Text };
 
-    /// Whole is tested in 64 bits. Whole numbers that a double can't hold exactly, and what is not
-    /// finite, are texts: no digit is lost.
+    /// Whole where the text is digits only; tested in 64 bits. Whole numbers that a double can't
+    /// hold exactly, and what is not finite, are texts: no digit is lost.
     explicit CellFigure(std::string_view raw);
 
     bool isNumber() const { return kind == Kind::Whole || kind == Kind::Real; }

@@ -79,8 +79,8 @@ QStringList WorkbookAppender::sheetNames() const {
     return names;
 }
 
-void WorkbookAppender::append(const QString& newBook, const QStringList& names,
-                              const QDir& folder, const std::function<bool()>& goOn) {
+void WorkbookAppender::append(const QString& newBook, const QStringList& names, const QDir& folder,
+                              const std::function<bool()>& goOn) {
     const ZipPackage ours(newBook);
     const auto before = package_.checksums();
     QList<qint64> cells;
@@ -202,8 +202,8 @@ void WorkbookAppender::listTitles(const QStringList& names) {
     const XmlElement* const pairs = vector("HeadingPairs");
     const XmlElement* const list = vector("TitlesOfParts");
     const auto headings = pairs != nullptr ? facts.children(*pairs) : QList<const XmlElement*>();
-    const auto counts = headings.size() > 1 ? facts.children(*headings[1])
-                                            : QList<const XmlElement*>();
+    const auto counts =
+        headings.size() > 1 ? facts.children(*headings[1]) : QList<const XmlElement*>();
     const auto known = list != nullptr ? facts.children(*list) : QList<const XmlElement*>();
     const int count = counts.isEmpty() ? 0 : facts.content(*counts.first()).toInt();
     if (count < 1 || count > known.size())
@@ -222,9 +222,8 @@ void WorkbookAppender::checkKept(const QHash<QString, quint32>& before, const QS
     const ZipPackage written(path_);
     const auto now = written.checksums();
     for (auto part = before.cbegin(); part != before.cend(); ++part)
-        if (!now.contains(part.key()) ||
-            (now.value(part.key()) != part.value() &&
-             !changed_.contains(part.key(), Qt::CaseInsensitive)))
+        if (!now.contains(part.key()) || (now.value(part.key()) != part.value() &&
+                                          !changed_.contains(part.key(), Qt::CaseInsensitive)))
             throw WorkbookError::cutOff();
     for (qsizetype i = 0; i < added.size(); ++i)
         if (countCells(written, added[i]) != cells[i])

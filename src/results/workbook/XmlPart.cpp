@@ -14,7 +14,7 @@ namespace {
 
 QRegularExpressionMatch matchAttribute(const QString& tag, const char* name) {
     const QRegularExpression attribute(
-        QStringLiteral(R"(\s%1\s*=\s*(?:"([^"]*)"|'([^']*)'))").arg(QLatin1String(name)));
+        QStringLiteral("\\s%1\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)')").arg(QLatin1String(name)));
     return attribute.match(tag);
 }
 
@@ -86,9 +86,8 @@ QList<const XmlElement*> XmlPart::children(const XmlElement& parent, const char*
     const auto index = static_cast<int>(&parent - elements_.data());
     QList<const XmlElement*> found;
     for (const XmlElement& element : elements_)
-        if (element.parent == index &&
-            (name == nullptr ||
-             (element.name == QLatin1String(name) && element.space == parent.space)))
+        if (element.parent == index && (name == nullptr || (element.name == QLatin1String(name) &&
+                                                            element.space == parent.space)))
             found += &element;
     return found;
 }

@@ -111,10 +111,10 @@ void ZipPackage::replace(const QString& name, const QByteArray& content) {
     const qint64 index = indexOf(name);
     const bool done =
         source != nullptr &&
-        (index < 0 ? zip_file_add(archive_.get(), name.toUtf8().constData(), source,
-                                  ZIP_FL_ENC_UTF_8) >= 0
-                   : zip_file_replace(archive_.get(), static_cast<zip_uint64_t>(index), source,
-                                      0) == 0);
+        (index < 0
+             ? zip_file_add(archive_.get(), name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) >=
+                   0
+             : zip_file_replace(archive_.get(), static_cast<zip_uint64_t>(index), source, 0) == 0);
     if (!done) {
         zip_source_free(source);
         throw archiveError(archive_.get());
@@ -124,8 +124,8 @@ void ZipPackage::replace(const QString& name, const QByteArray& content) {
 void ZipPackage::addFile(const QString& name, const QString& path) {
     zip_source_t* const source =
         zip_source_file(archive_.get(), QFile::encodeName(path).constData(), 0, -1);
-    if (source == nullptr || zip_file_add(archive_.get(), name.toUtf8().constData(), source,
-                                          ZIP_FL_ENC_UTF_8) < 0) {
+    if (source == nullptr ||
+        zip_file_add(archive_.get(), name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) < 0) {
         zip_source_free(source);
         throw archiveError(archive_.get());
     }
