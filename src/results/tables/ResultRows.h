@@ -57,6 +57,8 @@ public:
 
 private:
     FormattedCell formatted(qsizetype row, qsizetype column) const;
+    bool isTextColumn(qsizetype column) const;
+    void mark(qsizetype row, qsizetype column);
 
     std::shared_ptr<const CellTexts> texts_;
     CellFormat format_;

@@ -12,6 +12,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+#include <string>
 #include <utility>
 
 class TKelOutput;
@@ -24,6 +26,7 @@ struct TableSource {
     TableMetadata metadata;
 };
 
+/// Laid out when it is first read, and again after rebuild().
 class TableBase {
 public:
     explicit TableBase(TableSource source);
@@ -80,13 +83,20 @@ public:
     virtual QList<double> columnValues(int column) const; ///< skips rows that end before it
     virtual QStringList columnDisplays(int column) const; ///< skips rows that end before it
 
+    /// Why the table has headers only, to be shown in its place; empty where nothing is missing.
+    QString layoutNote() const;
+
     const TableMetadata& metadata() const { return source_.metadata; }
     void setMetadata(TableMetadata metadata) { source_.metadata = std::move(metadata); }
 
 protected:
     /// The rows and headers under the options as they stand.
     virtual TableLayout layOut() const = 0;
+    /// Decimals and separator of the table; decimals that the program tells come first.
     virtual CellFormat cellFormat() const;
+    virtual bool hasValues() const { return true; } ///< else all values read 0
+    /// Takes decimals and separator, which otherwise stay those of the preferences.
+    void takeFormat(const TableViewConfig& config);
 
     TKelOutput& output() const { return *source_.output; }
     const TablePreferences& preferences() const { return source_.preferences; }
@@ -94,9 +104,16 @@ protected:
     TableViewConfig& options() { return config_; }
 
 private:
+    struct Built {
+        TableLayout layout; ///< its texts are taken over by the rows
+        ResultRows cells;
+        ResultRows report;
+    };
+    const Built& built() const;
+
     TableSource source_;
     TableViewConfig config_;
-    TableLayout layout_; ///< its texts are taken over by the rows
-    ResultRows cells_;
-    ResultRows report_;
+    int decimals_;
+    QString separator_;
+    mutable std::optional<Built> built_;
 };

@@ -6,5 +6,5 @@
 
 #include <memory>
 
-/// Laid out already. Asserts an output.
+/// Asserts an output.
 std::unique_ptr<TableBase> makeResultTable(TableSource source);

@@ -32,4 +32,5 @@ struct TableLayout {
     CellTexts cells;
     std::optional<CellTexts> report; ///< nothing where the report has the same rows
     std::vector<bool> textColumns;   ///< of codes and labels, which are never figures
+    QString note;                    ///< why there are headers only; empty where nothing is missing
 };

@@ -68,4 +68,8 @@ public:
     QString variableTitle(qsizetype index) const;
     /// How many cells are hidden; empty where none is.
     QString suppressedNote() const;
+
+private:
+    void readRun(const TKelOutput& output);
+    void readEntity(TKelOutput& output);
 };
