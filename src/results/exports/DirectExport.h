@@ -17,6 +17,9 @@ public:
                        QStringList* notes = nullptr, const WriteProgress& progress = {}) const;
 
 private:
+    /// Where the file goes; relative to the folder of results.
+    QString goodPath(const QString& asked, QStringList* notes) const;
+
     ResultFileWriter writer_;
     const KelSystem* settings_;
 };

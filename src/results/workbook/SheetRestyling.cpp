@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/workbook/SheetRestyling.h"
+
+namespace {
+
+constexpr QByteArrayView formatBegin(" s=\"");
+
+/// "<c r="A1" s="3">" with another number.
+QByteArray restyled(QByteArrayView tag, const QList<int>& formats) {
+    const qsizetype begin = tag.indexOf(formatBegin);
+    if (begin < 0)
+        return tag.toByteArray();
+    const qsizetype number = begin + formatBegin.size();
+    const qsizetype end = tag.indexOf('"', number);
+    const int format = tag.sliced(number, end - number).toByteArray().toInt();
+    return tag.first(number).toByteArray() + QByteArray::number(formats.value(format)) +
+           tag.sliced(end).toByteArray();
+}
+
+} // namespace
+
+QByteArray SheetRestyling::take(QByteArrayView piece) {
+    pending_.append(piece);
+    const QByteArrayView text(pending_);
+    QByteArray out;
+    out.reserve(text.size() + text.size() / 8);
+    qsizetype done = 0;
+    while (true) {
+        const qsizetype begin = text.indexOf('<', done);
+        if (!inViews_)
+            out.append(text.sliced(done, (begin < 0 ? text.size() : begin) - done));
+        done = begin < 0 ? text.size() : begin;
+        const qsizetype end = begin < 0 ? -1 : text.indexOf('>', begin);
+        if (end < 0)
+            break;
+        takeTag(text.sliced(begin, end + 1 - begin), out);
+        done = end + 1;
+    }
+    pending_ = text.sliced(done).toByteArray();
+    return out;
+}
+
+void SheetRestyling::takeTag(QByteArrayView tag, QByteArray& out) {
+    if (tag.startsWith("<sheetViews"))
+        inViews_ = true;
+    if (!inViews_)
+        out.append(tag.startsWith("<c ") ? restyled(tag, formats_) : tag.toByteArray());
+    if (tag == QByteArrayView("</sheetViews>"))
+        inViews_ = false;
+}
