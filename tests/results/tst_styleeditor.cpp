@@ -7,7 +7,6 @@
 #include "results/styles/TableStylesButtonMenu.h"
 #include "support/OwnSettings.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
@@ -15,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -289,7 +287,7 @@ private slots:
     }
 
     void theMenuOpensTheEditorOnAFile() {
-        const QString program = write("p.spc", "TABLESTYLE \"old\"\n");
+        QString program = write("p.spc", "TABLESTYLE \"old\"\n");
         const QString style = write("s.json", R"({"general": {"decimals": 7}})");
         QWidget window;
         window.show();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files of table styles: what tables take from them, what the editor takes and writes, and what
 // becomes of damaged ones.
+#include "app/SettingsFolder.h"
 #include "results/styles/TableStyleData.h"
 #include "results/tables/TableViewConfig.h"
 
@@ -226,6 +227,16 @@ private slots:
             QVERIFY(!TableStyleData().save(file));
         }
         QVERIFY(QFileInfo(folder_.path()).isDir());
+        QVERIFY(TableStyleData().save(path()));
+        const QByteArray before = read();
+        TableStyleData longer;
+        longer.label = QString(5000, 'x');
+        {
+            const FileSizeLimit full(1000);
+            expectWarning("^TableStyleData: cannot write to ");
+            QVERIFY(!longer.save(path()));
+        }
+        QCOMPARE(read(), before);
     }
 };
 
