@@ -20,18 +20,26 @@ MAIN = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
 RELATION = "{http://schemas.openxmlformats.org/officeDocument/2006/relationships}"
 
 
+def color_of(color):
+    return None if color is None else color.rgb if color.type == "rgb" else color.type
+
+
+def plain(value):
+    return value if isinstance(value, (str, int, float, type(None))) else str(value)
+
+
 def cell_facts(cell):
-    fill = cell.fill.fgColor.rgb if cell.fill.patternType == "solid" else None
+    fill = color_of(cell.fill.fgColor) if cell.fill.patternType == "solid" else None
     border = cell.border.left
     return {
-        "value": cell.value,
+        "value": plain(cell.value),
         "type": cell.data_type,
         "font": cell.font.name,
         "size": cell.font.sz,
         "bold": bool(cell.font.b),
         "fill": fill,
         "border": border.style,
-        "borderColor": border.color.rgb if border.color is not None else None,
+        "borderColor": color_of(border.color),
         "format": cell.number_format,
         "comment": cell.comment.text if cell.comment else None,
     }
@@ -168,7 +176,7 @@ class Checks:
                 last_column = column
                 self.expect(int(cell.get("s", 0)) < self.formats, f"{name}: unknown format")
                 value = cell.find(MAIN + "v")
-                if cell.get("t", "n") == "n" and value is not None:
+                if cell.get("t", "n") == "n" and value is not None and value.text:
                     self.expect(re.fullmatch(r"-?[0-9.]+(E[+-]?\d+)?", value.text),
                                 f"{name}: {value.text} is no number")
         self.merges(name, tree)

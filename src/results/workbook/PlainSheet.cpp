@@ -20,7 +20,8 @@ void writeCell(Workbook& book, const ResultRows& rows, const CellArea& cell, qsi
     if (isNumeric && figure.isNumber())
         book.number(cell.row, cell.column, figure.value, CellStyle::Plain);
     else if (figure.kind != CellFigure::Kind::Empty)
-        book.text(cell.row, cell.column, rows.display(from, cell.column), CellStyle::Plain);
+        book.text(cell.row, cell.column, SheetFrame::cellText(rows, from, cell.column, figure),
+                  CellStyle::Plain);
 }
 
 } // namespace

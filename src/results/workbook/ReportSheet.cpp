@@ -111,7 +111,7 @@ void ReportSheet::writeCell(Workbook& book, qsizetype from, int column, bool isT
     const CellFigure figure(rows.text(from, column));
     if (figure.kind == CellFigure::Kind::Empty)
         return book.blank(row_, at, isTotal ? CellStyle::TotalText : CellStyle::Text);
-    const QString display = rows.display(from, column);
+    const QString display = SheetFrame::cellText(rows, from, column, figure);
     widths_.take(column, display);
     if (rows.isTextColumn(column) || !figure.isNumber())
         book.text(row_, at, display, isTotal ? CellStyle::TotalText : CellStyle::Text);
