@@ -5,6 +5,7 @@ read_workbook.py FILE
 """
 import collections
 import hashlib
+import io
 import json
 import posixpath
 import re
@@ -199,12 +200,27 @@ class Checks:
                 if any(view.get("tabSelected") == "1" for view in tree.iter(MAIN + "sheetView"))]
 
 
+def usual_places(path):
+    """openpyxl looks for some parts by name, where it should follow the relations."""
+    package = zipfile.ZipFile(path)
+    if "xl/workbook.xml" in package.namelist():
+        return path
+    moved = io.BytesIO()
+    with zipfile.ZipFile(moved, "w") as target:
+        for name in package.namelist():
+            content = package.read(name).replace(b"/book/", b"/xl/")
+            content = content.replace(b"own.xml", b"styles.xml")
+            name = name.replace("own.xml", "styles.xml")
+            target.writestr(re.sub("^book/", "xl/", name), content)
+    return moved
+
+
 def main():
     warnings.simplefilter("ignore")
     path = sys.argv[1]
     checks = Checks(path)
     checks.run()
-    book = openpyxl.load_workbook(path, keep_vba=True)
+    book = openpyxl.load_workbook(usual_places(path), keep_vba=True)
     parts = {name: hashlib.sha256(checks.package.read(name)).hexdigest() for name in checks.names}
     json.dump({
         "problems": checks.problems,
