@@ -304,6 +304,8 @@ void TestWorkbook::columnsAreAsWideAsTheirTexts() {
     QVERIFY2(book.width("A") < 2, "the column of the labels is a narrow one");
     QVERIFY(book.width("B") > 25 && book.width("B") < 45);
     QVERIFY(book.width("C") < 12);
+    const ReadWorkbook grid = plain({table.get()});
+    QVERIFY(grid.width("A") > 25 && grid.width("A") < 45);
 }
 
 QTEST_GUILESS_MAIN(TestWorkbook)

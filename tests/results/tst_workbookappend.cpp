@@ -183,6 +183,9 @@ void TestWorkbookAppend::leavesWhatItCannotExtend_data() {
     row("broken", "damaged (book/workbook.xml)");
     row("damaged", "damaged (book/workbook.xml)");
     row("entities", "damaged (book/workbook.xml)");
+    row("attributes", "damaged (book/workbook.xml)");
+    row("elements", "book/workbook.xml is too large");
+    row("nested", "book/workbook.xml is too large");
     row("bomb", "book/own.xml is too large");
 }
 

@@ -37,24 +37,35 @@ qint64 peak() {
     return -1;
 }
 
+/// A limit of the system on this process, as long as this object lives.
+class Limit {
+public:
+    Limit(__rlimit_resource kind, rlim_t value) : kind_(kind) {
+        getrlimit(kind_, &before_);
+        const rlimit small{value, before_.rlim_max};
+        setrlimit(kind_, &small);
+    }
+    ~Limit() { setrlimit(kind_, &before_); }
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
+
+private:
+    __rlimit_resource kind_;
+    rlimit before_{};
+};
+
 /// No file of this process grows beyond, as on a disk that is full.
 class SmallDisk {
 public:
-    explicit SmallDisk(rlim_t bytes) : before_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &limit_);
-        const rlimit small{bytes, limit_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallDisk() {
-        setrlimit(RLIMIT_FSIZE, &limit_);
-        std::signal(SIGXFSZ, before_);
-    }
+    explicit SmallDisk(rlim_t bytes)
+        : before_(std::signal(SIGXFSZ, SIG_IGN)), limit_(RLIMIT_FSIZE, bytes) {}
+    ~SmallDisk() { std::signal(SIGXFSZ, before_); }
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
 
 private:
     void (*before_)(int);
-    rlimit limit_{};
+    Limit limit_;
 };
 
 } // namespace
@@ -176,6 +187,17 @@ void TestWorkbookLimits::manyTablesFitIntoOneWorkbook() {
     QCOMPARE(book.problems(), QString());
     QCOMPARE(book.sheets().size(), 300);
     QCOMPARE(book.sheets().last(), "T_1 (300)");
+
+    const QByteArray before = bytesOf(path);
+    const qsizetype open = openFiles();
+    WriteOutcome outcome;
+    {
+        const Limit fewFiles(RLIMIT_NOFILE, 100);
+        outcome = writePlainWorkbook(tables, path);
+    }
+    QVERIFY2(!outcome.fault.isEmpty(), "each sheet needs a file for its rows");
+    QCOMPARE(bytesOf(path), before);
+    QCOMPARE(openFiles(), open);
 }
 
 void TestWorkbookLimits::memoryStaysBounded() {

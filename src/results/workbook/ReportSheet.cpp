@@ -84,7 +84,8 @@ void ReportSheet::writeFacts(Workbook& book) {
 void ReportSheet::writeSubject(Workbook& book) {
     const TableMetadata& facts = table_.metadata();
     if (facts.kind == tablekind::areaList) {
-        pair(book, tr("Entity"), facts.entityLabel);
+        pair(book, tr("Entity"),
+             facts.entityLabel.isEmpty() ? facts.entityName : facts.entityLabel);
         pair(book, tr("Key"), facts.key);
         return;
     }
