@@ -147,6 +147,23 @@ def bomb(path):
     write_parts(path, parts)
 
 
+def attributes(path):
+    """A tag whose attributes take for ever to compare."""
+    many = "".join(f' a{i}=""' for i in range(1_000_000))
+    write_parts(path, parts_of(bare_book().replace("<x:sheets", f"<x:sheets{many}", 1)
+                               .replace("<!-- </x:sheets> -->", "")))
+
+
+def elements(path):
+    write_parts(path, parts_of(bare_book().replace("</x:workbook>",
+                                                   "<a/>" * 3_000_000 + "</x:workbook>")))
+
+
+def nested(path):
+    write_parts(path, parts_of(bare_book().replace(
+        "</x:workbook>", "<a>" * 1_000_000 + "</a>" * 1_000_000 + "</x:workbook>")))
+
+
 def missing(path):
     parts = parts_of(bare_book())
     del parts["book/workbook.xml"]

@@ -5,6 +5,7 @@ read_workbook.py FILE
 """
 import collections
 import hashlib
+import io
 import json
 import posixpath
 import re
@@ -20,18 +21,26 @@ MAIN = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
 RELATION = "{http://schemas.openxmlformats.org/officeDocument/2006/relationships}"
 
 
+def color_of(color):
+    return None if color is None else color.rgb if color.type == "rgb" else color.type
+
+
+def plain(value):
+    return value if isinstance(value, (str, int, float, type(None))) else str(value)
+
+
 def cell_facts(cell):
-    fill = cell.fill.fgColor.rgb if cell.fill.patternType == "solid" else None
+    fill = color_of(cell.fill.fgColor) if cell.fill.patternType == "solid" else None
     border = cell.border.left
     return {
-        "value": cell.value,
+        "value": plain(cell.value),
         "type": cell.data_type,
         "font": cell.font.name,
         "size": cell.font.sz,
         "bold": bool(cell.font.b),
         "fill": fill,
         "border": border.style,
-        "borderColor": border.color.rgb if border.color is not None else None,
+        "borderColor": color_of(border.color),
         "format": cell.number_format,
         "comment": cell.comment.text if cell.comment else None,
     }
@@ -168,7 +177,7 @@ class Checks:
                 last_column = column
                 self.expect(int(cell.get("s", 0)) < self.formats, f"{name}: unknown format")
                 value = cell.find(MAIN + "v")
-                if cell.get("t", "n") == "n" and value is not None:
+                if cell.get("t", "n") == "n" and value is not None and value.text:
                     self.expect(re.fullmatch(r"-?[0-9.]+(E[+-]?\d+)?", value.text),
                                 f"{name}: {value.text} is no number")
         self.merges(name, tree)
@@ -191,12 +200,27 @@ class Checks:
                 if any(view.get("tabSelected") == "1" for view in tree.iter(MAIN + "sheetView"))]
 
 
+def usual_places(path):
+    """openpyxl looks for some parts by name, where it should follow the relations."""
+    package = zipfile.ZipFile(path)
+    if "xl/workbook.xml" in package.namelist():
+        return path
+    moved = io.BytesIO()
+    with zipfile.ZipFile(moved, "w") as target:
+        for name in package.namelist():
+            content = package.read(name).replace(b"/book/", b"/xl/")
+            content = content.replace(b"own.xml", b"styles.xml")
+            name = name.replace("own.xml", "styles.xml")
+            target.writestr(re.sub("^book/", "xl/", name), content)
+    return moved
+
+
 def main():
     warnings.simplefilter("ignore")
     path = sys.argv[1]
     checks = Checks(path)
     checks.run()
-    book = openpyxl.load_workbook(path, keep_vba=True)
+    book = openpyxl.load_workbook(usual_places(path), keep_vba=True)
     parts = {name: hashlib.sha256(checks.package.read(name)).hexdigest() for name in checks.names}
     json.dump({
         "problems": checks.problems,

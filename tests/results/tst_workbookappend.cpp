@@ -124,7 +124,6 @@ void TestWorkbookAppend::joinsUnusualWorkbooks() {
     QFETCH(QByteArray, kind);
     const QString file = path((kind + ".xlsx").constData());
     makeWorkbook(kind.constData(), file);
-    QCOMPARE(ReadWorkbook(file).problems(), QString());
     const auto table = madeCrosstab();
     const WriteOutcome outcome = writeReportWorkbook({table.get(), table.get()}, file, false);
     QCOMPARE(outcome.fault, QString());
@@ -184,6 +183,9 @@ void TestWorkbookAppend::leavesWhatItCannotExtend_data() {
     row("broken", "damaged (book/workbook.xml)");
     row("damaged", "damaged (book/workbook.xml)");
     row("entities", "damaged (book/workbook.xml)");
+    row("attributes", "damaged (book/workbook.xml)");
+    row("elements", "book/workbook.xml is too large");
+    row("nested", "book/workbook.xml is too large");
     row("bomb", "book/own.xml is too large");
 }
 

@@ -84,7 +84,8 @@ void ReportSheet::writeFacts(Workbook& book) {
 void ReportSheet::writeSubject(Workbook& book) {
     const TableMetadata& facts = table_.metadata();
     if (facts.kind == tablekind::areaList) {
-        pair(book, tr("Entity"), facts.entityLabel);
+        pair(book, tr("Entity"),
+             facts.entityLabel.isEmpty() ? facts.entityName : facts.entityLabel);
         pair(book, tr("Key"), facts.key);
         return;
     }
@@ -111,7 +112,7 @@ void ReportSheet::writeCell(Workbook& book, qsizetype from, int column, bool isT
     const CellFigure figure(rows.text(from, column));
     if (figure.kind == CellFigure::Kind::Empty)
         return book.blank(row_, at, isTotal ? CellStyle::TotalText : CellStyle::Text);
-    const QString display = rows.display(from, column);
+    const QString display = SheetFrame::cellText(rows, from, column, figure);
     widths_.take(column, display);
     if (rows.isTextColumn(column) || !figure.isNumber())
         book.text(row_, at, display, isTotal ? CellStyle::TotalText : CellStyle::Text);

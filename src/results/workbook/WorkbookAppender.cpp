@@ -104,7 +104,8 @@ void WorkbookAppender::change(const QString& name, const XmlPart& part) {
 QList<int> WorkbookAppender::mergeStyles(const ZipPackage& ours) {
     const QByteArray our = ours.read(QStringLiteral("xl/styles.xml"), maxPartSize);
     if (styles_.isEmpty()) {
-        styles_ = freePart(QStringLiteral("styles"), {});
+        const QString usual = folderOf(book_) + QStringLiteral("styles.xml");
+        styles_ = package_.contains(usual) ? freePart(QStringLiteral("styles%1.xml"), {}) : usual;
         package_.replace(styles_, our);
         return StyleMerge(our, our).formats();
     }
@@ -114,10 +115,9 @@ QList<int> WorkbookAppender::mergeStyles(const ZipPackage& ours) {
     return merge.formats();
 }
 
-QString WorkbookAppender::freePart(const QString& name, const QStringList& taken) const {
+QString WorkbookAppender::freePart(const QString& pattern, const QStringList& taken) const {
     for (int number = 1;; ++number) {
-        const QString candidate =
-            folderOf(book_) + QStringLiteral("%1%2.xml").arg(name).arg(number);
+        const QString candidate = folderOf(book_) + pattern.arg(number);
         if (!package_.contains(candidate) && !taken.contains(candidate))
             return candidate;
     }
@@ -129,7 +129,7 @@ QStringList WorkbookAppender::addParts(const ZipPackage& ours, const QStringList
     for (const QString& sheet : ourSheets(names.size())) {
         const QString file = folder.filePath(QStringLiteral("added%1.xml").arg(parts.size()));
         writeRestyled(ours, sheet, file, formats);
-        parts += freePart(QStringLiteral("worksheets/sheet"), parts);
+        parts += freePart(QStringLiteral("worksheets/sheet%1.xml"), parts);
         package_.addFile(parts.last(), file);
     }
     return parts;
