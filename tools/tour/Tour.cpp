@@ -157,7 +157,7 @@ void Tour::frequency() {
     auto* entry = menu->findChild<QAction*>(QStringLiteral("actionFrequency"));
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
     QTest::qWait(100); // the run begins with the next events
-    const auto* table = find<QTableView>(window_, "frequencyTable");
+    const auto* table = find<QTableView>(window_, "tableWidget");
     require(table->isVisible() && table->model()->rowCount() > 1,
             QStringLiteral("the frequency shows nothing"));
 }
