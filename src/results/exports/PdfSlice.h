@@ -33,6 +33,7 @@ public:
 private:
     QTextTable* table() const;
     void setColumns(const PdfLayout& layout, int headerRows);
+    static void drawLinesOnce(QTextTable& table, int row, int column);
     void keepLastPage(int headerRows);
     int pageOf(int row) const;
     bool endsAbove(int row, qreal y) const;

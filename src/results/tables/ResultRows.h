@@ -48,6 +48,7 @@ public:
     ResultCell cell(qsizetype row, qsizetype column) const;
     std::string_view text(qsizetype row, qsizetype column) const; ///< raw, UTF-8
 
+    bool isTextColumn(qsizetype column) const; ///< of codes and labels, which are no figures
     /// By column: 2 right, 1 left.
     const QList<int>& alignments() const { return alignments_; }
     /// By row: 1 for one of totals.
@@ -57,7 +58,6 @@ public:
 
 private:
     FormattedCell formatted(qsizetype row, qsizetype column) const;
-    bool isTextColumn(qsizetype column) const;
     void mark(qsizetype row, qsizetype column);
 
     std::shared_ptr<const CellTexts> texts_;

@@ -29,8 +29,7 @@ QString withoutOuterApostrophes(QStringView name) {
 }
 
 QString acceptable(const QString& name) {
-    const QString kept =
-        withoutOuterApostrophes(cut(withoutForbidden(name.trimmed()), maxLength));
+    const QString kept = withoutOuterApostrophes(cut(withoutForbidden(name.trimmed()), maxLength));
     // Kept back by spreadsheets for their list of changes.
     return kept.compare(QLatin1String("history"), Qt::CaseInsensitive) == 0 ? kept + u'_' : kept;
 }

@@ -12,8 +12,7 @@ constexpr qsizetype maxFormats = 64000;
 const QString partName = QStringLiteral("styles.xml");
 
 /// The lists of a styles part stand in this order.
-constexpr std::array sections{"numFmts", "fonts",        "fills",
-                              "borders", "cellStyleXfs", "cellXfs"};
+constexpr std::array sections{"numFmts", "fonts", "fills", "borders", "cellStyleXfs", "cellXfs"};
 
 } // namespace
 
@@ -34,8 +33,7 @@ StyleMerge::StyleMerge(const QByteArray& ours, const QByteArray& theirs)
     if (numbers_.element != nullptr)
         for (const XmlElement* number : theirs_.children(*numbers_.element)) {
             numberFormats_.insert(number->attribute("formatCode"), number->attribute("numFmtId"));
-            lastNumberFormat_ =
-                std::max(lastNumberFormat_, number->attribute("numFmtId").toInt());
+            lastNumberFormat_ = std::max(lastNumberFormat_, number->attribute("numFmtId").toInt());
         }
     const auto formats = ours_.children(*ours_.child(ours_.root(), "cellXfs"));
     formats_ += 0; // cells without a format have that of the workbook
@@ -72,10 +70,10 @@ QString StyleMerge::numberFormat(const QString& ourId) {
         const QString code = number->attribute("formatCode");
         if (const auto theirs = numberFormats_.constFind(code); theirs != numberFormats_.cend())
             return *theirs;
-        const QString id = QString::number(++lastNumberFormat_);
+        QString id = QString::number(++lastNumberFormat_);
         numberFormats_.insert(code, id);
-        numbers_.items += withPrefix(withAttribute(ours_.source(*number), "numFmtId", id),
-                                     theirs_.root().prefix);
+        numbers_.items +=
+            withPrefix(withAttribute(ours_.source(*number), "numFmtId", id), theirs_.root().prefix);
         return id;
     }
     return ourId;

@@ -46,7 +46,8 @@ lxw_workbook* newBook(const QString& path, qint64 expectedCells) {
     options.use_zip64 = expectedCells > largeFile ? LXW_TRUE : LXW_FALSE;
     lxw_workbook* const book = workbook_new_opt(QFile::encodeName(path).constData(), &options);
     if (book == nullptr)
-        throw WorkbookError::notWritten(QString::fromUtf8(lxw_strerror(LXW_ERROR_CREATING_TMPFILE)));
+        throw WorkbookError::notWritten(
+            QString::fromUtf8(lxw_strerror(LXW_ERROR_CREATING_TMPFILE)));
     return book;
 }
 
@@ -64,8 +65,8 @@ struct Workbook::Library {
     /// The library closes the files that keep the rows only when it writes the workbook.
     void drop() {
         lxw_sheet* entry = nullptr;
-        STAILQ_FOREACH (entry, book->sheets, list_pointers)
-            std::fclose(entry->u.worksheet->optimize_tmpfile);
+        STAILQ_FOREACH(entry, book->sheets, list_pointers)
+        std::fclose(entry->u.worksheet->optimize_tmpfile);
         lxw_workbook_free(book);
     }
 
@@ -82,7 +83,8 @@ Workbook::~Workbook() = default;
 void Workbook::addSheet(const QString& name) {
     library_->sheet = workbook_add_worksheet(library_->book, name.toUtf8().constData());
     if (library_->sheet == nullptr)
-        throw WorkbookError::notWritten(WorkbookError::tr("there is no room for the sheet %1").arg(name));
+        throw WorkbookError::notWritten(
+            WorkbookError::tr("there is no room for the sheet %1").arg(name));
     cellCounts_.push_back(0);
     row_ = 0;
     hasCutTexts_ = false;
@@ -148,7 +150,7 @@ void Workbook::setColumnWidth(int column, double width) {
 
 void Workbook::checkSheetsReachedDisk() const {
     lxw_sheet* entry = nullptr;
-    STAILQ_FOREACH (entry, library_->book->sheets, list_pointers) {
+    STAILQ_FOREACH(entry, library_->book->sheets, list_pointers) {
         std::FILE* const rows = entry->u.worksheet->optimize_tmpfile;
         if (std::fflush(rows) != 0 || std::ferror(rows) != 0)
             throw WorkbookError::cutOff();

@@ -79,8 +79,8 @@ QStringList WorkbookAppender::sheetNames() const {
     return names;
 }
 
-void WorkbookAppender::append(const QString& newBook, const QStringList& names,
-                              const QDir& folder, const std::function<bool()>& goOn) {
+void WorkbookAppender::append(const QString& newBook, const QStringList& names, const QDir& folder,
+                              const std::function<bool()>& goOn) {
     const ZipPackage ours(newBook);
     const auto before = package_.checksums();
     QList<qint64> cells;
@@ -104,7 +104,8 @@ void WorkbookAppender::change(const QString& name, const XmlPart& part) {
 QList<int> WorkbookAppender::mergeStyles(const ZipPackage& ours) {
     const QByteArray our = ours.read(QStringLiteral("xl/styles.xml"), maxPartSize);
     if (styles_.isEmpty()) {
-        styles_ = freePart(QStringLiteral("styles"), {});
+        const QString usual = folderOf(book_) + QStringLiteral("styles.xml");
+        styles_ = package_.contains(usual) ? freePart(QStringLiteral("styles%1.xml"), {}) : usual;
         package_.replace(styles_, our);
         return StyleMerge(our, our).formats();
     }
@@ -114,10 +115,9 @@ QList<int> WorkbookAppender::mergeStyles(const ZipPackage& ours) {
     return merge.formats();
 }
 
-QString WorkbookAppender::freePart(const QString& name, const QStringList& taken) const {
+QString WorkbookAppender::freePart(const QString& pattern, const QStringList& taken) const {
     for (int number = 1;; ++number) {
-        const QString candidate =
-            folderOf(book_) + QStringLiteral("%1%2.xml").arg(name).arg(number);
+        QString candidate = folderOf(book_) + pattern.arg(number);
         if (!package_.contains(candidate) && !taken.contains(candidate))
             return candidate;
     }
@@ -129,7 +129,7 @@ QStringList WorkbookAppender::addParts(const ZipPackage& ours, const QStringList
     for (const QString& sheet : ourSheets(names.size())) {
         const QString file = folder.filePath(QStringLiteral("added%1.xml").arg(parts.size()));
         writeRestyled(ours, sheet, file, formats);
-        parts += freePart(QStringLiteral("worksheets/sheet"), parts);
+        parts += freePart(QStringLiteral("worksheets/sheet%1.xml"), parts);
         package_.addFile(parts.last(), file);
     }
     return parts;
@@ -202,8 +202,8 @@ void WorkbookAppender::listTitles(const QStringList& names) {
     const XmlElement* const pairs = vector("HeadingPairs");
     const XmlElement* const list = vector("TitlesOfParts");
     const auto headings = pairs != nullptr ? facts.children(*pairs) : QList<const XmlElement*>();
-    const auto counts = headings.size() > 1 ? facts.children(*headings[1])
-                                            : QList<const XmlElement*>();
+    const auto counts =
+        headings.size() > 1 ? facts.children(*headings[1]) : QList<const XmlElement*>();
     const auto known = list != nullptr ? facts.children(*list) : QList<const XmlElement*>();
     const int count = counts.isEmpty() ? 0 : facts.content(*counts.first()).toInt();
     if (count < 1 || count > known.size())
@@ -222,9 +222,8 @@ void WorkbookAppender::checkKept(const QHash<QString, quint32>& before, const QS
     const ZipPackage written(path_);
     const auto now = written.checksums();
     for (auto part = before.cbegin(); part != before.cend(); ++part)
-        if (!now.contains(part.key()) ||
-            (now.value(part.key()) != part.value() &&
-             !changed_.contains(part.key(), Qt::CaseInsensitive)))
+        if (!now.contains(part.key()) || (now.value(part.key()) != part.value() &&
+                                          !changed_.contains(part.key(), Qt::CaseInsensitive)))
             throw WorkbookError::cutOff();
     for (qsizetype i = 0; i < added.size(); ++i)
         if (countCells(written, added[i]) != cells[i])

@@ -14,7 +14,7 @@ namespace {
 
 QRegularExpressionMatch matchAttribute(const QString& tag, const char* name) {
     const QRegularExpression attribute(
-        QStringLiteral(R"(\s%1\s*=\s*(?:"([^"]*)"|'([^']*)'))").arg(QLatin1String(name)));
+        QStringLiteral("\\s%1\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)')").arg(QLatin1String(name)));
     return attribute.match(tag);
 }
 
@@ -34,6 +34,21 @@ XmlElement elementAt(const QXmlStreamReader& reader, const QString& text) {
     return element;
 }
 
+/// Longer ones hold so many attributes that reading them takes for ever.
+constexpr qsizetype longestTag = 65536;
+constexpr std::size_t mostElements = 500'000;
+constexpr std::size_t deepest = 256;
+
+bool hasEndlessTag(const QString& text) {
+    qsizetype end = 0;
+    for (qsizetype begin = text.indexOf(u'<'); begin >= 0; begin = text.indexOf(u'<', end)) {
+        end = text.indexOf(u'>', begin);
+        if (end < 0 || end - begin > longestTag)
+            return true;
+    }
+    return false;
+}
+
 bool isWellFormed(const QString& text) {
     QXmlStreamReader reader(text);
     while (!reader.atEnd())
@@ -48,7 +63,7 @@ XmlPart::XmlPart(const QByteArray& bytes, const QString& name, int depth) : name
     encoding_ = QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8);
     QStringDecoder decoder(encoding_);
     text_ = decoder.decode(bytes);
-    if (decoder.hasError())
+    if (decoder.hasError() || hasEndlessTag(text_))
         throw WorkbookError::damaged(name_);
     parse(depth);
 }
@@ -60,6 +75,8 @@ void XmlPart::parse(int depth) {
         const auto token = reader.readNext();
         if (token == QXmlStreamReader::DTD)
             throw WorkbookError::damaged(name_);
+        if (open.size() > deepest || elements_.size() > mostElements)
+            throw WorkbookError::tooLarge(name_);
         if (token == QXmlStreamReader::StartElement) {
             const bool isListed = static_cast<int>(open.size()) < depth;
             if (isListed) {
@@ -86,9 +103,8 @@ QList<const XmlElement*> XmlPart::children(const XmlElement& parent, const char*
     const auto index = static_cast<int>(&parent - elements_.data());
     QList<const XmlElement*> found;
     for (const XmlElement& element : elements_)
-        if (element.parent == index &&
-            (name == nullptr ||
-             (element.name == QLatin1String(name) && element.space == parent.space)))
+        if (element.parent == index && (name == nullptr || (element.name == QLatin1String(name) &&
+                                                            element.space == parent.space)))
             found += &element;
     return found;
 }

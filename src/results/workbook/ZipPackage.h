@@ -22,8 +22,8 @@ public:
     ZipPackage(const ZipPackage&) = delete;
     ZipPackage& operator=(const ZipPackage&) = delete;
 
-    bool contains(const QString& name) const; ///< in capitals or not, as names of parts go
-    QHash<QString, quint32> checksums() const;            ///< of the parts, by name
+    bool contains(const QString& name) const;  ///< in capitals or not, as names of parts go
+    QHash<QString, quint32> checksums() const; ///< of the parts, by name
     /// All of a part; an error where it is larger than the limit, whatever the archive says.
     QByteArray read(const QString& name, qint64 limit) const;
     void readInPieces(const QString& name, const TakePiece& take) const;
