@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The line that names a table style in a program: where it goes, and what becomes of the rest.
+#include "app/SettingsFolder.h"
 #include "results/styles/ProgramStyle.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -92,6 +95,17 @@ private slots:
         QVERIFY(!programstyle::insertInto(folder_.filePath("none.spc"), "/s.json"));
         QVERIFY(!QFile::exists(folder_.filePath("none.spc")));
         QVERIFY(!programstyle::insertInto(folder_.path(), "/s.json"));
+    }
+
+    void aFullDiskLeavesTheProgram() {
+        const QByteArray program = "DEFINE\n// " + QByteArray(5000, 'x');
+        write(program);
+        {
+            const FileSizeLimit full(1000);
+            QVERIFY(!programstyle::insertInto(path_, "/s.json"));
+        }
+        QCOMPARE(read(), program);
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files), QStringList("program.spc"));
     }
 
     void aLinkAndPermissionsStay() {

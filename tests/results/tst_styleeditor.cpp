@@ -7,7 +7,6 @@
 #include "results/styles/TableStylesButtonMenu.h"
 #include "support/OwnSettings.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
@@ -15,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -197,7 +195,7 @@ private slots:
     }
 
     void aStyleIsChangedInItsFile() {
-        write("s.json", R"({"general": {"name": "Old\nname", "thousandSep": "'", "font": "x"},
+        write("s.json", R"({"general": {"name": "Old\nname", "thousandSep": "\u0027", "font": "x"},
                             "frequency1Var": {"rowsOrder": "byLabel", "showMv": false}})");
         edit(path("s.json"));
         QCOMPARE(editor_->windowTitle(), u"Table Style — s.json"_qs);
@@ -289,7 +287,7 @@ private slots:
     }
 
     void theMenuOpensTheEditorOnAFile() {
-        const QString program = write("p.spc", "TABLESTYLE \"old\"\n");
+        QString program = write("p.spc", "TABLESTYLE \"old\"\n");
         const QString style = write("s.json", R"({"general": {"decimals": 7}})");
         QWidget window;
         window.show();

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files of table styles: what tables take from them, what the editor takes and writes, and what
 // becomes of damaged ones.
+#include "app/SettingsFolder.h"
 #include "results/styles/TableStyleData.h"
 #include "results/tables/TableViewConfig.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -162,7 +165,7 @@ private slots:
     void filesThatCannotBeReadWarn() {
         const QByteArray name = path("pipe").toLocal8Bit();
         QCOMPARE(mkfifo(name.constData(), 0600), 0); // would never end
-        write(R"({"general": {"decimals": 0}, "x": ")" + QByteArray(2 * 1024 * 1024, 'x') + "\"}");
+        write(R"({"general": {"decimals": 0}})" + QByteArray(2 * 1024 * 1024, ' '));
         for (const QString& file : {path("none.json"), folder_.path(), path("pipe"), path()}) {
             expectWarning("^TableViewConfig: cannot open style file: ");
             QCOMPARE(TableViewConfig(file, preferences_).decimals, 4);
@@ -224,6 +227,16 @@ private slots:
             QVERIFY(!TableStyleData().save(file));
         }
         QVERIFY(QFileInfo(folder_.path()).isDir());
+        QVERIFY(TableStyleData().save(path()));
+        const QByteArray before = read();
+        TableStyleData longer;
+        longer.label = QString(5000, 'x');
+        {
+            const FileSizeLimit full(1000);
+            expectWarning("^TableStyleData: cannot write to ");
+            QVERIFY(!longer.save(path()));
+        }
+        QCOMPARE(read(), before);
     }
 };
 

@@ -35,7 +35,7 @@ class TestStyleInWorkbench : public QObject {
     Editor& open(const char* entry, const QString& name) const {
         KelvoraFileDialog::answerNext(path(name));
         bench_->find<QAction>(entry)->trigger();
-        QMdiSubWindow* frame = bench_->find<QMdiArea>("")->currentSubWindow();
+        QMdiSubWindow* frame = bench_->window().findChild<QMdiArea*>()->currentSubWindow();
         return *qobject_cast<ProcessProgramSPC*>(frame->widget())->currentEditor();
     }
 
@@ -57,6 +57,7 @@ class TestStyleInWorkbench : public QObject {
         KelvoraFileDialog::answerNext(style);
         QTest::mouseClick(dialog->findChild<QPushButton*>("btnSave"), Qt::LeftButton);
         QVERIFY(QFile::exists(style));
+        QTRY_VERIFY(bench_->window().findChild<TableStyleEditorDialog*>() == nullptr);
         bench_->activate();
     }
 
