@@ -64,7 +64,8 @@ namespace kelx::boundary {
 
 namespace {
 
-/// The dictionary's own wrapper, or a detached copy of what only the program knows.
+/// The dictionary's own wrapper, or a detached copy of what only the program knows. What is no
+/// variable at all belongs to no entity, and its text is its name alone.
 template <typename OutputData> // the output's own, which has no public name
 TKelVariable* shownVariable(OutputData& data, const output::TableVariable& shown,
                             const DictionaryState& state) {
@@ -78,15 +79,14 @@ TKelVariable* shownVariable(OutputData& data, const output::TableVariable& shown
     if (TKelVariable* own = state.wrapperOf(shown.variable)) {
         return own;
     }
-    const catalog::Entity* entity =
-        shown.variable != nullptr ? shown.variable->entity : state.dictionary->root.get();
+    const catalog::Entity* entity = shown.variable != nullptr ? shown.variable->entity : nullptr;
     auto copy = std::make_unique<TKelVariable>(state.wrapperOf(entity));
     catalog::Variable& model = *KelBoundaryAccess::data(*copy).variable;
     if (shown.variable != nullptr) {
         model.copyDescription(*shown.variable);
     } else {
         model.name = shown.name;
-        model.label = shown.label;
+        model.label = shown.label == shown.name ? std::string() : shown.label;
     }
     data.ownVariables.push_back(std::move(copy));
     return data.ownVariables.back().get();

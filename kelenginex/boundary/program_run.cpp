@@ -31,6 +31,7 @@ language::CompileOptions compileOptions(const catalog::Dictionary& dictionary) {
     const auto config = configuration();
     language::CompileOptions options;
     options.baseFolder = dictionary.file.parent_path();
+    options.hasResultsFolder = true;
     if (config != nullptr) {
         options.autoWeight = config->autoWeight();
         options.showIntermediate = config->tab_show_intermediate();

@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "boundary/table_dataset.h"
 
-#include "boundary/variants.h"
 #include "catalog/names.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
+#include <type_traits>
 
 namespace kelx::boundary {
 
 namespace {
 
-std::optional<double> asNumber(const output::Value& value) {
-    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
-        return static_cast<double>(*integer);
+/// What has no text is blank as a number too.
+struct AsNumber {
+    double operator()(std::monostate) const { return 0; }
+    double operator()(std::int64_t integer) const { return static_cast<double>(integer); }
+    double operator()(double real) const { return std::isfinite(real) ? real : 0; }
+    double operator()(const std::string& text) const {
+        return catalog::parseNumber(text).value_or(0);
     }
-    if (const auto* real = std::get_if<double>(&value)) {
-        return *real;
-    }
-    return std::nullopt;
-}
+};
 
 using Range = std::optional<std::pair<double, double>>;
 
@@ -51,6 +52,28 @@ Range rangeOfCodes(const output::Table& table, std::size_t column) {
     return range;
 }
 
+/// Of all numbers; nothing where there are none, or a text.
+Range rangeOfValues(const output::Column& column) {
+    Range range;
+    bool numbers = true;
+    const auto take = [&](const auto& value) {
+        using Type = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<Type, std::string>) {
+            numbers = false;
+        } else if constexpr (std::is_same_v<Type, double>) {
+            if (std::isfinite(value)) {
+                widen(range, value);
+            }
+        } else if constexpr (std::is_same_v<Type, std::int64_t>) {
+            widen(range, static_cast<double>(value));
+        }
+    };
+    for (std::size_t row = 0; numbers && row < column.rows(); ++row) {
+        column.visit(row, take);
+    }
+    return numbers ? range : std::nullopt;
+}
+
 } // namespace
 
 TableDataset::TableDataset(const output::Table& table) : table_(table) {
@@ -78,29 +101,19 @@ void TableDataset::range(std::pair<double, double>& out, int column) {
         out = rangeOfCodes(table_, index).value_or(out);
         return;
     }
-    Range found;
-    for (std::int64_t row = 0; row < table_.rows(); ++row) {
-        const output::Value value = at(row, column);
-        if (std::holds_alternative<std::string>(value)) {
-            return;
-        }
-        if (const auto number = asNumber(value)) {
-            widen(found, *number);
-        }
+    if (column >= 0 && index < fields_.size()) {
+        out = rangeOfValues(table_.columns[index]).value_or(out);
     }
-    out = found.value_or(out);
 }
 
 double TableDataset::doubleValue(std::int64_t row, int column) {
-    const output::Value value = at(row, column);
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        return toDouble(*text);
-    }
-    return asNumber(value).value_or(0);
+    const output::Column* cells = columnOf(row, column);
+    return cells != nullptr ? cells->visit(static_cast<std::size_t>(row), AsNumber()) : 0;
 }
 
 std::string TableDataset::stringValue(std::int64_t row, int column) {
-    return output::toText(at(row, column));
+    const output::Column* cells = columnOf(row, column);
+    return cells != nullptr ? cells->textAt(static_cast<std::size_t>(row)) : std::string();
 }
 
 TKelVariant TableDataset::value(const std::string& name) {
@@ -114,10 +127,10 @@ std::vector<std::string> TableDataset::listValueNames() const {
     return {"suppressed", "time.duration"};
 }
 
-output::Value TableDataset::at(std::int64_t row, int column) const {
+const output::Column* TableDataset::columnOf(std::int64_t row, int column) const {
     const bool inside = row >= 0 && row < table_.rows() && column >= 0 &&
-                        static_cast<std::size_t>(column) < table_.fields.size();
-    return inside ? table_.at(row, static_cast<std::size_t>(column)) : output::Value();
+                        static_cast<std::size_t>(column) < table_.columns.size();
+    return inside ? &table_.columns[static_cast<std::size_t>(column)] : nullptr;
 }
 
 } // namespace kelx::boundary

@@ -27,7 +27,7 @@ public:
 
 private:
     std::vector<std::string> listValueNames() const override;
-    output::Value at(std::int64_t row, int column) const; ///< blank out of range
+    const output::Column* columnOf(std::int64_t row, int column) const; ///< null out of range
 
     const output::Table& table_;
     std::vector<std::shared_ptr<TKelField>> fields_;

@@ -18,6 +18,8 @@ struct CompileOptions {
     std::filesystem::path programFile; ///< where the program stands; empty for a mere text
     std::optional<std::string> tableStyle; ///< where the program names none; absolute
     bool showIntermediate = false;         ///< tables that others are made of are outputs too
+    /// Files of OUTFILE go to a folder of results where their own is not there.
+    bool hasResultsFolder = false;
 };
 
 /// Lexes, parses and checks a program (UTF-8). Faults go to messages; where there are errors the

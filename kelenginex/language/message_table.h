@@ -105,6 +105,7 @@ enum class Warning : int {
     SortCrosstab,
     OutfileType,
     OutfileFormat,
+    OutfileFolder,
     SavedAsNumbers,
     ColumnOfOtherRun,
     GivenTwice,

@@ -29,17 +29,20 @@ bool isKept(const fs::path& file) {
     return std::find(kept.begin(), kept.end(), endingOf(file)) != kept.end();
 }
 
+bool hasFolder(const fs::path& real) {
+    std::error_code ignored;
+    return fs::is_directory(real.parent_path(), ignored);
+}
+
 /// What stands in the way of any file there.
 std::string placeProblemOf(const fs::path& real) {
     std::error_code ignored;
-    const fs::path folder = real.parent_path();
     const fs::file_status status = fs::status(real, ignored);
     if (fs::is_directory(status))
         return "it is a folder";
     if (fs::exists(status) && !fs::is_regular_file(status))
         return "it is no regular file";
-    return fs::is_directory(folder, ignored) ? std::string()
-                                             : "there is no folder " + folder.string();
+    return hasFolder(real) ? std::string() : "there is no folder " + real.parent_path().string();
 }
 
 } // namespace
@@ -59,22 +62,30 @@ void TargetFiles::report(CheckerContext& context) const {
     std::map<fs::path, Form> forms;
     std::set<std::pair<std::string, std::string>> told; // tables of one command share a place
     for (const Target& target : written_) {
-        const std::string problem = problemOf(target, owners, forms);
+        const bool movable = target.form != Form::Json && context.options().hasResultsFolder;
+        const std::string problem = problemOf(target, owners, forms, movable);
         const Position& at = target.position;
         const std::string place = std::to_string(at.source) + ' ' + std::to_string(at.line) + ' ' +
                                   std::to_string(at.column);
-        if (!problem.empty() && told.insert({target.file.string(), place}).second)
+        const fs::path real = catalog::realFile(target.file);
+        if ((problem.empty() && hasFolder(real)) ||
+            !told.insert({target.file.string(), place}).second)
+            continue;
+        if (problem.empty())
+            context.report(Warning::OutfileFolder, at, {real.parent_path().string()});
+        else
             context.report(Error::TargetFile, at, {target.file.string(), problem});
     }
 }
 
 std::string TargetFiles::problemOf(const Target& target, const catalog::FileOwners& owners,
-                                   std::map<fs::path, Form>& forms) const {
+                                   std::map<fs::path, Form>& forms, bool movable) const {
     const fs::path real = catalog::realFile(target.file);
     std::error_code ignored;
     if (std::string problem = keptProblemOf(target.file, real, owners); !problem.empty())
         return problem;
-    if (std::string problem = placeProblemOf(real); !problem.empty())
+    if (std::string problem = placeProblemOf(real);
+        !problem.empty() && (hasFolder(real) || !movable))
         return problem;
     if (forms.emplace(real, target.form).first->second != target.form)
         return "another table goes to the same file in another form";

@@ -40,8 +40,9 @@ private:
         bool overwrite;
         Position position;
     };
+    /// A movable file may go without its folder.
     std::string problemOf(const Target& target, const catalog::FileOwners& owners,
-                          std::map<std::filesystem::path, Form>& forms) const;
+                          std::map<std::filesystem::path, Form>& forms, bool movable) const;
     std::string keptProblemOf(const std::filesystem::path& file, const std::filesystem::path& real,
                               const catalog::FileOwners& owners) const;
     std::string saveProblemOf(const std::filesystem::path& file, const std::string& fullName);

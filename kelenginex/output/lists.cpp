@@ -249,7 +249,8 @@ private:
         const char* label = category == nullptr                       ? "$tot$"
                             : category->kind == CategoryKind::Missing ? "$mv$"
                                                                       : "$na$";
-        return {table + " " + placeName(category) + figure, label, "", table};
+        // Several figures have several totals.
+        return {table + " " + placeName(category) + figure, label + figure, "", table};
     }
 
     void finish() {

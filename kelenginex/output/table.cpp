@@ -24,9 +24,7 @@ std::size_t Column::rows() const {
 }
 
 Value Column::at(std::size_t row) const {
-    if (figures)
-        return std::visit([](const auto& figure) { return Value(figure); }, (*figures)[row]);
-    return (*values)[numbers ? (*numbers)[row] : row];
+    return visit(row, [](const auto& value) { return Value(value); });
 }
 
 } // namespace kelx::output

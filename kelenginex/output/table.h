@@ -47,7 +47,16 @@ struct Column {
     static Column of(std::shared_ptr<const Figures> byRow);
 
     std::size_t rows() const;
+    /// Calls visitor with std::monostate, std::int64_t, double or const std::string&; no copy is
+    /// made.
+    template <typename Visitor>
+    auto visit(std::size_t row, const Visitor& visitor) const {
+        if (figures)
+            return std::visit(visitor, (*figures)[row]);
+        return std::visit(visitor, (*values)[numbers ? (*numbers)[row] : row]);
+    }
     Value at(std::size_t row) const;
+    std::string textAt(std::size_t row) const; ///< toText() of the value
 };
 
 /// Fields and rows.

@@ -6,6 +6,13 @@
 namespace kelx::output {
 namespace {
 
+struct AsText {
+    std::string operator()(std::monostate) const { return {}; }
+    std::string operator()(std::int64_t integer) const { return std::to_string(integer); }
+    std::string operator()(double real) const { return plan::numberText(real); }
+    std::string operator()(const std::string& text) const { return text; }
+};
+
 std::string collected(void (*write)(const Table&, const TextSink&), const Table& table) {
     std::string result;
     write(table, [&](std::string_view part) { result += part; });
@@ -15,13 +22,11 @@ std::string collected(void (*write)(const Table&, const TextSink&), const Table&
 } // namespace
 
 std::string toText(const Value& value) {
-    if (const auto* integer = std::get_if<std::int64_t>(&value))
-        return std::to_string(*integer);
-    if (const auto* real = std::get_if<double>(&value))
-        return plan::numberText(*real);
-    if (const auto* text = std::get_if<std::string>(&value))
-        return *text;
-    return {};
+    return std::visit(AsText(), value);
+}
+
+std::string Column::textAt(std::size_t row) const {
+    return visit(row, AsText());
 }
 
 std::string asJson(const Table& table) {

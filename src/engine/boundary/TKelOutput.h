@@ -29,6 +29,8 @@ public:
     std::string methodName() const;
     TKelOutputConfig& options();
 
+    /// What is measured comes first, where there is such. An expression, and a table that is a
+    /// column of a list, stand as a variable without entity whose name is their text.
     virtual const std::vector<TKelVariable*> variables();
     virtual TKelDataset* dataset(); ///< null where the output holds no figures
     virtual TKelEntity* entity();   ///< the listed or counted entity, else null

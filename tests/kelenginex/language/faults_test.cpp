@@ -477,6 +477,7 @@ TEST(MessageTable, IsTestedAsAWhole) {
         "KEL_W_UNKNOWN_AREA",      // told by the plan
         "KEL_E_OUTFILE_WORKBENCH", // told by kelx run
         "KEL_E_SAVE_EXISTS", "KEL_E_SAVE_TWICE", "KEL_E_TARGET_FILE",
+        "KEL_W_OUTFILE_FOLDER",   // told in the workbench
         "KEL_W_SAVED_AS_NUMBERS", // told by the run
         "KEL_E_WEIGHT_IS_TEXT",   // tested where weights are
         // Of EXECUTE, which needs files.

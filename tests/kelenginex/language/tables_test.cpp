@@ -310,6 +310,21 @@ TEST(Files, OfProtectedDatabasesAreNotBare) {
     EXPECT_EQ(refused(census, "DEFINE PERSON.P AS 1 SAVE \"p.kbf\"\nFREQ SEX2"), "");
 }
 
+// A program may have come from another machine.
+TEST(Files, GoElsewhereWhereTheirFolderIsGone) {
+    Census census;
+    census.options.hasResultsFolder = true;
+    const std::string folder = (census.options.baseFolder / "gone").string();
+    census.compile("FREQ SEX2, AGE OUTFILE csv \"gone/a.csv\"\nFREQ SEX2 OUTFILE pdf \"b.pdf\"");
+    EXPECT_EQ(told(census.messages), "KEL_W_OUTFILE_FOLDER 1:28 There is no folder " + folder +
+                                         "; the file goes to the folder of results.\n");
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE json \"gone/a.json\""),
+              "KEL_E_TARGET_FILE 1:24\n"); // the engine writes it itself
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE csv \"gone/a.kbf\""), "KEL_E_TARGET_FILE 1:23\n");
+    census.options.hasResultsFolder = false;
+    EXPECT_EQ(refused(census, "FREQ SEX2 OUTFILE csv \"gone/a.csv\""), "KEL_E_TARGET_FILE 1:23\n");
+}
+
 TEST(Files, OfOtherKindsAreToldToBeCsv) {
     Census census;
     const BoundProgram program = census.compile(

@@ -41,6 +41,28 @@ TEST(NumberText, ReadsBackTheSame) {
     }
 }
 
+// Figures of few digits are written in a way of their own.
+TEST(NumberText, IsTheSameForFewDigits) {
+    std::mt19937_64 random(11);
+    std::vector<double> values = {
+        1e9, 999999999.999999, 999999999.9999999, -0.000001, 0.0000001,  4.35,
+        0.3, 0.1 + 0.2,        1.0 / 3,           1e15,      -1e9 - 0.5, 123456789.125};
+    for (int i = 0; i < 100000; ++i) {
+        const double whole = static_cast<double>(random() % 2000000000000000) - 1e15;
+        const double decimal = std::trunc(whole / std::pow(10, random() % 16)) /
+                               std::pow(10, static_cast<double>(random() % 9));
+        for (const double value : {decimal, std::nextafter(decimal, 0), decimal * 3})
+            values.push_back(value);
+    }
+    for (const double value : values) {
+        char buffer[400];
+        const auto end =
+            std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed).ptr;
+        const std::string expected(buffer, end);
+        ASSERT_EQ(numberText(value), expected == "-0" ? "0" : expected);
+    }
+}
+
 TEST(Utf8, TellsTheFirstByteThatIsNone) {
     EXPECT_EQ(firstInvalidUtf8(""), std::nullopt);
     EXPECT_EQ(firstInvalidUtf8("Región \xf0\x9f\x98\x80 €, and more behind it"), std::nullopt);
