@@ -3,8 +3,9 @@
 
 #include "results/tables/CellNumber.h"
 
+#include <QByteArray>
+
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace {
@@ -31,7 +32,7 @@ QString grouped(std::string_view digits, const QString& separator) {
     const std::size_t first = digits.starts_with('-') ? 1 : 0;
     const std::size_t point = std::min(digits.find('.'), digits.size());
     QString text;
-    text.reserve(static_cast<qsizetype>(digits.size() + digits.size() / 3 + 1));
+    text.reserve(2 * static_cast<qsizetype>(digits.size()));
     for (std::size_t i = 0; i < digits.size(); ++i) {
         if (i > first && i < point && (point - i) % 3 == 0)
             text += separator;
@@ -47,10 +48,10 @@ QString shownWhole(std::int64_t whole, const QString& separator) {
 QString shownReal(double value, int decimals, const QString& separator) {
     double whole = 0;
     const bool isWhole = std::abs(std::modf(value, &whole)) < noFraction;
-    char buffer[400]; // the largest number has 309 digits
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed,
-                                   isWhole ? 0 : std::clamp(decimals, 0, mostDecimals));
-    std::string_view digits(buffer, end.ptr);
+    // Ties go up, as people round, and not to even digits.
+    const QByteArray text =
+        QByteArray::number(value, 'f', isWhole ? 0 : std::clamp(decimals, 0, mostDecimals));
+    std::string_view digits(text.data(), static_cast<std::size_t>(text.size()));
     if (digits.starts_with('-') && digits.find_first_of("123456789") == std::string_view::npos)
         digits.remove_prefix(1);
     return grouped(digits, separator);
