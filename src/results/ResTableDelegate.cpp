@@ -22,7 +22,6 @@ void ResTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         return;
     painter->save();
     painter->setPen(QPen(Qt::black, frame == QLatin1String("header") ? 3 : 1));
-    // Neighbours share their lines.
-    painter->drawRect(option.rect.adjusted(-1, -1, -1, -1));
+    painter->drawRect(option.rect); // the right and lower lines are the neighbours' own
     painter->restore();
 }

@@ -75,7 +75,6 @@ ResultListPage::ResultListPage()
     facts_->setFrameShape(QFrame::NoFrame);
     facts_->setWidgetResizable(true);
     facts_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    facts_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     facts_->setWidget(content);
     pageLayout()->insertWidget(0, facts_);
     limitFacts();
@@ -118,7 +117,7 @@ void ResultListPage::addFact(const QString& label, const QString& value) {
 
 void ResultListPage::limitFacts() {
     const int line = fontMetrics().height() + std::max(0, form_->verticalSpacing());
-    facts_->setMaximumHeight(std::min(form_->sizeHint().height() + 2, mostFactLines * line));
+    facts_->setFixedHeight(std::min(form_->sizeHint().height(), mostFactLines * line));
     facts_->setVisible(form_->rowCount() > 0);
 }
 
@@ -133,6 +132,10 @@ ResultReportPage::ResultReportPage()
       model_(static_cast<ResultReportModel*>(view()->model())) {
     view()->setItemDelegate(new ResTableDelegate(view()));
     view()->setShowGrid(false);
+    // Paper under any palette. The cells around the table fill nothing, lest they cover its frames.
+    QPalette paper = view()->viewport()->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    view()->viewport()->setPalette(paper);
     view()->setMargins(reportMargin);
     view()->horizontalHeader()->hide();
     view()->verticalHeader()->hide();

@@ -67,11 +67,11 @@ QVariant ResultReportModel::look(int row, int column, int role) const {
     }
     if (header)
         return ResultModel::look(row, column, role);
-    if (role == Qt::BackgroundRole)
-        return isTotal(row, column) ? QColor(192, 192, 192) : QColor(Qt::white);
     if (role == Qt::ForegroundRole)
         return QColor(Qt::black);
     const ReportLine* fact = line(row, column);
+    if (role == Qt::BackgroundRole && (fact != nullptr || isCell(row, column)))
+        return isTotal(row, column) ? QColor(192, 192, 192) : QColor(Qt::white);
     if (fact == nullptr)
         return {};
     if (role == Qt::ToolTipRole)

@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString gridStyle = QStringLiteral(
+const QString headerSheet = QStringLiteral(
     "QHeaderView::section {\n\tfont-weight:600;\n\tcolor: #FFFFFF;\n\tbackground-color: "
     "#3399FF;\n\tpadding: 4px;\n\tfont-size: 10pt;\n\tborder-style: none;\n\tborder-bottom: 1px "
     "solid #fffff8;\n\tborder-right: 1px solid #fffff8;\n}\nQHeaderView::section:horizontal "
@@ -24,7 +24,7 @@ ResultTableView::ResultTableView(ResultModel* model, const QString& objectName, 
     setObjectName(objectName);
     model->setParent(this);
     setModel(model);
-    setStyleSheet(gridStyle);
+    setStyleSheet(headerSheet);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectItems);

@@ -52,14 +52,15 @@ ResultsManager::ResultsManager(const KelSystem& settings, QString databasePath, 
     splitter->addWidget(tree_);
     splitter->addWidget(stack_);
     const int unit = fontMetrics().averageCharWidth();
-    splitter->setSizes({24 * unit, 90 * unit});
+    splitter->setSizes({32 * unit, 90 * unit});
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
     setupTree();
     setupPages();
     setupActions();
     setFocusProxy(tree_);
-    clearShown();
+    tree_->setFocus();
+    stack_->setCurrentWidget(noTable_);
     statusBar()->setSizeGripEnabled(false);
     retranslate();
 }

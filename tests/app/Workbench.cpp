@@ -105,9 +105,9 @@ void Workbench::frequency() const {
 }
 
 QStringList Workbench::frequencyRows() const {
-    const auto* table = find<QTableView>("frequencyTable");
+    const auto* table = find<QTableView>("tableWidget");
     QStringList rows;
-    for (int row = 0; table != nullptr && row < table->model()->rowCount(); ++row) {
+    for (int row = 1; table != nullptr && row < table->model()->rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < table->model()->columnCount(); ++column)
             cells += table->model()->index(row, column).data().toString();
@@ -115,6 +115,17 @@ QStringList Workbench::frequencyRows() const {
     }
     rows.sort();
     return rows;
+}
+
+int Workbench::resultCount() const {
+    const auto* results = find<QWidget>("ResultsManager");
+    if (results == nullptr)
+        return 0;
+    const QAbstractItemModel& tree = *results->findChild<QAbstractItemView*>("treeView")->model();
+    int tables = 0;
+    for (int process = 0; process < tree.rowCount(); ++process)
+        tables += tree.rowCount(tree.index(process, 0));
+    return tables;
 }
 
 QStringList Workbench::windowNames() const {

@@ -45,7 +45,8 @@ public:
     void chooseFromMenu(QAbstractItemView* view, const char* action) const;
     /// A frequency of the selected variables, from their menu.
     void frequency() const;
-    QStringList frequencyRows() const; ///< cells joined by "|"
+    QStringList frequencyRows() const; ///< of the shown table, sorted; cells joined by "|"
+    int resultCount() const;           ///< tables of all runs
     QStringList windowNames() const;   ///< of the contents of the work area
 
 private:

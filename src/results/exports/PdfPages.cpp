@@ -27,8 +27,9 @@ void PdfPages::place(const PdfSlice& slice, PdfBand band, qreal together) {
     if (band.height() > room())
         return placeInPieces(slice, band);
     if (waiting_.height() <= 0)
-        waiting_ = {band.top, band.top, band.ofRow};
+        waiting_ = band;
     waiting_.bottom = band.bottom;
+    waiting_.ofRow = band.ofRow;
 }
 
 /// Of what is higher than a page.

@@ -12,6 +12,12 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr qreal line = 1; ///< how thick the borders are
+
+} // namespace
+
 PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype first,
                    qsizetype end) {
     document_.setUndoRedoEnabled(false);
@@ -21,7 +27,8 @@ PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype fi
     QTextOption option = document_.defaultTextOption();
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document_.setDefaultTextOption(option);
-    document_.setHtml(html.slice(first, end));
+    // The line above the next row closes the last one.
+    document_.setHtml(html.slice(first, std::min(end + 1, html.rows())));
     QTextTable* const table = this->table();
     if (table != nullptr)
         setColumns(*table, layout);
@@ -29,7 +36,7 @@ PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype fi
     findParagraphs(0, table != nullptr ? table->firstPosition() - 1 : document_.characterCount());
     if (table == nullptr)
         return;
-    findRows(*table, html.headerRows(), first == 0);
+    findRows(*table, html.headerRows(), static_cast<int>(end - first));
     if (end == html.rows())
         findParagraphs(table->lastPosition() + 1, document_.characterCount());
 }
@@ -56,19 +63,20 @@ void PdfSlice::setColumns(QTextTable& table, const PdfLayout& layout) {
             drawLinesOnce(table, row, column);
 }
 
-/// Right and below; above and left as well at the edges of the table.
+/// Left and above, where the ground of no later cell covers them; right and below as well at the
+/// edges of the table.
 void PdfSlice::drawLinesOnce(QTextTable& table, int row, int column) {
     QTextTableCell cell = table.cellAt(row, column);
     if (cell.row() != row || cell.column() != column)
         return;
     QTextTableCellFormat format = cell.format().toTableCellFormat();
-    if (row > 0) {
-        format.setTopBorderStyle(QTextFrameFormat::BorderStyle_None);
-        format.setTopBorder(0);
+    if (row + cell.rowSpan() < table.rows()) {
+        format.setBottomBorderStyle(QTextFrameFormat::BorderStyle_None);
+        format.setBottomBorder(0);
     }
-    if (column > 0) {
-        format.setLeftBorderStyle(QTextFrameFormat::BorderStyle_None);
-        format.setLeftBorder(0);
+    if (column + cell.columnSpan() < table.columns()) {
+        format.setRightBorderStyle(QTextFrameFormat::BorderStyle_None);
+        format.setRightBorder(0);
     }
     cell.setFormat(format);
 }
@@ -90,20 +98,20 @@ qreal PdfSlice::topOf(const QTextTable& table, int row) const {
     const QTextTableCell cell = table.cellAt(row, 0);
     const QTextBlock block = cell.firstCursorPosition().block();
     return document_.documentLayout()->blockBoundingRect(block).top() -
-           cell.format().toTableCellFormat().topPadding();
+           cell.format().toTableCellFormat().topPadding() - line;
 }
 
-void PdfSlice::findRows(const QTextTable& table, int headerRows, bool withHeader) {
+void PdfSlice::findRows(const QTextTable& table, int headerRows, int rows) {
     const QRectF frame =
         document_.documentLayout()->frameBoundingRect(const_cast<QTextTable*>(&table));
     const int header = std::min(headerRows, table.rows());
     const qreal body = header < table.rows() ? topOf(table, header) : frame.bottom();
-    header_ = {frame.top(), body, false};
-    if (withHeader)
+    header_ = {topOf(table, 0), body, false};
+    if (!bands_.isEmpty())
         addBand(body, false);
     below_ = body;
-    for (int row = header; row < table.rows(); ++row)
-        addBand(row + 1 < table.rows() ? topOf(table, row + 1) : frame.bottom(), true);
+    for (int row = header + 1; row <= header + rows; ++row)
+        addBand(row < table.rows() ? topOf(table, row) : frame.bottom(), true);
 }
 
 qreal PdfSlice::width() const {
@@ -111,7 +119,7 @@ qreal PdfSlice::width() const {
 }
 
 void PdfSlice::draw(QPainter& painter, const PdfBand& band) const {
-    const QRectF view(0, band.top, width(), band.height());
+    const QRectF view(0, band.top, width(), band.height() + (band.ofRow ? line : 0));
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, Qt::black);
     context.clip = view;

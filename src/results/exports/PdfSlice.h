@@ -22,7 +22,7 @@ struct PdfLayout {
 struct PdfBand {
     qreal top = 0;
     qreal bottom = 0;
-    bool ofRow = false; ///< needs the header above it
+    bool ofRow = false; ///< needs the header above it and a line below
 
     qreal height() const { return bottom - top; }
 };
@@ -43,7 +43,7 @@ private:
     void setColumns(QTextTable& table, const PdfLayout& layout);
     static void drawLinesOnce(QTextTable& table, int row, int column);
     void findParagraphs(int from, int to);
-    void findRows(const QTextTable& table, int headerRows, bool withHeader);
+    void findRows(const QTextTable& table, int headerRows, int rows);
     qreal topOf(const QTextTable& table, int row) const;
     void addBand(qreal bottom, bool ofRow);
 

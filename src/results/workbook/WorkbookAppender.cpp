@@ -117,7 +117,7 @@ QList<int> WorkbookAppender::mergeStyles(const ZipPackage& ours) {
 
 QString WorkbookAppender::freePart(const QString& pattern, const QStringList& taken) const {
     for (int number = 1;; ++number) {
-        const QString candidate = folderOf(book_) + pattern.arg(number);
+        QString candidate = folderOf(book_) + pattern.arg(number);
         if (!package_.contains(candidate) && !taken.contains(candidate))
             return candidate;
     }
