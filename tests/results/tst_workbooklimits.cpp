@@ -87,7 +87,7 @@ private slots:
 
 private:
     QString old() const {
-        const QString path = folder_.filePath(QStringLiteral("old.xlsx"));
+        QString path = folder_.filePath(QStringLiteral("old.xlsx"));
         QFile file(path);
         if (file.open(QIODevice::WriteOnly))
             file.write("the former one");
