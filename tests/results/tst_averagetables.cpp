@@ -64,6 +64,7 @@ void TestAverageTables::averagesAllRecords() {
     QCOMPARE(made->kind(), tablekind::average);
     QCOMPARE(made->columnHeaders(), QStringList({"Variable", "Average"}));
     QCOMPARE(made->headerTexts(), QList<QStringList>({{"Variable", "Average"}}));
+    QCOMPARE(made->columnNames(), QStringList({"Variable", "PERSON.AGE"}));
     QCOMPARE(displays(made->cells()), QStringList({"PERSON.AGE,33"}));
     QCOMPARE(made->columnAlignments(), QList<int>({1, 2}));
 }

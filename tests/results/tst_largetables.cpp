@@ -13,11 +13,24 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <map>
+
 namespace {
 
 using namespace kelx;
 
 constexpr int persons = 8000;
+
+// Codes of a person's A (7 is missing), B (3 is not applicable) and C.
+int codeA(int person) {
+    return person * 7 % 23;
+}
+int codeB(int person) {
+    return person * person % 11;
+}
+int codeC(int person) {
+    return person / 3 % 13;
+}
 
 /// FIRST runs up and SECOND down from one person to the next; SAME is 1.
 class LargeDatabase {
@@ -35,6 +48,9 @@ public:
         add("FIRST", [](int person) { return person + 1; });
         add("SECOND", [](int person) { return persons - person; });
         add("SAME", [](int) { return 1; });
+        add("A", codeA)->missing = 7;
+        add("B", codeB)->notapp = 3;
+        add("C", codeC);
         catalog::saveDictionary(dictionary_, dictionary_.file);
     }
 
@@ -46,7 +62,7 @@ private:
         return result;
     }
     template <class Value>
-    void add(const std::string& name, const Value& value) {
+    catalog::Variable* add(const std::string& name, const Value& value) {
         storage::ColumnPlan plan;
         plan.type = storage::ValueType::Integer;
         auto variable = std::make_unique<catalog::Variable>();
@@ -58,13 +74,32 @@ private:
         for (int person = 0; person < persons; ++person)
             column->addInteger(value(person));
         column->commit();
-        person_->addVariable(std::move(variable));
+        return person_->addVariable(std::move(variable));
     }
 
     std::filesystem::path folder_;
     catalog::Dictionary dictionary_;
     catalog::Entity* person_ = nullptr;
 };
+
+/// The number of persons with each code and in each total, by "A,B,C" as they are shown.
+std::map<QString, int> countedPersons() {
+    const auto shown = [](const QString& valid) {
+        return valid == "MV" || valid == "NA" ? QStringList{valid}
+                                              : QStringList{valid, QStringLiteral("Total")};
+    };
+    std::map<QString, int> counts;
+    for (int person = 0; person < persons; ++person) {
+        const QString a = codeA(person) == 7 ? "MV" : QString::number(codeA(person));
+        const QString b = codeB(person) == 3 ? "NA" : QString::number(codeB(person));
+        const QString c = QStringLiteral("%1. %1").arg(codeC(person));
+        for (const QString& ofA : shown(a))
+            for (const QString& ofB : shown(b))
+                for (const QString& ofC : shown(c))
+                    ++counts[ofA + "," + ofB + "," + ofC];
+    }
+    return counts;
+}
 
 } // namespace
 
@@ -84,6 +119,8 @@ class TestLargeTables : public QObject {
 private slots:
     void initTestCase();
     void cleanupTestCase();
+    void agreesWithACountOfThePersons();
+    void agreesWithTheMatrix();
     void tellsWhyATableIsNotShown();
     void showsASparseTableThatFits();
     void showsTheUsualLayoutForATooLargeMatrix();
@@ -99,6 +136,35 @@ void TestLargeTables::cleanupTestCase() {
     session_.reset();
     dictionary_.reset();
     kel::destroy();
+}
+
+void TestLargeTables::agreesWithACountOfThePersons() {
+    const auto made = table("FREQ PERSON.A BY PERSON.B BY PERSON.C");
+    std::map<QString, int> counts;
+    for (qsizetype row = 0; row < made->cells().size(); ++row)
+        for (int column = 2; column < made->columnHeaders().size(); ++column)
+            if (!made->cells().raw(row, column).isEmpty())
+                counts[made->cells().display(row, 0) + "," + made->cells().display(row, 1) + "," +
+                       made->columnHeaders()[column]] = made->cells().raw(row, column).toInt();
+    QVERIFY(counts == countedPersons());
+}
+
+/// "A / C" in the columns, B in the rows.
+void TestLargeTables::agreesWithTheMatrix() {
+    const auto made = table("FREQ PERSON.A BY PERSON.B BY PERSON.C");
+    TableViewConfig config;
+    config.threeVarLayout = "matrixByFirstVar";
+    made->applyViewConfig(config);
+    std::map<QString, int> counts;
+    for (qsizetype row = 0; row < made->cells().size(); ++row)
+        for (int column = 1; column < made->columnHeaders().size(); ++column) {
+            const QStringList heading = made->columnHeaders()[column].split(" / ");
+            const QString block = heading[0].section(". ", 0, 0);
+            if (!made->cells().raw(row, column).isEmpty())
+                counts[block + "," + made->cells().display(row, 0) + "," + heading[1]] =
+                    made->cells().raw(row, column).toInt();
+        }
+    QVERIFY(counts == countedPersons());
 }
 
 /// 8001 by 8001 and the row headings are 64 million cells.

@@ -95,6 +95,14 @@ private slots:
         QVERIFY(!table->exportedDirectly());
     }
 
+    void knowsWhatGoesToAFile() {
+        const auto table = run_->table("FREQ PERSON.SEX OUTFILE csv \"sexes.csv\" OVERWRITE");
+        QVERIFY(table->exportedDirectly());
+        QCOMPARE(table->cells().size(), 4);
+        QVERIFY(table->asJson().starts_with('{'));
+        QVERIFY(table->asJson().find("FREQ_1") != std::string::npos);
+    }
+
     void leavesOutWhatWasNotAsked() {
         const TableMetadata facts = of("FREQ PERSON.SEX BY HOUSEHOLD.ROOMS");
         QCOMPARE(facts.title, "FREQ_1");
@@ -167,7 +175,6 @@ private slots:
         QCOMPARE(facts.variableTitle(2), QString());
     }
 
-    // One man at most has each income.
     void tellsHowMuchIsHidden() {
         const TableMetadata facts = of("FREQ PERSON.SEX SENSITIVE 3");
         QVERIFY(facts.suppressed > 0);

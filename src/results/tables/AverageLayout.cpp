@@ -7,7 +7,6 @@
 #include "results/tables/OneVariableLayout.h"
 #include "results/tables/VariableHeading.h"
 
-#include "TKelDataset.h"
 #include "TKelOutput.h"
 
 #include <QCoreApplication>
@@ -20,19 +19,13 @@ struct Headings {
 
 /// A row that names the variable and tells its average.
 TableLayout overallLayout(TKelOutput& output) {
-    TableLayout layout;
+    TableLayout layout = genericLayout(output);
     layout.columnHeaders = {Headings::tr("Variable"), Headings::tr("Average")};
-    layout.columnNames = layout.columnLabels = layout.columnHeaders;
     layout.textColumns = {true, false};
+    layout.header = {};
     layout.header.startRow();
-    for (int column = 0; column < 2; ++column)
+    for (int column = 0; column < layout.columnHeaders.size(); ++column)
         layout.header.add(layout.columnHeaders[column], column);
-    TKelDataset* data = output.dataset();
-    for (std::int64_t row = 0; data != nullptr && row < data->recCount(); ++row) {
-        layout.cells.startRow();
-        for (int column = 0; column < 2; ++column)
-            layout.cells.add(std::string_view(data->stringValue(row, column)));
-    }
     return layout;
 }
 

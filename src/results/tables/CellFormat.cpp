@@ -32,7 +32,7 @@ QString grouped(std::string_view digits, const QString& separator) {
     const std::size_t first = digits.starts_with('-') ? 1 : 0;
     const std::size_t point = std::min(digits.find('.'), digits.size());
     QString text;
-    text.reserve(static_cast<qsizetype>(digits.size() + digits.size() / 3 + 1));
+    text.reserve(2 * static_cast<qsizetype>(digits.size()));
     for (std::size_t i = 0; i < digits.size(); ++i) {
         if (i > first && i < point && (point - i) % 3 == 0)
             text += separator;

@@ -13,6 +13,7 @@ void CellTexts::startRow() {
 }
 
 void CellTexts::add(std::string_view text) {
+    Q_ASSERT(!rowStarts_.empty());
     texts_ += text;
     ends_.push_back(texts_.size());
     width_ = std::max(width_, static_cast<qsizetype>(ends_.size() - rowStarts_.back()));

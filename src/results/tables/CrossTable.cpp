@@ -25,11 +25,9 @@ CrossTable::CrossTable(TKelOutput& output, const TableViewConfig& options,
                        const TablePreferences& preferences)
     : data_(output.dataset()), pivot_(data_, static_cast<std::size_t>(output.dimension())),
       columns_(crossColumns(pivot_.columns(), options)), rows_(findShownRows(options)) {
-    for (const TKelVariable* variable : spanningVariables(output)) {
-        headings_ += variableHeading(*variable, preferences.variableHeading);
-        paths_ += variablePath(*variable);
-        titles_ += titleOf(*variable);
-    }
+    for (const TKelVariable* variable : spanningVariables(output))
+        names_.push_back({variableHeading(*variable, preferences.variableHeading),
+                          variablePath(*variable), titleOf(*variable)});
 }
 
 bool CrossTable::suits(TKelOutput& output) {
@@ -53,10 +51,9 @@ std::vector<std::uint32_t> CrossTable::findShownRows(const TableViewConfig& opti
 }
 
 void CrossTable::addRowVariable(std::size_t variable, TableLayout& layout) const {
-    const auto index = static_cast<qsizetype>(variable);
-    layout.columnHeaders += headings_[index];
-    layout.columnNames += paths_[index];
-    layout.columnLabels += titles_[index];
+    layout.columnHeaders += names_[variable].heading;
+    layout.columnNames += names_[variable].path;
+    layout.columnLabels += names_[variable].title;
     layout.textColumns.push_back(true);
 }
 

@@ -33,7 +33,7 @@ public:
     /// The rows of the pivot that are not hidden.
     const std::vector<std::uint32_t>& rows() const { return rows_; }
 
-    QString heading(std::size_t variable) const { return headings_[variable]; }
+    QString heading(std::size_t variable) const { return names_[variable].heading; }
     /// The rows' variable as a column that is no figure.
     void addRowVariable(std::size_t variable, TableLayout& layout) const;
     /// The figures of a row of the pivot, or as many empty cells for Pivot::none.
@@ -49,7 +49,10 @@ private:
     std::vector<std::uint32_t> findShownRows(const TableViewConfig& options) const;
 
     TKelDataset* data_;
-    QStringList headings_, paths_, titles_; ///< by variable
+    struct Names {
+        QString heading, path, title;
+    };
+    std::vector<Names> names_; ///< by variable
     Pivot pivot_;
     std::vector<CrossColumn> columns_;
     std::vector<std::uint32_t> rows_;

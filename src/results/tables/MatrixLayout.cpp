@@ -3,8 +3,6 @@
 
 #include "results/tables/CrossTable.h"
 
-#include <algorithm>
-
 namespace {
 
 enum Variable : std::size_t { OfBlocks, OfRows, OfColumns };

@@ -17,21 +17,25 @@ TableBase::TableBase(TableSource source)
 
 TableBase::~TableBase() = default;
 
+TableBase::Built TableBase::build() const {
+    Built made;
+    made.layout = layOut();
+    const auto rowsOf = [&](CellTexts&& texts) {
+        ResultRows rows(std::make_shared<const CellTexts>(std::move(texts)), cellFormat(),
+                        made.layout.textColumns);
+        if (!hasValues())
+            rows.setValueless();
+        return rows;
+    };
+    made.cells = rowsOf(std::move(made.layout.cells));
+    made.report = made.layout.report ? rowsOf(std::move(*made.layout.report)) : made.cells;
+    made.layout.report.reset();
+    return made;
+}
+
 const TableBase::Built& TableBase::built() const {
-    if (!built_) {
-        Built& made = built_.emplace();
-        made.layout = layOut();
-        const auto rowsOf = [&](CellTexts&& texts) {
-            ResultRows rows(std::make_shared<const CellTexts>(std::move(texts)), cellFormat(),
-                            made.layout.textColumns);
-            if (!hasValues())
-                rows.setValueless();
-            return rows;
-        };
-        made.cells = rowsOf(std::move(made.layout.cells));
-        made.report = made.layout.report ? rowsOf(std::move(*made.layout.report)) : made.cells;
-        made.layout.report.reset();
-    }
+    if (!built_)
+        built_ = build();
     return *built_;
 }
 

@@ -34,7 +34,7 @@ public:
     TableBase& operator=(const TableBase&) = delete;
     virtual ~TableBase();
 
-    // The grid.
+    // The grid. References hold until the next rebuild(); copies of rows are cheap.
     virtual const ResultRows& cells() const;
     virtual QList<int> columnAlignments() const; ///< by column: 2 right, 1 left
     virtual QList<quint8> totalRows() const;     ///< by row: 1 for one of totals
@@ -109,6 +109,7 @@ private:
         ResultRows cells;
         ResultRows report;
     };
+    Built build() const;
     const Built& built() const;
 
     TableSource source_;

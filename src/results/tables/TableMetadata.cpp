@@ -56,7 +56,7 @@ Kind kindOf(const TKelOutput& output) {
 }
 
 QString databaseName(TKelDictionary& dictionary, const QString& path) {
-    const QString label = QString::fromStdString(dictionary.label());
+    QString label = QString::fromStdString(dictionary.label());
     if (!label.isEmpty())
         return label;
     return QFileInfo(path.isEmpty() ? QString::fromStdString(dictionary.fileName()) : path)

@@ -27,14 +27,14 @@ QString orPath(const std::string& text, const QString& path) {
 
 QString variablePath(const TKelVariable& variable) {
     const TKelEntity* entity = variable.entity(false);
-    const QString name = QString::fromStdString(variable.name());
+    QString name = QString::fromStdString(variable.name());
     if (entity == nullptr || entity->name().empty() || isExpression(variable.name()))
         return name;
     return QString::fromStdString(entity->name()) + "." + name;
 }
 
 QString variableHeading(const TKelVariable& variable, const QString& preference) {
-    const QString path = variablePath(variable);
+    QString path = variablePath(variable);
     const QString label = QString::fromStdString(variable.label());
     if (preference == QLatin1String("Name"))
         return path;
@@ -67,7 +67,7 @@ QString fieldMarker(const TKelField& field) {
 }
 
 QString fieldDisplayName(const TKelField& field) {
-    const QString marker = fieldMarker(field);
+    QString marker = fieldMarker(field);
     if (!marker.isEmpty())
         return marker;
     if (!field.name().empty())
