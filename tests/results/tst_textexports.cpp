@@ -301,7 +301,7 @@ void tst_TextExports::htmlEscapesAndTellsOfHiddenCells() {
     QVERIFY(whole.contains("rowspan=\"1\">&lt;h&gt;</th>"));
     QVERIFY(whole.contains("<td class=\"stringCell\">1. &lt; 5 years</td>"));
     QVERIFY(!facts.suppressedNote().isEmpty());
-    QVERIFY(whole.endsWith("</table><p>" + facts.suppressedNote().toHtmlEscaped() +
+    QVERIFY(whole.endsWith("</table><br><p>" + facts.suppressedNote().toHtmlEscaped() +
                            "</p></body></html>"));
     // The note stands below the last rows, the facts above the first.
     QVERIFY(!html.slice(0, 1).contains(facts.suppressedNote()));

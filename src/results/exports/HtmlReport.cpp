@@ -54,7 +54,7 @@ QString HtmlReport::slice(qsizetype first, qsizetype end) const {
     html += QStringLiteral("</table>");
     const QString note = table_->metadata().suppressedNote();
     if (end == rows() && !note.isEmpty())
-        html += paragraph(note);
+        html += QStringLiteral("<br>") + paragraph(note);
     return html + QStringLiteral("</body></html>");
 }
 

@@ -4,12 +4,13 @@
 #include "results/tables/TableBase.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace {
 
 /// Padding and border on both sides of a text, and a little for rounding.
-constexpr qreal frame = 2 * (8 + 1) + 1;
+constexpr qreal frame = 2 * (8 + 1) + 2;
 constexpr qint64 cellsBetweenQuestions = 4096;
 
 } // namespace
@@ -29,8 +30,9 @@ qreal PdfColumns::width() const {
 QList<qreal> PdfColumns::filling(qreal width) const {
     QList<qreal> widths = widths_;
     const qreal share = width / this->width();
+    // On whole units, lest the ground of one column covers the border of the one before.
     for (qreal& column : widths)
-        column = (column + frame) * share;
+        column = std::floor((column + frame) * share);
     return widths;
 }
 

@@ -12,8 +12,14 @@
 
 #include <algorithm>
 
-PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype first, qsizetype end)
-    : first_(first), next_(end) {
+namespace {
+
+constexpr qreal line = 1; ///< how thick the borders are
+
+} // namespace
+
+PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype first,
+                   qsizetype end) {
     document_.setUndoRedoEnabled(false);
     document_.setDefaultFont(layout.font);
     document_.setDocumentMargin(0);
@@ -21,12 +27,18 @@ PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype fi
     QTextOption option = document_.defaultTextOption();
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document_.setDefaultTextOption(option);
-    document_.setHtml(html.slice(first, end));
-    setColumns(layout, html.headerRows());
-    document_.setPageSize(layout.page);
-    pages_ = document_.pageCount();
-    if (end < html.rows() && pages_ > 1)
-        keepLastPage(html.headerRows());
+    // The line above the next row closes the last one.
+    document_.setHtml(html.slice(first, std::min(end + 1, html.rows())));
+    QTextTable* const table = this->table();
+    if (table != nullptr)
+        setColumns(*table, layout);
+    document_.setTextWidth(layout.width);
+    findParagraphs(0, table != nullptr ? table->firstPosition() - 1 : document_.characterCount());
+    if (table == nullptr)
+        return;
+    findRows(*table, html.headerRows(), static_cast<int>(end - first));
+    if (end == html.rows())
+        findParagraphs(table->lastPosition() + 1, document_.characterCount());
 }
 
 QTextTable* PdfSlice::table() const {
@@ -36,76 +48,83 @@ QTextTable* PdfSlice::table() const {
     return nullptr;
 }
 
-/// The header stands at the top of each page.
-void PdfSlice::setColumns(const PdfLayout& layout, int headerRows) {
-    QTextTable* const table = this->table();
-    if (table == nullptr)
-        return;
-    QTextTableFormat format = table->format();
+void PdfSlice::setColumns(QTextTable& table, const PdfLayout& layout) {
+    QTextTableFormat format = table.format();
     QList<QTextLength> widths;
-    for (const qreal width :
-         layout.columns.first(std::min<qsizetype>(layout.columns.size(), table->columns())))
-        widths += QTextLength(QTextLength::FixedLength, width);
+    for (qsizetype column = 0; column < layout.columns.size() && column < table.columns(); ++column)
+        widths += QTextLength(QTextLength::FixedLength, layout.columns[column]);
     format.setColumnWidthConstraints(widths);
-    format.setHeaderRowCount(std::min(headerRows, table->rows() - 1));
     // Borders that collapse take three times as long; drawing each line once looks the same.
     format.setBorderCollapse(false);
     format.setCellSpacing(0);
-    table->setFormat(format);
-    for (int row = 0; row < table->rows(); ++row)
-        for (int column = 0; column < table->columns(); ++column)
-            drawLinesOnce(*table, row, column);
+    table.setFormat(format);
+    for (int row = 0; row < table.rows(); ++row)
+        for (int column = 0; column < table.columns(); ++column)
+            drawLinesOnce(table, row, column);
 }
 
-/// Right and below; above and left as well at the edges of the table.
+/// Left and above, where the ground of no later cell covers them; right and below as well at the
+/// edges of the table.
 void PdfSlice::drawLinesOnce(QTextTable& table, int row, int column) {
     QTextTableCell cell = table.cellAt(row, column);
     if (cell.row() != row || cell.column() != column)
         return;
     QTextTableCellFormat format = cell.format().toTableCellFormat();
-    if (row > 0)
-        format.setTopBorderStyle(QTextFrameFormat::BorderStyle_None);
-    if (column > 0)
-        format.setLeftBorderStyle(QTextFrameFormat::BorderStyle_None);
+    if (row + cell.rowSpan() < table.rows()) {
+        format.setBottomBorderStyle(QTextFrameFormat::BorderStyle_None);
+        format.setBottomBorder(0);
+    }
+    if (column + cell.columnSpan() < table.columns()) {
+        format.setRightBorderStyle(QTextFrameFormat::BorderStyle_None);
+        format.setRightBorder(0);
+    }
     cell.setFormat(format);
 }
 
-int PdfSlice::pageOf(int row) const {
-    const QTextBlock block = table()->cellAt(row, 0).firstCursorPosition().block();
-    const qreal top = document_.documentLayout()->blockBoundingRect(block).top();
-    return static_cast<int>(top / document_.pageSize().height());
+void PdfSlice::addBand(qreal bottom, bool ofRow) {
+    bands_ += PdfBand{below_, bottom, ofRow};
+    below_ = bottom;
 }
 
-bool PdfSlice::endsAbove(int row, qreal y) const {
-    for (int column = 0; column < table()->columns(); ++column) {
-        const QTextBlock block = table()->cellAt(row, column).lastCursorPosition().block();
-        if (document_.documentLayout()->blockBoundingRect(block).bottom() > y)
-            return false;
-    }
-    return true;
+/// The empty one that ends each document needs no room.
+void PdfSlice::findParagraphs(int from, int to) {
+    QTextBlock block = document_.findBlock(from);
+    for (; block.isValid() && block.position() < to; block = block.next())
+        if (block.length() > 1 || block.next().isValid())
+            addBand(document_.documentLayout()->blockBoundingRect(block).bottom(), false);
 }
 
-/// A row that runs over from the page before stays with it: then the last page is printed as it is.
-void PdfSlice::keepLastPage(int headerRows) {
-    int row = table()->rows();
-    while (row - 1 > headerRows && pageOf(row - 1) >= pages_ - 1)
-        --row;
-    if (row == table()->rows() || !endsAbove(row - 1, document_.pageSize().height() * (pages_ - 1)))
-        return;
-    --pages_;
-    next_ = first_ + row - headerRows;
+qreal PdfSlice::topOf(const QTextTable& table, int row) const {
+    const QTextTableCell cell = table.cellAt(row, 0);
+    const QTextBlock block = cell.firstCursorPosition().block();
+    return document_.documentLayout()->blockBoundingRect(block).top() -
+           cell.format().toTableCellFormat().topPadding() - line;
 }
 
-void PdfSlice::draw(QPainter& painter, int page, const QSizeF& paper) const {
-    const QSizeF sheet = document_.pageSize();
-    const qreal needed = std::max(sheet.width(), document_.size().width());
-    const QRectF view(0, page * sheet.height(), needed, sheet.height());
+void PdfSlice::findRows(const QTextTable& table, int headerRows, int rows) {
+    const QRectF frame =
+        document_.documentLayout()->frameBoundingRect(const_cast<QTextTable*>(&table));
+    const int header = std::min(headerRows, table.rows());
+    const qreal body = header < table.rows() ? topOf(table, header) : frame.bottom();
+    header_ = {topOf(table, 0), body, false};
+    if (!bands_.isEmpty())
+        addBand(body, false);
+    below_ = body;
+    for (int row = header + 1; row <= header + rows; ++row)
+        addBand(row < table.rows() ? topOf(table, row) : frame.bottom(), true);
+}
+
+qreal PdfSlice::width() const {
+    return std::max(document_.textWidth(), document_.size().width());
+}
+
+void PdfSlice::draw(QPainter& painter, const PdfBand& band) const {
+    const QRectF view(0, band.top, width(), band.height() + (band.ofRow ? line : 0));
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, Qt::black);
     context.clip = view;
     painter.save();
-    painter.scale(paper.width() / needed, paper.width() / needed);
-    painter.translate(0, -view.top());
+    painter.translate(0, -band.top);
     painter.setClipRect(view);
     document_.documentLayout()->draw(&painter, context);
     painter.restore();

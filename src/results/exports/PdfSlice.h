@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Some rows of a printed table, laid out in pages. A document of all rows of a large table would
-// need more memory than there is.
+// Some rows of a printed table, laid out without pages. A document of all rows of a large table
+// would need more memory than there is.
 #pragma once
 
 #include <QFont>
 #include <QList>
-#include <QSizeF>
 #include <QTextDocument>
 
 class HtmlReport;
@@ -15,31 +14,41 @@ class QTextTable;
 /// In units of the screen.
 struct PdfLayout {
     QFont font;
-    QSizeF page;
+    qreal width = 0;
     QList<qreal> columns; ///< widths
+};
+
+/// What stands together on a page: a paragraph, the header of the table, a row.
+struct PdfBand {
+    qreal top = 0;
+    qreal bottom = 0;
+    bool ofRow = false; ///< needs the header above it and a line below
+
+    qreal height() const { return bottom - top; }
 };
 
 class PdfSlice {
 public:
-    /// Rows from first up to end; those that end up on a last page with room left are kept for the
-    /// next slice, unless they are the table's last.
     PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype first, qsizetype end);
 
-    int pages() const { return pages_; }
-    qsizetype next() const { return next_; } ///< the first row that is on none of the pages
-    /// Fills the paper, whose size is in units of the painter.
-    void draw(QPainter& painter, int page, const QSizeF& paper) const;
+    /// From above, each below the one before. The header is among them in the first slice only.
+    const QList<PdfBand>& bands() const { return bands_; }
+    const PdfBand& header() const { return header_; }
+    qreal width() const; ///< what is needed so that nothing is cut off
+    /// With its upper left corner at the painter's origin.
+    void draw(QPainter& painter, const PdfBand& band) const;
 
 private:
     QTextTable* table() const;
-    void setColumns(const PdfLayout& layout, int headerRows);
+    void setColumns(QTextTable& table, const PdfLayout& layout);
     static void drawLinesOnce(QTextTable& table, int row, int column);
-    void keepLastPage(int headerRows);
-    int pageOf(int row) const;
-    bool endsAbove(int row, qreal y) const;
+    void findParagraphs(int from, int to);
+    void findRows(const QTextTable& table, int headerRows, int rows);
+    qreal topOf(const QTextTable& table, int row) const;
+    void addBand(qreal bottom, bool ofRow);
 
     QTextDocument document_;
-    int pages_ = 0;
-    qsizetype first_;
-    qsizetype next_;
+    QList<PdfBand> bands_;
+    PdfBand header_;
+    qreal below_ = 0; ///< where the next band begins
 };

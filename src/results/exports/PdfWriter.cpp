@@ -4,7 +4,7 @@
 #include "results/exports/ExportFile.h"
 #include "results/exports/HtmlReport.h"
 #include "results/exports/PdfColumns.h"
-#include "results/exports/PdfSlice.h"
+#include "results/exports/PdfPages.h"
 #include "results/exports/PrintedFile.h"
 #include "results/tables/TableBase.h"
 
@@ -12,15 +12,13 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QScreen>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
 namespace {
 
 constexpr qreal margin = 10; // mm
-constexpr qsizetype cellsOfSlice = 6000;
-constexpr qsizetype pagesOfSlice = 6;
+constexpr qsizetype cellsOfSlice = 4000;
 
 class PdfReport {
 public:
@@ -34,9 +32,7 @@ private:
     void setUp(const QString& path);
     void choosePage(const PdfColumns& columns);
     qreal paperWidth() const; ///< in units of the screen
-    qsizetype rowsOfSlice() const;
     bool printSlices();
-    void drawPages(const PdfSlice& slice);
     bool goOn(qsizetype rows);
 
     const TableBase& table_;
@@ -44,9 +40,9 @@ private:
     HtmlReport html_;
     QFont font_;
     PdfLayout layout_;
+    QSizeF paper_; ///< of what is laid out for a page, in units of the screen
     QPrinter printer_{QPrinter::PrinterResolution};
     QPainter painter_;
-    bool firstPage_ = true;
     bool cancelled_ = false;
 };
 
@@ -77,7 +73,8 @@ void PdfReport::choosePage(const PdfColumns& columns) {
         printer_.setPageOrientation(QPageLayout::Landscape);
     const QRectF paper = printer_.pageLayout().paintRect(QPageLayout::Inch);
     const qreal width = std::max(paperWidth(), columns.width());
-    layout_.page = QSizeF(width, width * paper.height() / paper.width());
+    paper_ = QSizeF(width, width * paper.height() / paper.width());
+    layout_.width = width;
     layout_.columns = columns.filling(width);
 }
 
@@ -91,32 +88,18 @@ bool PdfReport::print(const QString& path) {
     return painter_.begin(&printer_) && printSlices() && painter_.end();
 }
 
-qsizetype PdfReport::rowsOfSlice() const {
-    const qreal rowHeight = QFontMetricsF(font_).height() + 2 * 8;
-    const auto rowsOfPage = static_cast<qsizetype>(layout_.page.height() / rowHeight);
-    const qsizetype columns = std::max<qsizetype>(layout_.columns.size(), 1);
-    return std::max(cellsOfSlice / columns, pagesOfSlice * rowsOfPage);
-}
-
 bool PdfReport::printSlices() {
+    PdfPages pages(printer_, painter_, paper_);
     const qsizetype rows = html_.rows();
+    const qsizetype columns = std::max<qsizetype>(layout_.columns.size(), 1);
+    const qsizetype rowsOfSlice = std::max<qsizetype>(cellsOfSlice / columns, 1);
     qsizetype first = 0;
     do {
-        const qsizetype end = std::min(rows, first + rowsOfSlice());
-        const PdfSlice slice(html_, layout_, first, end);
-        drawPages(slice);
-        first = slice.next();
-    } while (first < rows && goOn(first));
+        const qsizetype end = std::min(rows, first + rowsOfSlice);
+        pages.add(PdfSlice(html_, layout_, first, end));
+        first = end;
+    } while (goOn(first) && first < rows);
     return !cancelled_;
-}
-
-void PdfReport::drawPages(const PdfSlice& slice) {
-    for (int page = 0; page < slice.pages(); ++page) {
-        if (!firstPage_)
-            printer_.newPage();
-        firstPage_ = false;
-        slice.draw(painter_, page, printer_.pageRect(QPrinter::DevicePixel).size());
-    }
 }
 
 bool PdfReport::goOn(qsizetype rows) {

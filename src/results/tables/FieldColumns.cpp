@@ -5,7 +5,7 @@
 
 #include "TKelDataset.h"
 
-#include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -34,10 +34,10 @@ CellTexts readRecords(TKelDataset& data, const FieldColumns& columns) {
 FieldColumns columnsOf(TKelDataset& data) {
     FieldColumns columns;
     for (int i = 0; i < data.numFields(); ++i) {
-        const TKelField& field = *data.field(i);
-        columns.push_back({i, fieldDisplayName(field), QString::fromStdString(field.name()),
-                           QString::fromStdString(field.label()),
-                           QString::fromStdString(field.format()), fieldMarker(field), false});
+        const std::shared_ptr<TKelField> field = data.field(i);
+        columns.push_back({i, fieldDisplayName(*field), QString::fromStdString(field->name()),
+                           QString::fromStdString(field->label()),
+                           QString::fromStdString(field->format()), fieldMarker(*field), false});
     }
     return columns;
 }

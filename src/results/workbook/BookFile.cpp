@@ -13,7 +13,7 @@ constexpr qint64 pieceSize = 1024 * 1024;
 /// What the usual spreadsheets leave beside a workbook as long as they have it open.
 QString lockFile(const QFileInfo& book) {
     for (const char* pattern : {".~lock.%1#", "~$%1"}) {
-        const QString name = QString::fromLatin1(pattern).arg(book.fileName());
+        QString name = QString::fromLatin1(pattern).arg(book.fileName());
         if (book.dir().exists(name))
             return name;
     }
@@ -33,7 +33,7 @@ QString BookFile::copyOfExisting() const {
     const QString locked = lockFile(QFileInfo(file_.fileName()));
     if (!locked.isEmpty())
         throw WorkbookError::inUse(locked);
-    const QString copy = folder().filePath(QStringLiteral("book.xlsx"));
+    QString copy = folder().filePath(QStringLiteral("book.xlsx"));
     QFile existing(file_.fileName());
     if (!existing.copy(copy) || !QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner))
         throw WorkbookError::notWritten(existing.errorString());

@@ -25,5 +25,7 @@ CellFigure::CellFigure(std::string_view raw) {
     } else if (number && (number->whole ? isExact(*number->whole) : !isWrittenWhole(text))) {
         kind = isWrittenWhole(text) ? Kind::Whole : Kind::Real;
         value = number->value;
+    } else if (number) {
+        kind = Kind::Digits;
     }
 }

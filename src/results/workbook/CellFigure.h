@@ -5,10 +5,10 @@
 #include <string_view>
 
 struct CellFigure {
-    enum class Kind { Empty, Whole, Real, Text };
+    /// Digits: a whole number of which a workbook, whose numbers are doubles, would lose some.
+    enum class Kind { Empty, Whole, Real, Digits, Text };
 
-    /// Whole where the text is digits only; tested in 64 bits. Whole numbers that a double can't
-    /// hold exactly, and what is not finite, are texts: no digit is lost.
+    /// Whole where the text is digits only; tested in 64 bits.
     explicit CellFigure(std::string_view raw);
 
     bool isNumber() const { return kind == Kind::Whole || kind == Kind::Real; }

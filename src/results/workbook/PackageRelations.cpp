@@ -70,7 +70,7 @@ QString workbookPart(const ZipPackage& package) {
     const XmlPart relations(package.read(name, maxPartSize), name);
     if (hasRelation(relations, isSignature))
         throw WorkbookError::isSigned();
-    const QString book = targetOf(relations, QStringLiteral("officeDocument"), {});
+    QString book = targetOf(relations, QStringLiteral("officeDocument"), {});
     if (book.isEmpty())
         throw hasRelation(relations, isStrict) ? WorkbookError::strict()
                                                : WorkbookError::noWorkbook();

@@ -14,13 +14,23 @@ namespace {
 constexpr int rightAligned = 2;
 constexpr int alignmentMask = 31;
 
-void writeCell(Workbook& book, const ResultRows& rows, const CellArea& cell, qsizetype from,
-               bool isNumeric) {
-    const CellFigure figure(rows.text(from, cell.column));
-    if (isNumeric && figure.isNumber())
+/// Figures in the general format are shortened to that.
+constexpr std::size_t longestFigure = 11;
+
+/// Gives the width that it needs.
+double writeCell(Workbook& book, const ResultRows& rows, const CellArea& cell, qsizetype from,
+                 bool isNumeric) {
+    const std::string_view raw = rows.text(from, cell.column);
+    const CellFigure figure(raw);
+    if (isNumeric && figure.isNumber()) {
         book.number(cell.row, cell.column, figure.value, CellStyle::Plain);
-    else if (figure.kind != CellFigure::Kind::Empty)
-        book.text(cell.row, cell.column, rows.display(from, cell.column), CellStyle::Plain);
+        return static_cast<double>(std::min(raw.size(), longestFigure));
+    }
+    if (figure.kind == CellFigure::Kind::Empty)
+        return 0;
+    const QString text = SheetFrame::cellText(rows, from, cell.column, figure);
+    book.text(cell.row, cell.column, text, CellStyle::Plain);
+    return textWidth(text);
 }
 
 } // namespace
@@ -34,16 +44,21 @@ void plainsheet::checkSize(const TableBase& table) {
 void plainsheet::write(Workbook& book, const TableBase& table, CellProgress& progress) {
     const SheetHeader header(table);
     header.write(book, 0, 0, CellStyle::Label);
+    ColumnWidths widths;
+    header.measure(widths);
     const ResultRows& rows = table.cells();
     const QList<int> alignments = table.columnAlignments();
     int row = header.rows();
     for (qsizetype from = 0; from < rows.size(); ++from, ++row) {
         const int columns = static_cast<int>(rows.columns(from));
         for (int column = 0; column < columns; ++column)
-            writeCell(book, rows, {row, column}, from,
-                      (alignments.value(column) & alignmentMask) == rightAligned);
+            widths.take(column,
+                        writeCell(book, rows, {row, column}, from,
+                                  (alignments.value(column) & alignmentMask) == rightAligned));
         progress.add(columns);
     }
+    for (int column = 0; column < widths.columns(); ++column)
+        book.setColumnWidth(column, widths.width(column));
     for (const QString& line : SheetFrame::closingLines(book, table))
         book.text(++row, 0, line, CellStyle::Plain);
 }

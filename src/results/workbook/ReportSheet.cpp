@@ -50,8 +50,6 @@ void ReportSheet::write(Workbook& book, CellProgress& progress) {
 /// A row from its column to the table's last.
 void ReportSheet::wide(Workbook& book, int column, const QString& text, CellStyle style) {
     book.text(row_, column, text, style);
-    for (int covered = column + 1; covered <= columns_; ++covered)
-        book.blank(row_, covered, style);
     book.merge({row_, column, 1, columns_ + 1 - column});
     ++row_;
 }
@@ -84,7 +82,8 @@ void ReportSheet::writeFacts(Workbook& book) {
 void ReportSheet::writeSubject(Workbook& book) {
     const TableMetadata& facts = table_.metadata();
     if (facts.kind == tablekind::areaList) {
-        pair(book, tr("Entity"), facts.entityLabel);
+        pair(book, tr("Entity"),
+             facts.entityLabel.isEmpty() ? facts.entityName : facts.entityLabel);
         pair(book, tr("Key"), facts.key);
         return;
     }
@@ -111,7 +110,7 @@ void ReportSheet::writeCell(Workbook& book, qsizetype from, int column, bool isT
     const CellFigure figure(rows.text(from, column));
     if (figure.kind == CellFigure::Kind::Empty)
         return book.blank(row_, at, isTotal ? CellStyle::TotalText : CellStyle::Text);
-    const QString display = rows.display(from, column);
+    const QString display = SheetFrame::cellText(rows, from, column, figure);
     widths_.take(column, display);
     if (rows.isTextColumn(column) || !figure.isNumber())
         book.text(row_, at, display, isTotal ? CellStyle::TotalText : CellStyle::Text);

@@ -2,12 +2,19 @@
 #include "results/workbook/SheetFrame.h"
 
 #include "results/tables/TableBase.h"
+#include "results/workbook/CellFigure.h"
 #include "results/workbook/Workbook.h"
 #include "results/workbook/WorkbookError.h"
 #include "results/workbook/WorkbookText.h"
 
 namespace {
 constexpr qint64 closingRows = 3;
+}
+
+QString SheetFrame::cellText(const ResultRows& rows, qsizetype row, qsizetype column,
+                             const CellFigure& figure) {
+    return figure.kind == CellFigure::Kind::Digits ? rows.raw(row, column).trimmed()
+                                                   : rows.display(row, column);
 }
 
 QStringList SheetFrame::closingLines(const Workbook& book, const TableBase& table) {

@@ -6,18 +6,24 @@ namespace {
 constexpr QByteArrayView formatBegin(" s=\"");
 
 /// "<c r="A1" s="3">" with another number.
-QByteArray restyled(QByteArrayView tag, const QList<int>& formats) {
+void appendRestyled(QByteArrayView tag, const QList<QByteArray>& formats, QByteArray& out) {
     const qsizetype begin = tag.indexOf(formatBegin);
-    if (begin < 0)
-        return tag.toByteArray();
+    if (begin < 0) {
+        out.append(tag);
+        return;
+    }
     const qsizetype number = begin + formatBegin.size();
     const qsizetype end = tag.indexOf('"', number);
-    const int format = tag.sliced(number, end - number).toByteArray().toInt();
-    return tag.first(number).toByteArray() + QByteArray::number(formats.value(format)) +
-           tag.sliced(end).toByteArray();
+    const int format = tag.sliced(number, end - number).toInt();
+    out.append(tag.first(number)).append(formats.value(format)).append(tag.sliced(end));
 }
 
 } // namespace
+
+SheetRestyling::SheetRestyling(const QList<int>& formats) {
+    for (const int format : formats)
+        formats_ += QByteArray::number(format);
+}
 
 QByteArray SheetRestyling::take(QByteArrayView piece) {
     pending_.append(piece);
@@ -43,8 +49,10 @@ QByteArray SheetRestyling::take(QByteArrayView piece) {
 void SheetRestyling::takeTag(QByteArrayView tag, QByteArray& out) {
     if (tag.startsWith("<sheetViews"))
         inViews_ = true;
-    if (!inViews_)
-        out.append(tag.startsWith("<c ") ? restyled(tag, formats_) : tag.toByteArray());
+    if (tag.startsWith("<c "))
+        appendRestyled(tag, formats_, out);
+    else if (!inViews_)
+        out.append(tag);
     if (tag == QByteArrayView("</sheetViews>"))
         inViews_ = false;
 }

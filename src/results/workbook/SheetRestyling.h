@@ -9,7 +9,7 @@
 class SheetRestyling {
 public:
     /// formats: new numbers by old ones.
-    explicit SheetRestyling(const QList<int>& formats) : formats_(formats) {}
+    explicit SheetRestyling(const QList<int>& formats);
 
     /// What can be written of the text so far; the rest comes with the next piece.
     QByteArray take(QByteArrayView piece);
@@ -17,7 +17,7 @@ public:
 private:
     void takeTag(QByteArrayView tag, QByteArray& out);
 
-    const QList<int>& formats_;
+    QList<QByteArray> formats_;
     QByteArray pending_; ///< a tag that has begun
     bool inViews_ = false;
 };

@@ -70,7 +70,7 @@ QString StyleMerge::numberFormat(const QString& ourId) {
         const QString code = number->attribute("formatCode");
         if (const auto theirs = numberFormats_.constFind(code); theirs != numberFormats_.cend())
             return *theirs;
-        const QString id = QString::number(++lastNumberFormat_);
+        QString id = QString::number(++lastNumberFormat_);
         numberFormats_.insert(code, id);
         numbers_.items +=
             withPrefix(withAttribute(ours_.source(*number), "numFmtId", id), theirs_.root().prefix);

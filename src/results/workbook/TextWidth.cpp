@@ -43,10 +43,10 @@ double textWidth(QStringView text) {
     return width;
 }
 
-void ColumnWidths::take(qsizetype column, QStringView text) {
+void ColumnWidths::take(qsizetype column, double width) {
     if (column >= widest_.size())
         widest_.resize(column + 1);
-    widest_[column] = std::max(widest_[column], textWidth(text));
+    widest_[column] = std::max(widest_[column], width);
 }
 
 double ColumnWidths::width(qsizetype column) const {

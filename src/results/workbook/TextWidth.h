@@ -12,7 +12,9 @@ double textWidth(QStringView text);
 /// The widest text of each column.
 class ColumnWidths {
 public:
-    void take(qsizetype column, QStringView text);
+    void take(qsizetype column, QStringView text) { take(column, textWidth(text)); }
+    void take(qsizetype column, double width);
+    int columns() const { return static_cast<int>(widest_.size()); }
     /// With some room, never too narrow to click on and never wider than is readable.
     double width(qsizetype column) const;
 

@@ -27,7 +27,7 @@ public:
 
 private:
     XmlPart part(const QString& name, int depth = 3) const;
-    QString freePart(const QString& name, const QStringList& taken) const;
+    QString freePart(const QString& pattern, const QStringList& taken) const;
 
     QList<int> mergeStyles(const ZipPackage& ours);
     QStringList addParts(const ZipPackage& ours, const QStringList& names, const QDir& folder,

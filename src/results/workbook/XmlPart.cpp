@@ -34,6 +34,21 @@ XmlElement elementAt(const QXmlStreamReader& reader, const QString& text) {
     return element;
 }
 
+/// Longer ones hold so many attributes that reading them takes for ever.
+constexpr qsizetype longestTag = 65536;
+constexpr std::size_t mostElements = 500'000;
+constexpr std::size_t deepest = 256;
+
+bool hasEndlessTag(const QString& text) {
+    qsizetype end = 0;
+    for (qsizetype begin = text.indexOf(u'<'); begin >= 0; begin = text.indexOf(u'<', end)) {
+        end = text.indexOf(u'>', begin);
+        if (end < 0 || end - begin > longestTag)
+            return true;
+    }
+    return false;
+}
+
 bool isWellFormed(const QString& text) {
     QXmlStreamReader reader(text);
     while (!reader.atEnd())
@@ -48,7 +63,7 @@ XmlPart::XmlPart(const QByteArray& bytes, const QString& name, int depth) : name
     encoding_ = QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8);
     QStringDecoder decoder(encoding_);
     text_ = decoder.decode(bytes);
-    if (decoder.hasError())
+    if (decoder.hasError() || hasEndlessTag(text_))
         throw WorkbookError::damaged(name_);
     parse(depth);
 }
@@ -60,6 +75,8 @@ void XmlPart::parse(int depth) {
         const auto token = reader.readNext();
         if (token == QXmlStreamReader::DTD)
             throw WorkbookError::damaged(name_);
+        if (open.size() > deepest || elements_.size() > mostElements)
+            throw WorkbookError::tooLarge(name_);
         if (token == QXmlStreamReader::StartElement) {
             const bool isListed = static_cast<int>(open.size()) < depth;
             if (isListed) {

@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::size_t pieceSize = 65536;
 constexpr QByteArrayView sheetEnd("</worksheet>");
+/// The library's own choice takes three times as long for a twentieth less.
+constexpr zip_uint32_t compressionLevel = 5;
 constexpr double progressStep = 0.02;
 
 struct CloseFile {
@@ -124,11 +126,16 @@ void ZipPackage::replace(const QString& name, const QByteArray& content) {
 void ZipPackage::addFile(const QString& name, const QString& path) {
     zip_source_t* const source =
         zip_source_file(archive_.get(), QFile::encodeName(path).constData(), 0, -1);
-    if (source == nullptr ||
-        zip_file_add(archive_.get(), name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) < 0) {
+    const zip_int64_t index =
+        source == nullptr
+            ? -1
+            : zip_file_add(archive_.get(), name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
+    if (index < 0) {
         zip_source_free(source);
         throw archiveError(archive_.get());
     }
+    zip_set_file_compression(archive_.get(), static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE,
+                             compressionLevel);
 }
 
 void ZipPackage::close(const std::function<bool()>& goOn) {
