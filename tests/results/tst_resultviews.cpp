@@ -162,7 +162,7 @@ private slots:
                 }
         }
         const QAbstractItemModel& model = *report.view()->model();
-        const int header = 12;
+        const int header = 10;
         QCOMPARE(model.index(header, 1).data(1).toString(), "header");
         QCOMPARE(model.index(header, 1).data(Qt::BackgroundRole).value<QColor>(),
                  QColor("#7B7B7B"));
@@ -183,6 +183,7 @@ private slots:
         QStyleOptionViewItem option;
         option.initFrom(page.view());
         option.font = page.view()->font();
+        option.decorationSize = {16, 16};
         QVERIFY(page.view()->itemDelegate()->sizeHint(option, cell).width() <
                 plain.sizeHint(option, cell).width());
     }
