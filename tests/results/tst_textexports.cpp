@@ -27,7 +27,7 @@ private slots:
     void xmlWithoutVariables();
     void reportAlignsAsTheGrid();
     void jsonIsAsTheEngineGivesIt();
-    void htmlIsAsTold();
+    void htmlHoldsTheWholeReport();
     void htmlEscapesAndTellsOfHiddenCells();
 };
 
@@ -261,7 +261,7 @@ void tst_TextExports::jsonIsAsTheEngineGivesIt() {
     QCOMPARE(fixture.read("j"), QByteArray::fromStdString(table->json));
 }
 
-void tst_TextExports::htmlIsAsTold() {
+void tst_TextExports::htmlHoldsTheWholeReport() {
     QCOMPARE(
         HtmlReport(*madeCrosstab()).whole(),
         "<!DOCTYPE html><html><head><style>table {border-collapse: collapse; width: 100%;}"

@@ -27,14 +27,14 @@ QString translated(const char* text) {
 
 QString DirectExport::goodPath(const QString& asked, QStringList* notes) const {
     const QString results = settings_->directoryFor(QStringLiteral("TABLE"));
-    const QString path = QDir::cleanPath(QDir(results).absoluteFilePath(asked));
+    QString path = QDir::cleanPath(QDir(results).absoluteFilePath(asked));
     const QFileInfo file(path);
     if (file.dir().exists())
         return path;
     qCWarning(directLog).noquote() << file.path() << "does not exist.";
     qCWarning(directLog).noquote() << "Using default directory" << results;
     QDir().mkpath(results);
-    const QString instead = QDir(results).filePath(file.fileName());
+    QString instead = QDir(results).filePath(file.fileName());
     if (notes != nullptr)
         *notes += translated(QT_TRANSLATE_NOOP("DirectExport",
                                                "The folder %1 does not exist. %2 is written into "

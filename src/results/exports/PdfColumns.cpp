@@ -82,7 +82,7 @@ void PdfColumns::measureCells(const TableBase& table, const WriteProgress& progr
 
 void PdfColumns::measure(qsizetype row, qsizetype column, const TableBase& table) {
     const ResultRows& cells = table.reportCells();
-    // No letter is wider than three digits, so most cells need no closer look.
+    // Hardly a letter is wider than three digits, so most cells need no closer look.
     if (cells.text(row, column).empty())
         return;
     const QString shown = cells.display(row, column);

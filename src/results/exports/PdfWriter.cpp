@@ -19,6 +19,7 @@ namespace {
 
 constexpr qreal margin = 10; // mm
 constexpr qsizetype cellsOfSlice = 4000;
+constexpr qsizetype fewestRows = 12; ///< that make up for the header of a slice
 
 class PdfReport {
 public:
@@ -63,7 +64,8 @@ void PdfReport::setUp(const QString& path) {
 
 qreal PdfReport::paperWidth() const {
     const qreal inches = printer_.pageLayout().paintRect(QPageLayout::Inch).width();
-    return inches * QGuiApplication::primaryScreen()->logicalDotsPerInch();
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    return inches * (screen != nullptr ? screen->logicalDotsPerInch() : 96);
 }
 
 /// Across where the table needs it; what is wider still is laid out on a larger sheet, which is
@@ -92,7 +94,7 @@ bool PdfReport::printSlices() {
     PdfPages pages(printer_, painter_, paper_);
     const qsizetype rows = html_.rows();
     const qsizetype columns = std::max<qsizetype>(layout_.columns.size(), 1);
-    const qsizetype rowsOfSlice = std::max<qsizetype>(cellsOfSlice / columns, 1);
+    const qsizetype rowsOfSlice = std::max(cellsOfSlice / columns, fewestRows);
     qsizetype first = 0;
     do {
         const qsizetype end = std::min(rows, first + rowsOfSlice);

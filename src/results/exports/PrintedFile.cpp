@@ -5,6 +5,9 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QSaveFile>
+
+#include <algorithm>
 
 namespace {
 
