@@ -76,6 +76,8 @@ ResultListPage::ResultListPage()
     facts_->setWidgetResizable(true);
     facts_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     facts_->setWidget(content);
+    facts_->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
     pageLayout()->insertWidget(0, facts_);
     limitFacts();
     connect(view()->verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -132,11 +134,7 @@ ResultReportPage::ResultReportPage()
       model_(static_cast<ResultReportModel*>(view()->model())) {
     view()->setItemDelegate(new ResTableDelegate(view()));
     view()->setShowGrid(false);
-    // Paper under any palette. The cells around the table fill nothing, lest they cover its frames.
-    QPalette paper = view()->viewport()->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    view()->viewport()->setPalette(paper);
-    view()->setMargins(reportMargin);
+    view()->setPaper(reportMargin);
     view()->horizontalHeader()->hide();
     view()->verticalHeader()->hide();
 }

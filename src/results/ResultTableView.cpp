@@ -5,6 +5,8 @@
 #include "results/ResultModel.h"
 
 #include <QHeaderView>
+#include <QPaintEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -38,8 +40,15 @@ ResultTableView::ResultTableView(ResultModel* model, const QString& objectName, 
     horizontalHeader()->setMinimumSectionSize(1);
 }
 
-void ResultTableView::setMargins(int width) {
-    margin_ = width;
+void ResultTableView::setPaper(int margin) {
+    margin_ = margin;
+}
+
+void ResultTableView::paintEvent(QPaintEvent* event) {
+    // The style sheet undoes a palette of the view's own.
+    if (margin_ > 0)
+        QPainter(viewport()).fillRect(event->rect(), Qt::white);
+    QTableView::paintEvent(event);
 }
 
 void ResultTableView::fit() {

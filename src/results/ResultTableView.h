@@ -16,7 +16,9 @@ public:
 
     /// Spans and widths anew, after the model has another table.
     void fit();
-    void setMargins(int width); ///< the first and last columns are that wide, in pixels
+    /// White under any palette, with a first and a last column of that width, in pixels. Cells at
+    /// the edges need no ground of their own, which would cover the frames of their neighbours.
+    void setPaper(int margin);
     /// The rectangle around all that is selected; empty where nothing is.
     QRect selectedBounds() const;
 
@@ -24,6 +26,7 @@ signals:
     void itemSelectionChanged();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
 

@@ -148,10 +148,13 @@ private slots:
     void copiedTableKeepsFullPrecision() {
         runSex();
         auto* tree = bench_->find<QWidget>("ResultsManager")->findChild<QTreeView*>("treeView");
+        bench_->activate();
         tree->setFocus();
+        QTRY_VERIFY(tree->hasFocus());
         QTest::keyClick(tree, Qt::Key_C, Qt::ControlModifier);
         const QString text = QGuiApplication::clipboard()->text();
-        QVERIFY(text.startsWith("PERSON.SEX (Sex of the person)\tCount\t%\tCumul%\n"));
+        QVERIFY2(text.startsWith("PERSON.SEX (Sex of the person)\tCount\t%\tCumul%\n"),
+                 qPrintable(text));
         QVERIFY2(text.contains("1. Male\t2.500000\t26.315789"), qPrintable(text));
     }
 

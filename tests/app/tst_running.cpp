@@ -7,7 +7,6 @@
 #include "projects/TfrmProject.h"
 #include "sample/sample.h"
 
-#include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMdiArea>
@@ -127,28 +126,27 @@ private slots:
         QCOMPARE(bench_->messages, QStringList());
         QVERIFY(QFileInfo(file).size() > 0);
         QCOMPARE(bench_->resultCount(), 4);
-        QDir(bench_->folder()).mkdir("taken.csv");
         bench_->window().runProgram("FREQ PERSON.SEX OUTFILE CSV \"" + bench_->folder() +
-                                    "/taken.csv\"");
-        QCOMPARE(bench_->messages.size(), 1);
-        QVERIFY2(bench_->messages[0].contains("taken.csv was not written"),
-                 qPrintable(bench_->messages[0]));
+                                    "/nowhere/sex.csv\"");
+        QVERIFY2(bench_->messages.join('\n').contains("nowhere"),
+                 qPrintable(bench_->messages.join('\n')));
     }
 
     void figuresShowInTheirForm() {
+        // Rows from the last one.
         const auto shown = [&](int row, int column, int role = Qt::DisplayRole) {
-            const auto* table = bench_->find<QTableView>("tableWidget");
-            return table->model()->index(row, column).data(role).toString();
+            const QAbstractItemModel& table = *bench_->find<QTableView>("tableWidget")->model();
+            return table.index(table.rowCount() - 1 - row, column).data(role).toString();
         };
         bench_->window().runProgram("COUNT PERSON");
-        QCOMPARE(shown(1, 1), "1 000 000");
+        QCOMPARE(shown(0, 1), "1 000 000");
         // Beyond the whole numbers of 64 bits.
         bench_->window().runProgram(
             "DEFINE PERSON.BIG AS PERSON.AGE * 1000000000000000.0 * 10000.0\n"
             "SUM PERSON.BIG\n");
-        const double sum = shown(1, 0, Qt::UserRole).toDouble();
-        QVERIFY2(sum > 1e26, qPrintable(shown(1, 0, Qt::UserRole)));
-        QCOMPARE(shown(1, 0).remove(' ').toDouble(), sum);
+        const double sum = shown(0, 0, Qt::UserRole).toDouble();
+        QVERIFY2(sum > 1e26, qPrintable(shown(0, 0, Qt::UserRole)));
+        QCOMPARE(shown(0, 0).remove(' ').toDouble(), sum);
         bench_->window().runProgram("RUNDEF SELECTION INLINE PROVINCE \"01\"\n"
                                     "FREQ PERSON.SEX TITLE \"Sex in the first province\"");
         QCOMPARE(bench_->messages, QStringList());

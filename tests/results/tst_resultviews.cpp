@@ -9,10 +9,12 @@
 #include "support/Contrast.h"
 #include "support/OwnSettings.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QStyleOptionViewItem>
 #include <QStyledItemDelegate>
@@ -162,7 +164,7 @@ private slots:
                 }
         }
         const QAbstractItemModel& model = *report.view()->model();
-        const int header = 12;
+        const int header = 10;
         QCOMPARE(model.index(header, 1).data(1).toString(), "header");
         QCOMPARE(model.index(header, 1).data(Qt::BackgroundRole).value<QColor>(),
                  QColor("#7B7B7B"));
@@ -171,6 +173,24 @@ private slots:
                  QColor(192, 192, 192)); // a row of totals
         QCOMPARE(model.index(header + 3, 1).data(Qt::BackgroundRole).value<QColor>(),
                  QColor(Qt::white));
+    }
+
+    void reportIsPaperUnderADarkPalette() {
+        const QPalette before = QApplication::palette();
+        const auto restore = qScopeGuard([&] { QApplication::setPalette(before); });
+        QPalette dark = before;
+        dark.setColor(QPalette::Base, Qt::black);
+        dark.setColor(QPalette::Text, Qt::white);
+        QApplication::setPalette(dark);
+        ResultReportPage page;
+        page.resize(900, 700);
+        page.showTable(*madeFrequency());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        const QWidget* area = page.view()->viewport();
+        const QImage shown = page.view()->viewport()->grab().toImage();
+        QCOMPARE(shown.pixelColor(area->width() - 3, 3), QColor(Qt::white));
+        QCOMPARE(shown.pixelColor(3, area->height() - 3), QColor(Qt::white));
     }
 
     void framesMakeNoRoomForIcons() {
@@ -183,6 +203,7 @@ private slots:
         QStyleOptionViewItem option;
         option.initFrom(page.view());
         option.font = page.view()->font();
+        option.decorationSize = {16, 16};
         QVERIFY(page.view()->itemDelegate()->sizeHint(option, cell).width() <
                 plain.sizeHint(option, cell).width());
     }
