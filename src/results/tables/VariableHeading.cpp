@@ -14,11 +14,6 @@ QString withLabel(const QString& name, const QString& label) {
     return label.isEmpty() || label == name ? name : name + " (" + label + ")";
 }
 
-/// A column may be worked out from variables; then its name is the text of that.
-bool isExpression(const std::string& name) {
-    return name.find_first_of(" .()+-*/<>=,") != std::string::npos;
-}
-
 QString orPath(const std::string& text, const QString& path) {
     return text.empty() ? path : QString::fromStdString(text);
 }
@@ -28,7 +23,7 @@ QString orPath(const std::string& text, const QString& path) {
 QString variablePath(const TKelVariable& variable) {
     const TKelEntity* entity = variable.entity(false);
     QString name = QString::fromStdString(variable.name());
-    if (entity == nullptr || entity->name().empty() || isExpression(variable.name()))
+    if (entity == nullptr || entity->name().empty())
         return name;
     return QString::fromStdString(entity->name()) + "." + name;
 }
