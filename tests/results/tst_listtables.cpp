@@ -97,6 +97,17 @@ private slots:
         QCOMPARE(rowUnder(output, options), "01|1|3|7");
     }
 
+    void hidesTotalsOfSeveralFigures() {
+        const auto table = run_->table("TABLE T1 AS STATS OF PERSON.AGE BY PERSON.SEX\n"
+                                       "AREALIST DISTRICT, T1");
+        const QStringList all = table->columnHeaders();
+        QVERIFY(all.join('|').contains("Total Mean"));
+        table->setHideTotal(true);
+        table->rebuild();
+        QVERIFY(table->columnHeaders().size() < all.size());
+        QVERIFY(!table->columnHeaders().join('|').contains("Total"));
+    }
+
     void optionsShowAfterRebuild() {
         const auto table = run_->table(areas);
         QCOMPARE(table->cells().width(), 7);

@@ -37,7 +37,7 @@ private slots:
     void areaListHasEntityAndKey();
     void figuresKeepTheirDigits_data();
     void figuresKeepTheirDigits();
-    void countsOfAColumnHaveNoDecimals();
+    void figuresWrittenWithDecimalsShowThem();
     void textsArriveAsTheyAre_data();
     void textsArriveAsTheyAre();
     void tooLongTextsAreCutAndSaidSo();
@@ -220,7 +220,7 @@ void TestWorkbook::figuresKeepTheirDigits() {
     QCOMPARE(grid.value("A2").toString(), "0102");
 }
 
-void TestWorkbook::countsOfAColumnHaveNoDecimals() {
+void TestWorkbook::figuresWrittenWithDecimalsShowThem() {
     const MadeTable table(
         madeLayout({QStringLiteral("Sex"), QStringLiteral("Count"), QStringLiteral("%")},
                    {{"1. Male", "2.000000", "40.000000"},
@@ -228,9 +228,9 @@ void TestWorkbook::countsOfAColumnHaveNoDecimals() {
                     {"0. __tot__", "5", "100"}}),
         madeFacts(tablekind::frequency, QStringLiteral("FREQUENCY"), {QStringLiteral("Sex")}));
     const ReadWorkbook book = report({&table});
-    QCOMPARE(book.look("C11"), "Tahoma 9 - - thin # ##0");
+    QCOMPARE(book.look("C11"), "Tahoma 9 - - thin # ##0.00");
     QCOMPARE(book.value("C11").toDouble(), 2);
-    QCOMPARE(book.look("D11"), "Tahoma 9 - - thin # ##0.00");
+    QCOMPARE(book.look("C13"), "Tahoma 9 - FFC0C0C0 thin # ##0");
     QCOMPARE(book.look("D13"), "Tahoma 9 - FFC0C0C0 thin # ##0");
 }
 

@@ -54,16 +54,16 @@ std::vector<TKelVariable*> spanningVariables(TKelOutput& output) {
 // The words are not translated: charts and maps leave columns out by them.
 QString fieldMarker(const TKelField& field) {
     const std::string label = field.label();
-    if (label == "$tot$")
+    if (label.starts_with("$tot$"))
         return QStringLiteral("Total");
-    if (label == "$mv$")
+    if (label.starts_with("$mv$"))
         return QStringLiteral("MV");
-    return label == "$na$" ? QStringLiteral("NA") : QString();
+    return label.starts_with("$na$") ? QStringLiteral("NA") : QString();
 }
 
 QString fieldDisplayName(const TKelField& field) {
     QString marker = fieldMarker(field);
-    if (!marker.isEmpty())
+    if (!marker.isEmpty() && field.label().ends_with('$'))
         return marker;
     if (!field.name().empty())
         return QString::fromStdString(field.name());

@@ -19,9 +19,10 @@ QString variableHeading(const TKelVariable& variable, const QString& preference)
 /// Those whose categories make the rows and columns: without a measured variable before them.
 std::vector<TKelVariable*> spanningVariables(TKelOutput& output);
 
-/// "Total", "MV", "NA" of a field labelled "$tot$", "$mv$", "$na$"; empty for others.
+/// "Total", "MV", "NA" of a field labelled "$tot$", "$mv$", "$na$", or so with the name of one of
+/// several figures behind it; empty for others.
 QString fieldMarker(const TKelField& field);
-/// Its marker, else its name, else its group.
+/// The marker where that is all its label says, else its name, else its group.
 QString fieldDisplayName(const TKelField& field);
 
 /// "1. Male"; the code alone where the label is the same or there is none.

@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 
-#include <vector>
 
 class CellProgress;
 class TableBase;
@@ -35,7 +34,6 @@ private:
     const TableBase& table_;
     SheetHeader header_;
     ColumnWidths widths_;
-    std::vector<bool> wholeColumns_; ///< have no figure with a fraction
     int columns_;                    ///< of the table
     int row_ = 0;                    ///< next one to write
 };
