@@ -43,6 +43,7 @@ private slots:
     void sheetNamesAreAcceptableAndOwn();
     void decimalSignIsAPointInEveryLanguage();
     void columnsAreAsWideAsTheirTexts();
+    void tablesWithoutRowsAreSheetsToo();
 
 private:
     ReadWorkbook plain(const QList<const TableBase*>& tables) {
@@ -306,6 +307,22 @@ void TestWorkbook::columnsAreAsWideAsTheirTexts() {
     QVERIFY(book.width("C") < 12);
     const ReadWorkbook grid = plain({table.get()});
     QVERIFY(grid.width("A") > 25 && grid.width("A") < 45);
+}
+
+void TestWorkbook::tablesWithoutRowsAreSheetsToo() {
+    const auto facts = madeFacts(tablekind::median, QStringLiteral("MEDIAN"));
+    const MadeTable headed(madeLayout({QStringLiteral("Entity"), QStringLiteral("Count")}, {}),
+                           facts);
+    const MadeTable nothing(madeLayout({}, {}, 0), facts);
+    const ReadWorkbook book = report({&headed, &nothing});
+    QCOMPARE(book.problems(), QString());
+    QCOMPARE(book.sheets(), QStringList({"T_1", "T_1 (2)"}));
+    QCOMPARE(book.value("C9").toString(), "Count");
+    QCOMPARE(book.value("A7", 1).toString(), "MEDIAN");
+    const ReadWorkbook grid = plain({&headed, &nothing});
+    QCOMPARE(grid.problems(), QString());
+    QCOMPARE(grid.value("B1").toString(), "Count");
+    QVERIFY(plain({}).problems().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestWorkbook)

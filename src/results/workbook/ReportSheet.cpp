@@ -50,8 +50,6 @@ void ReportSheet::write(Workbook& book, CellProgress& progress) {
 /// A row from its column to the table's last.
 void ReportSheet::wide(Workbook& book, int column, const QString& text, CellStyle style) {
     book.text(row_, column, text, style);
-    for (int covered = column + 1; covered <= columns_; ++covered)
-        book.blank(row_, covered, style);
     book.merge({row_, column, 1, columns_ + 1 - column});
     ++row_;
 }

@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -44,6 +45,41 @@ void writeRestyled(const ZipPackage& ours, const QString& sheet, const QString& 
     if (!file.flush())
         throw WorkbookError::cutOff();
 }
+
+/// What file managers show of the workbook. Other ways to keep the list than the usual one are left
+/// alone: no program relies on it.
+struct TitleLists {
+    static constexpr int depth = 5;
+
+    static std::optional<TitleLists> find(const XmlPart& facts) {
+        const auto inner = [&facts](const XmlElement* element, qsizetype index) {
+            return element != nullptr ? facts.children(*element).value(index) : nullptr;
+        };
+        const XmlElement* const list = inner(facts.child(facts.root(), "TitlesOfParts"), 0);
+        const XmlElement* const pairs = inner(facts.child(facts.root(), "HeadingPairs"), 0);
+        const XmlElement* const count = inner(inner(pairs, 1), 0);
+        if (list == nullptr || count == nullptr)
+            return {};
+        const XmlElement* const last = inner(list, facts.content(*count).toLongLong() - 1);
+        return last != nullptr ? std::optional(TitleLists{*count, *list, *last}) : std::nullopt;
+    }
+
+    void append(XmlPart& facts, const QStringList& names) const {
+        const auto raised = [&](const QString& number) {
+            return QString::number(number.toLongLong() + names.size());
+        };
+        QString added;
+        for (const QString& name : names)
+            added += QStringLiteral("<%1lpstr>%2</%1lpstr>").arg(list.prefix, name.toHtmlEscaped());
+        facts.replaceContent(count, raised(facts.content(count)));
+        facts.changeAttribute(list, "size", raised(list.attribute("size")));
+        facts.insertAfter(last, added);
+    }
+
+    const XmlElement& count; ///< of the sheets
+    const XmlElement& list;  ///< titles of the sheets, then those of other parts
+    const XmlElement& last;  ///< title of a sheet
+};
 
 /// The prefix of the namespace of relations where it is declared for the whole part, else one that
 /// the element declares itself.
@@ -188,33 +224,14 @@ void WorkbookAppender::listSheets(const QStringList& names, const QStringList& r
     change(book_, book);
 }
 
-/// What file managers show of the workbook. Other ways to keep the list than the usual one are left
-/// alone: no program relies on it.
 void WorkbookAppender::listTitles(const QStringList& names) {
     if (!package_.contains(titles))
         return;
-    XmlPart facts = part(titles, 5);
-    const auto vector = [&facts](const char* name) {
-        const XmlElement* const holder = facts.child(facts.root(), name);
-        const auto inner = holder != nullptr ? facts.children(*holder) : QList<const XmlElement*>();
-        return inner.isEmpty() ? nullptr : inner.first();
-    };
-    const XmlElement* const pairs = vector("HeadingPairs");
-    const XmlElement* const list = vector("TitlesOfParts");
-    const auto headings = pairs != nullptr ? facts.children(*pairs) : QList<const XmlElement*>();
-    const auto counts =
-        headings.size() > 1 ? facts.children(*headings[1]) : QList<const XmlElement*>();
-    const auto known = list != nullptr ? facts.children(*list) : QList<const XmlElement*>();
-    const int count = counts.isEmpty() ? 0 : facts.content(*counts.first()).toInt();
-    if (count < 1 || count > known.size())
-        return;
-    QString added;
-    for (const QString& name : names)
-        added += QStringLiteral("<%1lpstr>%2</%1lpstr>").arg(list->prefix, name.toHtmlEscaped());
-    facts.replaceContent(*counts.first(), QString::number(count + names.size()));
-    facts.changeAttribute(*list, "size", QString::number(known.size() + names.size()));
-    facts.insertAfter(*known[count - 1], added);
-    change(titles, facts);
+    XmlPart facts = part(titles, TitleLists::depth);
+    if (const auto lists = TitleLists::find(facts)) {
+        lists->append(facts, names);
+        change(titles, facts);
+    }
 }
 
 void WorkbookAppender::checkKept(const QHash<QString, quint32>& before, const QStringList& added,

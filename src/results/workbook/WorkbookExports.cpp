@@ -111,7 +111,7 @@ WriteOutcome writeReportWorkbook(const QList<const TableBase*>& tables, const QS
                                  bool overwrite, const WriteProgress& progress) {
     const QString target = withSuffix(path);
     const bool isNew = overwrite || !QFileInfo::exists(target);
-    const WriteOutcome outcome = outcomeOf(target, [&] {
+    WriteOutcome outcome = outcomeOf(target, [&] {
         for (const TableBase* table : tables)
             ReportSheet(*table).checkSize();
         BookFile file(target);
