@@ -37,6 +37,7 @@ private slots:
     void areaListHasEntityAndKey();
     void figuresKeepTheirDigits_data();
     void figuresKeepTheirDigits();
+    void countsOfAColumnHaveNoDecimals();
     void textsArriveAsTheyAre_data();
     void textsArriveAsTheyAre();
     void tooLongTextsAreCutAndSaidSo();
@@ -136,8 +137,7 @@ void TestWorkbook::reportTellsEveryFact() {
     };
     for (const auto& [place, text] : told)
         QCOMPARE(book.value(place).toString(), QLatin1String(text));
-    // 48.000000 is no whole number as it stands; a total's percents neither.
-    QCOMPARE(book.look("D21"), "Tahoma 9 - - thin # ##0.00");
+    QCOMPARE(book.look("D21"), "Tahoma 9 - - thin # ##0");
     QCOMPARE(book.look("D23"), "Tahoma 9 - FFC0C0C0 thin # ##0");
     QCOMPARE(book.look("E23"), "Tahoma 9 - FFC0C0C0 thin General");
     QCOMPARE(book.value("B24").toString(), "MV");
@@ -218,6 +218,20 @@ void TestWorkbook::figuresKeepTheirDigits() {
     QCOMPARE(grid.problems(), QString());
     QCOMPARE(grid.cell("B2")["type"].toString(), type);
     QCOMPARE(grid.value("A2").toString(), "0102");
+}
+
+void TestWorkbook::countsOfAColumnHaveNoDecimals() {
+    const MadeTable table(
+        madeLayout({QStringLiteral("Sex"), QStringLiteral("Count"), QStringLiteral("%")},
+                   {{"1. Male", "2.000000", "40.000000"},
+                    {"2. Female", "3.000000", "60.5"},
+                    {"0. __tot__", "5", "100"}}),
+        madeFacts(tablekind::frequency, QStringLiteral("FREQUENCY"), {QStringLiteral("Sex")}));
+    const ReadWorkbook book = report({&table});
+    QCOMPARE(book.look("C11"), "Tahoma 9 - - thin # ##0");
+    QCOMPARE(book.value("C11").toDouble(), 2);
+    QCOMPARE(book.look("D11"), "Tahoma 9 - - thin # ##0.00");
+    QCOMPARE(book.look("D13"), "Tahoma 9 - FFC0C0C0 thin # ##0");
 }
 
 void TestWorkbook::textsArriveAsTheyAre_data() {

@@ -7,6 +7,7 @@
 #include "results/workbook/SheetFrame.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -17,6 +18,22 @@ constexpr qint64 mostFactRows = 24;
 int columnsOf(const TableBase& table, const SheetHeader& header) {
     return static_cast<int>(std::max<qsizetype>(
         {table.columnHeaders().size(), table.reportCells().width(), header.columns()}));
+}
+
+bool hasFraction(const CellFigure& figure) {
+    return figure.kind == CellFigure::Kind::Real && figure.value != std::floor(figure.value);
+}
+
+/// Columns all of whose figures are whole: "1200.000000" is a count there, and shown as one.
+std::vector<bool> wholeColumnsOf(const ResultRows& rows) {
+    std::vector<bool> whole(static_cast<std::size_t>(rows.width()), true);
+    for (qsizetype row = 0; row < rows.size(); ++row)
+        for (qsizetype column = 0; column < rows.columns(row); ++column) {
+            const auto index = static_cast<std::size_t>(column);
+            if (whole[index] && hasFraction(CellFigure(rows.text(row, column))))
+                whole[index] = false;
+        }
+    return whole;
 }
 
 } // namespace
@@ -32,6 +49,7 @@ void ReportSheet::checkSize() const {
 }
 
 void ReportSheet::write(Workbook& book, CellProgress& progress) {
+    wholeColumns_ = wholeColumnsOf(table_.reportCells());
     writeFacts(book);
     ++row_;
     header_.write(book, row_, tableColumn, CellStyle::Header);
@@ -114,7 +132,8 @@ void ReportSheet::writeCell(Workbook& book, qsizetype from, int column, bool isT
     widths_.take(column, display);
     if (rows.isTextColumn(column) || !figure.isNumber())
         book.text(row_, at, display, isTotal ? CellStyle::TotalText : CellStyle::Text);
-    else if (figure.kind == CellFigure::Kind::Whole)
+    else if (figure.kind == CellFigure::Kind::Whole ||
+             wholeColumns_[static_cast<std::size_t>(column)])
         book.number(row_, at, figure.value, isTotal ? CellStyle::TotalInteger : CellStyle::Integer);
     else
         book.number(row_, at, figure.value, isTotal ? CellStyle::TotalReal : CellStyle::Real);

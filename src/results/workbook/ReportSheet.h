@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <vector>
+
 class CellProgress;
 class TableBase;
 
@@ -33,6 +35,7 @@ private:
     const TableBase& table_;
     SheetHeader header_;
     ColumnWidths widths_;
-    int columns_; ///< of the table
-    int row_ = 0; ///< next one to write
+    std::vector<bool> wholeColumns_; ///< have no figure with a fraction
+    int columns_;                    ///< of the table
+    int row_ = 0;                    ///< next one to write
 };
