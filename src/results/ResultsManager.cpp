@@ -142,7 +142,7 @@ QStringList ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs,
         std::make_unique<ResultProcess>(outputs, std::move(session), maker, stylePath,
                                         progress ? progress->progress() : WriteProgress());
     progress.reset();
-    const QStringList lines = process->lines();
+    QStringList lines = process->lines();
     processes_.push_back(std::move(process));
     rebuildTree();
     return lines;
