@@ -354,6 +354,7 @@ ResultsManager& MainWindow::resultsManager() {
                 &MainWindow::onResultsManagerTableShowed);
         hasResults_ = true;
     }
+    resultsManager_->setDatabasePath(TfrmProject::instance().dictionaryPath());
     return *resultsManager_;
 }
 

@@ -69,7 +69,7 @@ private slots:
         QCOMPARE(MainWindow::instance(), &bench_->window());
         QCOMPARE(leftDocks(), QStringList());
         QCOMPARE(bench_->windowNames(), QStringList());
-        QVERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
+        QTRY_VERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
         QCOMPARE(ribbon().CurrentTab(), 0);
     }
 
@@ -391,7 +391,7 @@ private slots:
         QVERIFY(!TfrmProject::instance().isOpen());
         QTRY_VERIFY(bench_->find<QWidget>("ResultsManager") == nullptr);
         QTRY_COMPARE(leftDocks(), QStringList());
-        QVERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
+        QTRY_VERIFY(bench_->find<QPushButton>("openDictionary")->isVisible());
         QCOMPARE(ribbon().CurrentTab(), 0);
     }
 

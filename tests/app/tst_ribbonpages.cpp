@@ -139,7 +139,8 @@ private slots:
         QTest::newRow("window")
             << 5 << "  WINDOW  "
             << QStringList{"Restore",
-                           "Tile vertical,Tile horizontal,Cascade,Minimize All,Arrange Icons"};
+                           "Tile vertical,Tile horizontal,Cascade,Minimize All,Arrange Icons",
+                           "Results"};
         QTest::newRow("general") << 6 << "  GENERAL  " << QStringList{"Preferences,Help,About"};
     }
 

@@ -137,7 +137,7 @@ void TestWorkbook::reportTellsEveryFact() {
     };
     for (const auto& [place, text] : told)
         QCOMPARE(book.value(place).toString(), QLatin1String(text));
-    QCOMPARE(book.look("D21"), "Tahoma 9 - - thin # ##0");
+    QCOMPARE(book.look("D21"), "Tahoma 9 - - thin # ##0.00");
     QCOMPARE(book.look("D23"), "Tahoma 9 - FFC0C0C0 thin # ##0");
     QCOMPARE(book.look("E23"), "Tahoma 9 - FFC0C0C0 thin General");
     QCOMPARE(book.value("B24").toString(), "MV");
