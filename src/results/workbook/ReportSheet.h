@@ -8,7 +8,6 @@
 
 #include <QCoreApplication>
 
-
 class CellProgress;
 class TableBase;
 
@@ -34,6 +33,6 @@ private:
     const TableBase& table_;
     SheetHeader header_;
     ColumnWidths widths_;
-    int columns_;                    ///< of the table
-    int row_ = 0;                    ///< next one to write
+    int columns_; ///< of the table
+    int row_ = 0; ///< next one to write
 };
