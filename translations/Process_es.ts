@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" sourcelanguage="en" language="es">
+<TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name>AppProperties</name>
     <message>
@@ -22,6 +22,36 @@
     <message>
         <source>EN CONSTRUCCION</source>
         <translation>EN CONSTRUCCIÓN</translation>
+    </message>
+</context>
+<context>
+    <name>ArealistViewOptionsDialog</name>
+    <message>
+        <source>Show Totals Row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished">Variables</translation>
+    </message>
+</context>
+<context>
+    <name>AverageLayout</name>
+    <message>
+        <source>Variable</source>
+        <translation type="unfinished">Variable</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -95,6 +125,48 @@
     </message>
 </context>
 <context>
+    <name>ColumnGroupRows</name>
+    <message>
+        <source>Columns at place %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished">Mostrar</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked: %1 shows in the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 always shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ColumnGroups</name>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished">Total</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished">Variables</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MV</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
@@ -107,6 +179,13 @@
     <message>
         <source>General</source>
         <translation>General</translation>
+    </message>
+</context>
+<context>
+    <name>CrossTable</name>
+    <message>
+        <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -296,6 +375,17 @@
     <message>
         <source>The file %1 cannot be written: %2</source>
         <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DirectExport</name>
+    <message>
+        <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program gives no name of a file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -700,6 +790,17 @@
     </message>
 </context>
 <context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileChangeNotice</name>
     <message>
         <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
@@ -956,84 +1057,14 @@ Do you want to reload the file instead?</source>
     </message>
 </context>
 <context>
-    <name>FrequencyTable</name>
+    <name>FormatDialog</name>
     <message>
-        <source>Unit of count: %1</source>
-        <translation>Unidad de conteo: %1</translation>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Not weighted</source>
-        <translation>Sin ponderar</translation>
-    </message>
-    <message>
-        <source>Weight: %1</source>
-        <translation>Ponderador: %1</translation>
-    </message>
-    <message>
-        <source>Filter: %1</source>
-        <translation>Filtro: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) hidden to protect persons</source>
-        <translation>
-            <numerusform>%n celda oculta para proteger a las personas</numerusform>
-            <numerusform>%n celdas ocultas para proteger a las personas</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Total</source>
-        <translation>Total</translation>
-    </message>
-    <message>
-        <source>Missing</source>
-        <translation>Omitido</translation>
-    </message>
-    <message>
-        <source>Not applicable</source>
-        <translation>No aplica</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Código</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Etiqueta</translation>
-    </message>
-    <message>
-        <source>Count</source>
-        <translation>Casos</translation>
-    </message>
-    <message>
-        <source>Percent</source>
-        <translation>Porcentaje</translation>
-    </message>
-    <message>
-        <source>Weighted count</source>
-        <translation>Casos ponderados</translation>
-    </message>
-    <message>
-        <source>Areas: %1</source>
-        <translation>Áreas: %1</translation>
-    </message>
-</context>
-<context>
-    <name>FrequencyView</name>
-    <message>
-        <source>No results yet</source>
-        <translation>Aún no hay resultados</translation>
-    </message>
-    <message>
-        <source>Select a variable and choose Frequency (F9).</source>
-        <translation>Seleccione una variable y elija Frecuencia (F9).</translation>
-    </message>
-    <message>
-        <source>Copy Table</source>
-        <translation>Copiar tabla</translation>
-    </message>
-    <message>
-        <source>Frequency table</source>
-        <translation>Tabla de frecuencias</translation>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1104,6 +1135,61 @@ Do you want to reload the file instead?</source>
     <message>
         <source>Put all settings back to those of a new installation</source>
         <translation>Restablecer todas las preferencias a las de una instalación nueva</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralStylePage</name>
+    <message>
+        <source>Comma  ( , )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Period ( . )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space  (   )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>e.g. Census2024</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Optional description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label:</source>
+        <translation type="unfinished">Etiqueta:</translation>
+    </message>
+    <message>
+        <source> decimal(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numbers in this style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thousand separator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1320,10 +1406,6 @@ Do you want to reload the file instead?</source>
         <source>Do you want to save the changes in the dictionary?</source>
         <translation>¿Desea guardar los cambios del diccionario?</translation>
     </message>
-    <message>
-        <source>%1 was not written: the workbench writes no results into files yet</source>
-        <translation>%1 no se escribió: el programa aún no guarda resultados en archivos</translation>
-    </message>
 </context>
 <context>
     <name>Messages</name>
@@ -1360,6 +1442,60 @@ Do you want to reload the file instead?</source>
     </message>
 </context>
 <context>
+    <name>OneVariableLayout</name>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cumul%</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OneVariableStylePage</name>
+    <message>
+        <source>Show percentage column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show cumulative percentage column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Total row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show N/A row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show MV row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default (engine order)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row order:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>OpenDictionaryButtonMenu</name>
     <message>
         <source>&amp;Open...</source>
@@ -1375,52 +1511,33 @@ Do you want to reload the file instead?</source>
     </message>
 </context>
 <context>
-    <name>OutputModel</name>
+    <name>OrderDialog</name>
     <message>
-        <source>Total</source>
-        <translation>Total</translation>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Missing</source>
-        <translation>Omitido</translation>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Not applicable</source>
-        <translation>No aplica</translation>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Weight: %1</source>
-        <translation>Ponderador: %1</translation>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Filter: %1</source>
-        <translation>Filtro: %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) hidden to protect persons</source>
-        <translation>
-            <numerusform>%n celda oculta para proteger a las personas</numerusform>
-            <numerusform>%n celdas ocultas para proteger a las personas</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Etiqueta</translation>
-    </message>
-    <message>
-        <source>Areas: %1</source>
-        <translation>Áreas: %1</translation>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>OutputView</name>
+    <name>PrintedFile</name>
     <message>
-        <source>Copy Table</source>
-        <translation>Copiar tabla</translation>
-    </message>
-    <message>
-        <source>Rows of the result</source>
-        <translation>Filas del resultado</translation>
+        <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2042,14 +2159,338 @@ Do you want to reload the file instead?</source>
     </message>
 </context>
 <context>
+    <name>ReportSheet</name>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geographic Area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished">Filtro</translation>
+    </message>
+    <message>
+        <source>Universal Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted (%1) by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation type="unfinished">Entidad</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crosstab</source>
+        <translation type="unfinished">Cruce</translation>
+    </message>
+    <message>
+        <source>of </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultExports</name>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXCEL (*.xlsx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultFacts</name>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished">Filtro</translation>
+    </message>
+    <message>
+        <source>Universal Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation type="unfinished">Entidad</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geographic Area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crosstab</source>
+        <translation type="unfinished">Cruce</translation>
+    </message>
+</context>
+<context>
+    <name>ResultFaults</name>
+    <message>
+        <source>%1 was not written: cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ResultsManager</name>
     <message>
         <source>Results</source>
         <translation>Resultados</translation>
     </message>
     <message>
-        <source>Tables of the results</source>
-        <translation>Tabulados de los resultados</translation>
+        <source>CSV (Label as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as CSV (Label as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV (Name as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as CSV (Name as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XLSX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as XLSX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the selected cells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No table has been selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table result was exported directly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No cells are selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many cells to copy; an export takes them all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tabla</translation>
+    </message>
+    <message>
+        <source>No table is shown.
+Run a program, or choose a table in the tree.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs and their tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cells of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exports and options</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultsTreeViewContextMenu</name>
+    <message>
+        <source>Select all</source>
+        <translation type="unfinished">Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Deselect all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copiar</translation>
+    </message>
+    <message>
+        <source>Export selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXCEL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2103,6 +2544,36 @@ Do you want to reload the file instead?</source>
     <message>
         <source>Select Language</source>
         <translation>Seleccione el idioma</translation>
+    </message>
+</context>
+<context>
+    <name>SeveralVariablesStylePage</name>
+    <message>
+        <source>Show N/A rows/columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show MV rows/columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-variable matrix by first variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-variable layout:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SheetFrame</name>
+    <message>
+        <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2288,6 +2759,153 @@ Do you want to reload the file instead?</source>
 </source>
         <translation>La definición de la variable fue modificada. ¿Desea guardar los cambios?
 </translation>
+    </message>
+</context>
+<context>
+    <name>TableMetadata</name>
+    <message>
+        <source>All Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation type="unfinished">
+            <numerusform>%n celda oculta para proteger a las personas</numerusform>
+            <numerusform>%n celdas ocultas para proteger a las personas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TableStyleEditorDialog</name>
+    <message>
+        <source>Table Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style — %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections of the style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished">General</translation>
+    </message>
+    <message>
+        <source>Frequency (1 Var)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frequency (Multi Var)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished">Guardar</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Cancelar</translation>
+    </message>
+    <message>
+        <source>Save Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style (*.json);;All Files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not write file:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation type="unfinished">Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The changes to this table style are not saved. Do you want to discard them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished">Descartar</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TableStylesButtonMenu</name>
+    <message>
+        <source>Table style saved.
+
+No program file is currently active.
+Add this line inside the DEFINE block of your .spc:
+
+    TABLESTYLE &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TABLESTYLE line inserted into:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table style saved.
+Could not update program file.
+Add this line manually inside the DEFINE block:
+
+    TABLESTYLE &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished">Nuevo</translation>
+    </message>
+    <message>
+        <source>Make a table style and name it in the program in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished">Abrir</translation>
+    </message>
+    <message>
+        <source>Change a table style and name it in the program in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style (*.json);;All Files (*)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2965,6 +3583,65 @@ Pulse el botón Localizar de la barra Diccionario</translation>
     <message>
         <source>Line up the minimized windows at the bottom</source>
         <translation>Alinear en la parte inferior las ventanas minimizadas</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished">Resultados</translation>
+    </message>
+    <message>
+        <source>Show the tables made so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WorkbookError</name>
+    <message>
+        <source>there is no room for the sheet %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook can&apos;t be written: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it did not reach the disk as a whole; is there enough space?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

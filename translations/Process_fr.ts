@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" sourcelanguage="en" language="fr">
+<TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name>AppProperties</name>
     <message>
@@ -25,6 +25,36 @@
     </message>
 </context>
 <context>
+    <name>ArealistViewOptionsDialog</name>
+    <message>
+        <source>Show Totals Row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished">Variables</translation>
+    </message>
+</context>
+<context>
+    <name>AverageLayout</name>
+    <message>
+        <source>Variable</source>
+        <translation type="unfinished">Variable</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BottomPanel</name>
     <message>
         <source>Output</source>
@@ -39,7 +69,7 @@
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation>Lignes du presse-papiers qui ne sont pas des modalités : %1</translation>
+        <translation>Lignes du presse-papiers qui ne sont pas des modalités&#xa0;: %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
@@ -95,6 +125,48 @@
     </message>
 </context>
 <context>
+    <name>ColumnGroupRows</name>
+    <message>
+        <source>Columns at place %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished">Afficher</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked: %1 shows in the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 always shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ColumnGroups</name>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished">Total</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished">Variables</translation>
+    </message>
+    <message>
+        <source>NA</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MV</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ConfigDialog</name>
     <message>
         <source>Kelx Preferences</source>
@@ -107,6 +179,13 @@
     <message>
         <source>General</source>
         <translation>Général</translation>
+    </message>
+</context>
+<context>
+    <name>CrossTable</name>
+    <message>
+        <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -175,7 +254,7 @@
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -272,19 +351,19 @@
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation>Fichier introuvable : %1</translation>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation>Fichier : %1</translation>
+        <translation>Fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation>Enregistrements : %1</translation>
+        <translation>Enregistrements&#xa0;: %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation>Variables : %1</translation>
+        <translation>Variables&#xa0;: %1</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -295,7 +374,18 @@
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation>Impossible d’écrire le fichier %1 : %2</translation>
+        <translation>Impossible d’écrire le fichier %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>DirectExport</name>
+    <message>
+        <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program gives no name of a file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -321,35 +411,35 @@
     </message>
     <message>
         <source>&quot;Toggle Comment&quot;</source>
-        <translation>« Commenter/Décommenter »</translation>
+        <translation>«&#xa0;Commenter/Décommenter&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Wizard Define&quot;</source>
-        <translation>« Assistant DEFINE »</translation>
+        <translation>«&#xa0;Assistant DEFINE&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Wizard Table&quot;</source>
-        <translation>« Assistant TABLE »</translation>
+        <translation>«&#xa0;Assistant TABLE&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Execute Blow Up&quot;</source>
-        <translation>« Déplier EXECUTE »</translation>
+        <translation>«&#xa0;Déplier EXECUTE&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Define Frequency&quot;</source>
-        <translation>« Tri à plat des DEFINE »</translation>
+        <translation>«&#xa0;Tri à plat des DEFINE&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Syntax Clue&quot;</source>
-        <translation>« Aide syntaxique »</translation>
+        <translation>«&#xa0;Aide syntaxique&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Edit Table&quot;</source>
-        <translation>« Modifier le tableau »</translation>
+        <translation>«&#xa0;Modifier le tableau&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;Edit Graph&quot;</source>
-        <translation>« Modifier le graphique »</translation>
+        <translation>«&#xa0;Modifier le graphique&#xa0;»</translation>
     </message>
     <message>
         <source>No results found.</source>
@@ -361,7 +451,7 @@
     </message>
     <message>
         <source>Found %1 coincidences</source>
-        <translation>Occurrences trouvées : %1</translation>
+        <translation>Occurrences trouvées&#xa0;: %1</translation>
     </message>
     <message>
         <source>Document searched. Replaced </source>
@@ -503,7 +593,7 @@
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation>Variable code : </translation>
+        <translation>Variable code&#xa0;: </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
@@ -515,7 +605,7 @@
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation>Variable libellé : </translation>
+        <translation>Variable libellé&#xa0;: </translation>
     </message>
     <message>
         <source>No automatic weight</source>
@@ -531,7 +621,7 @@
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation>Nombre d’éléments : </translation>
+        <translation>Nombre d’éléments&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -589,19 +679,19 @@
     </message>
     <message>
         <source>Label:</source>
-        <translation>Libellé :</translation>
+        <translation>Libellé&#xa0;:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias :</translation>
+        <translation>Alias&#xa0;:</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation>Autre nom de l’entité ; la touche Entrée l’enregistre</translation>
+        <translation>Autre nom de l’entité&#xa0;; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère :</translation>
+        <translation>Repère&#xa0;:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
@@ -609,7 +699,7 @@
     </message>
     <message>
         <source>Code:</source>
-        <translation>Code :</translation>
+        <translation>Code&#xa0;:</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
@@ -617,7 +707,7 @@
     </message>
     <message>
         <source>Code size:</source>
-        <translation>Taille du code :</translation>
+        <translation>Taille du code&#xa0;:</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
@@ -629,7 +719,7 @@
     </message>
     <message>
         <source>Weight:</source>
-        <translation>Pondération :</translation>
+        <translation>Pondération&#xa0;:</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
@@ -637,7 +727,7 @@
     </message>
     <message>
         <source>Compound:</source>
-        <translation>Composé :</translation>
+        <translation>Composé&#xa0;:</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
@@ -645,7 +735,7 @@
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation>Divulgation :</translation>
+        <translation>Divulgation&#xa0;:</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
@@ -653,7 +743,7 @@
     </message>
     <message>
         <source>Elements:</source>
-        <translation>Éléments :</translation>
+        <translation>Éléments&#xa0;:</translation>
     </message>
     <message>
         <source>Number of records</source>
@@ -661,7 +751,7 @@
     </message>
     <message>
         <source>File:</source>
-        <translation>Fichier :</translation>
+        <translation>Fichier&#xa0;:</translation>
     </message>
     <message>
         <source>Found on disk</source>
@@ -700,6 +790,17 @@
     </message>
 </context>
 <context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileChangeNotice</name>
     <message>
         <source>The file %1 was changed by another program, and this text has changes that are not saved. Saving will replace the file.
@@ -707,11 +808,11 @@
 Do you want to reload the file instead?</source>
         <translation>Le fichier %1 a été modifié par un autre programme et ce texte contient des modifications non enregistrées. L’enregistrement remplacera le fichier.
 
-Voulez-vous plutôt recharger le fichier ?</translation>
+Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>The file %1 was changed by another program. Do you want to reload it?</source>
-        <translation>Le fichier %1 a été modifié par un autre programme. Voulez-vous le recharger ?</translation>
+        <translation>Le fichier %1 a été modifié par un autre programme. Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>File changed</source>
@@ -727,15 +828,15 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>The file %1 cannot be reloaded: %2</source>
-        <translation>Impossible de recharger le fichier %1 : %2</translation>
+        <translation>Impossible de recharger le fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
-        <translation>Le fichier %1 a été supprimé par un autre programme. Son texte reste ouvert ici : enregistrez-le pour le conserver.</translation>
+        <translation>Le fichier %1 a été supprimé par un autre programme. Son texte reste ouvert ici&#xa0;: enregistrez-le pour le conserver.</translation>
     </message>
     <message>
         <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
-        <translation>Le fichier %1 a été modifié par un autre programme depuis sa lecture ici. Voulez-vous le remplacer ?</translation>
+        <translation>Le fichier %1 a été modifié par un autre programme depuis sa lecture ici. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -916,11 +1017,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Find what: </source>
-        <translation>Rechercher : </translation>
+        <translation>Rechercher&#xa0;: </translation>
     </message>
     <message>
         <source>Replace with: </source>
-        <translation>Remplacer par : </translation>
+        <translation>Remplacer par&#xa0;: </translation>
     </message>
     <message>
         <source>Match case</source>
@@ -956,99 +1057,29 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
 </context>
 <context>
-    <name>FrequencyTable</name>
+    <name>FormatDialog</name>
     <message>
-        <source>Unit of count: %1</source>
-        <translation>Unité de compte : %1</translation>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Not weighted</source>
-        <translation>Non pondéré</translation>
-    </message>
-    <message>
-        <source>Weight: %1</source>
-        <translation>Pondération : %1</translation>
-    </message>
-    <message>
-        <source>Filter: %1</source>
-        <translation>Filtre : %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) hidden to protect persons</source>
-        <translation>
-            <numerusform>%n cellule masquée pour protéger les personnes</numerusform>
-            <numerusform>%n cellules masquées pour protéger les personnes</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Total</source>
-        <translation>Total</translation>
-    </message>
-    <message>
-        <source>Missing</source>
-        <translation>Non déclaré</translation>
-    </message>
-    <message>
-        <source>Not applicable</source>
-        <translation>Sans objet</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Code</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Libellé</translation>
-    </message>
-    <message>
-        <source>Count</source>
-        <translation>Effectif</translation>
-    </message>
-    <message>
-        <source>Percent</source>
-        <translation>Pourcentage</translation>
-    </message>
-    <message>
-        <source>Weighted count</source>
-        <translation>Effectif pondéré</translation>
-    </message>
-    <message>
-        <source>Areas: %1</source>
-        <translation>Zones : %1</translation>
-    </message>
-</context>
-<context>
-    <name>FrequencyView</name>
-    <message>
-        <source>No results yet</source>
-        <translation>Aucun résultat pour l’instant</translation>
-    </message>
-    <message>
-        <source>Select a variable and choose Frequency (F9).</source>
-        <translation>Sélectionnez une variable, puis choisissez Tri à plat (F9).</translation>
-    </message>
-    <message>
-        <source>Copy Table</source>
-        <translation>Copier le tableau</translation>
-    </message>
-    <message>
-        <source>Frequency table</source>
-        <translation>Tableau de tri à plat</translation>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation>Libellé :</translation>
+        <translation>Libellé&#xa0;:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias :</translation>
+        <translation>Alias&#xa0;:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère :</translation>
+        <translation>Repère&#xa0;:</translation>
     </message>
     <message>
         <source>General</source>
@@ -1063,7 +1094,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation>Toutes les préférences, les listes de fichiers récents et les dossiers mémorisés reprendront leurs valeurs initiales. Voulez-vous continuer ?</translation>
+        <translation>Toutes les préférences, les listes de fichiers récents et les dossiers mémorisés reprendront leurs valeurs initiales. Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Application Language</source>
@@ -1071,7 +1102,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation>Choisir la langue :</translation>
+        <translation>Choisir la langue&#xa0;:</translation>
     </message>
     <message>
         <source>Startup</source>
@@ -1095,7 +1126,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation>Couleurs du menu :</translation>
+        <translation>Couleurs du menu&#xa0;:</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
@@ -1104,6 +1135,61 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message>
         <source>Put all settings back to those of a new installation</source>
         <translation>Rétablir tous les paramètres d’une nouvelle installation</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralStylePage</name>
+    <message>
+        <source>Comma  ( , )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Period ( . )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space  (   )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>e.g. Census2024</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Optional description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label:</source>
+        <translation type="unfinished">Libellé&#xa0;:</translation>
+    </message>
+    <message>
+        <source> decimal(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numbers in this style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimals:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thousand separator:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1145,19 +1231,19 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation>Libellé :</translation>
+        <translation>Libellé&#xa0;:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias :</translation>
+        <translation>Alias&#xa0;:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation>Groupe :</translation>
+        <translation>Groupe&#xa0;:</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère :</translation>
+        <translation>Repère&#xa0;:</translation>
     </message>
     <message>
         <source>Hidden</source>
@@ -1184,7 +1270,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Line number: </source>
-        <translation>Numéro de ligne : </translation>
+        <translation>Numéro de ligne&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -1251,19 +1337,19 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation>Localiser les chemins : %1 sur %2</translation>
+        <translation>Localiser les chemins&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation>Variable : </translation>
+        <translation>Variable&#xa0;: </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation>Fichier manquant : </translation>
+        <translation>Fichier manquant&#xa0;: </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation>Chemin manquant : </translation>
+        <translation>Chemin manquant&#xa0;: </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
@@ -1271,7 +1357,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation>Nouveau chemin :</translation>
+        <translation>Nouveau chemin&#xa0;:</translation>
     </message>
     <message>
         <source>Relocate</source>
@@ -1291,7 +1377,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation>Arrêter la recherche des fichiers ; les relocalisations déjà faites sont conservées</translation>
+        <translation>Arrêter la recherche des fichiers&#xa0;; les relocalisations déjà faites sont conservées</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
@@ -1318,11 +1404,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Do you want to save the changes in the dictionary?</source>
-        <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
-    </message>
-    <message>
-        <source>%1 was not written: the workbench writes no results into files yet</source>
-        <translation>%1 n’a pas été écrit : le programme n’enregistre pas encore de résultats dans des fichiers</translation>
+        <translation>Voulez-vous enregistrer les modifications du dictionnaire&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1344,19 +1426,73 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <name>MetricReporter</name>
     <message>
         <source>Words: </source>
-        <translation>Mots : </translation>
+        <translation>Mots&#xa0;: </translation>
     </message>
     <message>
         <source>Chars: </source>
-        <translation>Caractères : </translation>
+        <translation>Caractères&#xa0;: </translation>
     </message>
     <message>
         <source>Line: </source>
-        <translation>Ligne : </translation>
+        <translation>Ligne&#xa0;: </translation>
     </message>
     <message>
         <source>Column: </source>
-        <translation>Colonne : </translation>
+        <translation>Colonne&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>OneVariableLayout</name>
+    <message>
+        <source>Count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cumul%</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OneVariableStylePage</name>
+    <message>
+        <source>Show percentage column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show cumulative percentage column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Total row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show N/A row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show MV row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default (engine order)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Row order:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1375,52 +1511,33 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
 </context>
 <context>
-    <name>OutputModel</name>
+    <name>OrderDialog</name>
     <message>
-        <source>Total</source>
-        <translation>Total</translation>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Missing</source>
-        <translation>Non déclaré</translation>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Not applicable</source>
-        <translation>Sans objet</translation>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Weight: %1</source>
-        <translation>Pondération : %1</translation>
+        <source>View Options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Filter: %1</source>
-        <translation>Filtre : %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s) hidden to protect persons</source>
-        <translation>
-            <numerusform>%n cellule masquée pour protéger les personnes</numerusform>
-            <numerusform>%n cellules masquées pour protéger les personnes</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>Libellé</translation>
-    </message>
-    <message>
-        <source>Areas: %1</source>
-        <translation>Zones : %1</translation>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>OutputView</name>
+    <name>PrintedFile</name>
     <message>
-        <source>Copy Table</source>
-        <translation>Copier le tableau</translation>
-    </message>
-    <message>
-        <source>Rows of the result</source>
-        <translation>Lignes du résultat</translation>
+        <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1451,11 +1568,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Time Expected: </source>
-        <translation>Temps prévu : </translation>
+        <translation>Temps prévu&#xa0;: </translation>
     </message>
     <message>
         <source> s - Time Elapsed: </source>
-        <translation> s - Temps écoulé : </translation>
+        <translation> s - Temps écoulé&#xa0;: </translation>
     </message>
     <message>
         <source> s</source>
@@ -1522,11 +1639,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Le format du texte d’erreur reçu de KelEngine ne semble pas correspondre au format défini initialement ; il est donc impossible d’atteindre la ligne de code où se produit l’erreur&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;Le format du texte d’erreur reçu de KelEngine ne semble pas correspondre au format défini initialement&#xa0;; il est donc impossible d’atteindre la ligne de code où se produit l’erreur&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Apply to all open and future tabs?</source>
-        <translation>Appliquer à tous les onglets ouverts et à venir ?</translation>
+        <translation>Appliquer à tous les onglets ouverts et à venir&#xa0;?</translation>
     </message>
     <message>
         <source>Word wrapping</source>
@@ -1542,7 +1659,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Langage :</translation>
+        <translation>Langage&#xa0;:</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -1740,7 +1857,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Cannot save file: </source>
-        <translation>Impossible d’enregistrer le fichier : </translation>
+        <translation>Impossible d’enregistrer le fichier&#xa0;: </translation>
     </message>
     <message>
         <source>Untitled document</source>
@@ -1783,11 +1900,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <name>ProgramListRun</name>
     <message>
         <source>Current Program: </source>
-        <translation>Programme en cours : </translation>
+        <translation>Programme en cours&#xa0;: </translation>
     </message>
     <message>
         <source>Current Program :</source>
-        <translation>Programme en cours :</translation>
+        <translation>Programme en cours&#xa0;:</translation>
     </message>
     <message>
         <source>Execution Canceled</source>
@@ -1826,7 +1943,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Error: </source>
-        <translation>Erreur : </translation>
+        <translation>Erreur&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -1929,11 +2046,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation>Une nouvelle version est disponible !</translation>
+        <translation>Une nouvelle version est disponible&#xa0;!</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation>Voulez-vous télécharger la mise à jour maintenant ? L’application en cours sera fermée</translation>
+        <translation>Voulez-vous télécharger la mise à jour maintenant&#xa0;? L’application en cours sera fermée</translation>
     </message>
 </context>
 <context>
@@ -1948,7 +2065,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
-        <translation>Kelvora X s’est arrêté avant l’enregistrement de ces &amp;programmes. Les programmes restaurés s’ouvrent avec leurs modifications ; leurs fichiers restent en l’état jusqu’à ce que vous enregistriez.</translation>
+        <translation>Kelvora X s’est arrêté avant l’enregistrement de ces &amp;programmes. Les programmes restaurés s’ouvrent avec leurs modifications&#xa0;; leurs fichiers restent en l’état jusqu’à ce que vous enregistriez.</translation>
     </message>
     <message>
         <source>Programs that were not saved</source>
@@ -2005,8 +2122,8 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message numerus="yes">
         <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
         <translation>
-            <numerusform>Voulez-vous abandonner %n programme ? Son texte ne pourra pas être récupéré.</numerusform>
-            <numerusform>Voulez-vous abandonner %n programmes ? Leur texte ne pourra pas être récupéré.</numerusform>
+            <numerusform>Voulez-vous abandonner %n programme&#xa0;? Son texte ne pourra pas être récupéré.</numerusform>
+            <numerusform>Voulez-vous abandonner %n programmes&#xa0;? Leur texte ne pourra pas être récupéré.</numerusform>
         </translation>
     </message>
     <message>
@@ -2038,7 +2155,183 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Differs; the file was changed later</source>
-        <translation>Différent ; le fichier a été modifié après</translation>
+        <translation>Différent&#xa0;; le fichier a été modifié après</translation>
+    </message>
+</context>
+<context>
+    <name>ReportSheet</name>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geographic Area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished">Filtre</translation>
+    </message>
+    <message>
+        <source>Universal Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted (%1) by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation type="unfinished">Entité</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crosstab</source>
+        <translation type="unfinished">Tableau croisé</translation>
+    </message>
+    <message>
+        <source>of </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultExports</name>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML (*.xml)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXCEL (*.xlsx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultFacts</name>
+    <message>
+        <source>Ascending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished">Filtre</translation>
+    </message>
+    <message>
+        <source>Universal Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation type="unfinished">Entité</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Geographic Area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crosstab</source>
+        <translation type="unfinished">Tableau croisé</translation>
+    </message>
+</context>
+<context>
+    <name>ResultFaults</name>
+    <message>
+        <source>%1 was not written: cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2048,8 +2341,156 @@ Voulez-vous plutôt recharger le fichier ?</translation>
         <translation>Résultats</translation>
     </message>
     <message>
-        <source>Tables of the results</source>
-        <translation>Tableaux de résultats</translation>
+        <source>CSV (Label as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as CSV (Label as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV (Name as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as CSV (Name as header)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XLSX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as XLSX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export as PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+    <message>
+        <source>Copy the selected cells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No table has been selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table result was exported directly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No cells are selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied to clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many cells to copy; an export takes them all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tableau</translation>
+    </message>
+    <message>
+        <source>No table is shown.
+Run a program, or choose a table in the tree.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs and their tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cells of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exports and options</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResultsTreeViewContextMenu</name>
+    <message>
+        <source>Select all</source>
+        <translation type="unfinished">Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Deselect all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished">Copier</translation>
+    </message>
+    <message>
+        <source>Export selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXCEL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2106,10 +2547,40 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
 </context>
 <context>
+    <name>SeveralVariablesStylePage</name>
+    <message>
+        <source>Show N/A rows/columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show MV rows/columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-variable matrix by first variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-variable layout:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SheetFrame</name>
+    <message>
+        <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation>Microdonnées de recensements et d’enquêtes : explorez une base de données, produisez des tableaux, des graphiques et des cartes.</translation>
+        <translation>Microdonnées de recensements et d’enquêtes&#xa0;: explorez une base de données, produisez des tableaux, des graphiques et des cartes.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
@@ -2286,8 +2757,155 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications&#xa0;?
 </translation>
+    </message>
+</context>
+<context>
+    <name>TableMetadata</name>
+    <message>
+        <source>All Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s) hidden to protect persons</source>
+        <translation type="unfinished">
+            <numerusform>%n cellule masquée pour protéger les personnes</numerusform>
+            <numerusform>%n cellules masquées pour protéger les personnes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>TableStyleEditorDialog</name>
+    <message>
+        <source>Table Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style — %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections of the style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished">Général</translation>
+    </message>
+    <message>
+        <source>Frequency (1 Var)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frequency (Multi Var)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished">Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+    <message>
+        <source>Save Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style (*.json);;All Files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not write file:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation type="unfinished">Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The changes to this table style are not saved. Do you want to discard them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished">Abandonner</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TableStylesButtonMenu</name>
+    <message>
+        <source>Table style saved.
+
+No program file is currently active.
+Add this line inside the DEFINE block of your .spc:
+
+    TABLESTYLE &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TABLESTYLE line inserted into:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table style saved.
+Could not update program file.
+Add this line manually inside the DEFINE block:
+
+    TABLESTYLE &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished">Nouveau</translation>
+    </message>
+    <message>
+        <source>Make a table style and name it in the program in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished">Ouvrir</translation>
+    </message>
+    <message>
+        <source>Change a table style and name it in the program in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Table Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table Style (*.json);;All Files (*)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2325,11 +2943,11 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>This is not a text file: line %1 has a null byte.</source>
-        <translation>Ce n’est pas un fichier texte : la ligne %1 contient un octet nul.</translation>
+        <translation>Ce n’est pas un fichier texte&#xa0;: la ligne %1 contient un octet nul.</translation>
     </message>
     <message>
         <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
-        <translation>Le fichier n’est pas codé en UTF-8 : la ligne %1 contient d’autres octets. Convertissez-le en UTF-8 pour l’ouvrir ici.</translation>
+        <translation>Le fichier n’est pas codé en UTF-8&#xa0;: la ligne %1 contient d’autres octets. Convertissez-le en UTF-8 pour l’ouvrir ici.</translation>
     </message>
     <message>
         <source>The file is too large to be read (beyond 256 MB).</source>
@@ -2356,7 +2974,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation>Erreur lors de la validation du dictionnaire :</translation>
+        <translation>Erreur lors de la validation du dictionnaire&#xa0;:</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
@@ -2365,7 +2983,7 @@ Voulez-vous plutôt recharger le fichier ?</translation>
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation>Certains chemins de variables ou d’entités sont introuvables !
+        <translation>Certains chemins de variables ou d’entités sont introuvables&#xa0;!
 Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</translation>
     </message>
     <message>
@@ -2394,7 +3012,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation>Le dictionnaire a été modifié. Enregistrer les modifications ?</translation>
+        <translation>Le dictionnaire a été modifié. Enregistrer les modifications&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -2405,12 +3023,12 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications&#xa0;?
 </translation>
     </message>
     <message>
@@ -2442,7 +3060,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
@@ -2450,7 +3068,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Visualiser &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
@@ -2458,7 +3076,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Masquer toutes les variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
@@ -2466,7 +3084,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Réafficher toutes les variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Réafficher toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
@@ -2516,7 +3134,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation>La chaîne de caractères saisie existe déjà : c’est l’entité </translation>
+        <translation>La chaîne de caractères saisie existe déjà&#xa0;: c’est l’entité </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
@@ -2524,7 +3142,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation>La chaîne de caractères saisie existe déjà comme nom de variable : </translation>
+        <translation>La chaîne de caractères saisie existe déjà comme nom de variable&#xa0;: </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
@@ -2548,14 +3166,14 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation>Impossible de renommer la variable : ce n’est pas une variable locale</translation>
+        <translation>Impossible de renommer la variable&#xa0;: ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation>La modalité « %1 » n’a pas de code</translation>
+        <translation>La modalité «&#xa0;%1&#xa0;» n’a pas de code</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
@@ -2574,15 +3192,15 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation>Type : %1</translation>
+        <translation>Type&#xa0;: %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation>Alias : %1</translation>
+        <translation>Alias&#xa0;: %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation>Fichier introuvable : %1</translation>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2609,43 +3227,43 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation>Nom : </translation>
+        <translation>Nom&#xa0;: </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation>Libellé : </translation>
+        <translation>Libellé&#xa0;: </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation>Alias : </translation>
+        <translation>Alias&#xa0;: </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation>Groupe : </translation>
+        <translation>Groupe&#xa0;: </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation>Repère : </translation>
+        <translation>Repère&#xa0;: </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation>Type : </translation>
+        <translation>Type&#xa0;: </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation>Min. : </translation>
+        <translation>Min.&#xa0;: </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation>Max. : </translation>
+        <translation>Max.&#xa0;: </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation>Sans objet : </translation>
+        <translation>Sans objet&#xa0;: </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation>Non déclaré : </translation>
+        <translation>Non déclaré&#xa0;: </translation>
     </message>
     <message>
         <source>Variable Properties</source>
@@ -2680,27 +3298,27 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Label:</source>
-        <translation>Libellé :</translation>
+        <translation>Libellé&#xa0;:</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias :</translation>
+        <translation>Alias&#xa0;:</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation>Autre nom de la variable ; la touche Entrée l’enregistre</translation>
+        <translation>Autre nom de la variable&#xa0;; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation>Groupe :</translation>
+        <translation>Groupe&#xa0;:</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation>Les variables d’un même groupe vont ensemble ; la touche Entrée l’enregistre</translation>
+        <translation>Les variables d’un même groupe vont ensemble&#xa0;; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère :</translation>
+        <translation>Repère&#xa0;:</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
@@ -2803,7 +3421,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
@@ -2811,7 +3429,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Visualiser des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
@@ -2819,7 +3437,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Masquer des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
@@ -2827,7 +3445,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Ne plus masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
@@ -2839,15 +3457,15 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Tri à plat du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Tri à plat du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Statistiques du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Visualiser du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
@@ -2855,7 +3473,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Masquer du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
@@ -2863,7 +3481,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Ne plus masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
@@ -2871,11 +3489,11 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation>Voulez-vous vraiment supprimer la ou les variables ?</translation>
+        <translation>Voulez-vous vraiment supprimer la ou les variables&#xa0;?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation>Impossible de supprimer la variable : ce n’est pas une variable locale</translation>
+        <translation>Impossible de supprimer la variable&#xa0;: ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
@@ -2966,6 +3584,65 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
         <source>Line up the minimized windows at the bottom</source>
         <translation>Aligner en bas les fenêtres réduites</translation>
     </message>
+    <message>
+        <source>Results</source>
+        <translation type="unfinished">Résultats</translation>
+    </message>
+    <message>
+        <source>Show the tables made so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WorkbookError</name>
+    <message>
+        <source>there is no room for the sheet %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook can&apos;t be written: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it did not reach the disk as a whole; is there enough space?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>XmlDicxDictionary</name>
@@ -2989,7 +3666,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation>Voulez-vous le localiser ?</translation>
+        <translation>Voulez-vous le localiser&#xa0;?</translation>
     </message>
     <message>
         <source>Confirm</source>

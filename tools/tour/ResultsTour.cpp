@@ -89,6 +89,8 @@ void Tour::shootResult(const QString& program, const QString& name, bool report)
 
 void Tour::results() {
     const QTemporaryDir folder;
+    const QSize before = window_.size();
+    window_.resize(1800, 950); // docks stand beside the tables
     shootResult(QStringLiteral("FREQ PERSON.EDUCATION"), QStringLiteral("frequency"), true);
     shootResult(QStringLiteral("AVERAGE PERSON.INCOME BY PERSON.EDUCATION\n\tDECIMALS 1"),
                 QStringLiteral("average"), false);
@@ -106,6 +108,7 @@ void Tour::results() {
                 QStringLiteral("three-way-matrix"), true);
     shootResult(threeWay, QStringLiteral("three-way"), true);
     exports(folder.path());
+    window_.resize(before);
 }
 
 /// The table in front as a file of each kind, as another program shows it.
