@@ -7,7 +7,7 @@
 
 void ResTableDelegate::initStyleOption(QStyleOptionViewItem* option,
                                        const QModelIndex& index) const {
-    QStyledItemDelegate::initStyleOption(option, index);
+    WideCellDelegate::initStyleOption(option, index);
     // The word of the frame stands where an icon would, and makes room for one.
     option->features &= ~QStyleOptionViewItem::HasDecoration;
     option->icon = QIcon();
@@ -16,7 +16,7 @@ void ResTableDelegate::initStyleOption(QStyleOptionViewItem* option,
 
 void ResTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
-    QStyledItemDelegate::paint(painter, option, index);
+    WideCellDelegate::paint(painter, option, index);
     const QString frame = index.data(resultrole::frame).toString();
     if (frame.isEmpty())
         return;

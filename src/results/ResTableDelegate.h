@@ -2,13 +2,13 @@
 // Draws the cells of a report in the frames of a printed table.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "results/WideCellDelegate.h"
 
-class ResTableDelegate : public QStyledItemDelegate {
+class ResTableDelegate : public WideCellDelegate {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using WideCellDelegate::WideCellDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

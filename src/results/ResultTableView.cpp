@@ -3,10 +3,12 @@
 
 #include "results/ColumnWidths.h"
 #include "results/ResultModel.h"
+#include "results/WideCellDelegate.h"
 
 #include <QHeaderView>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -26,6 +28,10 @@ ResultTableView::ResultTableView(ResultModel* model, const QString& objectName, 
     setObjectName(objectName);
     model->setParent(this);
     setModel(model);
+    setItemDelegate(new WideCellDelegate(this));
+    // What is drawn in the seen part of a wide cell moves with that part.
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, viewport(),
+            qOverload<>(&QWidget::update));
     setStyleSheet(headerSheet);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ExtendedSelection);

@@ -134,6 +134,27 @@ private slots:
         QCOMPARE(page.view()->rowSpan(0, 0), 1); // nothing of the table before
     }
 
+    void wideHeadingsStandWhereTheyAreSeen() {
+        results_->run("FREQ PERSON.SEX BY PERSON.AGE");
+        QTableView& grid = results_->grid();
+        for (int column = 1; column < grid.model()->columnCount(); ++column)
+            grid.setColumnWidth(column, grid.viewport()->width());
+        const QModelIndex heading = grid.model()->index(0, 1);
+        QCOMPARE(grid.columnSpan(0, 1), grid.model()->columnCount() - 1);
+        const auto words = [&] { // counts what is drawn on the heading's ground
+            const QRect seen = grid.visualRect(heading) & grid.viewport()->rect();
+            const QImage image = grid.viewport()->grab(seen.adjusted(2, 2, -2, -2)).toImage();
+            int dark = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    dark += qGray(image.pixel(x, y)) < 40 ? 1 : 0;
+            return dark;
+        };
+        QVERIFY(words() > 50);
+        grid.horizontalScrollBar()->setValue(grid.horizontalScrollBar()->maximum());
+        QVERIFY(words() > 50);
+    }
+
     void textsCanBeReadOnTheirColours_data() {
         QTest::addColumn<QColor>("base");
         QTest::newRow("light") << QColor(Qt::white);
