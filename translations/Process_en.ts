@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="en">
 <context>
     <name>AppProperties</name>
     <message>
@@ -28,30 +28,30 @@
     <name>ArealistViewOptionsDialog</name>
     <message>
         <source>Show Totals Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Show Totals Row</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>View Options</translation>
     </message>
     <message>
         <source>Add a row with the sum of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>Add a row with the sum of each column</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>AverageLayout</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished">Variable</translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Average</translation>
     </message>
 </context>
 <context>
@@ -128,42 +128,42 @@
     <name>ColumnGroupRows</name>
     <message>
         <source>Columns at place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Columns at place %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished">Show</translation>
+        <translation>Show</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Show %1</translation>
     </message>
     <message>
         <source>Checked: %1 shows in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Checked: %1 shows in the table</translation>
     </message>
     <message>
         <source>%1 always shows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 always shows</translation>
     </message>
 </context>
 <context>
     <name>ColumnGroups</name>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Total</translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>NA</source>
-        <translation type="unfinished"></translation>
+        <translation>NA</translation>
     </message>
     <message>
         <source>MV</source>
-        <translation type="unfinished"></translation>
+        <translation>MV</translation>
     </message>
 </context>
 <context>
@@ -185,7 +185,7 @@
     <name>CrossTable</name>
     <message>
         <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
-        <translation type="unfinished"></translation>
+        <translation>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</translation>
     </message>
 </context>
 <context>
@@ -381,11 +381,11 @@
     <name>DirectExport</name>
     <message>
         <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder %1 does not exist. %2 is written into the folder of results, %3.</translation>
     </message>
     <message>
         <source>The program gives no name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program gives no name of a file.</translation>
     </message>
 </context>
 <context>
@@ -793,11 +793,11 @@
     <name>ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Writing %1</translation>
     </message>
 </context>
 <context>
@@ -1060,11 +1060,11 @@ Do you want to reload the file instead?</translation>
     <name>FormatDialog</name>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>View Options</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Order</translation>
     </message>
 </context>
 <context>
@@ -1141,55 +1141,55 @@ Do you want to reload the file instead?</translation>
     <name>GeneralStylePage</name>
     <message>
         <source>Comma  ( , )</source>
-        <translation type="unfinished"></translation>
+        <translation>Comma  ( , )</translation>
     </message>
     <message>
         <source>Period ( . )</source>
-        <translation type="unfinished"></translation>
+        <translation>Period ( . )</translation>
     </message>
     <message>
         <source>Space  (   )</source>
-        <translation type="unfinished"></translation>
+        <translation>Space  (   )</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>None</translation>
     </message>
     <message>
         <source>e.g. Census2024</source>
-        <translation type="unfinished"></translation>
+        <translation>e.g. Census2024</translation>
     </message>
     <message>
         <source>Optional description</source>
-        <translation type="unfinished"></translation>
+        <translation>Optional description</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished">Label:</translation>
+        <translation>Label:</translation>
     </message>
     <message>
         <source> decimal(s)</source>
-        <translation type="unfinished"></translation>
+        <translation> decimal(s)</translation>
     </message>
     <message>
         <source>Numbers in this style</source>
-        <translation type="unfinished"></translation>
+        <translation>Numbers in this style</translation>
     </message>
     <message>
         <source>Decimals:</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimals:</translation>
     </message>
     <message>
         <source>Thousand separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Thousand separator:</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sample:</translation>
     </message>
 </context>
 <context>
@@ -1445,54 +1445,54 @@ Do you want to reload the file instead?</translation>
     <name>OneVariableLayout</name>
     <message>
         <source>Count</source>
-        <translation type="unfinished">Count</translation>
+        <translation>Count</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>count</translation>
     </message>
     <message>
         <source>Cumul%</source>
-        <translation type="unfinished"></translation>
+        <translation>Cumul%</translation>
     </message>
 </context>
 <context>
     <name>OneVariableStylePage</name>
     <message>
         <source>Show percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Show percentage column</translation>
     </message>
     <message>
         <source>Show cumulative percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Show cumulative percentage column</translation>
     </message>
     <message>
         <source>Show Total row</source>
-        <translation type="unfinished"></translation>
+        <translation>Show Total row</translation>
     </message>
     <message>
         <source>Show N/A row</source>
-        <translation type="unfinished"></translation>
+        <translation>Show N/A row</translation>
     </message>
     <message>
         <source>Show MV row</source>
-        <translation type="unfinished"></translation>
+        <translation>Show MV row</translation>
     </message>
     <message>
         <source>Default (engine order)</source>
-        <translation type="unfinished"></translation>
+        <translation>Default (engine order)</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascending</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descending</translation>
     </message>
     <message>
         <source>Row order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Row order:</translation>
     </message>
 </context>
 <context>
@@ -1514,30 +1514,30 @@ Do you want to reload the file instead?</translation>
     <name>OrderDialog</name>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascending</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descending</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>View Options</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Order</translation>
     </message>
 </context>
 <context>
     <name>PrintedFile</name>
     <message>
         <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
-        <translation type="unfinished"></translation>
+        <translation>The pages could not be written into the folder of temporary files. Its disk may be full.</translation>
     </message>
 </context>
 <context>
@@ -2162,176 +2162,176 @@ Do you want to reload the file instead?</translation>
     <name>ReportSheet</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Database</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Geographic Area</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Tally</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Weight</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filter</translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Universal Filter</translation>
     </message>
     <message>
         <source>Sorted (%1) by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorted (%1) by</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascending</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descending</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Key</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Crosstab</translation>
+        <translation>Crosstab</translation>
     </message>
     <message>
         <source>of </source>
-        <translation type="unfinished"></translation>
+        <translation>of </translation>
     </message>
     <message>
         <source>by </source>
-        <translation type="unfinished"></translation>
+        <translation>by </translation>
     </message>
 </context>
 <context>
     <name>ResultExports</name>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>XML (*.xml)</translation>
     </message>
     <message>
         <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF (*.pdf)</translation>
     </message>
     <message>
         <source>CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (*.csv)</translation>
     </message>
     <message>
         <source>Select a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Select a table</translation>
     </message>
     <message>
         <source>Export completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Export completed</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Save File</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Select Folder</translation>
     </message>
     <message>
         <source>EXCEL (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL (*.xlsx)</translation>
     </message>
 </context>
 <context>
     <name>ResultFacts</name>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascending</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descending</translation>
     </message>
     <message>
         <source>Sorted</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorted</translation>
     </message>
     <message>
         <source>by</source>
-        <translation type="unfinished"></translation>
+        <translation>by</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Tally</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Weight</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filter</translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Universal Filter</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Database</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entity</translation>
+        <translation>Entity</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Key</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>of</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Geographic Area</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Crosstab</translation>
+        <translation>Crosstab</translation>
     </message>
 </context>
 <context>
     <name>ResultFaults</name>
     <message>
         <source>%1 was not written: cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 was not written: cancelled</translation>
     </message>
     <message>
         <source>%1 was not written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 was not written: %2</translation>
     </message>
 </context>
 <context>
@@ -2342,155 +2342,156 @@ Do you want to reload the file instead?</translation>
     </message>
     <message>
         <source>CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (Label as header)</translation>
     </message>
     <message>
         <source>Export as CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as CSV (Label as header)</translation>
     </message>
     <message>
         <source>CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (Name as header)</translation>
     </message>
     <message>
         <source>Export as CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as CSV (Name as header)</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Export as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as JSON</translation>
     </message>
     <message>
         <source>XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>XLSX</translation>
     </message>
     <message>
         <source>Export as XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as XLSX</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Export as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
     <message>
         <source>Export as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Export as PDF</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>View options</source>
-        <translation type="unfinished"></translation>
+        <translation>View options</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copy</translation>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Copy the selected cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy the selected cells</translation>
     </message>
     <message>
         <source>No table has been selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No table has been selected.</translation>
     </message>
     <message>
         <source>Table result was exported directly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Table result was exported directly.</translation>
     </message>
     <message>
         <source>No cells are selected</source>
-        <translation type="unfinished"></translation>
+        <translation>No cells are selected</translation>
     </message>
     <message>
         <source>Copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copied to clipboard</translation>
     </message>
     <message>
         <source>Too many cells to copy; an export takes them all</source>
-        <translation type="unfinished"></translation>
+        <translation>Too many cells to copy; an export takes them all</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>List</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished">Table</translation>
+        <translation>Table</translation>
     </message>
     <message>
         <source>No table is shown.
 Run a program, or choose a table in the tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>No table is shown.
+Run a program, or choose a table in the tree.</translation>
     </message>
     <message>
         <source>Runs and their tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Runs and their tables</translation>
     </message>
     <message>
         <source>Cells of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Cells of the table</translation>
     </message>
     <message>
         <source>Report of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Report of the table</translation>
     </message>
     <message>
         <source>Exports and options</source>
-        <translation type="unfinished"></translation>
+        <translation>Exports and options</translation>
     </message>
 </context>
 <context>
     <name>ResultsTreeViewContextMenu</name>
     <message>
         <source>Select all</source>
-        <translation type="unfinished">Select all</translation>
+        <translation>Select all</translation>
     </message>
     <message>
         <source>Deselect all</source>
-        <translation type="unfinished"></translation>
+        <translation>Deselect all</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copy</translation>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Export selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Export selected</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>EXCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
 </context>
 <context>
@@ -2550,30 +2551,30 @@ Run a program, or choose a table in the tree.</source>
     <name>SeveralVariablesStylePage</name>
     <message>
         <source>Show N/A rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Show N/A rows/columns</translation>
     </message>
     <message>
         <source>Show MV rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Show MV rows/columns</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Default</translation>
     </message>
     <message>
         <source>3-variable matrix by first variable</source>
-        <translation type="unfinished"></translation>
+        <translation>3-variable matrix by first variable</translation>
     </message>
     <message>
         <source>3-variable layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>3-variable layout:</translation>
     </message>
 </context>
 <context>
     <name>SheetFrame</name>
     <message>
         <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Texts were cut off after %1 characters, which is all that a cell holds</translation>
     </message>
 </context>
 <context>
@@ -2765,11 +2766,11 @@ Run a program, or choose a table in the tree.</source>
     <name>TableMetadata</name>
     <message>
         <source>All Database</source>
-        <translation type="unfinished"></translation>
+        <translation>All Database</translation>
     </message>
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n cell hidden to protect persons</numerusform>
             <numerusform>%n cells hidden to protect persons</numerusform>
         </translation>
@@ -2779,84 +2780,85 @@ Run a program, or choose a table in the tree.</source>
     <name>TableStyleEditorDialog</name>
     <message>
         <source>Table Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Table Style Editor</translation>
     </message>
     <message>
         <source>New Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>New Table Style</translation>
     </message>
     <message>
         <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 cannot be read as a table style. What is saved here becomes a new file.</translation>
     </message>
     <message>
         <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</translation>
     </message>
     <message>
         <source>Table Style — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Table Style — %1</translation>
     </message>
     <message>
         <source>Sections of the style</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections of the style</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished">General</translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Frequency (1 Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequency (1 Var)</translation>
     </message>
     <message>
         <source>Frequency (Multi Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequency (Multi Var)</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Save</translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Save As…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancel</translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Save Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Save Table Style</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Table Style (*.json);;All Files (*)</translation>
     </message>
     <message>
         <source>Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Save Error</translation>
     </message>
     <message>
         <source>Could not write file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Could not write file:
+%1</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished">Unsaved changes</translation>
+        <translation>Unsaved changes</translation>
     </message>
     <message>
         <source>The changes to this table style are not saved. Do you want to discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>The changes to this table style are not saved. Do you want to discard them?</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Discard</translation>
+        <translation>Discard</translation>
     </message>
     <message>
         <source>Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep Editing</translation>
     </message>
 </context>
 <context>
@@ -2868,12 +2870,18 @@ No program file is currently active.
 Add this line inside the DEFINE block of your .spc:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Table style saved.
+
+No program file is currently active.
+Add this line inside the DEFINE block of your .spc:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>TABLESTYLE line inserted into:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>TABLESTYLE line inserted into:
+%1</translation>
     </message>
     <message>
         <source>Table style saved.
@@ -2881,31 +2889,35 @@ Could not update program file.
 Add this line manually inside the DEFINE block:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Table style saved.
+Could not update program file.
+Add this line manually inside the DEFINE block:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished">New</translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Make a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Make a table style and name it in the program in front</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Open</translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Change a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Change a table style and name it in the program in front</translation>
     </message>
     <message>
         <source>Open Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Table Style</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Table Style (*.json);;All Files (*)</translation>
     </message>
 </context>
 <context>
@@ -3586,62 +3598,62 @@ Please, press Locate button in the Dictionary ToolBar</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Results</translation>
+        <translation>Results</translation>
     </message>
     <message>
         <source>Show the tables made so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Show the tables made so far</translation>
     </message>
 </context>
 <context>
     <name>WorkbookError</name>
     <message>
         <source>there is no room for the sheet %1</source>
-        <translation type="unfinished"></translation>
+        <translation>there is no room for the sheet %1</translation>
     </message>
     <message>
         <source>The workbook can&apos;t be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook can&apos;t be written: %1.</translation>
     </message>
     <message>
         <source>it did not reach the disk as a whole; is there enough space?</source>
-        <translation type="unfinished"></translation>
+        <translation>it did not reach the disk as a whole; is there enough space?</translation>
     </message>
     <message>
         <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</translation>
     </message>
     <message>
         <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</translation>
     </message>
     <message>
         <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file that is there is no XLSX workbook. Choose another name, or replace the file.</translation>
     </message>
     <message>
         <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</translation>
     </message>
     <message>
         <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</translation>
     </message>
     <message>
         <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook that is there is signed; another sheet would break the signature. Choose another name.</translation>
     </message>
     <message>
         <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</translation>
     </message>
     <message>
         <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook that is there is damaged (%1). Choose another name, or replace the file.</translation>
     </message>
     <message>
         <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="es" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="es">
 <context>
     <name>AppProperties</name>
     <message>
@@ -28,30 +28,30 @@
     <name>ArealistViewOptionsDialog</name>
     <message>
         <source>Show Totals Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar fila de totales</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de vista</translation>
     </message>
     <message>
         <source>Add a row with the sum of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>Agregar una fila con la suma de cada columna</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>AverageLayout</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished">Variable</translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Promedio</translation>
     </message>
 </context>
 <context>
@@ -128,42 +128,42 @@
     <name>ColumnGroupRows</name>
     <message>
         <source>Columns at place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas en la posición %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished">Mostrar</translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar %1</translation>
     </message>
     <message>
         <source>Checked: %1 shows in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcado: el tabulado muestra %1</translation>
     </message>
     <message>
         <source>%1 always shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Siempre se muestra: %1</translation>
     </message>
 </context>
 <context>
     <name>ColumnGroups</name>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Total</translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>NA</source>
-        <translation type="unfinished"></translation>
+        <translation>NA</translation>
     </message>
     <message>
         <source>MV</source>
-        <translation type="unfinished"></translation>
+        <translation>MV</translation>
     </message>
 </context>
 <context>
@@ -185,7 +185,7 @@
     <name>CrossTable</name>
     <message>
         <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este tabulado de %1 filas y %2 columnas es demasiado grande para mostrarlo: tendría más de %3 celdas. Agrupe las categorías de sus variables o filtre los registros.</translation>
     </message>
 </context>
 <context>
@@ -381,11 +381,11 @@
     <name>DirectExport</name>
     <message>
         <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta %1 no existe. %2 se escribe en la carpeta de resultados, %3.</translation>
     </message>
     <message>
         <source>The program gives no name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa no indica ningún nombre de archivo.</translation>
     </message>
 </context>
 <context>
@@ -793,11 +793,11 @@
     <name>ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo %1</translation>
     </message>
 </context>
 <context>
@@ -1060,11 +1060,11 @@ Do you want to reload the file instead?</source>
     <name>FormatDialog</name>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de vista</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden</translation>
     </message>
 </context>
 <context>
@@ -1141,55 +1141,55 @@ Do you want to reload the file instead?</source>
     <name>GeneralStylePage</name>
     <message>
         <source>Comma  ( , )</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma  ( , )</translation>
     </message>
     <message>
         <source>Period ( . )</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto  ( . )</translation>
     </message>
     <message>
         <source>Space  (   )</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio  (   )</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>e.g. Census2024</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ej., Censo2024</translation>
     </message>
     <message>
         <source>Optional description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción opcional</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished">Etiqueta:</translation>
+        <translation>Etiqueta:</translation>
     </message>
     <message>
         <source> decimal(s)</source>
-        <translation type="unfinished"></translation>
+        <translation> decimal(es)</translation>
     </message>
     <message>
         <source>Numbers in this style</source>
-        <translation type="unfinished"></translation>
+        <translation>Números con este estilo</translation>
     </message>
     <message>
         <source>Decimals:</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimales:</translation>
     </message>
     <message>
         <source>Thousand separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador de miles:</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo:</translation>
     </message>
 </context>
 <context>
@@ -1445,54 +1445,54 @@ Do you want to reload the file instead?</source>
     <name>OneVariableLayout</name>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Casos</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>casos</translation>
     </message>
     <message>
         <source>Cumul%</source>
-        <translation type="unfinished"></translation>
+        <translation>% acumulado</translation>
     </message>
 </context>
 <context>
     <name>OneVariableStylePage</name>
     <message>
         <source>Show percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la columna de porcentaje</translation>
     </message>
     <message>
         <source>Show cumulative percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la columna de porcentaje acumulado</translation>
     </message>
     <message>
         <source>Show Total row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la fila Total</translation>
     </message>
     <message>
         <source>Show N/A row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la fila N/A</translation>
     </message>
     <message>
         <source>Show MV row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la fila MV</translation>
     </message>
     <message>
         <source>Default (engine order)</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminado (orden del motor)</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascendente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendente</translation>
     </message>
     <message>
         <source>Row order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de las filas:</translation>
     </message>
 </context>
 <context>
@@ -1514,30 +1514,30 @@ Do you want to reload the file instead?</source>
     <name>OrderDialog</name>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminado</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascendente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendente</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de vista</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden</translation>
     </message>
 </context>
 <context>
     <name>PrintedFile</name>
     <message>
         <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron escribir las páginas en la carpeta de archivos temporales. Es posible que el disco esté lleno.</translation>
     </message>
 </context>
 <context>
@@ -2162,176 +2162,176 @@ Do you want to reload the file instead?</source>
     <name>ReportSheet</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área geográfica</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de conteo</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponderador</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtro</translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro universal</translation>
     </message>
     <message>
         <source>Sorted (%1) by</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenado (%1) por</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascendente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendente</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clave</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Cruce</translation>
+        <translation>Cruce</translation>
     </message>
     <message>
         <source>of </source>
-        <translation type="unfinished"></translation>
+        <translation>de </translation>
     </message>
     <message>
         <source>by </source>
-        <translation type="unfinished"></translation>
+        <translation>por </translation>
     </message>
 </context>
 <context>
     <name>ResultExports</name>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>XML (*.xml)</translation>
     </message>
     <message>
         <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF (*.pdf)</translation>
     </message>
     <message>
         <source>CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (*.csv)</translation>
     </message>
     <message>
         <source>Select a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione un tabulado</translation>
     </message>
     <message>
         <source>Export completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación finalizada</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la carpeta</translation>
     </message>
     <message>
         <source>EXCEL (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL (*.xlsx)</translation>
     </message>
 </context>
 <context>
     <name>ResultFacts</name>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Ascendente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Descendente</translation>
     </message>
     <message>
         <source>Sorted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenado</translation>
     </message>
     <message>
         <source>by</source>
-        <translation type="unfinished"></translation>
+        <translation>por</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de conteo</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponderador</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtro</translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro universal</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidad</translation>
+        <translation>Entidad</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clave</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área geográfica</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Cruce</translation>
+        <translation>Cruce</translation>
     </message>
 </context>
 <context>
     <name>ResultFaults</name>
     <message>
         <source>%1 was not written: cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>No se escribió %1: cancelado</translation>
     </message>
     <message>
         <source>%1 was not written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se escribió %1: %2</translation>
     </message>
 </context>
 <context>
@@ -2342,155 +2342,156 @@ Do you want to reload the file instead?</source>
     </message>
     <message>
         <source>CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (etiqueta como encabezado)</translation>
     </message>
     <message>
         <source>Export as CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como CSV (etiqueta como encabezado)</translation>
     </message>
     <message>
         <source>CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (nombre como encabezado)</translation>
     </message>
     <message>
         <source>Export as CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como CSV (nombre como encabezado)</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Export as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como JSON</translation>
     </message>
     <message>
         <source>XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>XLSX</translation>
     </message>
     <message>
         <source>Export as XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como XLSX</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Export as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
     <message>
         <source>Export as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como PDF</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>View options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de vista</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copiar</translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy the selected cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar las celdas seleccionadas</translation>
     </message>
     <message>
         <source>No table has been selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha seleccionado ningún tabulado.</translation>
     </message>
     <message>
         <source>Table result was exported directly.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tabulado se exportó directamente.</translation>
     </message>
     <message>
         <source>No cells are selected</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay celdas seleccionadas</translation>
     </message>
     <message>
         <source>Copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado al portapapeles</translation>
     </message>
     <message>
         <source>Too many cells to copy; an export takes them all</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiadas celdas para copiar; una exportación las incluye todas</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished">Tabla</translation>
+        <translation>Tabla</translation>
     </message>
     <message>
         <source>No table is shown.
 Run a program, or choose a table in the tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se muestra ningún tabulado.
+Ejecute un programa o elija un tabulado en el árbol.</translation>
     </message>
     <message>
         <source>Runs and their tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecuciones y sus tabulados</translation>
     </message>
     <message>
         <source>Cells of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Celdas del tabulado</translation>
     </message>
     <message>
         <source>Report of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe del tabulado</translation>
     </message>
     <message>
         <source>Exports and options</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportaciones y opciones</translation>
     </message>
 </context>
 <context>
     <name>ResultsTreeViewContextMenu</name>
     <message>
         <source>Select all</source>
-        <translation type="unfinished">Seleccionar todo</translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>Deselect all</source>
-        <translation type="unfinished"></translation>
+        <translation>Anular la selección</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copiar</translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Export selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la selección</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>EXCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
 </context>
 <context>
@@ -2550,30 +2551,30 @@ Run a program, or choose a table in the tree.</source>
     <name>SeveralVariablesStylePage</name>
     <message>
         <source>Show N/A rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar filas y columnas N/A</translation>
     </message>
     <message>
         <source>Show MV rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar filas y columnas MV</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminada</translation>
     </message>
     <message>
         <source>3-variable matrix by first variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz de 3 variables por la primera variable</translation>
     </message>
     <message>
         <source>3-variable layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición con 3 variables:</translation>
     </message>
 </context>
 <context>
     <name>SheetFrame</name>
     <message>
         <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Los textos se cortaron a los %1 caracteres, el máximo que admite una celda</translation>
     </message>
 </context>
 <context>
@@ -2765,11 +2766,11 @@ Run a program, or choose a table in the tree.</source>
     <name>TableMetadata</name>
     <message>
         <source>All Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Toda la base de datos</translation>
     </message>
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n celda oculta para proteger a las personas</numerusform>
             <numerusform>%n celdas ocultas para proteger a las personas</numerusform>
         </translation>
@@ -2779,84 +2780,85 @@ Run a program, or choose a table in the tree.</source>
     <name>TableStyleEditorDialog</name>
     <message>
         <source>Table Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de estilos de tabla</translation>
     </message>
     <message>
         <source>New Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo estilo de tabla</translation>
     </message>
     <message>
         <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo %1 como estilo de tabla. Lo que se guarde aquí será un archivo nuevo.</translation>
     </message>
     <message>
         <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo tiene opciones de un formato anterior, que no se muestran aquí. Una vez guardado, los tabulados seguirán las opciones siguientes.</translation>
     </message>
     <message>
         <source>Table Style — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabla — %1</translation>
     </message>
     <message>
         <source>Sections of the style</source>
-        <translation type="unfinished"></translation>
+        <translation>Secciones del estilo</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished">General</translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Frequency (1 Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia (1 var.)</translation>
     </message>
     <message>
         <source>Frequency (Multi Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia (varias var.)</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Guardar</translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Save Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar estilo de tabla</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabla (*.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al guardar</translation>
     </message>
     <message>
         <source>Could not write file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el archivo:
+%1</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished">Cambios sin guardar</translation>
+        <translation>Cambios sin guardar</translation>
     </message>
     <message>
         <source>The changes to this table style are not saved. Do you want to discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios de este estilo de tabla no se han guardado. ¿Desea descartarlos?</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Descartar</translation>
+        <translation>Descartar</translation>
     </message>
     <message>
         <source>Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir editando</translation>
     </message>
 </context>
 <context>
@@ -2868,12 +2870,18 @@ No program file is currently active.
 Add this line inside the DEFINE block of your .spc:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabla guardado.
+
+No hay ningún archivo de programa activo.
+Agregue esta línea dentro del bloque DEFINE de su .spc:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>TABLESTYLE line inserted into:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea TABLESTYLE insertada en:
+%1</translation>
     </message>
     <message>
         <source>Table style saved.
@@ -2881,31 +2889,35 @@ Could not update program file.
 Add this line manually inside the DEFINE block:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabla guardado.
+No se pudo actualizar el archivo de programa.
+Agregue esta línea manualmente dentro del bloque DEFINE:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished">Nuevo</translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Make a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un estilo de tabla e indicarlo en el programa activo</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Change a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar un estilo de tabla e indicarlo en el programa activo</translation>
     </message>
     <message>
         <source>Open Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir estilo de tabla</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabla (*.json);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
@@ -3586,62 +3598,62 @@ Pulse el botón Localizar de la barra Diccionario</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Resultados</translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Show the tables made so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los tabulados obtenidos hasta ahora</translation>
     </message>
 </context>
 <context>
     <name>WorkbookError</name>
     <message>
         <source>there is no room for the sheet %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay espacio para la hoja %1</translation>
     </message>
     <message>
         <source>The workbook can&apos;t be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el libro: %1.</translation>
     </message>
     <message>
         <source>it did not reach the disk as a whole; is there enough space?</source>
-        <translation type="unfinished"></translation>
+        <translation>no llegó completo al disco; ¿hay espacio suficiente?</translation>
     </message>
     <message>
         <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita %2 filas, más de las que admite una hoja de un libro. Expórtelo como CSV.</translation>
     </message>
     <message>
         <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita %2 columnas, más de las que admite una hoja de un libro. Expórtelo como CSV.</translation>
     </message>
     <message>
         <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo existente no es un libro XLSX. Elija otro nombre o reemplace el archivo.</translation>
     </message>
     <message>
         <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro existente está protegido con contraseña o tiene un formato anterior. Elija otro nombre o reemplace el archivo.</translation>
     </message>
     <message>
         <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro existente está guardado como Strict Open XML. Guárdelo primero como un libro normal o elija otro nombre.</translation>
     </message>
     <message>
         <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro existente está firmado; otra hoja invalidaría la firma. Elija otro nombre.</translation>
     </message>
     <message>
         <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro está abierto en otro programa. Ciérrelo allí primero. (Si no lo está, elimine el archivo %1.)</translation>
     </message>
     <message>
         <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro existente está dañado (%1). Elija otro nombre o reemplace el archivo.</translation>
     </message>
     <message>
         <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro existente no admite más hojas (%1 es demasiado grande). Elija otro nombre.</translation>
     </message>
 </context>
 <context>

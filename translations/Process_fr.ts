@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="fr" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="fr">
 <context>
     <name>AppProperties</name>
     <message>
@@ -28,30 +28,30 @@
     <name>ArealistViewOptionsDialog</name>
     <message>
         <source>Show Totals Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la ligne des totaux</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options d’affichage</translation>
     </message>
     <message>
         <source>Add a row with the sum of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une ligne avec la somme de chaque colonne</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
 </context>
 <context>
     <name>AverageLayout</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished">Variable</translation>
+        <translation>Variable</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
 </context>
 <context>
@@ -69,7 +69,7 @@
     <name>CategoryTable</name>
     <message>
         <source>Lines of the clipboard that are no category: %1</source>
-        <translation>Lignes du presse-papiers qui ne sont pas des modalités&#xa0;: %1</translation>
+        <translation>Lignes du presse-papiers qui ne sont pas des modalités : %1</translation>
     </message>
     <message>
         <source>Variable Categories</source>
@@ -128,42 +128,42 @@
     <name>ColumnGroupRows</name>
     <message>
         <source>Columns at place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes en position %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished">Afficher</translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher %1</translation>
     </message>
     <message>
         <source>Checked: %1 shows in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Coché : %1 figure dans le tableau</translation>
     </message>
     <message>
         <source>%1 always shows</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichage permanent : %1</translation>
     </message>
 </context>
 <context>
     <name>ColumnGroups</name>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Total</translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variables</translation>
+        <translation>Variables</translation>
     </message>
     <message>
         <source>NA</source>
-        <translation type="unfinished"></translation>
+        <translation>NA</translation>
     </message>
     <message>
         <source>MV</source>
-        <translation type="unfinished"></translation>
+        <translation>MV</translation>
     </message>
 </context>
 <context>
@@ -185,7 +185,7 @@
     <name>CrossTable</name>
     <message>
         <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce tableau de %1 lignes et %2 colonnes est trop grand pour être affiché : il compterait plus de %3 cellules. Regroupez les modalités de ses variables ou filtrez les enregistrements.</translation>
     </message>
 </context>
 <context>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications&#xa0;?</translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
@@ -351,19 +351,19 @@
     <name>DictionaryTreeModel</name>
     <message>
         <source>File not found: %1</source>
-        <translation>Fichier introuvable&#xa0;: %1</translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation>Fichier&#xa0;: %1</translation>
+        <translation>Fichier : %1</translation>
     </message>
     <message>
         <source>Records: %1</source>
-        <translation>Enregistrements&#xa0;: %1</translation>
+        <translation>Enregistrements : %1</translation>
     </message>
     <message>
         <source>Variables: %1</source>
-        <translation>Variables&#xa0;: %1</translation>
+        <translation>Variables : %1</translation>
     </message>
     <message>
         <source>Entity</source>
@@ -374,18 +374,18 @@
     <name>DictionaryUtil</name>
     <message>
         <source>The file %1 cannot be written: %2</source>
-        <translation>Impossible d’écrire le fichier %1&#xa0;: %2</translation>
+        <translation>Impossible d’écrire le fichier %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>DirectExport</name>
     <message>
         <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier %1 n’existe pas. %2 est écrit dans le dossier des résultats, %3.</translation>
     </message>
     <message>
         <source>The program gives no name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme n’indique aucun nom de fichier.</translation>
     </message>
 </context>
 <context>
@@ -411,35 +411,35 @@
     </message>
     <message>
         <source>&quot;Toggle Comment&quot;</source>
-        <translation>«&#xa0;Commenter/Décommenter&#xa0;»</translation>
+        <translation>« Commenter/Décommenter »</translation>
     </message>
     <message>
         <source>&quot;Wizard Define&quot;</source>
-        <translation>«&#xa0;Assistant DEFINE&#xa0;»</translation>
+        <translation>« Assistant DEFINE »</translation>
     </message>
     <message>
         <source>&quot;Wizard Table&quot;</source>
-        <translation>«&#xa0;Assistant TABLE&#xa0;»</translation>
+        <translation>« Assistant TABLE »</translation>
     </message>
     <message>
         <source>&quot;Execute Blow Up&quot;</source>
-        <translation>«&#xa0;Déplier EXECUTE&#xa0;»</translation>
+        <translation>« Déplier EXECUTE »</translation>
     </message>
     <message>
         <source>&quot;Define Frequency&quot;</source>
-        <translation>«&#xa0;Tri à plat des DEFINE&#xa0;»</translation>
+        <translation>« Tri à plat des DEFINE »</translation>
     </message>
     <message>
         <source>&quot;Syntax Clue&quot;</source>
-        <translation>«&#xa0;Aide syntaxique&#xa0;»</translation>
+        <translation>« Aide syntaxique »</translation>
     </message>
     <message>
         <source>&quot;Edit Table&quot;</source>
-        <translation>«&#xa0;Modifier le tableau&#xa0;»</translation>
+        <translation>« Modifier le tableau »</translation>
     </message>
     <message>
         <source>&quot;Edit Graph&quot;</source>
-        <translation>«&#xa0;Modifier le graphique&#xa0;»</translation>
+        <translation>« Modifier le graphique »</translation>
     </message>
     <message>
         <source>No results found.</source>
@@ -451,7 +451,7 @@
     </message>
     <message>
         <source>Found %1 coincidences</source>
-        <translation>Occurrences trouvées&#xa0;: %1</translation>
+        <translation>Occurrences trouvées : %1</translation>
     </message>
     <message>
         <source>Document searched. Replaced </source>
@@ -593,7 +593,7 @@
     <name>EntityInfo</name>
     <message>
         <source>Code Variable: </source>
-        <translation>Variable code&#xa0;: </translation>
+        <translation>Variable code : </translation>
     </message>
     <message>
         <source>Entity cannot be selected</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>Label Variable: </source>
-        <translation>Variable libellé&#xa0;: </translation>
+        <translation>Variable libellé : </translation>
     </message>
     <message>
         <source>No automatic weight</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>Number of Elements: </source>
-        <translation>Nombre d’éléments&#xa0;: </translation>
+        <translation>Nombre d’éléments : </translation>
     </message>
 </context>
 <context>
@@ -679,19 +679,19 @@
     </message>
     <message>
         <source>Label:</source>
-        <translation>Libellé&#xa0;:</translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias&#xa0;:</translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Another name of the entity; Return stores it</source>
-        <translation>Autre nom de l’entité&#xa0;; la touche Entrée l’enregistre</translation>
+        <translation>Autre nom de l’entité ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère&#xa0;:</translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>Code:</source>
-        <translation>Code&#xa0;:</translation>
+        <translation>Code :</translation>
     </message>
     <message>
         <source>The variable that holds the code</source>
@@ -707,7 +707,7 @@
     </message>
     <message>
         <source>Code size:</source>
-        <translation>Taille du code&#xa0;:</translation>
+        <translation>Taille du code :</translation>
     </message>
     <message>
         <source>One zero for each character of the code</source>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>Weight:</source>
-        <translation>Pondération&#xa0;:</translation>
+        <translation>Pondération :</translation>
     </message>
     <message>
         <source>The variable that weights tables by itself</source>
@@ -727,7 +727,7 @@
     </message>
     <message>
         <source>Compound:</source>
-        <translation>Composé&#xa0;:</translation>
+        <translation>Composé :</translation>
     </message>
     <message>
         <source>The codes from the top of the hierarchy down, joined</source>
@@ -735,7 +735,7 @@
     </message>
     <message>
         <source>Disclosure:</source>
-        <translation>Divulgation&#xa0;:</translation>
+        <translation>Divulgation :</translation>
     </message>
     <message>
         <source>The variable that controls disclosure</source>
@@ -743,7 +743,7 @@
     </message>
     <message>
         <source>Elements:</source>
-        <translation>Éléments&#xa0;:</translation>
+        <translation>Éléments :</translation>
     </message>
     <message>
         <source>Number of records</source>
@@ -751,7 +751,7 @@
     </message>
     <message>
         <source>File:</source>
-        <translation>Fichier&#xa0;:</translation>
+        <translation>Fichier :</translation>
     </message>
     <message>
         <source>Found on disk</source>
@@ -793,11 +793,11 @@
     <name>ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportation</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écriture de %1</translation>
     </message>
 </context>
 <context>
@@ -808,11 +808,11 @@
 Do you want to reload the file instead?</source>
         <translation>Le fichier %1 a été modifié par un autre programme et ce texte contient des modifications non enregistrées. L’enregistrement remplacera le fichier.
 
-Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
+Voulez-vous plutôt recharger le fichier ?</translation>
     </message>
     <message>
         <source>The file %1 was changed by another program. Do you want to reload it?</source>
-        <translation>Le fichier %1 a été modifié par un autre programme. Voulez-vous le recharger&#xa0;?</translation>
+        <translation>Le fichier %1 a été modifié par un autre programme. Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>File changed</source>
@@ -828,15 +828,15 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>The file %1 cannot be reloaded: %2</source>
-        <translation>Impossible de recharger le fichier %1&#xa0;: %2</translation>
+        <translation>Impossible de recharger le fichier %1 : %2</translation>
     </message>
     <message>
         <source>The file %1 was removed by another program. Its text stays open here: save it to keep it.</source>
-        <translation>Le fichier %1 a été supprimé par un autre programme. Son texte reste ouvert ici&#xa0;: enregistrez-le pour le conserver.</translation>
+        <translation>Le fichier %1 a été supprimé par un autre programme. Son texte reste ouvert ici : enregistrez-le pour le conserver.</translation>
     </message>
     <message>
         <source>The file %1 was changed by another program since it was read here. Do you want to replace it?</source>
-        <translation>Le fichier %1 a été modifié par un autre programme depuis sa lecture ici. Voulez-vous le remplacer&#xa0;?</translation>
+        <translation>Le fichier %1 a été modifié par un autre programme depuis sa lecture ici. Voulez-vous le remplacer ?</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -1017,11 +1017,11 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Find what: </source>
-        <translation>Rechercher&#xa0;: </translation>
+        <translation>Rechercher : </translation>
     </message>
     <message>
         <source>Replace with: </source>
-        <translation>Remplacer par&#xa0;: </translation>
+        <translation>Remplacer par : </translation>
     </message>
     <message>
         <source>Match case</source>
@@ -1060,26 +1060,26 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>FormatDialog</name>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options d’affichage</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre</translation>
     </message>
 </context>
 <context>
     <name>GeneralEntityTab</name>
     <message>
         <source>Label:</source>
-        <translation>Libellé&#xa0;:</translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias&#xa0;:</translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère&#xa0;:</translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>General</source>
@@ -1094,7 +1094,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>All preferences, the lists of recent files and the remembered folders go back to their initial values. Do you want to continue?</source>
-        <translation>Toutes les préférences, les listes de fichiers récents et les dossiers mémorisés reprendront leurs valeurs initiales. Voulez-vous continuer&#xa0;?</translation>
+        <translation>Toutes les préférences, les listes de fichiers récents et les dossiers mémorisés reprendront leurs valeurs initiales. Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>Application Language</source>
@@ -1102,7 +1102,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Select Language:</source>
-        <translation>Choisir la langue&#xa0;:</translation>
+        <translation>Choisir la langue :</translation>
     </message>
     <message>
         <source>Startup</source>
@@ -1126,7 +1126,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Menu Colors:</source>
-        <translation>Couleurs du menu&#xa0;:</translation>
+        <translation>Couleurs du menu :</translation>
     </message>
     <message>
         <source>Maximum number of files in the button list</source>
@@ -1141,55 +1141,55 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>GeneralStylePage</name>
     <message>
         <source>Comma  ( , )</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule  ( , )</translation>
     </message>
     <message>
         <source>Period ( . )</source>
-        <translation type="unfinished"></translation>
+        <translation>Point ( . )</translation>
     </message>
     <message>
         <source>Space  (   )</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace  (   )</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>e.g. Census2024</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex. Recensement2024</translation>
     </message>
     <message>
         <source>Optional description</source>
-        <translation type="unfinished"></translation>
+        <translation>Description facultative</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom :</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished">Libellé&#xa0;:</translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source> decimal(s)</source>
-        <translation type="unfinished"></translation>
+        <translation> décimale(s)</translation>
     </message>
     <message>
         <source>Numbers in this style</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres dans ce style</translation>
     </message>
     <message>
         <source>Decimals:</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimales :</translation>
     </message>
     <message>
         <source>Thousand separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateur de milliers :</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemple :</translation>
     </message>
 </context>
 <context>
@@ -1231,19 +1231,19 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>GeneralVariablelTab</name>
     <message>
         <source>Label:</source>
-        <translation>Libellé&#xa0;:</translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias&#xa0;:</translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation>Groupe&#xa0;:</translation>
+        <translation>Groupe :</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère&#xa0;:</translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>Hidden</source>
@@ -1270,7 +1270,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Line number: </source>
-        <translation>Numéro de ligne&#xa0;: </translation>
+        <translation>Numéro de ligne : </translation>
     </message>
 </context>
 <context>
@@ -1337,19 +1337,19 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>LocatePaths</name>
     <message>
         <source>Locate Paths: %1 of %2</source>
-        <translation>Localiser les chemins&#xa0;: %1 sur %2</translation>
+        <translation>Localiser les chemins : %1 sur %2</translation>
     </message>
     <message>
         <source>Variable: </source>
-        <translation>Variable&#xa0;: </translation>
+        <translation>Variable : </translation>
     </message>
     <message>
         <source>Missing File: </source>
-        <translation>Fichier manquant&#xa0;: </translation>
+        <translation>Fichier manquant : </translation>
     </message>
     <message>
         <source>Missing Path: </source>
-        <translation>Chemin manquant&#xa0;: </translation>
+        <translation>Chemin manquant : </translation>
     </message>
     <message>
         <source>Select Variable Path</source>
@@ -1357,7 +1357,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>New Path:</source>
-        <translation>Nouveau chemin&#xa0;:</translation>
+        <translation>Nouveau chemin :</translation>
     </message>
     <message>
         <source>Relocate</source>
@@ -1377,7 +1377,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Stop looking for files; what was relocated stays</source>
-        <translation>Arrêter la recherche des fichiers&#xa0;; les relocalisations déjà faites sont conservées</translation>
+        <translation>Arrêter la recherche des fichiers ; les relocalisations déjà faites sont conservées</translation>
     </message>
     <message>
         <source>The missing and relocated files are not the same.</source>
@@ -1404,7 +1404,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to save the changes in the dictionary?</source>
-        <translation>Voulez-vous enregistrer les modifications du dictionnaire&#xa0;?</translation>
+        <translation>Voulez-vous enregistrer les modifications du dictionnaire ?</translation>
     </message>
 </context>
 <context>
@@ -1426,73 +1426,73 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>MetricReporter</name>
     <message>
         <source>Words: </source>
-        <translation>Mots&#xa0;: </translation>
+        <translation>Mots : </translation>
     </message>
     <message>
         <source>Chars: </source>
-        <translation>Caractères&#xa0;: </translation>
+        <translation>Caractères : </translation>
     </message>
     <message>
         <source>Line: </source>
-        <translation>Ligne&#xa0;: </translation>
+        <translation>Ligne : </translation>
     </message>
     <message>
         <source>Column: </source>
-        <translation>Colonne&#xa0;: </translation>
+        <translation>Colonne : </translation>
     </message>
 </context>
 <context>
     <name>OneVariableLayout</name>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Effectif</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>effectif</translation>
     </message>
     <message>
         <source>Cumul%</source>
-        <translation type="unfinished"></translation>
+        <translation>% cumulé</translation>
     </message>
 </context>
 <context>
     <name>OneVariableStylePage</name>
     <message>
         <source>Show percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la colonne des pourcentages</translation>
     </message>
     <message>
         <source>Show cumulative percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la colonne des pourcentages cumulés</translation>
     </message>
     <message>
         <source>Show Total row</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la ligne Total</translation>
     </message>
     <message>
         <source>Show N/A row</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la ligne Sans objet (NA)</translation>
     </message>
     <message>
         <source>Show MV row</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la ligne Non déclaré (MV)</translation>
     </message>
     <message>
         <source>Default (engine order)</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut (ordre du moteur)</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissant</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Décroissant</translation>
     </message>
     <message>
         <source>Row order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre des lignes :</translation>
     </message>
 </context>
 <context>
@@ -1514,30 +1514,30 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>OrderDialog</name>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissant</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Décroissant</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options d’affichage</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre</translation>
     </message>
 </context>
 <context>
     <name>PrintedFile</name>
     <message>
         <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire les pages dans le dossier des fichiers temporaires. Le disque est peut-être plein.</translation>
     </message>
 </context>
 <context>
@@ -1568,11 +1568,11 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Time Expected: </source>
-        <translation>Temps prévu&#xa0;: </translation>
+        <translation>Temps prévu : </translation>
     </message>
     <message>
         <source> s - Time Elapsed: </source>
-        <translation> s - Temps écoulé&#xa0;: </translation>
+        <translation> s - Temps écoulé : </translation>
     </message>
     <message>
         <source> s</source>
@@ -1639,11 +1639,11 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>&lt;b&gt;Apparently the format of the error text received from the KelEngine does not match the initially defined format, so it is not possible to navigate to the line of code where the error occurs&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Le format du texte d’erreur reçu de KelEngine ne semble pas correspondre au format défini initialement&#xa0;; il est donc impossible d’atteindre la ligne de code où se produit l’erreur&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;Le format du texte d’erreur reçu de KelEngine ne semble pas correspondre au format défini initialement ; il est donc impossible d’atteindre la ligne de code où se produit l’erreur&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Apply to all open and future tabs?</source>
-        <translation>Appliquer à tous les onglets ouverts et à venir&#xa0;?</translation>
+        <translation>Appliquer à tous les onglets ouverts et à venir ?</translation>
     </message>
     <message>
         <source>Word wrapping</source>
@@ -1659,7 +1659,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Language:</source>
-        <translation>Langage&#xa0;:</translation>
+        <translation>Langage :</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -1857,7 +1857,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Cannot save file: </source>
-        <translation>Impossible d’enregistrer le fichier&#xa0;: </translation>
+        <translation>Impossible d’enregistrer le fichier : </translation>
     </message>
     <message>
         <source>Untitled document</source>
@@ -1900,11 +1900,11 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>ProgramListRun</name>
     <message>
         <source>Current Program: </source>
-        <translation>Programme en cours&#xa0;: </translation>
+        <translation>Programme en cours : </translation>
     </message>
     <message>
         <source>Current Program :</source>
-        <translation>Programme en cours&#xa0;:</translation>
+        <translation>Programme en cours :</translation>
     </message>
     <message>
         <source>Execution Canceled</source>
@@ -1943,7 +1943,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Error: </source>
-        <translation>Erreur&#xa0;: </translation>
+        <translation>Erreur : </translation>
     </message>
 </context>
 <context>
@@ -2046,11 +2046,11 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <name>QUpdater</name>
     <message>
         <source>New version has been released!</source>
-        <translation>Une nouvelle version est disponible&#xa0;!</translation>
+        <translation>Une nouvelle version est disponible !</translation>
     </message>
     <message>
         <source>Would you like to download the update now? Current application will be close</source>
-        <translation>Voulez-vous télécharger la mise à jour maintenant&#xa0;? L’application en cours sera fermée</translation>
+        <translation>Voulez-vous télécharger la mise à jour maintenant ? L’application en cours sera fermée</translation>
     </message>
 </context>
 <context>
@@ -2065,7 +2065,7 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Kelvora X ended before these &amp;programs were saved. Restored programs open with their changes; their files stay as they are until you save.</source>
-        <translation>Kelvora X s’est arrêté avant l’enregistrement de ces &amp;programmes. Les programmes restaurés s’ouvrent avec leurs modifications&#xa0;; leurs fichiers restent en l’état jusqu’à ce que vous enregistriez.</translation>
+        <translation>Kelvora X s’est arrêté avant l’enregistrement de ces &amp;programmes. Les programmes restaurés s’ouvrent avec leurs modifications ; leurs fichiers restent en l’état jusqu’à ce que vous enregistriez.</translation>
     </message>
     <message>
         <source>Programs that were not saved</source>
@@ -2122,8 +2122,8 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     <message numerus="yes">
         <source>Do you want to discard %n program(s)? The text cannot be brought back.</source>
         <translation>
-            <numerusform>Voulez-vous abandonner %n programme&#xa0;? Son texte ne pourra pas être récupéré.</numerusform>
-            <numerusform>Voulez-vous abandonner %n programmes&#xa0;? Leur texte ne pourra pas être récupéré.</numerusform>
+            <numerusform>Voulez-vous abandonner %n programme ? Son texte ne pourra pas être récupéré.</numerusform>
+            <numerusform>Voulez-vous abandonner %n programmes ? Leur texte ne pourra pas être récupéré.</numerusform>
         </translation>
     </message>
     <message>
@@ -2155,183 +2155,183 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>Differs; the file was changed later</source>
-        <translation>Différent&#xa0;; le fichier a été modifié après</translation>
+        <translation>Différent ; le fichier a été modifié après</translation>
     </message>
 </context>
 <context>
     <name>ReportSheet</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de données</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone géographique</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable sommée</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Pondération</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtre</translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de l’univers</translation>
     </message>
     <message>
         <source>Sorted (%1) by</source>
-        <translation type="unfinished"></translation>
+        <translation>Trié (%1) par</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissant</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Décroissant</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Tableau croisé</translation>
+        <translation>Tableau croisé</translation>
     </message>
     <message>
         <source>of </source>
-        <translation type="unfinished"></translation>
+        <translation>de </translation>
     </message>
     <message>
         <source>by </source>
-        <translation type="unfinished"></translation>
+        <translation>par </translation>
     </message>
 </context>
 <context>
     <name>ResultExports</name>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>XML (*.xml)</translation>
     </message>
     <message>
         <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF (*.pdf)</translation>
     </message>
     <message>
         <source>CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (*.csv)</translation>
     </message>
     <message>
         <source>Select a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez sélectionner un tableau</translation>
     </message>
     <message>
         <source>Export completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportation terminée</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner un dossier</translation>
     </message>
     <message>
         <source>EXCEL (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL (*.xlsx)</translation>
     </message>
 </context>
 <context>
     <name>ResultFacts</name>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Croissant</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Décroissant</translation>
     </message>
     <message>
         <source>Sorted</source>
-        <translation type="unfinished"></translation>
+        <translation>Trié</translation>
     </message>
     <message>
         <source>by</source>
-        <translation type="unfinished"></translation>
+        <translation>par</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable sommée</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Pondération</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtre</translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de l’univers</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de données</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entité</translation>
+        <translation>Entité</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone géographique</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Tableau croisé</translation>
+        <translation>Tableau croisé</translation>
     </message>
 </context>
 <context>
     <name>ResultFaults</name>
     <message>
         <source>%1 was not written: cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas été écrit : opération annulée</translation>
     </message>
     <message>
         <source>%1 was not written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas été écrit : %2</translation>
     </message>
 </context>
 <context>
@@ -2342,155 +2342,156 @@ Voulez-vous plutôt recharger le fichier&#xa0;?</translation>
     </message>
     <message>
         <source>CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (libellés en en-tête)</translation>
     </message>
     <message>
         <source>Export as CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en CSV (libellés en en-tête)</translation>
     </message>
     <message>
         <source>CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (noms en en-tête)</translation>
     </message>
     <message>
         <source>Export as CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en CSV (noms en en-tête)</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Export as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en JSON</translation>
     </message>
     <message>
         <source>XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>XLSX</translation>
     </message>
     <message>
         <source>Export as XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en XLSX</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Export as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
     <message>
         <source>Export as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter en PDF</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>View options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options d’affichage</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Copy the selected cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les cellules sélectionnées</translation>
     </message>
     <message>
         <source>No table has been selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun tableau n’a été sélectionné.</translation>
     </message>
     <message>
         <source>Table result was exported directly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau de résultats a été exporté directement.</translation>
     </message>
     <message>
         <source>No cells are selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune cellule n’est sélectionnée</translation>
     </message>
     <message>
         <source>Copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copié dans le presse-papiers</translation>
     </message>
     <message>
         <source>Too many cells to copy; an export takes them all</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop de cellules à copier ; une exportation les reprend toutes</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished">Tableau</translation>
+        <translation>Tableau</translation>
     </message>
     <message>
         <source>No table is shown.
 Run a program, or choose a table in the tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun tableau n’est affiché.
+Exécutez un programme ou choisissez un tableau dans l’arborescence.</translation>
     </message>
     <message>
         <source>Runs and their tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécutions et leurs tableaux</translation>
     </message>
     <message>
         <source>Cells of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Cellules du tableau</translation>
     </message>
     <message>
         <source>Report of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport du tableau</translation>
     </message>
     <message>
         <source>Exports and options</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportations et options</translation>
     </message>
 </context>
 <context>
     <name>ResultsTreeViewContextMenu</name>
     <message>
         <source>Select all</source>
-        <translation type="unfinished">Tout sélectionner</translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Deselect all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout désélectionner</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copier</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Export selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter la sélection</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>EXCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
 </context>
 <context>
@@ -2550,37 +2551,37 @@ Run a program, or choose a table in the tree.</source>
     <name>SeveralVariablesStylePage</name>
     <message>
         <source>Show N/A rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les lignes/colonnes Sans objet (NA)</translation>
     </message>
     <message>
         <source>Show MV rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les lignes/colonnes Non déclaré (MV)</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>3-variable matrix by first variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrice à 3 variables selon la première variable</translation>
     </message>
     <message>
         <source>3-variable layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition à 3 variables :</translation>
     </message>
 </context>
 <context>
     <name>SheetFrame</name>
     <message>
         <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Des textes ont été coupés après %1 caractères, soit le maximum que contient une cellule</translation>
     </message>
 </context>
 <context>
     <name>StartPage</name>
     <message>
         <source>Census and survey microdata: browse a database, make tables, charts and maps.</source>
-        <translation>Microdonnées de recensements et d’enquêtes&#xa0;: explorez une base de données, produisez des tableaux, des graphiques et des cartes.</translation>
+        <translation>Microdonnées de recensements et d’enquêtes : explorez une base de données, produisez des tableaux, des graphiques et des cartes.</translation>
     </message>
     <message>
         <source>Open Dictionary...</source>
@@ -2757,7 +2758,7 @@ Run a program, or choose a table in the tree.</source>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation>La définition de la variable a été modifiée. Enregistrer les modifications&#xa0;?
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
 </translation>
     </message>
 </context>
@@ -2765,11 +2766,11 @@ Run a program, or choose a table in the tree.</source>
     <name>TableMetadata</name>
     <message>
         <source>All Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute la base de données</translation>
     </message>
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n cellule masquée pour protéger les personnes</numerusform>
             <numerusform>%n cellules masquées pour protéger les personnes</numerusform>
         </translation>
@@ -2779,84 +2780,85 @@ Run a program, or choose a table in the tree.</source>
     <name>TableStyleEditorDialog</name>
     <message>
         <source>Table Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de style de tableau</translation>
     </message>
     <message>
         <source>New Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau style de tableau</translation>
     </message>
     <message>
         <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier %1 comme style de tableau. Ce qui est enregistré ici devient un nouveau fichier.</translation>
     </message>
     <message>
         <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier contient des paramètres d’un ancien format, qui n’apparaissent pas ici. Une fois le fichier enregistré, les tableaux suivront les paramètres ci-dessous.</translation>
     </message>
     <message>
         <source>Table Style — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de tableau — %1</translation>
     </message>
     <message>
         <source>Sections of the style</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections du style</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished">Général</translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Frequency (1 Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tri à plat (1 var.)</translation>
     </message>
     <message>
         <source>Frequency (Multi Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tri croisé (plusieurs var.)</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Enregistrer</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Save Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le style de tableau</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de tableau (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’enregistrement</translation>
     </message>
     <message>
         <source>Could not write file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le fichier :
+%1</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished">Modifications non enregistrées</translation>
+        <translation>Modifications non enregistrées</translation>
     </message>
     <message>
         <source>The changes to this table style are not saved. Do you want to discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Les modifications de ce style de tableau ne sont pas enregistrées. Voulez-vous les abandonner ?</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Abandonner</translation>
+        <translation>Abandonner</translation>
     </message>
     <message>
         <source>Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Poursuivre la modification</translation>
     </message>
 </context>
 <context>
@@ -2868,12 +2870,18 @@ No program file is currently active.
 Add this line inside the DEFINE block of your .spc:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de tableau enregistré.
+
+Aucun fichier programme n’est actif actuellement.
+Ajoutez cette ligne dans le bloc DEFINE de votre fichier .spc :
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>TABLESTYLE line inserted into:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne TABLESTYLE insérée dans :
+%1</translation>
     </message>
     <message>
         <source>Table style saved.
@@ -2881,31 +2889,35 @@ Could not update program file.
 Add this line manually inside the DEFINE block:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de tableau enregistré.
+Impossible de mettre à jour le fichier programme.
+Ajoutez cette ligne manuellement dans le bloc DEFINE :
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished">Nouveau</translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Make a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un style de tableau et l’indiquer dans le programme au premier plan</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Ouvrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Change a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier un style de tableau et l’indiquer dans le programme au premier plan</translation>
     </message>
     <message>
         <source>Open Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un style de tableau</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de tableau (*.json);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -2943,11 +2955,11 @@ Add this line manually inside the DEFINE block:
     </message>
     <message>
         <source>This is not a text file: line %1 has a null byte.</source>
-        <translation>Ce n’est pas un fichier texte&#xa0;: la ligne %1 contient un octet nul.</translation>
+        <translation>Ce n’est pas un fichier texte : la ligne %1 contient un octet nul.</translation>
     </message>
     <message>
         <source>The file is not encoded in UTF-8: line %1 has other bytes. Convert it to UTF-8 to open it here.</source>
-        <translation>Le fichier n’est pas codé en UTF-8&#xa0;: la ligne %1 contient d’autres octets. Convertissez-le en UTF-8 pour l’ouvrir ici.</translation>
+        <translation>Le fichier n’est pas codé en UTF-8 : la ligne %1 contient d’autres octets. Convertissez-le en UTF-8 pour l’ouvrir ici.</translation>
     </message>
     <message>
         <source>The file is too large to be read (beyond 256 MB).</source>
@@ -2974,7 +2986,7 @@ Add this line manually inside the DEFINE block:
     </message>
     <message>
         <source>Error validating Dictionary:</source>
-        <translation>Erreur lors de la validation du dictionnaire&#xa0;:</translation>
+        <translation>Erreur lors de la validation du dictionnaire :</translation>
     </message>
     <message>
         <source>Dictionary Loaded</source>
@@ -2983,7 +2995,7 @@ Add this line manually inside the DEFINE block:
     <message>
         <source>Some variable and/or entity paths could not be found!
 Please, press Locate button in the Dictionary ToolBar</source>
-        <translation>Certains chemins de variables ou d’entités sont introuvables&#xa0;!
+        <translation>Certains chemins de variables ou d’entités sont introuvables !
 Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</translation>
     </message>
     <message>
@@ -3012,7 +3024,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Dictionary has been modified. Save modifications?</source>
-        <translation>Le dictionnaire a été modifié. Enregistrer les modifications&#xa0;?</translation>
+        <translation>Le dictionnaire a été modifié. Enregistrer les modifications ?</translation>
     </message>
 </context>
 <context>
@@ -3023,12 +3035,12 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Entity definition has been modified. Save changes?</source>
-        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications&#xa0;?</translation>
+        <translation>La définition de l’entité a été modifiée. Enregistrer les modifications ?</translation>
     </message>
     <message>
         <source>Variable definition has been modified. Save changes?
 </source>
-        <translation>La définition de la variable a été modifiée. Enregistrer les modifications&#xa0;?
+        <translation>La définition de la variable a été modifiée. Enregistrer les modifications ?
 </translation>
     </message>
     <message>
@@ -3060,7 +3072,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Construction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
@@ -3068,7 +3080,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Hide All Variables</source>
@@ -3076,7 +3088,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Hide All Variables context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer toutes les variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unhide All Variables</source>
@@ -3084,7 +3096,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unhide All Variables from context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Réafficher toutes les variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Réafficher toutes les variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Selectable</source>
@@ -3134,7 +3146,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The typed character string already exists and it is the entity </source>
-        <translation>La chaîne de caractères saisie existe déjà&#xa0;: c’est l’entité </translation>
+        <translation>La chaîne de caractères saisie existe déjà : c’est l’entité </translation>
     </message>
     <message>
         <source>The typed character string already exists as entity alias of </source>
@@ -3142,7 +3154,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The typed character string already exists as a variable name: </source>
-        <translation>La chaîne de caractères saisie existe déjà comme nom de variable&#xa0;: </translation>
+        <translation>La chaîne de caractères saisie existe déjà comme nom de variable : </translation>
     </message>
     <message>
         <source>The typed character string already exists as variable alias of </source>
@@ -3166,14 +3178,14 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>The variable could not be renamed, it is not a local variable</source>
-        <translation>Impossible de renommer la variable&#xa0;: ce n’est pas une variable locale</translation>
+        <translation>Impossible de renommer la variable : ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
     <name>VarValueLabelDiccionaryModel</name>
     <message>
         <source>The category &quot;%1&quot; has no code</source>
-        <translation>La modalité «&#xa0;%1&#xa0;» n’a pas de code</translation>
+        <translation>La modalité « %1 » n’a pas de code</translation>
     </message>
     <message>
         <source>The code %1 stands more than once in the table</source>
@@ -3192,15 +3204,15 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     <name>VariableDiccionaryModel</name>
     <message>
         <source>Type: %1</source>
-        <translation>Type&#xa0;: %1</translation>
+        <translation>Type : %1</translation>
     </message>
     <message>
         <source>Alias: %1</source>
-        <translation>Alias&#xa0;: %1</translation>
+        <translation>Alias : %1</translation>
     </message>
     <message>
         <source>File not found: %1</source>
-        <translation>Fichier introuvable&#xa0;: %1</translation>
+        <translation>Fichier introuvable : %1</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3227,43 +3239,43 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     <name>VariableInfoView</name>
     <message>
         <source>Name: </source>
-        <translation>Nom&#xa0;: </translation>
+        <translation>Nom : </translation>
     </message>
     <message>
         <source>Label: </source>
-        <translation>Libellé&#xa0;: </translation>
+        <translation>Libellé : </translation>
     </message>
     <message>
         <source>Alias: </source>
-        <translation>Alias&#xa0;: </translation>
+        <translation>Alias : </translation>
     </message>
     <message>
         <source>Group: </source>
-        <translation>Groupe&#xa0;: </translation>
+        <translation>Groupe : </translation>
     </message>
     <message>
         <source>Tag: </source>
-        <translation>Repère&#xa0;: </translation>
+        <translation>Repère : </translation>
     </message>
     <message>
         <source>Type: </source>
-        <translation>Type&#xa0;: </translation>
+        <translation>Type : </translation>
     </message>
     <message>
         <source>Min: </source>
-        <translation>Min.&#xa0;: </translation>
+        <translation>Min. : </translation>
     </message>
     <message>
         <source>Max: </source>
-        <translation>Max.&#xa0;: </translation>
+        <translation>Max. : </translation>
     </message>
     <message>
         <source>NotApp: </source>
-        <translation>Sans objet&#xa0;: </translation>
+        <translation>Sans objet : </translation>
     </message>
     <message>
         <source>Missing: </source>
-        <translation>Non déclaré&#xa0;: </translation>
+        <translation>Non déclaré : </translation>
     </message>
     <message>
         <source>Variable Properties</source>
@@ -3298,27 +3310,27 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Label:</source>
-        <translation>Libellé&#xa0;:</translation>
+        <translation>Libellé :</translation>
     </message>
     <message>
         <source>Alias:</source>
-        <translation>Alias&#xa0;:</translation>
+        <translation>Alias :</translation>
     </message>
     <message>
         <source>Another name of the variable; Return stores it</source>
-        <translation>Autre nom de la variable&#xa0;; la touche Entrée l’enregistre</translation>
+        <translation>Autre nom de la variable ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation>Groupe&#xa0;:</translation>
+        <translation>Groupe :</translation>
     </message>
     <message>
         <source>Variables of one group belong together; Return stores it</source>
-        <translation>Les variables d’un même groupe vont ensemble&#xa0;; la touche Entrée l’enregistre</translation>
+        <translation>Les variables d’un même groupe vont ensemble ; la touche Entrée l’enregistre</translation>
     </message>
     <message>
         <source>Tag:</source>
-        <translation>Repère&#xa0;:</translation>
+        <translation>Repère :</translation>
     </message>
     <message>
         <source>A number of yours, 9999 at most</source>
@@ -3421,7 +3433,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Statistics variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>View</source>
@@ -3429,7 +3441,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: View variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark as hidden</source>
@@ -3437,7 +3449,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark as hidden</source>
@@ -3445,7 +3457,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Ne plus masquer des variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer des variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Group</source>
@@ -3457,15 +3469,15 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Frequency variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Tri à plat du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Tri à plat du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Statisitcs variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Statistiques du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Statistiques du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group View variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Visualiser du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Visualiser du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Mark hidden</source>
@@ -3473,7 +3485,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group Mark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Masquer du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Unmark hidden</source>
@@ -3481,7 +3493,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>&lt;b&gt;Contruction: Group unmark as hidden variable context menu &lt;/b&gt; </source>
-        <translation>&lt;b&gt;En construction&#xa0;: menu contextuel Ne plus masquer du groupe de variables &lt;/b&gt; </translation>
+        <translation>&lt;b&gt;En construction : menu contextuel Ne plus masquer du groupe de variables &lt;/b&gt; </translation>
     </message>
     <message>
         <source>Confirmation screen</source>
@@ -3489,11 +3501,11 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Are you sure you want to delete the variable(s)?</source>
-        <translation>Voulez-vous vraiment supprimer la ou les variables&#xa0;?</translation>
+        <translation>Voulez-vous vraiment supprimer la ou les variables ?</translation>
     </message>
     <message>
         <source>The variable could not be deleted, it is not a local variable</source>
-        <translation>Impossible de supprimer la variable&#xa0;: ce n’est pas une variable locale</translation>
+        <translation>Impossible de supprimer la variable : ce n’est pas une variable locale</translation>
     </message>
 </context>
 <context>
@@ -3586,62 +3598,62 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Résultats</translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Show the tables made so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les tableaux obtenus jusqu’ici</translation>
     </message>
 </context>
 <context>
     <name>WorkbookError</name>
     <message>
         <source>there is no room for the sheet %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de place pour la feuille %1</translation>
     </message>
     <message>
         <source>The workbook can&apos;t be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le classeur : %1.</translation>
     </message>
     <message>
         <source>it did not reach the disk as a whole; is there enough space?</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’a pas été écrit en entier sur le disque ; y a-t-il assez d’espace ?</translation>
     </message>
     <message>
         <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nécessite %2 lignes, plus que n’en contient une feuille de classeur. Exportez-le en CSV.</translation>
     </message>
     <message>
         <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nécessite %2 colonnes, plus que n’en contient une feuille de classeur. Exportez-le en CSV.</translation>
     </message>
     <message>
         <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier existant n’est pas un classeur XLSX. Choisissez un autre nom ou remplacez le fichier.</translation>
     </message>
     <message>
         <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur existant est protégé par un mot de passe ou dans un format plus ancien. Choisissez un autre nom ou remplacez le fichier.</translation>
     </message>
     <message>
         <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur existant est au format Strict Open XML. Enregistrez-le d’abord comme classeur ordinaire ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur existant est signé ; une feuille supplémentaire invaliderait la signature. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur est ouvert dans un autre programme. Fermez-le d’abord dans ce programme. (S’il ne l’est pas, supprimez le fichier %1.)</translation>
     </message>
     <message>
         <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur existant est endommagé (%1). Choisissez un autre nom ou remplacez le fichier.</translation>
     </message>
     <message>
         <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le classeur existant ne peut pas recevoir d’autres feuilles (%1 est trop volumineux). Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -3666,7 +3678,7 @@ Veuillez cliquer sur le bouton Localiser de la barre d’outils Dictionnaire</tr
     </message>
     <message>
         <source>Do you want to located?</source>
-        <translation>Voulez-vous le localiser&#xa0;?</translation>
+        <translation>Voulez-vous le localiser ?</translation>
     </message>
     <message>
         <source>Confirm</source>

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="pt" sourcelanguage="en">
+<TS version="2.1" sourcelanguage="en" language="pt">
 <context>
     <name>AppProperties</name>
     <message>
@@ -28,30 +28,30 @@
     <name>ArealistViewOptionsDialog</name>
     <message>
         <source>Show Totals Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linha de totais</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções de exibição</translation>
     </message>
     <message>
         <source>Add a row with the sum of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar uma linha com a soma de cada coluna</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
 </context>
 <context>
     <name>AverageLayout</name>
     <message>
         <source>Variable</source>
-        <translation type="unfinished">Variável</translation>
+        <translation>Variável</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Média</translation>
     </message>
 </context>
 <context>
@@ -128,42 +128,42 @@
     <name>ColumnGroupRows</name>
     <message>
         <source>Columns at place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colunas na posição %1</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished">Mostrar</translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar %1</translation>
     </message>
     <message>
         <source>Checked: %1 shows in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcado: %1 aparece na tabela</translation>
     </message>
     <message>
         <source>%1 always shows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aparece sempre</translation>
     </message>
 </context>
 <context>
     <name>ColumnGroups</name>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Total</translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished">Variáveis</translation>
+        <translation>Variáveis</translation>
     </message>
     <message>
         <source>NA</source>
-        <translation type="unfinished"></translation>
+        <translation>NA</translation>
     </message>
     <message>
         <source>MV</source>
-        <translation type="unfinished"></translation>
+        <translation>MV</translation>
     </message>
 </context>
 <context>
@@ -185,7 +185,7 @@
     <name>CrossTable</name>
     <message>
         <source>This table of %1 rows and %2 columns is too large to be shown: it would have more than %3 cells. Group the categories of its variables or filter the records.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta tabela de %1 linhas e %2 colunas é grande demais para ser mostrada: teria mais de %3 células. É preciso agrupar as categorias das variáveis ou filtrar os registros.</translation>
     </message>
 </context>
 <context>
@@ -381,11 +381,11 @@
     <name>DirectExport</name>
     <message>
         <source>The folder %1 does not exist. %2 is written into the folder of results, %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta %1 não existe. O arquivo %2 será gravado na pasta de resultados, %3.</translation>
     </message>
     <message>
         <source>The program gives no name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>O programa não indica nenhum nome de arquivo.</translation>
     </message>
 </context>
 <context>
@@ -793,11 +793,11 @@
     <name>ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportação</translation>
     </message>
     <message>
         <source>Writing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravando %1</translation>
     </message>
 </context>
 <context>
@@ -1060,11 +1060,11 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <name>FormatDialog</name>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções de exibição</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordem</translation>
     </message>
 </context>
 <context>
@@ -1141,55 +1141,55 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <name>GeneralStylePage</name>
     <message>
         <source>Comma  ( , )</source>
-        <translation type="unfinished"></translation>
+        <translation>Vírgula  ( , )</translation>
     </message>
     <message>
         <source>Period ( . )</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponto ( . )</translation>
     </message>
     <message>
         <source>Space  (   )</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaço  (   )</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum</translation>
     </message>
     <message>
         <source>e.g. Census2024</source>
-        <translation type="unfinished"></translation>
+        <translation>p. ex., Censo2024</translation>
     </message>
     <message>
         <source>Optional description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descrição opcional</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Label:</source>
-        <translation type="unfinished">Rótulo:</translation>
+        <translation>Rótulo:</translation>
     </message>
     <message>
         <source> decimal(s)</source>
-        <translation type="unfinished"></translation>
+        <translation> decimal(is)</translation>
     </message>
     <message>
         <source>Numbers in this style</source>
-        <translation type="unfinished"></translation>
+        <translation>Números neste estilo</translation>
     </message>
     <message>
         <source>Decimals:</source>
-        <translation type="unfinished"></translation>
+        <translation>Decimais:</translation>
     </message>
     <message>
         <source>Thousand separator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador de milhar:</translation>
     </message>
     <message>
         <source>Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemplo:</translation>
     </message>
 </context>
 <context>
@@ -1445,54 +1445,54 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <name>OneVariableLayout</name>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
+        <translation>Casos</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>casos</translation>
     </message>
     <message>
         <source>Cumul%</source>
-        <translation type="unfinished"></translation>
+        <translation>% acum.</translation>
     </message>
 </context>
 <context>
     <name>OneVariableStylePage</name>
     <message>
         <source>Show percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar coluna de percentual</translation>
     </message>
     <message>
         <source>Show cumulative percentage column</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar coluna de percentual acumulado</translation>
     </message>
     <message>
         <source>Show Total row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linha Total</translation>
     </message>
     <message>
         <source>Show N/A row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linha N/A</translation>
     </message>
     <message>
         <source>Show MV row</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linha MV</translation>
     </message>
     <message>
         <source>Default (engine order)</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão (ordem do motor de cálculo)</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Decrescente</translation>
     </message>
     <message>
         <source>Row order:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordem das linhas:</translation>
     </message>
 </context>
 <context>
@@ -1514,30 +1514,30 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <name>OrderDialog</name>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Decrescente</translation>
     </message>
     <message>
         <source>View Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções de exibição</translation>
     </message>
     <message>
         <source>Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordem</translation>
     </message>
 </context>
 <context>
     <name>PrintedFile</name>
     <message>
         <source>The pages could not be written into the folder of temporary files. Its disk may be full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível gravar as páginas na pasta de arquivos temporários. O disco pode estar cheio.</translation>
     </message>
 </context>
 <context>
@@ -2162,176 +2162,176 @@ Deseja recarregar o arquivo em vez disso?</translation>
     <name>ReportSheet</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de dados</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área geográfica</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagem</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtro</translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro universal</translation>
     </message>
     <message>
         <source>Sorted (%1) by</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenação (%1) por</translation>
     </message>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Decrescente</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Chave</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Cruzamento</translation>
+        <translation>Cruzamento</translation>
     </message>
     <message>
         <source>of </source>
-        <translation type="unfinished"></translation>
+        <translation>de </translation>
     </message>
     <message>
         <source>by </source>
-        <translation type="unfinished"></translation>
+        <translation>por </translation>
     </message>
 </context>
 <context>
     <name>ResultExports</name>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>XML (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>XML (*.xml)</translation>
     </message>
     <message>
         <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF (*.pdf)</translation>
     </message>
     <message>
         <source>CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (*.csv)</translation>
     </message>
     <message>
         <source>Select a table</source>
-        <translation type="unfinished"></translation>
+        <translation>É necessário selecionar uma tabela</translation>
     </message>
     <message>
         <source>Export completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportação concluída</translation>
     </message>
     <message>
         <source>Save File</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar arquivo</translation>
     </message>
     <message>
         <source>Select Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar pasta</translation>
     </message>
     <message>
         <source>EXCEL (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL (*.xlsx)</translation>
     </message>
 </context>
 <context>
     <name>ResultFacts</name>
     <message>
         <source>Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>Crescente</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Decrescente</translation>
     </message>
     <message>
         <source>Sorted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenação</translation>
     </message>
     <message>
         <source>by</source>
-        <translation type="unfinished"></translation>
+        <translation>por</translation>
     </message>
     <message>
         <source>Tally</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagem</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtro</translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Universal Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro universal</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de dados</translation>
     </message>
     <message>
         <source>Entity</source>
-        <translation type="unfinished">Entidade</translation>
+        <translation>Entidade</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Chave</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Geographic Area</source>
-        <translation type="unfinished"></translation>
+        <translation>Área geográfica</translation>
     </message>
     <message>
         <source>Crosstab</source>
-        <translation type="unfinished">Cruzamento</translation>
+        <translation>Cruzamento</translation>
     </message>
 </context>
 <context>
     <name>ResultFaults</name>
     <message>
         <source>%1 was not written: cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não foi gravado: operação cancelada</translation>
     </message>
     <message>
         <source>%1 was not written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não foi gravado: %2</translation>
     </message>
 </context>
 <context>
@@ -2342,155 +2342,156 @@ Deseja recarregar o arquivo em vez disso?</translation>
     </message>
     <message>
         <source>CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (rótulo no cabeçalho)</translation>
     </message>
     <message>
         <source>Export as CSV (Label as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como CSV (rótulo no cabeçalho)</translation>
     </message>
     <message>
         <source>CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (nome no cabeçalho)</translation>
     </message>
     <message>
         <source>Export as CSV (Name as header)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como CSV (nome no cabeçalho)</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>Export as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como JSON</translation>
     </message>
     <message>
         <source>XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>XLSX</translation>
     </message>
     <message>
         <source>Export as XLSX</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como XLSX</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>Export as XML</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
     <message>
         <source>Export as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como PDF</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções</translation>
     </message>
     <message>
         <source>View options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opções de exibição</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copiar</translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy the selected cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar as células selecionadas</translation>
     </message>
     <message>
         <source>No table has been selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma tabela foi selecionada.</translation>
     </message>
     <message>
         <source>Table result was exported directly.</source>
-        <translation type="unfinished"></translation>
+        <translation>O resultado da tabela foi exportado diretamente.</translation>
     </message>
     <message>
         <source>No cells are selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma célula selecionada</translation>
     </message>
     <message>
         <source>Copied to clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado para a área de transferência</translation>
     </message>
     <message>
         <source>Too many cells to copy; an export takes them all</source>
-        <translation type="unfinished"></translation>
+        <translation>Há células demais para copiar; a exportação inclui todas</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished">Tabela</translation>
+        <translation>Tabela</translation>
     </message>
     <message>
         <source>No table is shown.
 Run a program, or choose a table in the tree.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma tabela em exibição.
+É preciso executar um programa ou escolher uma tabela na árvore.</translation>
     </message>
     <message>
         <source>Runs and their tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Execuções e suas tabelas</translation>
     </message>
     <message>
         <source>Cells of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Células da tabela</translation>
     </message>
     <message>
         <source>Report of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Relatório da tabela</translation>
     </message>
     <message>
         <source>Exports and options</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportações e opções</translation>
     </message>
 </context>
 <context>
     <name>ResultsTreeViewContextMenu</name>
     <message>
         <source>Select all</source>
-        <translation type="unfinished">Selecionar tudo</translation>
+        <translation>Selecionar tudo</translation>
     </message>
     <message>
         <source>Deselect all</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar tudo</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished">Copiar</translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Export selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar seleção</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON</translation>
     </message>
     <message>
         <source>EXCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>EXCEL</translation>
     </message>
     <message>
         <source>XML</source>
-        <translation type="unfinished"></translation>
+        <translation>XML</translation>
     </message>
     <message>
         <source>PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF</translation>
     </message>
 </context>
 <context>
@@ -2550,30 +2551,30 @@ Run a program, or choose a table in the tree.</source>
     <name>SeveralVariablesStylePage</name>
     <message>
         <source>Show N/A rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linhas/colunas N/A</translation>
     </message>
     <message>
         <source>Show MV rows/columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar linhas/colunas MV</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão</translation>
     </message>
     <message>
         <source>3-variable matrix by first variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz de 3 variáveis pela primeira variável</translation>
     </message>
     <message>
         <source>3-variable layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposição com 3 variáveis:</translation>
     </message>
 </context>
 <context>
     <name>SheetFrame</name>
     <message>
         <source>Texts were cut off after %1 characters, which is all that a cell holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos truncados após %1 caracteres, o máximo que uma célula comporta</translation>
     </message>
 </context>
 <context>
@@ -2765,11 +2766,11 @@ Run a program, or choose a table in the tree.</source>
     <name>TableMetadata</name>
     <message>
         <source>All Database</source>
-        <translation type="unfinished"></translation>
+        <translation>Toda a base de dados</translation>
     </message>
     <message numerus="yes">
         <source>%n cell(s) hidden to protect persons</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%n célula oculta para preservar o sigilo das pessoas</numerusform>
             <numerusform>%n células ocultas para preservar o sigilo das pessoas</numerusform>
         </translation>
@@ -2779,84 +2780,85 @@ Run a program, or choose a table in the tree.</source>
     <name>TableStyleEditorDialog</name>
     <message>
         <source>Table Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de estilos de tabela</translation>
     </message>
     <message>
         <source>New Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Novo estilo de tabela</translation>
     </message>
     <message>
         <source>The file %1 cannot be read as a table style. What is saved here becomes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler o arquivo %1 como estilo de tabela. O que for salvo aqui será um novo arquivo.</translation>
     </message>
     <message>
         <source>This file has settings of an older form, which do not show here. Once it is saved, tables follow the settings below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este arquivo tem configurações de um formato anterior, que não são mostradas aqui. Depois que ele for salvo, as tabelas seguirão as configurações abaixo.</translation>
     </message>
     <message>
         <source>Table Style — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabela — %1</translation>
     </message>
     <message>
         <source>Sections of the style</source>
-        <translation type="unfinished"></translation>
+        <translation>Seções do estilo</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished">Geral</translation>
+        <translation>Geral</translation>
     </message>
     <message>
         <source>Frequency (1 Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência (1 var.)</translation>
     </message>
     <message>
         <source>Frequency (Multi Var)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência (várias var.)</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Salvar</translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar como…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Save Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar estilo de tabela</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabela (*.json);;Todos os arquivos (*)</translation>
     </message>
     <message>
         <source>Save Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao salvar</translation>
     </message>
     <message>
         <source>Could not write file:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível gravar o arquivo:
+%1</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished">Alterações não salvas</translation>
+        <translation>Alterações não salvas</translation>
     </message>
     <message>
         <source>The changes to this table style are not saved. Do you want to discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>As alterações deste estilo de tabela não foram salvas. Deseja descartá-las?</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished">Descartar</translation>
+        <translation>Descartar</translation>
     </message>
     <message>
         <source>Keep Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar editando</translation>
     </message>
 </context>
 <context>
@@ -2868,12 +2870,18 @@ No program file is currently active.
 Add this line inside the DEFINE block of your .spc:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabela salvo.
+
+Nenhum arquivo de programa está ativo no momento.
+É preciso adicionar esta linha ao bloco DEFINE do arquivo .spc:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>TABLESTYLE line inserted into:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Linha TABLESTYLE inserida em:
+%1</translation>
     </message>
     <message>
         <source>Table style saved.
@@ -2881,31 +2889,35 @@ Could not update program file.
 Add this line manually inside the DEFINE block:
 
     TABLESTYLE &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabela salvo.
+Não foi possível atualizar o arquivo de programa.
+É preciso adicionar manualmente esta linha ao bloco DEFINE:
+
+    TABLESTYLE &quot;%1&quot;</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished">Novo</translation>
+        <translation>Novo</translation>
     </message>
     <message>
         <source>Make a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Criar um estilo de tabela e indicá-lo no programa ativo</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished">Abrir</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Change a table style and name it in the program in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterar um estilo de tabela e indicá-lo no programa ativo</translation>
     </message>
     <message>
         <source>Open Table Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir estilo de tabela</translation>
     </message>
     <message>
         <source>Table Style (*.json);;All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de tabela (*.json);;Todos os arquivos (*)</translation>
     </message>
 </context>
 <context>
@@ -3586,62 +3598,62 @@ Use o botão Localizar da barra Dicionário</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished">Resultados</translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Show the tables made so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar as tabelas geradas até o momento</translation>
     </message>
 </context>
 <context>
     <name>WorkbookError</name>
     <message>
         <source>there is no room for the sheet %1</source>
-        <translation type="unfinished"></translation>
+        <translation>não há espaço para a planilha %1</translation>
     </message>
     <message>
         <source>The workbook can&apos;t be written: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível gravar a pasta de trabalho: %1.</translation>
     </message>
     <message>
         <source>it did not reach the disk as a whole; is there enough space?</source>
-        <translation type="unfinished"></translation>
+        <translation>ela não foi gravada por completo no disco; há espaço suficiente?</translation>
     </message>
     <message>
         <source>%1 needs %2 rows, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 requer %2 linhas, mais do que comporta uma planilha da pasta de trabalho. É preciso exportar como CSV.</translation>
     </message>
     <message>
         <source>%1 needs %2 columns, more than a sheet of a workbook has. Export it as CSV.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 requer %2 colunas, mais do que comporta uma planilha da pasta de trabalho. É preciso exportar como CSV.</translation>
     </message>
     <message>
         <source>The file that is there is no XLSX workbook. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo existente não é uma pasta de trabalho XLSX. É preciso escolher outro nome ou substituir o arquivo.</translation>
     </message>
     <message>
         <source>The workbook that is there is protected by a password or in an older format. Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho existente está protegida por senha ou em um formato anterior. É preciso escolher outro nome ou substituir o arquivo.</translation>
     </message>
     <message>
         <source>The workbook that is there is kept as Strict Open XML. Save it as a usual workbook first, or choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho existente está no formato Strict Open XML. É preciso salvá-la antes como pasta de trabalho comum ou escolher outro nome.</translation>
     </message>
     <message>
         <source>The workbook that is there is signed; another sheet would break the signature. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho existente está assinada; outra planilha invalidaria a assinatura. É preciso escolher outro nome.</translation>
     </message>
     <message>
         <source>The workbook is open in another program. Close it there first. (If it is not, remove the file %1.)</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho está aberta em outro programa. É preciso fechá-la nele antes. (Se não estiver aberta, basta remover o arquivo %1.)</translation>
     </message>
     <message>
         <source>The workbook that is there is damaged (%1). Choose another name, or replace the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho existente está danificada (%1). É preciso escolher outro nome ou substituir o arquivo.</translation>
     </message>
     <message>
         <source>The workbook that is there can&apos;t take more sheets (%1 is too large). Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de trabalho existente não comporta mais planilhas (%1 é grande demais). É preciso escolher outro nome.</translation>
     </message>
 </context>
 <context>

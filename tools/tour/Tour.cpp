@@ -204,6 +204,8 @@ void Tour::languages() {
         if (language == QLatin1String("en"))
             continue;
         properties();
+        window_.onShowResults();
+        shoot(QStringLiteral("results-") + language);
         programIn(language);
     }
 }
