@@ -73,14 +73,27 @@ void addTexts(const RowTable& rows, Form& form, execution::Progress& progress) {
     }
 }
 
-/// Name and label of each figure's field.
+/// What several figures of a measure stand under: its label, else its full name. It differs from
+/// the last dimension's, or they would be read as one group.
+std::string figureGroup(const RowTable& rows) {
+    const TableCommand& command = *rows.command;
+    if (!command.measure)
+        return {};
+    const TableVariable measure = variableOf(*command.measure);
+    const bool unlabelled = measure.variable != nullptr && measure.variable->label.empty();
+    const std::string heading = unlabelled ? measure.name : measure.label;
+    const bool same = !rows.dimensions.empty() && rows.dimensions.back().name == heading;
+    return same ? kindName(command.kind) + (" " + heading) : heading;
+}
+
+/// Name, label and group of each figure's field.
 std::vector<Field> figureFields(const RowTable& rows) {
     const TableCommand& command = *rows.command;
     switch (command.kind) {
     case TableKind::Frequency:
         return {{command.unit->name, headingOf(*command.unit), ""}};
     case TableKind::Count:
-        return {{"Count", "Count", ""}};
+        return {{"Count", "Count", "Count"}};
     case TableKind::Average: {
         const TableVariable measure = variableOf(*command.measure);
         return {{measure.name, measure.label, ""}};
@@ -92,9 +105,10 @@ std::vector<Field> figureFields(const RowTable& rows) {
     default:
         break;
     }
+    const std::string group = rows.figureNames.size() > 1 ? figureGroup(rows) : std::string();
     std::vector<Field> fields;
     for (const std::string& name : rows.figureNames)
-        fields.push_back({name, name, ""});
+        fields.push_back({name, name, group});
     return fields;
 }
 
@@ -107,7 +121,7 @@ void addFigures(const RowTable& rows, Form& form) {
 
 /// Says in the first column what the only row is about.
 void addSubject(const std::string& field, const std::string& subject, Form& form) {
-    form.fields.push_back({field, field, ""});
+    form.fields.push_back({field, field, field});
     form.columns.push_back(Column::of({Value(subject)}));
 }
 

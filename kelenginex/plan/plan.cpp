@@ -39,7 +39,7 @@ private:
             code->operation = language::Operation::CompoundCode;
             code->type = language::ValueType::String;
             code->entity = code->codeEntity = area;
-            code->text = "CMPCODE(" + area->name + ")";
+            code->text = area->name + ".CMPCODE"; // its variable's name, which heads the areas
             result.insert(result.begin(), code);
         }
         return result;

@@ -2,6 +2,7 @@
 // Tables that show a dataset's fields as columns: area lists, views, counts, measures, tables side
 // by side.
 #include "MadeDataset.h"
+#include "MadeTable.h"
 #include "RunFixture.h"
 #include "results/tables/AreaLayout.h"
 #include "results/tables/GenericLayout.h"
@@ -44,6 +45,22 @@ QString totalsUnder(std::vector<MadeField> fields, MadeDataset::Rows rows) {
     options.showTotalsRow = true;
     return RunFixture::raws(areaLayout(output, options).cells).last();
 }
+
+/// Notes what is asked of it.
+class RecordingTable : public MadeTable {
+public:
+    RecordingTable() : MadeTable(madeLayout({"A"}, {})) {}
+
+    void setHideNa(bool /*hide*/) override { calls += "hideNa"; }
+    void setHideMv(bool /*hide*/) override { calls += "hideMv"; }
+    void setHideTotal(bool /*hide*/) override { calls += "hideTotal"; }
+    void setShowTotalsRow(bool /*show*/) override { calls += "showTotalsRow"; }
+    void setRowsOrder(int /*order*/) override { calls += "rowsOrder"; }
+    void setColumnOrder(const QStringList& /*keys*/) override { calls += "columnOrder"; }
+    void rebuild() override { calls += "rebuild"; }
+
+    QStringList calls;
+};
 
 } // namespace
 
@@ -217,16 +234,48 @@ private slots:
                  QStringList("31"));
     }
 
-    // Figures without a group stand under one heading, which is empty.
+    // Several figures stand under what they measure.
     void showsSeveralFigures() {
         const auto table = run_->table("STATS OF PERSON.AGE BY PERSON.SEX");
         QCOMPARE(table->kind(), tablekind::stats);
         QCOMPARE(table->headerTexts().size(), 2);
-        QCOMPARE(table->headerTexts().first(), QStringList({"PERSON.SEX", ""}));
+        QCOMPARE(table->headerTexts().first(), QStringList({"PERSON.SEX", "Age in years"}));
         QCOMPARE(table->headerSpans().first().last().first, table->cells().width() - 1);
         // Cases, sum, mean of the ages 34 and 19.
         QCOMPARE(RunFixture::displays(table->cells()).first().section('|', 0, 3),
                  "1. Male|2|53|26.50");
+        const auto whole = run_->table("QUANTILE 4 OF PERSON.AGE");
+        QCOMPARE(RunFixture::header(*whole),
+                 QStringList({"Age in years@0,0+3x1",
+                              "Quantile 1@0,1+1x1|Quantile 2@1,1+1x1|Quantile 3@2,1+1x1"}));
+        const QString doubled = "DEFINE PERSON.TWICE AS PERSON.AGE * 2 TYPE INTEGER\n"
+                                "STATS OF PERSON.TWICE";
+        QCOMPARE(run_->table(doubled)->headerTexts().first(), QStringList("PERSON.TWICE"));
+        QCOMPARE(run_->table(doubled + " BY PERSON.TWICE")->headerTexts().first(),
+                 QStringList({"PERSON.TWICE", "STATS PERSON.TWICE"}));
+    }
+
+    void hasOneHeaderRowOverSingleFigures() {
+        for (const char* program :
+             {"COUNT HOUSEHOLD", "SUM PERSON.AGE", "MAX PERSON.AGE BY PERSON.SEX",
+              "TABLE A AS SUM PERSON.AGE\nTABLE R AS TABOP OF A * 2"})
+            QCOMPARE(run_->table(program)->headerTexts().size(), 1);
+    }
+
+    // The areas are headed by their variable.
+    void breaksByAreas() {
+        const QString broken = "RUNDEF r NOWEIGHT AREABREAK DISTRICT\n";
+        const auto stats = run_->table(broken + "STATS OF PERSON.AGE BY PERSON.SEX");
+        QCOMPARE(stats->columnNames().first(), "DISTRICT.CMPCODE");
+        QCOMPARE(stats->headerTexts().first(),
+                 QStringList({"DISTRICT.CMPCODE", "PERSON.SEX", "Age in years"}));
+        QCOMPARE(stats->cells().display(0, 0), "01. North");
+        const QString tables = broken + "TABLE A AS SUM PERSON.AGE\nTABLE B AS MAX PERSON.AGE\n";
+        const auto tablist = run_->table(tables + "TABLE L AS TABLIST A, B");
+        QCOMPARE(tablist->columnHeaders(), QStringList({"DISTRICT.CMPCODE", "A", "B"}));
+        const auto tabop = run_->table(tables + "TABLE R AS TABOP OF A / B");
+        QCOMPARE(tabop->columnNames(), QStringList({"DISTRICT.CMPCODE", "R"}));
+        QCOMPARE(tabop->columnHeaders(), QStringList({"District", "R"}));
     }
 
     void showsTheFigureOfTables() {
@@ -283,6 +332,26 @@ private slots:
         const auto table = run_->table("AVERAGE PERSON.AGE BY PERSON.SEX DECIMALS 4");
         table->applyViewConfig(style);
         QCOMPARE(table->cells().display(2, 1), "35.1667");
+    }
+
+    // Classes that stand for others override setters: each is told, in this order.
+    void appliesAConfigThroughTheSetters() {
+        RecordingTable table;
+        table.applyViewConfig({});
+        QCOMPARE(table.calls, QStringList({"hideNa", "hideMv", "hideTotal", "showTotalsRow",
+                                           "rowsOrder", "columnOrder", "rebuild"}));
+        table.calls.clear();
+        static_cast<TableBase&>(table).reserved();
+        QVERIFY(table.calls.isEmpty());
+    }
+
+    void readsColumnsOfRowsThatEndEarly() {
+        const MadeTable table(madeLayout({"A", "B", "C"}, {{"a", "1", "2.5"}, {"b"}, {"c", "3"}}));
+        QCOMPARE(table.columnValues(1), (QList<double>{1, 3}));
+        QCOMPARE(table.columnDisplays(1), QStringList({"1", "3"}));
+        QCOMPARE(table.columnDisplays(0), QStringList({"a", "b", "c"}));
+        QCOMPARE(table.columnDisplays(2), QStringList("2.50"));
+        QVERIFY(table.columnValues(3).isEmpty());
     }
 
     void appliesAWholeConfig() {

@@ -76,6 +76,7 @@ public:
     virtual void setShowTotalsRow(bool show);
     virtual void headerClicked(int column); ///< changes the order; nothing here
     virtual QStringList columnGroupLabels() const;
+    virtual void reserved() {} ///< without effect: keeps the place for an operation to come
 
     virtual void rebuild(); ///< anew from the dataset
     virtual void applyViewConfig(const TableViewConfig& config);

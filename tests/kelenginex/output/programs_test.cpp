@@ -105,6 +105,17 @@ TEST_F(Programs, areaListsTellWhatTheirTablesCount) {
     EXPECT_EQ(groupsOf(tables_.back()).back(), "m Sex, filter PERSON.AGE < 20");
 }
 
+// Neighbours of one group would be read as one.
+TEST_F(Programs, figuresStandUnderWhatTheyMeasure) {
+    EXPECT_EQ(groupsOf(run("QUANTILE 3 OF PERSON.AGE BY PERSON.SEX").back()),
+              (Texts{"PERSON.SEX", "PERSON.AGE", "PERSON.AGE"}));
+    EXPECT_EQ(groupsOf(run("MAX PERSON.AGE BY PERSON.SEX").back()), (Texts{"PERSON.SEX", ""}));
+    EXPECT_EQ(groupsOf(run("COUNT PERSON").back()), (Texts{"Entity", "Count"}));
+    const Texts groups = groupsOf(run("RUNDEF r AREABREAK PROVINCE\nSTATS OF PERSON.AGE").back());
+    EXPECT_EQ(groups.front(), "PROVINCE.CMPCODE");
+    EXPECT_EQ(groups.back(), "PERSON.AGE"); // which has no label
+}
+
 TEST_F(Programs, viewsShowStoredCodes) {
     EXPECT_EQ(rows("VIEW HOUSEHOLD, HOUSEHOLD.TYPE, HOUSEHOLD.WT"),
               (Texts{"011,1,1.5", "012,2,2", "021,1,0.5", "031,9,4", "032,2,1"}));
@@ -130,6 +141,10 @@ TEST_F(Programs, areasBreakEveryTable) {
               (Texts{"01. North,34", "02. South,70", "03. Sud-Oué,15", "Total,70"}));
     EXPECT_EQ(tables_[0].dimension, 1);
     EXPECT_EQ(tables_[0].variables.at(1).areas, country_.dictionary.findEntity("PROVINCE"));
+    EXPECT_EQ(namesOf(tables_[0]), (Texts{"PROVINCE.CMPCODE", "Maximum"}));
+    run("RUNDEF r AREABREAK PROVINCE\nTABLE a AS FREQ PERSON.SEX\nTABLE b AS TABLIST a, a");
+    EXPECT_EQ(namesOf(tables_[0]).at(0), "PROVINCE.CMPCODE");
+    EXPECT_EQ(groupsOf(tables_[0]).at(0), "PROVINCE.CMPCODE");
     EXPECT_EQ(rows("RUNDEF r AREABREAK PROVINCE\nTABLE a AS FREQ PERSON.SEX\n"
                    "TABLE b AS TABOP OF a + a"),
               (Texts{"01,North,,1,Male,,2", "01,North,,2,Female,,4", "01,North,,0,__tot__,tot,6",
