@@ -47,7 +47,7 @@ QList<ResultFact> ResultFacts::form() const {
 QList<ReportLine> ResultFacts::report() const {
     QList<ResultFact> facts{{tr("Title"), metadata_.title},
                             {tr("Database"), metadata_.database},
-                            {tr("Geographic Area"), metadata_.geographicArea}};
+                            {tr("Geographic Area"), metadata_.geographicArea()}};
     facts += optional();
     if (metadata_.kind == tablekind::areaList)
         facts += {tr("Entity"), entity()};

@@ -26,7 +26,7 @@ public:
     QString tableName() const override { return metadata().name; }
     QString title() const override { return metadata().title; }
     QString database() const override { return metadata().database; }
-    QString geographicArea() const override { return metadata().geographicArea; }
+    QString geographicArea() const override { return metadata().geographicArea(); }
     std::string asJson() const override { return json; }
     bool exportedDirectly() const override { return direct; }
     int kind() const override { return metadata().kind; }
@@ -77,7 +77,6 @@ inline TableMetadata madeFacts(int kind, const QString& kindName,
     facts.name = QStringLiteral("T_1");
     facts.title = QStringLiteral("A title");
     facts.database = QStringLiteral("A database");
-    facts.geographicArea = QStringLiteral("All Database");
     facts.kind = kind;
     facts.kindName = kindName;
     facts.variableLabels = variableLabels;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is told of an output beside its figures, and the class of table that it gets.
 #include "RunFixture.h"
+#include "boundary/output_data.h"
+#include "boundary/state.h"
 #include "kel.h"
 #include "results/tables/Table.h"
 #include "results/tables/TableArealist.h"
@@ -9,9 +11,24 @@
 #include "results/tables/TableTablist.h"
 
 #include <QTest>
+#include <QTranslator>
 
 #include <optional>
 #include <typeinfo>
+
+namespace {
+
+/// Puts what it is asked for in brackets.
+class WordsTranslator : public QTranslator {
+public:
+    QString translate(const char* /*context*/, const char* text, const char* /*comment*/,
+                      int /*n*/) const override {
+        return QStringLiteral("<%1>").arg(QLatin1String(text));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
 
 class TestTableMetadata : public QObject {
     Q_OBJECT
@@ -74,7 +91,7 @@ private slots:
         QCOMPARE(facts.name, "T");
         QCOMPARE(facts.title, "Men & women");
         QCOMPARE(facts.database, "A small country");
-        QCOMPARE(facts.geographicArea, "All Database");
+        QCOMPARE(facts.geographicArea(), "All Database");
         QCOMPARE(facts.universalFilter, QString("PERSON.AGE > 3"));
         QCOMPARE(facts.filter, QString("PERSON.AGE < 80"));
         QCOMPARE(facts.weight, QString("HOUSEHOLD.WEIGHT"));
@@ -117,7 +134,7 @@ private slots:
         const TableMetadata facts =
             of("RUNDEF r NOWEIGHT SELECTION INLINE DISTRICT \"02\" SELECTIONLABEL The south\n"
                "FREQ PERSON.SEX TALLY HOUSEHOLD.ROOMS");
-        QCOMPARE(facts.geographicArea, "The south");
+        QCOMPARE(facts.geographicArea(), "The south");
         QCOMPARE(facts.tally, QString("HOUSEHOLD.ROOMS"));
         QVERIFY(!facts.weight);
         const auto outputs = run_->run("RUNDEF a NOWEIGHT SELECTION INLINE DISTRICT \"02\" "
@@ -125,9 +142,9 @@ private slots:
                                        "RUNDEF b NOWEIGHT FILTER PERSON.SEX = 1 FILTERLABEL Men\n"
                                        "FREQ PERSON.AGE");
         QCOMPARE(outputs.size(), 2U);
-        QCOMPARE(run_->metadata(*outputs[0]).geographicArea, "The south");
+        QCOMPARE(run_->metadata(*outputs[0]).geographicArea(), "The south");
         QVERIFY(!run_->metadata(*outputs[0]).universalFilter);
-        QCOMPARE(run_->metadata(*outputs[1]).geographicArea, "All Database");
+        QCOMPARE(run_->metadata(*outputs[1]).geographicArea(), "All Database");
         QCOMPARE(run_->metadata(*outputs[1]).universalFilter, QString("Men"));
     }
 
@@ -156,6 +173,27 @@ private slots:
         // What is measured comes first and has no codes.
         QCOMPARE(of("AVERAGE PERSON.AGE BY HOUSEHOLD.ROOMS").categoryCounts, (QList<int>{0, 1}));
         QCOMPARE(of("MAX PERSON.AGE BY HOUSEHOLD.ROOMS").categoryCounts, (QList<int>{0, 0}));
+    }
+
+    void whatIsOfNoKindIsUnknown() {
+        TKelOutput& output = *run_->run("FREQ PERSON.SEX").back();
+        KelBoundaryAccess::data(output).table.method = 42;
+        QCOMPARE(run_->metadata(output).kindName, "UNKNOWN");
+        QCOMPARE(run_->metadata(output).kind, tablekind::frequency);
+    }
+
+    /// Its words are those of the language when they are asked for.
+    void followsTheLanguage() {
+        const TableMetadata facts = of("FREQ PERSON.SEX SENSITIVE 3");
+        const auto table = run_->table("FREQ PERSON.SEX");
+        WordsTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCOMPARE(facts.geographicArea(), "<All Database>");
+        QCOMPARE(table->geographicArea(), "<All Database>");
+        QCOMPARE(facts.suppressedNote(),
+                 QString("<%1 cell(s) hidden to protect persons>").arg(facts.suppressed));
+        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(table->geographicArea(), "All Database");
     }
 
     void namesTheDatabaseByItsFile() {

@@ -61,7 +61,7 @@ QString HtmlReport::slice(qsizetype first, qsizetype end) const {
 QString HtmlReport::facts() const {
     const TableMetadata& facts = table_->metadata();
     QString html = fact("Title", facts.title) + fact("Database", facts.database) +
-                   fact("Geographic Area", facts.geographicArea) + fact("Tally", facts.tally) +
+                   fact("Geographic Area", facts.geographicArea()) + fact("Tally", facts.tally) +
                    fact("Weight", facts.weight) + fact("Filter", facts.filter) +
                    fact("Universal Filter", facts.universalFilter);
     if (facts.sort)

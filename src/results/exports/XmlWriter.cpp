@@ -59,7 +59,7 @@ void XmlReport::writeTitles() {
     line(QStringLiteral("  <titles>"));
     element(4, "title", facts_.title);
     element(4, "database", facts_.database);
-    element(4, "geographic_area", facts_.geographicArea);
+    element(4, "geographic_area", facts_.geographicArea());
     line(QStringLiteral("  </titles>"));
 }
 

@@ -108,7 +108,7 @@ QString TableBase::database() const {
 }
 
 QString TableBase::geographicArea() const {
-    return source_.metadata.geographicArea;
+    return source_.metadata.geographicArea();
 }
 
 QString TableBase::tableName() const {

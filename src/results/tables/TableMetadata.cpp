@@ -130,9 +130,7 @@ TableMetadata::TableMetadata(TKelOutput& output, TKelDictionary& dictionary,
 
 void TableMetadata::readRun(const TKelOutput& output) {
     const auto run = output.runDefinition();
-    geographicArea = QString::fromStdString(run->selection()->label());
-    if (geographicArea.isEmpty())
-        geographicArea = tr("All Database");
+    area = QString::fromStdString(run->selection()->label());
     universalFilter = optionalText(run->universalFilter());
 }
 
@@ -147,6 +145,10 @@ void TableMetadata::readEntity(TKelOutput& output) {
 QString TableMetadata::variableTitle(qsizetype index) const {
     const QString label = variableLabels.value(index);
     return label.isEmpty() ? variablePaths.value(index) : label;
+}
+
+QString TableMetadata::geographicArea() const {
+    return area.isEmpty() ? tr("All Database") : area;
 }
 
 QString TableMetadata::suppressedNote() const {

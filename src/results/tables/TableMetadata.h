@@ -45,7 +45,7 @@ public:
     QString name;
     QString title; ///< the program's, else the name
     QString database;
-    QString geographicArea; ///< "All Database" where the run was not limited
+    QString area; ///< that the run was limited to; empty where it was not
     int kind = tablekind::frequency;
     QString kindName;
     // Of area lists, views and counts only.
@@ -66,6 +66,8 @@ public:
     bool isCrosstab() const { return kind == tablekind::frequency && variableLabels.size() > 1; }
     /// What a variable is called where its label stands alone: its path where it has none.
     QString variableTitle(qsizetype index) const;
+    /// "All Database" where the run was not limited; in the language of the moment.
+    QString geographicArea() const;
     /// How many cells are hidden; empty where none is.
     QString suppressedNote() const;
 

@@ -63,7 +63,7 @@ void ReportSheet::writeFacts(Workbook& book) {
     const TableMetadata& facts = table_.metadata();
     pair(book, tr("Title"), facts.title);
     pair(book, tr("Database"), facts.database);
-    pair(book, tr("Geographic Area"), facts.geographicArea);
+    pair(book, tr("Geographic Area"), facts.geographicArea());
     if (facts.tally)
         pair(book, tr("Tally"), *facts.tally);
     if (facts.weight)
