@@ -41,13 +41,13 @@ std::unique_ptr<TableBase> RunFixture::table(const QString& program) {
     return table(program, {});
 }
 
-QStringList RunFixture::displays(const ResultRows& rows) {
+QStringList RunFixture::displays(const ResultRows& rows, QChar separator) {
     QStringList texts;
     for (qsizetype row = 0; row < rows.size(); ++row) {
         QStringList cells;
         for (qsizetype column = 0; column < rows.columns(row); ++column)
             cells += rows.display(row, column);
-        texts += cells.join('|');
+        texts += cells.join(separator);
     }
     return texts;
 }

@@ -30,7 +30,7 @@ public:
     QString path() const { return folder_.filePath(QStringLiteral("small.kxdb")); }
 
     /// A text for each row, the cells' texts with "|" between them.
-    static QStringList displays(const ResultRows& rows);
+    static QStringList displays(const ResultRows& rows, QChar separator = QLatin1Char('|'));
     static QStringList raws(const ResultRows& rows);
     static QStringList raws(const CellTexts& texts);
     /// A text for each header row: "text@column,row+columns x rows" of its items.
@@ -46,3 +46,11 @@ private:
     std::shared_ptr<TKelDictionary> dictionary_;
     std::shared_ptr<TKelSession> session_;
 };
+
+/// As RunFixture::displays(), with "," between the cells.
+inline QStringList commaLines(const ResultRows& rows) {
+    return RunFixture::displays(rows, QLatin1Char(','));
+}
+inline QStringList commaLines(const TableBase& table) {
+    return commaLines(table.cells());
+}

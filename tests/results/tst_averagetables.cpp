@@ -19,17 +19,6 @@ namespace {
 
 const QString bySexAndRooms = "AVERAGE PERSON.AGE BY HOUSEHOLD.ROOMS BY PERSON.SEX";
 
-QStringList displays(const ResultRows& rows) {
-    QStringList lines;
-    for (qsizetype row = 0; row < rows.size(); ++row) {
-        QStringList cells;
-        for (qsizetype column = 0; column < rows.columns(row); ++column)
-            cells += rows.display(row, column);
-        lines += cells.join(',');
-    }
-    return lines;
-}
-
 } // namespace
 
 class TestAverageTables : public QObject {
@@ -65,7 +54,7 @@ void TestAverageTables::averagesAllRecords() {
     QCOMPARE(made->columnHeaders(), QStringList({"Variable", "Average"}));
     QCOMPARE(made->headerTexts(), QList<QStringList>({{"Variable", "Average"}}));
     QCOMPARE(made->columnNames(), QStringList({"Variable", "PERSON.AGE"}));
-    QCOMPARE(displays(made->cells()), QStringList({"PERSON.AGE,33"}));
+    QCOMPARE(commaLines(made->cells()), QStringList({"PERSON.AGE,33"}));
     QCOMPARE(made->columnAlignments(), QList<int>({1, 2}));
 }
 
@@ -75,7 +64,7 @@ void TestAverageTables::averagesByOneVariable() {
     QCOMPARE(made->columnHeaders(),
              QStringList({"PERSON.SEX (Sex of the person)", "count", "%", "Cumul%"}));
     // 53 / 2, 158 / 4, 211 / 6.
-    QCOMPARE(displays(made->cells()),
+    QCOMPARE(commaLines(made->cells()),
              QStringList({"1. Male,26.50,75.36,75.36", "2. Female,39.50,112.32,187.68",
                           "Total,35.17,100,", "MV,20,,"}));
 }
@@ -101,7 +90,7 @@ void TestAverageTables::averagesByTwoVariables() {
         RunFixture::header(*made),
         QStringList({"HOUSEHOLD.ROOMS (R-label)@0,0+1x2|PERSON.SEX (Sex of the person)@1,0+5x1",
                      "Total@1,1+1x1|1. Male@2,1+1x1|2. Female@3,1+1x1|MV@4,1+1x1|NA@5,1+1x1"}));
-    QCOMPARE(displays(made->cells()),
+    QCOMPARE(commaLines(made->cells()),
              QStringList({"Total,35.17,26.50,39.50,20,", "2,22.25,26.50,18,20,", "3,61,,61,,"}));
     QCOMPARE(made->cells().raw(1, 1), "22.25");
     QCOMPARE(made->dictionaryVariableName(), "HOUSEHOLD.ROOMS");
@@ -119,8 +108,8 @@ void TestAverageTables::averagesByThreeVariables() {
             report += "," + row;
         }
     }
-    QCOMPARE(displays(made->cells()), cells);
-    QCOMPARE(displays(made->reportCells()), report);
+    QCOMPARE(commaLines(made->cells()), cells);
+    QCOMPARE(commaLines(made->reportCells()), report);
 }
 
 void TestAverageTables::hidesTheTotalColumn() {
@@ -131,7 +120,7 @@ void TestAverageTables::hidesTheTotalColumn() {
     config.hideNa = true;
     made->applyViewConfig(config);
     QCOMPARE(made->columnHeaders().mid(1), QStringList({"1. Male", "2. Female"}));
-    QCOMPARE(displays(made->cells()), QStringList({"Total,26.50,39.50", "2,26.50,18", "3,,61"}));
+    QCOMPARE(commaLines(made->cells()), QStringList({"Total,26.50,39.50", "2,26.50,18", "3,,61"}));
 }
 
 /// Only tables of frequencies and those side by side take decimals and separator from a style.
@@ -167,7 +156,7 @@ void TestAverageTables::leavesOtherMeasuresAsTheyCome() {
     if (firstRow.isEmpty())
         QCOMPARE(made->columnHeaders().size(), 2);
     else
-        QCOMPARE(displays(made->cells()).first(), firstRow);
+        QCOMPARE(commaLines(made->cells()).first(), firstRow);
 }
 
 /// What has a class of its own elsewhere is laid out the same way, but for the words and flags told
@@ -179,17 +168,17 @@ void TestAverageTables::laysOutAnyOutputAsATable() {
     frequency->rebuild();
     QCOMPARE(frequency->columnDisplays(1), QStringList({"4", "2", "6", "1"}));
     const auto cross = plainTable("FREQ HOUSEHOLD.ROOMS BY PERSON.SEX");
-    QCOMPARE(displays(cross->cells()), QStringList({"Total,6,2,4,1,", "2,4,2,2,1,", "3,2,,2,,"}));
+    QCOMPARE(commaLines(cross->cells()), QStringList({"Total,6,2,4,1,", "2,4,2,2,1,", "3,2,,2,,"}));
     QCOMPARE(cross->columnValues(1), QList<double>({0, 0, 0}));
     const auto average = plainTable(bySexAndRooms);
     QCOMPARE(average->kind(), tablekind::average);
     QCOMPARE(average->cells().display(0, 1), "35.17");
     const auto list = plainTable("AREALIST DISTRICT, DISTRICT.ZONE");
     QCOMPARE(list->kind(), tablekind::areaList);
-    QCOMPARE(displays(list->cells()), QStringList({"01,North,1", "02,South,1"}));
+    QCOMPARE(commaLines(list->cells()), QStringList({"01,North,1", "02,South,1"}));
     const auto count = plainTable("COUNT PERSON");
     QCOMPARE(count->kind(), tablekind::areaList);
-    QCOMPARE(displays(count->cells()), QStringList({"PERSON,7"}));
+    QCOMPARE(commaLines(count->cells()), QStringList({"PERSON,7"}));
 }
 
 void TestAverageTables::formatsOfATableOfAnyOutput() {

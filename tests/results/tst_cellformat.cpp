@@ -59,6 +59,10 @@ private slots:
         row("2.345678", 0, ",", "2");
         row("2.5", 0, ",", "3");
         row("0.125", 2, ",", "0.13");
+        row("-0.125", 2, ",", "-0.13");
+        // Stored as a little less than the tie that they are written as.
+        row("1.085", 2, ",", "1.08");
+        row("2.675", 2, ",", "2.67");
         row("2.345678", -1, ",", "2");
         // Where doubles have no room for the last digit.
         row("9007199254740993", 2, ",", "9,007,199,254,740,993");

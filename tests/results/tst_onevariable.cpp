@@ -152,43 +152,104 @@ private slots:
     void ordersRowsByFigure() {
         const auto data = output(tiesAndBlanks());
         const auto order = [&](int rowsOrder) {
-            return firstCells(rowsOf(*data, OneVariableOptions::ofFigures("V", rowsOrder)));
+            return firstCells(rowsOf(*data, OneVariableOptions::ofFigures("V", rowsOrder, 2)));
         };
         const QStringList end{"0. __tot__", "0. __mv__"};
         QCOMPARE(order(0), QStringList({"1. One", "2", "3. Three", "4. Four", "5"}) + end);
         // Ties stay in place; nobody learns how large an empty figure is.
         QCOMPARE(order(1), QStringList({"5", "2", "1. One", "3. Three", "4. Four"}) + end);
         QCOMPARE(order(2), QStringList({"1. One", "3. Three", "2", "5", "4. Four"}) + end);
-        QCOMPARE(firstCells(rowsOf(*data, OneVariableOptions::ofFrequency("V"))), order(0));
+        QCOMPARE(firstCells(rowsOf(*data, OneVariableOptions::ofFrequency("V", 2))), order(0));
     }
 
     void hiddenFiguresStayHidden() {
         const auto data = output(tiesAndBlanks());
         QCOMPARE(
-            rowsOf(*data, OneVariableOptions::ofFrequency("V")),
+            rowsOf(*data, OneVariableOptions::ofFrequency("V", 2)),
             QStringList({"1. One|5.000000|25.000000|25.000000", "2|3.000000|15.000000|40.000000",
                          "3. Three|5.000000|25.000000|65.000000", "4. Four|||",
                          "5|1.000000|5.000000|", "0. __tot__|20.000000|100|", "0. __mv__|6||"}));
         const auto withoutTotal = output({{"1", "1", "", "5"}, {"0", "__tot__", "tot", ""}});
-        QCOMPARE(rowsOf(*withoutTotal, OneVariableOptions::ofFrequency("V")),
+        QCOMPARE(rowsOf(*withoutTotal, OneVariableOptions::ofFrequency("V", 2)),
                  QStringList({"1|5.000000||", "0. __tot__|||"}));
     }
 
     void dividesByNothing() {
         const auto data =
             output({{"1", "1", "", "5"}, {"2", "2", "", "0"}, {"0", "__tot__", "tot", "0"}});
-        QCOMPARE(rowsOf(*data, OneVariableOptions::ofFrequency("V")),
+        QCOMPARE(rowsOf(*data, OneVariableOptions::ofFrequency("V", 2)),
                  QStringList({"1|5.000000|0.000000|0.000000", "2|0.000000|0.000000|0.000000",
                               "0. __tot__|0.000000|100|"}));
         QCOMPARE(
-            rowsOf(*data, OneVariableOptions::ofFigures("V", 0)),
+            rowsOf(*data, OneVariableOptions::ofFigures("V", 0, 2)),
             QStringList({"1|5.000000|inf|inf", "2|0.000000|nan|nan", "0. __tot__|0.000000|100|"}));
+    }
+
+    // Averages 26.5 and 39.5; 211 / 6 over all.
+    void writesAllDecimalsThatAreShown() {
+        const QString program = "AVERAGE PERSON.AGE BY PERSON.SEX DECIMALS %1";
+        const auto twelve = run_->table(program.arg(12));
+        QCOMPARE(RunFixture::displays(twelve->cells()),
+                 QStringList({"1. Male|26.500000000000|75.355450236967|75.355450236967",
+                              "2. Female|39.500000000000|112.322274881517|187.677725118483",
+                              "Total|35.166666666667|100|", "MV|20||"}));
+        QCOMPARE(RunFixture::raws(run_->table(program.arg(6))->cells()),
+                 QStringList({"1. Male|26.500000|75.355450|75.355450",
+                              "2. Female|39.500000|112.322275|187.677725",
+                              "0. __tot__|35.166667|100|", "0. __mv__|20||"}));
+        const auto frequency = run_->table("FREQ PERSON.SEX WEIGHT HOUSEHOLD.WEIGHT / 3");
+        TableViewConfig style;
+        style.decimals = 8;
+        frequency->applyViewConfig(style);
+        QCOMPARE(frequency->columnDisplays(1),
+                 QStringList({"0.83333333", "2.33333333", "3.16666667", "0.33333333"}));
+    }
+
+    // A label may hold a marker: the engine tells what is one.
+    void trustsTheKindsThatAreTold() {
+        const auto told = output({{"0", "__na__ zero", "", "5"},
+                                  {"1", "__mv__", "", "3"},
+                                  {"2", "two", "", "2"},
+                                  {"0", "__tot__", "tot", "10"},
+                                  {"0", "__na__", "na", "4"}});
+        QCOMPARE(rowsOf(*told, OneVariableOptions::ofFrequency("V", 2)),
+                 QStringList({"0. __na__ zero|5.000000|50.000000|50.000000",
+                              "1. __mv__|3.000000|30.000000|80.000000",
+                              "2. two|2.000000|20.000000|100.000000", "0. __tot__|10.000000|100|",
+                              "0. __na__|4||"}));
+        const auto untold = output({{"1", "one", "", "5"},
+                                    {"0", "the __tot__", "", "10"},
+                                    {"0", "__na__ zero", "", "4"},
+                                    {"0", "__mv__", "", "3"}});
+        QCOMPARE(rowsOf(*untold, OneVariableOptions::ofFrequency("V", 2)),
+                 QStringList({"1. one|5.000000|50.000000|50.000000", "0. __tot__|10.000000|100|",
+                              "0. __mv__|3||", "0. __na__|4||"}));
+    }
+
+    void ordersNegativeCodes() {
+        const QString define = "DEFINE PERSON.GAP AS PERSON.AGE - 30 TYPE INTEGER\n";
+        QCOMPARE(run_->table(define + "FREQ PERSON.GAP")->columnDisplays(0),
+                 QStringList({"-25", "-11", "-10", "1", "4", "30", "32", "Total"}));
+        QCOMPARE(run_->table(define + "FREQ PERSON.GAP BY PERSON.SEX")->columnDisplays(0),
+                 QStringList({"Total", "-25", "-11", "-10", "1", "4", "30", "32"}));
+    }
+
+    // An empty text is a code like others.
+    void showsBlankCodes() {
+        const QString define = "DEFINE PERSON.WORD AS SWITCH CASE PERSON.AGE < 20 ASSIGN \"\" "
+                               "CASE PERSON.AGE < 60 ASSIGN \" b\" ELSE \"a\" TYPE STRING\n";
+        QCOMPARE(RunFixture::raws(run_->table(define + "FREQ PERSON.WORD")->cells()),
+                 QStringList({"|2.000000|28.571429|28.571429", " b|3.000000|42.857143|71.428571",
+                              "a|2.000000|28.571429|100.000000", "0. __tot__|7.000000|100|"}));
+        QCOMPARE(commaLines(*run_->table(define + "FREQ PERSON.WORD BY PERSON.SEX")),
+                 QStringList({"Total,6,2,4,1,", ",2,1,1,,", "b,2,1,1,1,", "a,2,,2,,"}));
     }
 
     void keepsLargeCounts() {
         const auto data = output(
             {{"1", "1", "", "9007199254740993"}, {"0", "__tot__", "tot", "9007199254740993"}});
-        const TableLayout layout = oneVariableLayout(*data, OneVariableOptions::ofFrequency("V"));
+        const TableLayout layout =
+            oneVariableLayout(*data, OneVariableOptions::ofFrequency("V", 2));
         const ResultRows rows(std::make_shared<const CellTexts>(layout.cells), {},
                               layout.textColumns);
         QCOMPARE(rows.display(0, 1), "9,007,199,254,740,993");
@@ -197,7 +258,8 @@ private slots:
 
     void anOutputWithoutFiguresHasHeaders() {
         MadeDatasetOutput empty;
-        const TableLayout layout = oneVariableLayout(empty, OneVariableOptions::ofFrequency("V"));
+        const TableLayout layout =
+            oneVariableLayout(empty, OneVariableOptions::ofFrequency("V", 2));
         QCOMPARE(layout.columnHeaders, QStringList({"V", "Count", "%", "Cumul%"}));
         QCOMPARE(layout.cells.rows(), 0);
     }

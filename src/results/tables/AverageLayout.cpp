@@ -40,8 +40,9 @@ TableLayout averageLayout(TKelOutput& output, const TableViewConfig& options,
         return crossLayout(output, options, preferences);
     if (variables.size() > 1)
         return genericLayout(output);
-    return oneVariableLayout(
-        output,
-        OneVariableOptions::ofFigures(
-            variableHeading(*variables.front(), preferences.variableHeading), options.rowsOrder));
+    const int decimals = output.options().decimals.value_or(preferences.decimals);
+    return oneVariableLayout(output,
+                             OneVariableOptions::ofFigures(
+                                 variableHeading(*variables.front(), preferences.variableHeading),
+                                 options.rowsOrder, decimals));
 }

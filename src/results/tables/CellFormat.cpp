@@ -48,7 +48,8 @@ QString shownWhole(std::int64_t whole, const QString& separator) {
 QString shownReal(double value, int decimals, const QString& separator) {
     double whole = 0;
     const bool isWhole = std::abs(std::modf(value, &whole)) < noFraction;
-    // Ties go up, as people round, and not to even digits.
+    // The figure as it is stored is rounded: 0.125 is a tie and goes up, as people round, while
+    // 1.085 has no double of its own and is kept as a little less.
     const QByteArray text =
         QByteArray::number(value, 'f', isWhole ? 0 : std::clamp(decimals, 0, mostDecimals));
     std::string_view digits(text.data(), static_cast<std::size_t>(text.size()));

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int six = 6;
+constexpr int mostDecimals = 30; // that a cell shows
 constexpr std::string_view blanks = " \t\r\n\v\f";
 
 bool isDigit(char c) {
@@ -84,18 +86,27 @@ bool isDigitsOnly(std::string_view text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
 }
 
-std::string sixDecimals(double value) {
+std::string withDecimals(double value, int decimals) {
     if (std::isnan(value))
         return "nan";
     char buffer[400]; // the largest number has 309 digits
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, 6);
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed,
+                                   std::clamp(decimals, 0, mostDecimals));
     return {buffer, end.ptr};
 }
 
-std::string sixDecimals(std::string_view figure) {
+std::string withDecimals(std::string_view figure, int decimals) {
     const auto number = readNumber(figure);
     if (!number)
         return std::string(figure);
-    return number->whole ? std::to_string(*number->whole) + ".000000" : sixDecimals(number->value);
+    return number->whole ? std::to_string(*number->whole) + ".000000"
+                         : withDecimals(number->value, decimals);
+}
+
+std::string sixDecimals(double value) {
+    return withDecimals(value, six);
+}
+
+std::string sixDecimals(std::string_view figure) {
+    return withDecimals(figure, six);
 }

@@ -21,6 +21,10 @@ std::string_view trimmedText(std::string_view text);
 std::optional<CellNumber> readNumber(std::string_view text, bool readsGrouped = false);
 bool isDigitsOnly(std::string_view text); ///< false for an empty text
 
+/// So many decimals, at most 30; "inf", "-inf" or "nan" where there is no number.
+std::string withDecimals(double value, int decimals);
+/// A figure's text so; whole ones keep all their digits and have six zeros.
+std::string withDecimals(std::string_view figure, int decimals);
 /// Six decimals; "inf", "-inf" or "nan" where there is no number.
 std::string sixDecimals(double value);
 /// A figure's text with six decimals; whole ones keep all their digits.

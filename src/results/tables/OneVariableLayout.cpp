@@ -2,6 +2,7 @@
 #include "results/tables/OneVariableLayout.h"
 
 #include "results/tables/CellNumber.h"
+#include "results/tables/RowOrder.h"
 #include "results/tables/VariableHeading.h"
 
 #include "TKelDataset.h"
@@ -17,7 +18,9 @@ namespace {
 
 constexpr int codeField = 0;
 constexpr int labelField = 1;
+constexpr int kindField = 2;
 constexpr int figureField = 3;
+constexpr int fewestDecimals = 6; ///< that figures are written with
 
 /// Hidden and blank figures stay empty.
 struct Category {
@@ -35,20 +38,44 @@ bool contains(const std::string& text, const char* marker) {
     return text.find(marker) != std::string::npos;
 }
 
+CategoryKind kindByLabel(const std::string& label) {
+    if (contains(label, "__tot__"))
+        return CategoryKind::Total;
+    if (contains(label, "__mv__"))
+        return CategoryKind::Missing;
+    return contains(label, "__na__") ? CategoryKind::NotApplicable : CategoryKind::Valid;
+}
+
+/// Totals come late.
+bool tellsKinds(TKelDataset& data) {
+    for (std::int64_t record = data.recCount() - 1; record >= 0; --record)
+        if (!data.stringValue(record, kindField).empty())
+            return true;
+    return false;
+}
+
 Categories readCategories(TKelDataset& data) {
     Categories result;
+    const bool byKind = tellsKinds(data); // else a label that holds a marker is one
     for (std::int64_t record = 0; record < data.recCount(); ++record) {
         const std::string label = data.stringValue(record, labelField);
         std::string figure = data.stringValue(record, figureField);
-        if (contains(label, "__tot__"))
+        const CategoryKind kind =
+            byKind ? categoryKindOf(data.stringValue(record, kindField)) : kindByLabel(label);
+        switch (kind) {
+        case CategoryKind::Total:
             result.total = std::move(figure);
-        else if (contains(label, "__mv__"))
+            break;
+        case CategoryKind::Missing:
             result.missing = std::move(figure);
-        else if (contains(label, "__na__"))
+            break;
+        case CategoryKind::NotApplicable:
             result.notApplicable = std::move(figure);
-        else
+            break;
+        case CategoryKind::Valid:
             result.rows.push_back({categoryText(data.stringValue(record, codeField), label),
                                    std::move(figure), data.doubleValue(record, figureField)});
+        }
     }
     return result;
 }
@@ -68,8 +95,8 @@ void order(std::vector<Category>& rows, int rowsOrder) {
 /// Percents, one by one, and their running sum.
 class Percents {
 public:
-    Percents(const std::string& total, bool zeroWithoutTotal)
-        : isKnown_(!total.empty()), zeroWithoutTotal_(zeroWithoutTotal) {
+    Percents(const std::string& total, bool zeroWithoutTotal, int decimals)
+        : decimals_(decimals), isKnown_(!total.empty()), zeroWithoutTotal_(zeroWithoutTotal) {
         const auto number = readNumber(total);
         total_ = number ? number->value : 0;
     }
@@ -86,13 +113,14 @@ public:
         const double percent =
             zeroWithoutTotal_ && !(total_ > 0) ? 0 : category.value * 100 / total_;
         sum_ += percent;
-        cells.add(sixDecimals(percent));
-        cells.add(isRunning_ ? sixDecimals(sum_) : std::string());
+        cells.add(withDecimals(percent, decimals_));
+        cells.add(isRunning_ ? withDecimals(sum_, decimals_) : std::string());
     }
 
 private:
     double total_ = 0;
     double sum_ = 0;
+    int decimals_;
     bool isKnown_;
     bool zeroWithoutTotal_;
     bool isRunning_ = true;
@@ -110,15 +138,16 @@ void addRow(CellTexts& cells, std::string_view name, std::string_view figure,
 CellTexts cellsOf(TKelDataset& data, const OneVariableOptions& options) {
     Categories categories = readCategories(data);
     order(categories.rows, options.rowsOrder);
-    Percents percents(categories.total, options.zeroWithoutTotal);
+    const int decimals = std::max(options.decimals, fewestDecimals);
+    Percents percents(categories.total, options.zeroWithoutTotal, decimals);
     CellTexts cells;
     for (const Category& category : categories.rows) {
         cells.startRow();
         cells.add(category.name);
-        cells.add(sixDecimals(category.figure));
+        cells.add(withDecimals(category.figure, decimals));
         percents.add(category, cells);
     }
-    addRow(cells, "0. __tot__", sixDecimals(categories.total),
+    addRow(cells, "0. __tot__", withDecimals(categories.total, decimals),
            categories.total.empty() ? "" : "100");
     if (!categories.missing.empty())
         addRow(cells, "0. __mv__", categories.missing, "");
@@ -129,13 +158,15 @@ CellTexts cellsOf(TKelDataset& data, const OneVariableOptions& options) {
 
 } // namespace
 
-OneVariableOptions OneVariableOptions::ofFrequency(const QString& heading) {
+OneVariableOptions OneVariableOptions::ofFrequency(const QString& heading, int decimals) {
     return {heading, QCoreApplication::translate("OneVariableLayout", "Count"),
-            TableViewConfig::Default, true};
+            TableViewConfig::Default, true, decimals};
 }
 
-OneVariableOptions OneVariableOptions::ofFigures(const QString& heading, int rowsOrder) {
-    return {heading, QCoreApplication::translate("OneVariableLayout", "count"), rowsOrder, false};
+OneVariableOptions OneVariableOptions::ofFigures(const QString& heading, int rowsOrder,
+                                                 int decimals) {
+    return {heading, QCoreApplication::translate("OneVariableLayout", "count"), rowsOrder, false,
+            decimals};
 }
 
 TableLayout oneVariableLayout(TKelOutput& output, const OneVariableOptions& options) {

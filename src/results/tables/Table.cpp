@@ -37,7 +37,7 @@ TableLayout Table::layOutTable() const {
         return oneVariableLayout(
             output(), OneVariableOptions::ofFigures(
                           variableHeading(*variables.front(), preferences().variableHeading),
-                          options().rowsOrder));
+                          options().rowsOrder, cellFormat().decimals));
     return genericLayout(output());
 }
 

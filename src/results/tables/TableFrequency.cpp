@@ -31,6 +31,8 @@ TableLayout TableFrequency::layOut() const {
     }
     if (variables.size() != 1)
         return genericLayout(output());
-    return oneVariableLayout(output(), OneVariableOptions::ofFrequency(variableHeading(
-                                           *variables.front(), preferences().variableHeading)));
+    return oneVariableLayout(output(),
+                             OneVariableOptions::ofFrequency(
+                                 variableHeading(*variables.front(), preferences().variableHeading),
+                                 cellFormat().decimals));
 }
