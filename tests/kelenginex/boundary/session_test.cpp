@@ -2,6 +2,7 @@
 #include "boundary_fixture.h"
 
 #include "boundary/engine.h"
+#include "boundary/table_dataset.h"
 #include "storage/column_writer.h"
 
 #include <algorithm>
@@ -71,6 +72,22 @@ TEST_F(SessionTest, BlanksAroundCodesDoNotCount) {
     ASSERT_EQ(areas.size(), 2u);
     EXPECT_EQ(areas[0].code, "1");
     EXPECT_EQ(areas[1].code, "12");
+}
+
+// The whole text or nothing, and no words for numbers.
+TEST(TableDataset, TextsAreReadAsNumbers) {
+    using output::Value;
+    output::Table table;
+    table.fields.push_back({"T", "T", "T"});
+    table.columns.push_back(output::Column::of(
+        {Value("0102"), Value("1e5"), Value("nan"), Value("-3.5"), Value("12 a"), Value("")}));
+    boundary::TableDataset data(table);
+    const std::vector<std::pair<std::string, double>> expected{
+        {"0102", 102}, {"1e5", 100000}, {"nan", 0}, {"-3.5", -3.5}, {"12 a", 0}, {"", 0}};
+    for (std::size_t row = 0; row < expected.size(); ++row) {
+        EXPECT_EQ(data.stringValue(static_cast<std::int64_t>(row), 0), expected[row].first);
+        EXPECT_EQ(data.doubleValue(static_cast<std::int64_t>(row), 0), expected[row].second);
+    }
 }
 
 TEST_F(SessionTest, DatasetsEndAtTheirBounds) {
