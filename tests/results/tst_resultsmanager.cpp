@@ -403,17 +403,17 @@ private slots:
         QVERIFY(system.installTranslator("Process_es"));
         QTRY_COMPARE(results_->find<QTabWidget>("tabWidget")->tabText(0), "Lista");
         // The one that was shown, and those that were laid out before.
-        QCOMPARE(ResultsFixture::rows(results_->grid()).value(0).section('|', 1, 1), "Conteo");
+        QCOMPARE(ResultsFixture::rows(results_->grid()).value(0).section('|', 1, 1), "Casos");
         QVERIFY2(heading(1, 1).contains("Promedio"), qPrintable(heading(1, 1)));
         ResultsFixture::answerFileDialog(results_->path("es.csv"));
         results_->click(results_->place(0, 0));
         results_->trigger("actionCsvLabelAsHeader");
         const QByteArray csv = ResultsFixture::read(results_->path("es.csv"));
-        QVERIFY2(csv.contains("Conteo") && !csv.contains("Count"), csv.constData());
+        QVERIFY2(csv.contains("Casos") && !csv.contains("Count"), csv.constData());
         // Labels of the dictionary stay as they are.
         results_->find<QTabWidget>("tabWidget")->setCurrentIndex(1);
         const QString report = ResultsFixture::rows(results_->report()).join('\n');
-        QVERIFY2(report.contains("Conteo") && report.contains("Sex of the person"),
+        QVERIFY2(report.contains("Casos") && report.contains("Sex of the person"),
                  qPrintable(report));
         QVERIFY2(!report.contains("Count|") && !report.contains("Geographic Area"),
                  qPrintable(report));
