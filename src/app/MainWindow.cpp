@@ -21,6 +21,7 @@
 #include "preferences/ConfigDialog.h"
 #include "projects/TfrmProject.h"
 #include "results/DirectOutputs.h"
+#include "results/DirectWriter.h"
 #include "results/ResultsManager.h"
 
 #include <QApplication>
@@ -329,12 +330,7 @@ void MainWindow::runProgram(const QString& program) {
 QStringList MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
                                     const std::shared_ptr<TKelSession>& session,
                                     const QString& programText) {
-    const auto styled = std::find_if(outputs.begin(), outputs.end(), [](TKelOutput* output) {
-        return output->options().style.has_value();
-    });
-    const QString style =
-        styled == outputs.end() ? QString() : QString::fromStdString(*(*styled)->options().style);
-    const QStringList notes = resultsManager().addOutputs(outputs, session, style);
+    const QStringList notes = resultsManager().addOutputs(outputs, session, styleOfRun(outputs));
     onShowResults();
     rebuildToolbars();
     // A table that is saved leaves the dictionary as it is.
@@ -367,7 +363,8 @@ QStringList MainWindow::writeDirectOutputs(const std::vector<TKelOutput*>& outpu
     TfrmProject& project = TfrmProject::instance();
     if (project.dictionary() == nullptr)
         return {};
-    return DirectOutputs(system_, *project.dictionary(), project.dictionaryPath()).write(outputs);
+    return DirectOutputs(system_, *project.dictionary(), project.dictionaryPath())
+        .write(outputs, this);
 }
 
 void MainWindow::onShowResults() {

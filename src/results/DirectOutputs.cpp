@@ -2,6 +2,7 @@
 #include "results/DirectOutputs.h"
 
 #include "TKelOutput.h"
+#include "results/DirectWriter.h"
 #include "results/TableMaker.h"
 
 #include <utility>
@@ -10,13 +11,12 @@ DirectOutputs::DirectOutputs(const KelSystem& settings, TKelDictionary& dictiona
                              QString databasePath)
     : settings_(&settings), dictionary_(&dictionary), databasePath_(std::move(databasePath)) {}
 
-QStringList DirectOutputs::write(const std::vector<TKelOutput*>& outputs) const {
+QStringList DirectOutputs::write(const std::vector<TKelOutput*>& outputs, QWidget* parent) const {
     const TableMaker maker(*settings_, *dictionary_, databasePath_);
-    QStringList lines;
+    const QString style = styleOfRun(outputs);
+    DirectWriter direct(*settings_, outputs, parent);
     for (TKelOutput* output : outputs)
-        if (output->options().direct) {
-            const QString style = QString::fromStdString(output->options().style.value_or(""));
-            lines += maker.writeDirect(*maker.make(*output, style), *output);
-        }
-    return lines;
+        if (output->options().direct)
+            direct.write(*maker.make(*output, style), *output);
+    return direct.lines();
 }

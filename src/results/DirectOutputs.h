@@ -8,6 +8,7 @@
 #include <vector>
 
 class KelSystem;
+class QWidget;
 class TKelDictionary;
 class TKelOutput;
 
@@ -16,9 +17,10 @@ public:
     /// The dictionary that the outputs are about, and the path of its file.
     DirectOutputs(const KelSystem& settings, TKelDictionary& dictionary, QString databasePath);
 
-    /// Makes tables of the direct outputs only, each in the style that its program names. Gives a
-    /// line for each file that was not written, or elsewhere than the program says.
-    QStringList write(const std::vector<TKelOutput*>& outputs) const;
+    /// Makes tables of the direct outputs only, all in the first style that one of the outputs
+    /// names. Gives a line for each file that was not written, or elsewhere than the program says.
+    /// parent: what the progress stands in front of.
+    QStringList write(const std::vector<TKelOutput*>& outputs, QWidget* parent) const;
 
 private:
     const KelSystem* settings_;

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shows how far the writing of files has come, once it takes long, and lets the user cancel it.
+// No program runs and nothing is closed meanwhile.
 #pragma once
 
+#include "engine/execution/RunGuard.h"
 #include "results/workbook/WriteOutcome.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QString>
 
@@ -14,6 +17,9 @@ class ExportProgress {
 public:
     /// files: how many there will be, one after the other.
     ExportProgress(qsizetype files, QWidget* parent);
+    ~ExportProgress();
+    ExportProgress(const ExportProgress&) = delete;
+    ExportProgress& operator=(const ExportProgress&) = delete;
 
     /// False where the user has cancelled.
     bool beginFile(const QString& path);
@@ -21,7 +27,8 @@ public:
     WriteProgress progress();
 
 private:
-    QProgressDialog dialog_;
+    RunGuard guard_;
+    QPointer<QProgressDialog> dialog_; ///< null once its parent has gone, which cancels too
     qsizetype files_;
     qsizetype begun_ = 0;
 };

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
@@ -36,16 +37,27 @@ ResultActions::ResultActions(QWidget* window)
       copy(make(window, "actionCopy", "Edit-copy")) {
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    window->addAction(copy);
-    order->setVisible(false);
+    order->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);
+    order->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    order->setShortcutVisibleInContextMenu(true);
+    window->addActions({copy, order});
 }
 
-void ResultActions::fill(QToolBar& bar) const {
+void ResultActions::fill(QToolBar& bar) {
     for (QAction* action : {csvLabelAsHeader, csvNameAsHeader, json, xlsx, xml, pdf, order}) {
         bar.addAction(action);
         bar.widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     }
-    bar.insertSeparator(order);
+    separator_ = bar.insertSeparator(order);
+    showOptions(false);
+    // Behind it stand the buttons that a narrow bar has no room for.
+    if (auto* more = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+        more->setFocusPolicy(Qt::TabFocus);
+}
+
+void ResultActions::showOptions(bool fit) const {
+    separator_->setVisible(fit);
+    order->setVisible(fit);
 }
 
 void ResultActions::retranslate() const {

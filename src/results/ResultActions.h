@@ -12,7 +12,8 @@ class QWidget;
 struct ResultActions {
     explicit ResultActions(QWidget* window);
 
-    void fill(QToolBar& bar) const; ///< all but copy; its buttons take the keyboard's focus
+    void fill(QToolBar& bar);         ///< all but copy; its buttons take the keyboard's focus
+    void showOptions(bool fit) const; ///< false: the shown table has none
     void retranslate() const;
 
     QAction* csvLabelAsHeader;
@@ -23,4 +24,7 @@ struct ResultActions {
     QAction* pdf;
     QAction* order; ///< the options of the shown table
     QAction* copy;  ///< the selected cells
+
+private:
+    QAction* separator_ = nullptr; ///< before the options
 };

@@ -3,6 +3,7 @@
 
 #include "app/dialogs/KelvoraFileDialog.h"
 #include "app/messages/Messages.h"
+#include "engine/execution/RunGuard.h"
 #include "results/ExportProgress.h"
 #include "results/ResultFaults.h"
 #include "results/exports/SafeFileNames.h"
@@ -58,8 +59,7 @@ QString freePath(SafeFileNames& names, const QDir& folder, const TableBase& tabl
 
 } // namespace
 
-ResultExports::ResultExports(const KelSystem& settings, QWidget* parent,
-                             std::function<void(const QString&)> tell)
+ResultExports::ResultExports(const KelSystem& settings, QWidget* parent, Tell tell)
     : writer_(settings), parent_(parent), tell_(std::move(tell)) {}
 
 void ResultExports::write(ExportFormat format, const QList<ExportEntry>& chosen) const {
@@ -67,11 +67,16 @@ void ResultExports::write(ExportFormat format, const QList<ExportEntry>& chosen)
         showError(tr("Select a table"));
         return;
     }
+    if (writeChosen(format, chosen))
+        showInformation(tr("Export completed"));
+}
+
+bool ResultExports::writeChosen(ExportFormat format, const QList<ExportEntry>& chosen) const {
+    const RunGuard guard; // the tables stay from the question to the last file
     const bool single = chosen.size() == 1 && !chosen.front().wholeProcess;
     const auto files =
         single ? askFile(format, *chosen.front().tables.front()) : askFolder(format, chosen);
-    if (files && writeFiles(format, *files))
-        showInformation(tr("Export completed"));
+    return files && writeFiles(format, *files);
 }
 
 std::optional<QList<ResultExports::File>> ResultExports::askFile(ExportFormat format,
@@ -107,10 +112,10 @@ ResultExports::askFolder(ExportFormat format, const QList<ExportEntry>& chosen) 
 
 bool ResultExports::writeFiles(ExportFormat format, const QList<File>& files) const {
     ExportProgress progress(files.size(), parent_);
+    QList<WriteOutcome> outcomes;
     for (const File& file : files)
-        if (!goOn(writeFile(format, file, progress)))
-            return false;
-    return true;
+        outcomes += writeFile(format, file, progress);
+    return settle(outcomes);
 }
 
 WriteOutcome ResultExports::writeFile(ExportFormat format, const File& file,
@@ -133,10 +138,17 @@ WriteOutcome ResultExports::writeFile(ExportFormat format, const File& file,
     }
 }
 
-bool ResultExports::goOn(const WriteOutcome& outcome) const {
-    if (!outcome.written())
-        tell_(resultFault(outcome));
-    return !outcome.cancelled;
+bool ResultExports::settle(const QList<WriteOutcome>& outcomes) const {
+    QStringList lines;
+    bool cancelled = false;
+    for (const WriteOutcome& outcome : outcomes) {
+        cancelled = cancelled || outcome.cancelled;
+        if (!outcome.written())
+            lines += resultFault(outcome);
+    }
+    if (!lines.isEmpty())
+        tell_(lines);
+    return !cancelled;
 }
 
 void ResultExports::writeWorkbook(const QList<ExportEntry>& chosen, bool report) const {
@@ -149,20 +161,20 @@ void ResultExports::writeWorkbook(const QList<ExportEntry>& chosen, bool report)
         showError(tr("Select a table"));
         return;
     }
+    if (writeTables(tables, report))
+        showInformation(tr("Export completed"));
+}
+
+bool ResultExports::writeTables(const QList<const TableBase*>& tables, bool report) const {
+    const RunGuard guard;
     const QString suffix = QStringLiteral(".xlsx");
     const QString path = dialogOf(tr("Save File"))
                              .saveFile(tr("EXCEL (*.xlsx)"), suffix,
                                        SafeFileNames::safe(tables.front()->tableName()) + suffix);
     if (path.isEmpty())
-        return;
-    {
-        ExportProgress progress(1, parent_);
-        progress.beginFile(path);
-        const WriteOutcome outcome =
-            report ? writer_.writeExcelReport(tables, path, true, progress.progress())
-                   : writer_.writeExcelPlain(tables, path, progress.progress());
-        if (!goOn(outcome))
-            return;
-    }
-    showInformation(tr("Export completed"));
+        return false;
+    ExportProgress progress(1, parent_);
+    progress.beginFile(path);
+    return settle({report ? writer_.writeExcelReport(tables, path, true, progress.progress())
+                          : writer_.writeExcelPlain(tables, path, progress.progress())});
 }

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -28,9 +29,10 @@ class ResultExports {
     Q_DECLARE_TR_FUNCTIONS(ResultExports)
 
 public:
-    /// tell: takes a line of how an export failed or that it was cancelled.
-    ResultExports(const KelSystem& settings, QWidget* parent,
-                  std::function<void(const QString& line)> tell);
+    using Tell = std::function<void(const QStringList& lines)>;
+
+    /// tell: takes a line for each file of an export that failed or was cancelled.
+    ResultExports(const KelSystem& settings, QWidget* parent, Tell tell);
 
     /// A single table into a file, all else into a folder. A table that is chosen twice is written
     /// once; nothing in the folder is overwritten.
@@ -48,12 +50,15 @@ private:
     std::optional<QList<File>> askFile(ExportFormat format, const TableBase& table) const;
     std::optional<QList<File>> askFolder(ExportFormat format,
                                          const QList<ExportEntry>& chosen) const;
-    bool writeFiles(ExportFormat format, const QList<File>& files) const; ///< false: cancelled
+    // These are false where the user has cancelled.
+    bool writeChosen(ExportFormat format, const QList<ExportEntry>& chosen) const;
+    bool writeFiles(ExportFormat format, const QList<File>& files) const;
+    bool writeTables(const QList<const TableBase*>& tables, bool report) const;
     WriteOutcome writeFile(ExportFormat format, const File& file, ExportProgress& progress) const;
-    /// False where the user has cancelled.
-    bool goOn(const WriteOutcome& outcome) const;
+    /// Tells of those that were not written.
+    bool settle(const QList<WriteOutcome>& outcomes) const;
 
     ResultFileWriter writer_;
     QWidget* parent_;
-    std::function<void(const QString&)> tell_;
+    Tell tell_;
 };

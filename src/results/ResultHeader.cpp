@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -53,14 +54,23 @@ void ResultHeader::place(HeaderItem item) {
     const CellSpan& span = item.span;
     if (span.row < 0 || span.row >= places_.size() || span.column < 0)
         return;
-    QList<int>& row = places_[span.row];
-    while (row.size() <= span.column)
-        row += -1;
-    row[span.column] = static_cast<int>(items_.size());
+    const auto rows = static_cast<int>(places_.size());
+    for (int row = span.row; row < std::min(rows, span.row + span.rows); ++row)
+        for (int column = span.column; column < span.column + span.columns; ++column)
+            if (int& at = placeAt(row, column); at == none)
+                at = spanned;
+    placeAt(span.row, span.column) = static_cast<int>(items_.size());
     items_ += std::move(item);
 }
 
+int& ResultHeader::placeAt(int row, int column) {
+    QList<int>& places = places_[row];
+    while (places.size() <= column)
+        places += none;
+    return places[column];
+}
+
 const HeaderItem* ResultHeader::at(int row, int column) const {
-    const int item = places_.value(row).value(column, -1);
+    const int item = places_.value(row).value(column, none);
     return item < 0 ? nullptr : &items_[item];
 }

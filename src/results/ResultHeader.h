@@ -33,13 +33,21 @@ public:
     int rows() const { return static_cast<int>(places_.size()); }
     /// The item that begins there; null where none does.
     const HeaderItem* at(int row, int column) const;
+    /// An item begins there or spans over it.
+    bool covers(int row, int column) const {
+        return places_.value(row).value(column, none) != none;
+    }
     const QList<HeaderItem>& items() const { return items_; }
 
 private:
+    static constexpr int none = -1;
+    static constexpr int spanned = -2; ///< by an item that begins elsewhere
+
     void place(HeaderItem item);
+    int& placeAt(int row, int column);
 
     QList<HeaderItem> items_;
-    QList<QList<int>> places_; ///< by row and column, the item's number or -1
+    QList<QList<int>> places_; ///< by row and column, the item's number or one of the above
 };
 
 /// "7. 7" is "7", "7. Seven" stays.

@@ -23,7 +23,7 @@ void dumpRows(TKelDataset& dataset) {
         QStringList cells;
         for (int column = 0; column < dataset.numFields(); ++column)
             cells += QString::fromStdString(dataset.stringValue(row, column));
-        say("  row" + QString::number(row) + ": " + cells.join(u','));
+        say("  row" + QString::number(row) + ':' + cells.join(u','));
     }
 }
 

@@ -24,6 +24,11 @@ const HeaderItem* ResultModel::headerAt(int row, int column) const {
     return contents_.header.at(row - contents_.top, column - contents_.left);
 }
 
+bool ResultModel::isHeader(int row, int column) const {
+    return row >= contents_.top && column >= contents_.left &&
+           contents_.header.covers(row - contents_.top, column - contents_.left);
+}
+
 bool ResultModel::isCell(int row, int column) const {
     const int cell = row - firstCellRow();
     return cell >= 0 && cell < cellRows() && column >= contents_.left &&

@@ -34,7 +34,8 @@ public:
     /// As shown; empty where nothing stands.
     virtual QString text(int row, int column) const;
     const HeaderItem* headerAt(int row, int column) const;
-    bool isCell(int row, int column) const; ///< of the table, below its headers
+    bool isHeader(int row, int column) const; ///< one begins there or spans over it
+    bool isCell(int row, int column) const;   ///< of the table, below its headers
 
 protected:
     struct Contents {

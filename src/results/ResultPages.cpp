@@ -30,6 +30,7 @@ QLabel* makeInfo(const QString& name) {
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setWordWrap(true);
+    label->setMinimumWidth(1); // a long path must not widen the window
     label->hide();
     return label;
 }
@@ -50,14 +51,25 @@ void ResultPage::clear() {
 }
 
 void ResultPage::showTable(const TableBase& table) {
-    info_->setText(table.metadata().suppressedNote());
+    QStringList notes{table.metadata().suppressedNote(), table.layoutNote()};
+    notes.removeAll({});
+    info_->setText(notes.join('\n'));
     info_->setVisible(!info_->text().isEmpty());
+    info_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    layout_->setStretchFactor(info_, 0);
     view_->show();
     view_->fit();
 }
 
+void ResultPage::addNote(const QString& text) {
+    info_->setText(info_->text().isEmpty() ? text : info_->text() + '\n' + text);
+    info_->show();
+}
+
 void ResultPage::showWords(const QString& text) {
     info_->setText(text);
+    info_->setAlignment(Qt::AlignCenter);
+    layout_->setStretchFactor(info_, 1);
     info_->show();
     view_->hide();
 }

@@ -20,6 +20,7 @@ class ResultPage : public QWidget {
 public:
     virtual void clear();
     virtual void showTable(const TableBase& table);
+    void addNote(const QString& text); ///< above the shown table, below what stands there
     /// The words stand where the table would.
     void showWords(const QString& text);
     ResultTableView* view() const { return view_; }

@@ -3,22 +3,37 @@
 
 #include "TKelOutput.h"
 #include "TKelSession.h"
+#include "results/DirectWriter.h"
 #include "results/ResultLog.h"
 
+#include <algorithm>
 #include <utility>
 
 ResultProcess::ResultProcess(const std::vector<TKelOutput*>& outputs,
                              std::shared_ptr<TKelSession> session, const TableMaker& maker,
-                             const QString& stylePath, const WriteProgress& progress)
+                             const QString& stylePath, DirectWriter& direct)
     : session_(std::move(session)) {
     for (TKelOutput* output : outputs) {
         dumpOutput(*output);
-        tables_.push_back(maker.make(*output, stylePath));
-        if (tables_.back()->exportedDirectly())
-            lines_ += maker.writeDirect(*tables_.back(), *output, progress);
+        Made& made = made_.emplace_back();
+        made.table = maker.make(*output, stylePath);
+        if (made.table->exportedDirectly())
+            made.direct = direct.write(*made.table, *output);
     }
 }
 
 TableBase* ResultProcess::table(int index) const {
-    return index >= 0 && index < count() ? tables_[static_cast<std::size_t>(index)].get() : nullptr;
+    return index >= 0 && index < count() ? made_[static_cast<std::size_t>(index)].table.get()
+                                         : nullptr;
+}
+
+const WriteOutcome* ResultProcess::direct(const TableBase& table) const {
+    const auto made = std::find_if(made_.begin(), made_.end(),
+                                   [&](const Made& one) { return one.table.get() == &table; });
+    return made != made_.end() && made->direct ? &*made->direct : nullptr;
+}
+
+void ResultProcess::rebuild() {
+    for (const Made& made : made_)
+        made.table->rebuild();
 }

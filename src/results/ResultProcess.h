@@ -4,28 +4,34 @@
 #pragma once
 
 #include "results/TableMaker.h"
+#include "results/workbook/WriteOutcome.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
+class DirectWriter;
 class TKelOutput;
 class TKelSession;
 
 class ResultProcess {
 public:
-    /// Makes a table of each output, in order, and writes those that go straight to a file.
-    /// progress is asked while a file is written; it may be empty.
+    /// Makes a table of each output, in order, and has those written that go straight to a file.
     ResultProcess(const std::vector<TKelOutput*>& outputs, std::shared_ptr<TKelSession> session,
-                  const TableMaker& maker, const QString& stylePath,
-                  const WriteProgress& progress = {});
+                  const TableMaker& maker, const QString& stylePath, DirectWriter& direct);
 
-    int count() const { return static_cast<int>(tables_.size()); }
+    int count() const { return static_cast<int>(made_.size()); }
     TableBase* table(int index) const; ///< null out of range
-    /// What is to be told of files that were not written, or elsewhere than the program says.
-    const QStringList& lines() const { return lines_; }
+    /// How the file of one of its tables went; null where it went to none.
+    const WriteOutcome* direct(const TableBase& table) const;
+    void rebuild(); ///< all tables anew
 
 private:
+    struct Made {
+        std::unique_ptr<TableBase> table;
+        std::optional<WriteOutcome> direct;
+    };
+
     std::shared_ptr<TKelSession> session_;
-    std::vector<std::unique_ptr<TableBase>> tables_; ///< they go before the session
-    QStringList lines_;
+    std::vector<Made> made_; ///< the tables go before the session
 };

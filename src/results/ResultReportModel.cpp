@@ -61,7 +61,7 @@ QString ResultReportModel::raw(int row, int column) const {
 QVariant ResultReportModel::look(int row, int column, int role) const {
     const bool header = headerAt(row, column) != nullptr;
     if (role == resultrole::frame) {
-        if (header)
+        if (isHeader(row, column))
             return QStringLiteral("header");
         return isCell(row, column) ? QVariant(QStringLiteral("data")) : QVariant();
     }

@@ -4,8 +4,9 @@
 #include "TKelOutput.h"
 #include "TKelSession.h"
 #include "app/messages/Messages.h"
-#include "results/ExportProgress.h"
+#include "results/DirectWriter.h"
 #include "results/ResultClipboard.h"
+#include "results/ResultFaults.h"
 #include "results/ResultLog.h"
 #include "results/ResultOptions.h"
 #include "results/ResultPages.h"
@@ -14,6 +15,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -25,10 +27,11 @@
 #include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QTreeView>
 
-#include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 namespace {
@@ -39,7 +42,8 @@ constexpr int shortNote = 2000; ///< milliseconds in the status bar
 
 ResultsManager::ResultsManager(const KelSystem& settings, QString databasePath, QWidget* parent)
     : QMainWindow(parent), settings_(&settings), databasePath_(std::move(databasePath)),
-      actions_(this), exports_(settings, this, [this](const QString& line) { tellFault(line); }),
+      actions_(this),
+      exports_(settings, this, [this](const QStringList& lines) { tellFaults(lines); }),
       model_(new QStandardItemModel(this)), tree_(new QTreeView), noTable_(new QLabel),
       stack_(new QStackedWidget), tabs_(new QTabWidget), list_(new ResultListPage),
       report_(new ResultReportPage) {
@@ -62,6 +66,8 @@ ResultsManager::ResultsManager(const KelSystem& settings, QString databasePath, 
     tree_->setFocus();
     stack_->setCurrentWidget(noTable_);
     statusBar()->setSizeGripEnabled(false);
+    connect(statusBar(), &QStatusBar::messageChanged, this,
+            [this] { statusBar()->setToolTip({}); }); // of the message before
     retranslate();
 }
 
@@ -131,21 +137,11 @@ QStringList ResultsManager::addOutputs(const std::vector<TKelOutput*>& outputs,
                                        std::shared_ptr<TKelSession> session,
                                        const QString& stylePath) {
     const TableMaker maker(*settings_, *session->dictionary(), databasePath_);
-    std::unique_ptr<ExportProgress> progress;
-    const auto direct = std::find_if(outputs.begin(), outputs.end(),
-                                     [](TKelOutput* output) { return output->options().direct; });
-    if (direct != outputs.end()) {
-        progress = std::make_unique<ExportProgress>(1, this);
-        progress->beginFile(QString::fromStdString((*direct)->options().outputFile));
-    }
-    auto process =
-        std::make_unique<ResultProcess>(outputs, std::move(session), maker, stylePath,
-                                        progress ? progress->progress() : WriteProgress());
-    progress.reset();
-    QStringList lines = process->lines();
-    processes_.push_back(std::move(process));
+    DirectWriter direct(*settings_, outputs, this);
+    processes_.push_back(
+        std::make_unique<ResultProcess>(outputs, std::move(session), maker, stylePath, direct));
     rebuildTree();
-    return lines;
+    return direct.lines();
 }
 
 void ResultsManager::rebuildTree() {
@@ -212,7 +208,7 @@ void ResultsManager::updateOptionsAction() {
     const TableBase* table = selectedTable();
     const bool fits = table != nullptr && table->kind() != tablekind::average &&
                       table->kind() != tablekind::tablist;
-    actions_.order->setVisible(fits && oneTableSelected());
+    actions_.showOptions(fits && oneTableSelected());
 }
 
 void ResultsManager::showSelectedTable() {
@@ -239,13 +235,23 @@ void ResultsManager::showTable(TableBase& table) {
     updateOptionsAction();
     connectHeader(table);
     emit signalTableShowed(&table);
-    if (table.exportedDirectly()) {
-        list_->showWords(tr("Table result was exported directly."));
-        report_->showWords(tr("Table result was exported directly."));
-        return;
-    }
-    list_->showTable(table);
-    report_->showTable(table);
+    const WriteOutcome* file = direct(table);
+    for (ResultPage* page : std::initializer_list<ResultPage*>{list_, report_})
+        if (file != nullptr && file->written()) {
+            page->showWords(tr("Table result was exported directly.") + '\n' +
+                            QDir::toNativeSeparators(file->path));
+        } else {
+            page->showTable(table);
+            if (file != nullptr)
+                page->addNote(resultFault(*file));
+        }
+}
+
+const WriteOutcome* ResultsManager::direct(const TableBase& table) const {
+    for (const auto& process : processes_)
+        if (const WriteOutcome* file = process->direct(table))
+            return file;
+    return nullptr;
 }
 
 void ResultsManager::connectHeader(const TableBase& table) {
@@ -280,6 +286,7 @@ void ResultsManager::onShowTreeViewContextMenu(QPoint place) {
     connect(menu, &Menu::exportExcel, this, &ResultsManager::onExportAsExcel);
     connect(menu, &Menu::exportXml, this, &ResultsManager::onExportAsXml);
     connect(menu, &Menu::exportPdf, this, &ResultsManager::onExportAsPdf);
+    addOptions(*menu);
     menu->popup(tree_->viewport()->mapToGlobal(place));
 }
 
@@ -299,11 +306,19 @@ void ResultsManager::onTableWidgetReportContextMenuRequested(QPoint pos) {
     showCopyMenu(*report_->view(), pos);
 }
 
+void ResultsManager::addOptions(QMenu& menu) const {
+    if (!actions_.order->isVisible())
+        return;
+    menu.addSeparator();
+    menu.addAction(actions_.order);
+}
+
 void ResultsManager::showCopyMenu(const ResultTableView& view, QPoint pos) {
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("copyMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(actions_.copy);
+    addOptions(*menu);
     menu->popup(view.viewport()->mapToGlobal(pos));
 }
 
@@ -386,9 +401,13 @@ void ResultsManager::onExportAsExcel() {
     exports_.writeWorkbook(chosen(), tabs_->currentWidget() == report_);
 }
 
-void ResultsManager::tellFault(const QString& line) {
-    qCWarning(resultLog).noquote() << line;
-    statusBar()->showMessage(line);
+void ResultsManager::tellFaults(const QStringList& lines) {
+    for (const QString& line : lines)
+        qCWarning(resultLog).noquote() << line;
+    const auto others = static_cast<int>(lines.size()) - 1;
+    statusBar()->showMessage(
+        others == 0 ? lines.front() : lines.front() + ' ' + tr("(and %n more)", nullptr, others));
+    statusBar()->setToolTip(Qt::convertFromPlainText(lines.join('\n'), Qt::WhiteSpaceNormal));
 }
 
 void ResultsManager::nextPane() {
@@ -421,6 +440,8 @@ void ResultsManager::retranslate() {
     report_->view()->setAccessibleName(tr("Report of the table"));
     if (QToolBar* bar = findChild<QToolBar*>(QStringLiteral("toolBar")))
         bar->setWindowTitle(tr("Exports and options"));
+    for (const auto& process : processes_) // headings are texts of the tables
+        process->rebuild();
     if (shown_ != nullptr)
         showTable(*shown_);
 }

@@ -17,6 +17,7 @@
 
 class KelSystem;
 class QLabel;
+class QMenu;
 class QStackedWidget;
 class QStandardItem;
 class QStandardItemModel;
@@ -89,13 +90,15 @@ private:
     void showSelectedTable();
     void showTable(TableBase& table);
     void clearShown();
+    const WriteOutcome* direct(const TableBase& table) const; ///< null where it goes to no file
     void connectHeader(const TableBase& table);
 
     void copySelectedCells();
+    void addOptions(QMenu& menu) const; ///< where the shown table has any
     void showCopyMenu(const ResultTableView& view, QPoint pos);
     void tellCopied(bool copied);
     void exportAs(ExportFormat format);
-    void tellFault(const QString& line);
+    void tellFaults(const QStringList& lines);
     void nextPane(); ///< the focus goes from the tree to the table and back
 
     const KelSystem* settings_;

@@ -3,8 +3,6 @@
 
 #include "TKelOutput.h"
 #include "app/settings/KelSystem.h"
-#include "results/ResultFaults.h"
-#include "results/exports/DirectExport.h"
 #include "results/tables/TableFactory.h"
 
 #include <utility>
@@ -15,7 +13,7 @@ TablePreferences tablePreferences(const KelSystem& settings) {
 }
 
 TableMaker::TableMaker(const KelSystem& settings, TKelDictionary& dictionary, QString databasePath)
-    : settings_(&settings), dictionary_(&dictionary), databasePath_(std::move(databasePath)),
+    : dictionary_(&dictionary), databasePath_(std::move(databasePath)),
       preferences_(tablePreferences(settings)) {}
 
 TableViewConfig TableMaker::viewConfig(const QString& stylePath) const {
@@ -28,14 +26,4 @@ std::unique_ptr<TableBase> TableMaker::make(TKelOutput& output, const QString& s
         {&output, preferences_, TableMetadata(output, *dictionary_, databasePath_)});
     table->applyViewConfig(viewConfig(stylePath));
     return table;
-}
-
-QStringList TableMaker::writeDirect(const TableBase& table, TKelOutput& output,
-                                    const WriteProgress& progress) const {
-    QStringList lines;
-    const WriteOutcome outcome =
-        DirectExport(*settings_).write(table, output.options(), &lines, progress);
-    if (!outcome.written())
-        lines += resultFault(outcome);
-    return lines;
 }

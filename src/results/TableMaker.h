@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Makes the result tables of a run, and writes those that a program sends to files.
+// Makes the result tables of a run.
 #pragma once
 
 #include "results/tables/TableBase.h"
-#include "results/workbook/WriteOutcome.h"
 
-#include <QStringList>
+#include <QString>
 
 #include <memory>
 
@@ -20,14 +19,10 @@ public:
     /// With its metadata, laid out as the style file says, or as the preferences where the path is
     /// empty.
     std::unique_ptr<TableBase> make(TKelOutput& output, const QString& stylePath) const;
-    /// The file of a table that goes to one. Gives a line where it is not written, or elsewhere.
-    QStringList writeDirect(const TableBase& table, TKelOutput& output,
-                            const WriteProgress& progress = {}) const;
 
 private:
     TableViewConfig viewConfig(const QString& stylePath) const;
 
-    const KelSystem* settings_;
     TKelDictionary* dictionary_;
     QString databasePath_;
     TablePreferences preferences_;

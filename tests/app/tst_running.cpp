@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench while a program runs: what would disturb the run is refused or waits for its end.
 #include "Workbench.h"
+#include "app/dialogs/KelvoraFileDialog.h"
 #include "app/ribbon/tt/TabToolbar.h"
 #include "engine/execution/RunGuard.h"
 #include "kel.h"
 #include "projects/TfrmProject.h"
+#include "results/ResultsManager.h"
 #include "sample/sample.h"
 
+#include <QApplication>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QMdiArea>
@@ -47,6 +50,31 @@ class TestRunning : public QObject {
         bench_->window().runProgram(program);
         QVERIFY(act == nullptr);
         QVERIFY(!RunGuard::isRunning());
+    }
+
+    /// Acts from the events of an export as soon as its progress shows. Cancel ends it.
+    void exportAndAct(const std::function<void()>& begin, std::function<void()> act) const {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            auto* shown = bench_->find<QProgressDialog>("exportProgress");
+            if (shown == nullptr || !shown->isVisible())
+                return;
+            QVERIFY(RunGuard::isRunning());
+            if (const auto once = std::exchange(act, nullptr))
+                once();
+            else
+                QTest::mouseClick(shown->findChild<QPushButton*>(), Qt::LeftButton);
+        });
+        timer.start(10);
+        begin();
+        QVERIFY(act == nullptr);
+        QVERIFY(!RunGuard::isRunning());
+    }
+
+    QString filePath(const QString& name) const { return bench_->folder() + '/' + name; }
+    static QString longList() {
+        return "AREALIST HOUSEHOLD, HOUSEHOLD.ROOMS, HOUSEHOLD.TYPE, HOUSEHOLD.TENURE, "
+               "HOUSEHOLD.WATER, HOUSEHOLD.WEIGHT, HOUSEHOLD.ELECTRICITY";
     }
 
 private slots:
@@ -130,6 +158,84 @@ private slots:
                                     "/nowhere/sex.csv\"");
         QVERIFY2(bench_->messages.join('\n').contains("nowhere"),
                  qPrintable(bench_->messages.join('\n')));
+    }
+
+    void whatIsPutOffWaitsForTheLastGuard() {
+        QObject context;
+        int done = 0;
+        auto first = std::make_unique<RunGuard>();
+        RunGuard::afterwards(&context, [&] { ++done; });
+        first.reset();
+        auto second = std::make_unique<RunGuard>(); // its files are written
+        QCoreApplication::processEvents();
+        QCOMPARE(done, 0);
+        second.reset();
+        QTRY_COMPARE(done, 1);
+    }
+
+    void nothingEndsWhileFilesAreWritten_data() {
+        QTest::addColumn<bool>("direct");
+        QTest::newRow("by a program") << true;
+        QTest::newRow("by the user") << false;
+    }
+
+    void nothingEndsWhileFilesAreWritten() {
+        QFETCH(bool, direct);
+        MainWindow& window = bench_->window();
+        const QString file = filePath("long.xlsx");
+        const std::function<void()> begin = [&] {
+            if (direct) {
+                window.runProgram(longList() + " OUTFILE XLSX \"" + file + '"');
+                return;
+            }
+            KelvoraFileDialog::answerNext(file);
+            bench_->find<ResultsManager>("ResultsManager")->onExportAsExcel();
+        };
+        if (!direct)
+            window.runProgram(longList());
+        bench_->messages.clear();
+        const int before = bench_->resultCount();
+        const QList<std::function<void()>> acts{
+            [&] { QVERIFY(!window.close()); },
+            [&] { QApplication::closeAllWindows(); },
+            [&] { window.on_closeAllDictionary(); },
+            [&] { window.dock("Dictionary")->close(); },
+            [&] { window.openFile(bench_->smallPath(), "kxdb"); },
+            [&] { window.runProgram("COUNT PERSON"); },
+        };
+        for (const auto& act : acts) {
+            exportAndAct(begin, [&] {
+                QVERIFY(window.isBusy());
+                act();
+            });
+            QVERIFY(window.isVisible());
+            QVERIFY(!window.isLoading());
+            QCOMPARE(TfrmProject::instance().dictionaryPath(), samplePath());
+            QVERIFY(bench_->find<ResultsManager>("ResultsManager") != nullptr);
+            QVERIFY(!QFileInfo::exists(file));
+        }
+        QTRY_COMPARE(bench_->messages.filter("another one had not ended").size(), 1);
+        QCOMPARE(bench_->messages.filter("was not written: cancelled").size(),
+                 direct ? acts.size() : 0);
+        QCOMPARE(bench_->resultCount(), before + (direct ? acts.size() : 0));
+    }
+
+    void cancelMeansTheFilesThatAreLeft() {
+        const QString program = longList() + " OUTFILE XLSX \"%1\"\n" + longList() +
+                                " OUTFILE XLSX \"%2\"\nFREQ PERSON.SEX OUTFILE \"%3\"\n";
+        exportAndAct(
+            [&] {
+                bench_->window().runProgram(
+                    program.arg(filePath("1.xlsx"), filePath("2.xlsx"), filePath("3.csv")));
+            },
+            [] {});
+        const QStringList lines = bench_->messages.value(0).split('\n');
+        QCOMPARE(lines.size(), 3);
+        for (int number = 0; number < 3; ++number)
+            QVERIFY2(lines[number].contains(QString("%1.").arg(number + 1)) &&
+                         lines[number].endsWith("was not written: cancelled"),
+                     qPrintable(lines[number]));
+        QVERIFY(!QFileInfo::exists(filePath("3.csv")));
     }
 
     void figuresShowInTheirForm() {

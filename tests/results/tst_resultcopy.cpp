@@ -98,7 +98,7 @@ private slots:
         QMenu* menu =
             results_->menu(*grid.viewport(), grid.visualRect(grid.currentIndex()).center());
         QVERIFY(menu != nullptr);
-        QCOMPARE(menu->actions().size(), 1);
+        QCOMPARE(menu->actions().size(), 3); // a separator, and the options
         QCOMPARE(menu->actions()[0]->text(), "Copy");
         QCOMPARE(menu->actions()[0]->shortcut(), QKeySequence(QKeySequence::Copy));
         QTest::mouseClick(menu, Qt::LeftButton, {},
@@ -150,7 +150,8 @@ private slots:
             menu->close();
             return texts;
         };
-        QCOMPARE(entries(), QStringList({"Select all", "Deselect all", "Copy", "Export selected"}));
+        QCOMPARE(entries(), QStringList({"Select all", "Deselect all", "Copy", "Export selected",
+                                         "", "Options"}));
         QMenu* menu =
             results_->menu(*tree.viewport(), tree.visualRect(results_->place(0, 0)).center());
         results_->choose(*menu, "actionSelectAll");

@@ -4,6 +4,7 @@
 #include "ResultsFixture.h"
 #include "app/dialogs/KelvoraFileDialog.h"
 #include "app/settings/KelSystem.h"
+#include "results/ExportProgress.h"
 #include "results/ResultExports.h"
 #include "support/ModalAnswer.h"
 #include "support/OwnSettings.h"
@@ -14,8 +15,11 @@
 #include <QMenu>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QTreeView>
 
 namespace {
@@ -159,6 +163,27 @@ private slots:
         QVERIFY(QFileInfo::exists(results_->path("out.csv")));
     }
 
+    void allFilesThatFailAreTold() {
+        results_->run("FREQ PERSON.SEX");
+        results_->tree().selectAll();
+        for (const char* name : {"FREQ_1", "FREQ_2", R"(FREQ_1 \(2\))"})
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QString(R"(/%1\.csv was not)").arg(name)));
+        KelvoraFileDialog::answerNext(results_->path("nowhere"));
+        results_->find<QAction>("actionCsvLabelAsHeader")->trigger();
+        QCOMPARE(results_->messages, completed);
+        QVERIFY2(results_->status().contains("FREQ_1.csv was not written: ") &&
+                     results_->status().endsWith(" (and 2 more)"),
+                 qPrintable(results_->status()));
+        const QString tip =
+            QTextDocumentFragment::fromHtml(results_->window().statusBar()->toolTip())
+                .toPlainText();
+        QCOMPARE(tip.count("was not written"), 3);
+        QVERIFY2(tip.contains("FREQ_2.csv was not written"), qPrintable(tip));
+        results_->window().statusBar()->clearMessage();
+        QCOMPARE(results_->window().statusBar()->toolTip(), "");
+    }
+
     void theTabDecidesWhichWorkbook() {
         ResultsFixture::answerFileDialog(results_->path("grid.xlsx"));
         results_->trigger("actionXlsx");
@@ -171,11 +196,22 @@ private slots:
         QVERIFY(grid > 0 && report > 0 && grid != report);
     }
 
+    void progressOutlivesItsParent() {
+        auto parent = std::make_unique<QWidget>();
+        ExportProgress progress(2, parent.get());
+        QVERIFY(progress.beginFile("a.csv"));
+        const WriteProgress ask = progress.progress();
+        QVERIFY(ask(1, 2));
+        parent.reset();
+        QVERIFY(!ask(2, 2));
+        QVERIFY(!progress.beginFile("b.csv"));
+    }
+
     void longExportsCanBeCancelled() {
         const auto table = madeLargeTable(400'000, 30);
         QStringList told;
         const ResultExports exports(KelSystem::instance(), &results_->window(),
-                                    [&](const QString& line) { told += line; });
+                                    [&](const QStringList& lines) { told += lines; });
         const QString file = results_->write("long.csv", "as it was");
         bool seen = false;
         answerNextDialog([&](QDialog& dialog) {

@@ -214,6 +214,84 @@ private slots:
         QCOMPARE(shown.pixelColor(3, area->height() - 3), QColor(Qt::white));
     }
 
+    void outerLinesOfTheReportStay_data() {
+        QTest::addColumn<bool>("selected");
+        QTest::newRow("plain") << false;
+        QTest::newRow("selected") << true;
+    }
+
+    void outerLinesOfTheReportStay() {
+        QFETCH(bool, selected);
+        ResultReportPage page;
+        page.resize(900, 900);
+        page.showTable(*madeCrosstab());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        ResultTableView& view = *page.view();
+        if (selected)
+            view.selectAll();
+        const QAbstractItemModel& model = *view.model();
+        const auto framed = [&](int row, int column) {
+            return model.index(row, column).data(1).toString();
+        };
+        int top = 0;
+        while (framed(top, 1).isEmpty())
+            ++top;
+        int bottom = top;
+        while (!framed(bottom + 1, 1).isEmpty())
+            ++bottom;
+        const int last = model.columnCount() - 2;
+        QVERIFY(framed(bottom, last + 1).isEmpty());
+        const QRect table(view.visualRect(model.index(top, 1)).topLeft(),
+                          view.visualRect(model.index(bottom, last)).bottomRight());
+        QImage image = view.viewport()->grab().toImage();
+        const auto isBlack = [&](int x, int y) { return image.pixelColor(x, y) == Qt::black; };
+        const auto linesStand = [&] {
+            for (int y = table.top(); y <= table.bottom(); ++y)
+                QVERIFY(isBlack(table.left(), y) && isBlack(table.right(), y));
+            for (int x = table.left(); x <= table.right(); ++x)
+                QVERIFY(isBlack(x, table.top() + 2) && isBlack(x, table.bottom()));
+            QVERIFY(!isBlack(table.right() + 1, table.bottom()));
+            QVERIFY(!isBlack(table.right(), table.bottom() + 1));
+        };
+        linesStand();
+        // What is beside and below the table alone.
+        for (const QRect& beside :
+             {QRect(table.right() + 1, 0, 200, 900), QRect(0, table.bottom() + 1, 900, 100)}) {
+            const QRect seen = beside & view.viewport()->rect();
+            view.viewport()->render(&image, seen.topLeft(), QRegion(seen));
+            linesStand();
+        }
+        // One line between two cells, the thick one below the headers.
+        const QRect cell = view.visualRect(model.index(bottom, 2));
+        const int middle = cell.center().y();
+        QVERIFY(isBlack(cell.left(), middle) && !isBlack(cell.left() - 1, middle) &&
+                !isBlack(cell.left() + 1, middle));
+        int first = top;
+        while (framed(first, 2) == "header")
+            ++first;
+        const QRect below = view.visualRect(model.index(first, 2));
+        for (int line = 1; line <= 3; ++line)
+            QVERIFY(isBlack(below.left() + 3, below.top() - line));
+        QVERIFY(!isBlack(below.left() + 3, below.top()));
+    }
+
+    void headersTakeTheirSheet() {
+        const QString sheet =
+            "QHeaderView::section {\n\tfont-weight:600;\n\tcolor: #FFFFFF;\n\tbackground-color: "
+            "#3399FF;\n\tpadding: 4px;\n\tfont-size: 10pt;\n\tborder-style: "
+            "none;\n\tborder-bottom: 1px solid #fffff8;\n\tborder-right: 1px solid "
+            "#fffff8;\n}\nQHeaderView::section:horizontal {\n\tborder-top: 1px solid "
+            "#fffff8;\n}\nQHeaderView::section:vertical {\n\tborder-left: 1px solid "
+            "#fffff8;\n}\nQTableWidget::item {\n\tbackground-color: #99CCFF;\n}\n";
+        QCOMPARE(results_->grid().styleSheet(), sheet);
+        QCOMPARE(results_->report().styleSheet(), sheet);
+        results_->run("FREQ PERSON.SEX");
+        QHeaderView* header = results_->grid().verticalHeader();
+        const QImage shown = header->viewport()->grab().toImage();
+        QCOMPARE(shown.pixelColor(3, 3), QColor("#3399FF"));
+    }
+
     void framesMakeNoRoomForIcons() {
         ResultReportPage page;
         page.showTable(*madeFrequency());

@@ -31,8 +31,10 @@ RunGuard::~RunGuard() {
     if (--guards > 0)
         return;
     for (Waiting& one : std::exchange(waiting(), {}))
-        if (one.context)
-            QMetaObject::invokeMethod(one.context, std::move(one.action), Qt::QueuedConnection);
+        if (QObject* context = one.context)
+            QMetaObject::invokeMethod(
+                context, [context, action = std::move(one.action)] { afterwards(context, action); },
+                Qt::QueuedConnection);
 }
 
 bool RunGuard::isRunning() {
