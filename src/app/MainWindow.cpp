@@ -330,7 +330,7 @@ void MainWindow::runProgram(const QString& program) {
 QStringList MainWindow::showResults(const std::vector<TKelOutput*>& outputs,
                                     const std::shared_ptr<TKelSession>& session,
                                     const QString& programText) {
-    const QStringList notes = resultsManager().addOutputs(outputs, session, styleOfRun(outputs));
+    QStringList notes = resultsManager().addOutputs(outputs, session, styleOfRun(outputs));
     onShowResults();
     rebuildToolbars();
     // A table that is saved leaves the dictionary as it is.

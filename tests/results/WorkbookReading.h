@@ -69,6 +69,18 @@ public:
             .arg(facts["bold"].toBool() ? QStringLiteral("bold") : QStringLiteral("-"),
                  word("fill"), word("border"), word("format"));
     }
+    /// The first cell that scrolls, then how the sheet is printed: across, on A4, and fitted to so
+    /// many pages in width and height (0: any number).
+    QString view(qsizetype sheet = 0) const {
+        const QJsonObject facts = this->sheet(sheet);
+        return facts["frozen"].toString(QStringLiteral("-")) + u' ' + facts["page"].toString();
+    }
+    /// In both directions.
+    bool isCentred(const char* place, qsizetype sheet = 0) const {
+        const QJsonObject facts = cell(place, sheet);
+        return facts["horizontal"].toString() == QLatin1String("center") &&
+               facts["vertical"].toString() == QLatin1String("center");
+    }
     QStringList merged(qsizetype sheet = 0) const { return texts(this->sheet(sheet)["merged"]); }
     double width(const char* column, qsizetype sheet = 0) const {
         return this->sheet(sheet)["widths"].toObject()[QLatin1String(column)].toDouble();

@@ -42,6 +42,8 @@ def cell_facts(cell):
         "border": border.style,
         "borderColor": color_of(border.color),
         "format": cell.number_format,
+        "horizontal": cell.alignment.horizontal,
+        "vertical": cell.alignment.vertical,
         "comment": cell.comment.text if cell.comment else None,
     }
 
@@ -60,6 +62,11 @@ def sheet_facts(sheet):
         "cells": cells,
         "merged": sorted(str(area) for area in sheet.merged_cells.ranges),
         "widths": {name: column.width for name, column in sheet.column_dimensions.items()},
+        "frozen": sheet.freeze_panes,
+        "page": f"{sheet.page_setup.orientation} {sheet.page_setup.paperSize} "
+                f"{sheet.sheet_properties.pageSetUpPr.fitToPage} "
+                f"{sheet.page_setup.fitToWidth or 1} {sheet.page_setup.fitToHeight}"
+                if sheet.sheet_properties.pageSetUpPr else None,
         "charts": len(sheet._charts),
         "conditional": len(list(sheet.conditional_formatting)),
     }

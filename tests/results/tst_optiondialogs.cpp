@@ -135,6 +135,7 @@ private slots:
         QCOMPARE(rows(dialog), QStringList({"Total-", "Variables=", "MV-", "NA+"}));
         auto* totals = control<QCheckBox>(dialog, "checkBoxShowColumnsTotal");
         QCOMPARE(totals->text(), "Show Totals Row");
+        QCOMPARE(totals->toolTip(), "Add a row with the sum of each column of whole numbers");
         for (QCheckBox* box : {check(dialog, 1), check(dialog, 4), totals}) {
             tabTo(box);
             press(Qt::Key_Space);

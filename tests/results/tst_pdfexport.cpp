@@ -4,7 +4,10 @@
 #include "MadeTable.h"
 
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
+
+#include <algorithm>
 
 class tst_PdfExport : public QObject {
     Q_OBJECT
@@ -15,6 +18,9 @@ private slots:
     void labelsAreWhole();
     void tellsOfHiddenCells();
     void wideTablesLieAcrossInSmallerLetters();
+    void veryWideTablesStandInBlocks_data();
+    void veryWideTablesStandInBlocks();
+    void blocksTellProgressAndStop();
     void longTablesGoOnWithoutGaps();
     void longTextsBreakIntoLines();
     void emptyTablesHaveTheirFacts();
@@ -113,6 +119,65 @@ void tst_PdfExport::wideTablesLieAcrossInSmallerLetters() {
     // The last figure of the last row, in the same column.
     QCOMPARE(words("wide.pdf", "53").size(), 1);
     QVERIFY(words("wide.pdf", "53").first().right() < 842 - margin);
+}
+
+void tst_PdfExport::veryWideTablesStandInBlocks_data() {
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("columns");
+    QTest::newRow("a few") << 30 << 102;
+    QTest::newRow("two thousand") << 3 << 2000;
+    QTest::newRow("several pages high") << 90 << 102;
+}
+
+/// All cells are there, large enough to be read, below their header and beside their label.
+void tst_PdfExport::veryWideTablesStandInBlocks() {
+    QFETCH(int, rows);
+    QFETCH(int, columns);
+    constexpr qreal margin = 10 / 25.4 * 72;
+    const auto table = madeLargeTable(rows, columns);
+    const QStringList sheets =
+        text(*table, "blocks.pdf", {"-layout"}).split('\f', Qt::SkipEmptyParts);
+    static const QRegularExpression header("\\bC(\\d+)\\b");
+    static const QRegularExpression row("area (\\d+) +(.*)");
+    static const QRegularExpression gap(" {2,}");
+    QSet<std::pair<int, int>> found;
+    for (const QString& sheet : sheets) {
+        QList<int> shown;
+        for (auto match = header.globalMatch(sheet); match.hasNext();)
+            shown += match.next().captured(1).toInt();
+        for (auto match = row.globalMatch(sheet); match.hasNext();) {
+            const QRegularExpressionMatch line = match.next();
+            const QStringList figures = line.captured(2).trimmed().split(gap);
+            QCOMPARE(figures.size(), shown.size());
+            const int number = line.captured(1).toInt();
+            for (qsizetype at = 0; at < figures.size(); ++at) {
+                QCOMPARE(QString(figures[at]).remove(' ').toInt(), number * 7 + shown[at]);
+                found += {number, shown[at]};
+            }
+        }
+    }
+    QCOMPARE(found.size(), qsizetype{rows} * (columns - 1));
+    for (const QString& word : {QStringLiteral("C1"), QStringLiteral("C%1").arg(columns - 1)})
+        for (const QRectF& box : words("blocks.pdf", word)) {
+            QVERIFY2(box.height() >= 5, qPrintable(QString::number(box.height())));
+            QVERIFY(box.right() < 842 - margin);
+        }
+}
+
+void tst_PdfExport::blocksTellProgressAndStop() {
+    const auto table = madeLargeTable(40, 300);
+    QList<qint64> asked;
+    const auto progress = [&](qint64 done, qint64 total) {
+        asked += done;
+        return total == 40 * 300;
+    };
+    QVERIFY(fixture_.writer.writePdf(*table, fixture_.path("p.pdf"), progress).written());
+    QVERIFY(std::is_sorted(asked.cbegin(), asked.cend()));
+    QCOMPARE(asked.last(), 40 * 300);
+    const QByteArray before = fixture_.read("p.pdf");
+    const auto stop = [&](qint64 done, qint64 /*total*/) { return done < 40 * 200; };
+    QVERIFY(fixture_.writer.writePdf(*table, fixture_.path("p.pdf"), stop).cancelled);
+    QCOMPARE(fixture_.read("p.pdf"), before);
 }
 
 /// More rows than are laid out at a time: each stands there once, in order, below a header on each

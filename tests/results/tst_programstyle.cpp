@@ -46,6 +46,8 @@ private slots:
             "DEFINE\n    TABLESTYLE \"/s.json\"\nFREQ P.SEX\n");
         row("of two", "TABLESTYLE \"a\"\n//\n  TableStyle \"\"",
             "    TABLESTYLE \"/s.json\"\n//\n    TABLESTYLE \"/s.json\"");
+        row("of one with a quote", "DEFINE\nTABLESTYLE \"/a\"\"b\"\"\"\nFREQ P.SEX\n",
+            "DEFINE\n    TABLESTYLE \"/s.json\"\nFREQ P.SEX\n");
         row("not of a comment", "DEFINE\n// TABLESTYLE \"a\"\nTABLESTYLE \"a\" // b\n",
             "DEFINE\n    TABLESTYLE \"/s.json\"\n// TABLESTYLE \"a\"\nTABLESTYLE \"a\" // b\n");
         row("CRLF nowhere", "FREQ P.SEX\r\n",
@@ -85,6 +87,7 @@ private slots:
         QFETCH(QString, line);
         QCOMPARE(programstyle::inserted("DEFINE\n", style), "DEFINE\n" + line + '\n');
         QCOMPARE(programstyle::inserted("TABLESTYLE \"x\"\nb", style), line + "\nb");
+        QCOMPARE(programstyle::inserted(line + "\nb", style), line + "\nb");
     }
 
     void filesThatAreNoProgramStayAsTheyAre() {

@@ -7,19 +7,23 @@
 #include "results/styles/TableStylesButtonMenu.h"
 #include "support/OwnSettings.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 class TestStyleEditor : public QObject {
     Q_OBJECT
@@ -82,6 +86,32 @@ class TestStyleEditor : public QObject {
         TableStylesButtonMenu menu([program] { return program; });
         menu.onStyleSaved(style);
         return take().join('|');
+    }
+
+    /// What the dialog that comes up over an action is like; it is left again.
+    template <typename Dialog>
+    QStringList seen(const std::function<void()>& action,
+                     const std::function<QStringList(Dialog&)>& facts) {
+        QStringList result;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr || !dialog->isVisible())
+                return;
+            look.stop();
+            result = facts(*dialog);
+            dialog->reject();
+        });
+        look.start(10);
+        action();
+        return result;
+    }
+    static QStringList fileFacts(QFileDialog& dialog) {
+        QStringList facts{dialog.windowTitle()};
+        facts += dialog.nameFilters();
+        if (auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            facts += name->text();
+        return facts;
     }
 
 private slots:
@@ -243,6 +273,28 @@ private slots:
         QCOMPARE(take(), QStringList("Could not write file:\n" + path("none/a.json")));
         QVERIFY(editor_->isVisible());
         QCOMPARE(spy.size(), 0);
+    }
+
+    void dialogsHaveTheirTitles() {
+        answerMessages({});
+        edit();
+        const QStringList filters{"Table Style (*.json)", "All Files (*)"};
+        QCOMPARE(seen<QFileDialog>([&] { click("btnSaveAs"); }, fileFacts),
+                 QStringList("Save Table Style") + filters + QStringList("tablestyle"));
+        TableStylesButtonMenu menu({});
+        const auto open = [&] {
+            menu.findChild<QAction*>(QStringLiteral("openTableStyle"))->trigger();
+        };
+        QCOMPARE(seen<QFileDialog>(open, fileFacts).mid(0, 3),
+                 QStringList("Open Table Style") + filters);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^TableStyleData: cannot write to"));
+        KelvoraFileDialog::answerNext(path("none/a.json"));
+        const auto box =
+            seen<QMessageBox>([&] { click("btnSaveAs"); },
+                              [](QMessageBox& shown) {
+                                  return QStringList{shown.windowTitle(), shown.text()};
+                              });
+        QCOMPARE(box, QStringList({"Save Error", "Could not write file:\n" + path("none/a.json")}));
     }
 
     void changesAreNotLostUnasked() {

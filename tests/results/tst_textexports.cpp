@@ -7,8 +7,23 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
+#include <QTranslator>
 
 using Choice = ResultFileWriter::HeaderChoice;
+
+namespace {
+
+/// A language whose words are those of ours in capitals.
+class Capitals : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char* /*context*/, const char* text, const char* /*comment*/,
+                      int /*number*/) const override {
+        return QString::fromUtf8(text).toUpper();
+    }
+};
+
+} // namespace
 
 class tst_TextExports : public QObject {
     Q_OBJECT
@@ -29,6 +44,8 @@ private slots:
     void jsonIsAsTheEngineGivesIt();
     void htmlHoldsTheWholeReport();
     void htmlEscapesAndTellsOfHiddenCells();
+    void htmlHoldsBlocksOfColumns();
+    void htmlSpeaksTheLanguageOfTheInterface();
 };
 
 namespace {
@@ -304,9 +321,52 @@ void tst_TextExports::htmlEscapesAndTellsOfHiddenCells() {
     QVERIFY(whole.endsWith("</table><br><p>" + facts.suppressedNote().toHtmlEscaped() +
                            "</p></body></html>"));
     // The note stands below the last rows, the facts above the first.
-    QVERIFY(!html.slice(0, 1).contains(facts.suppressedNote()));
-    QVERIFY(!html.slice(1, 2).contains("Title"));
-    QVERIFY(html.slice(1, 2).contains(facts.suppressedNote()));
+    const ColumnBlock all{0, 0, 1};
+    QVERIFY(!html.slice(0, 1, all).contains(facts.suppressedNote()));
+    QVERIFY(!html.slice(1, 2, all).contains("Title"));
+    QVERIFY(html.slice(1, 2, all).contains(facts.suppressedNote()));
+}
+
+void tst_TextExports::htmlHoldsBlocksOfColumns() {
+    const auto table = madeCrosstab();
+    const HtmlReport html(*table);
+    // The label and the last two columns of three under one heading.
+    const QString last = html.slice(0, 3, {1, 2, 4});
+    QVERIFY(!last.contains("Title"));
+    QVERIFY2(last.contains("<tr><th colspan=\"1\" rowspan=\"2\">HOUSE.AREA (Area)</th>"
+                           "<th colspan=\"2\" rowspan=\"1\">PERSON.SEX (Sex)</th></tr>"
+                           "<tr><th colspan=\"1\" rowspan=\"1\">1. Male</th>"
+                           "<th colspan=\"1\" rowspan=\"1\">2. Female</th></tr>"
+                           "<tr class=\"totalRow\"><td class=\"stringCell\">Total</td>"
+                           "<td>1 200</td><td>1 300</td></tr>"),
+             qPrintable(last));
+    // Where all of a row of the header is above, it would be an empty one.
+    const QString first = html.slice(0, 3, {0, 0, 1});
+    QVERIFY(first.contains("Title"));
+    QVERIFY2(first.contains("<table><tr><th colspan=\"1\" rowspan=\"1\">HOUSE.AREA (Area)</th></tr>"
+                            "<tr class=\"totalRow\"><td class=\"stringCell\">Total</td></tr>"),
+             qPrintable(first));
+    QCOMPARE(html.headerRows({0, 0, 1}), 1);
+    QCOMPARE(html.headerRows({1, 2, 4}), 2);
+}
+
+void tst_TextExports::htmlSpeaksTheLanguageOfTheInterface() {
+    Capitals language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    TableMetadata facts = madeFacts(tablekind::frequency, "FREQUENCY", {"a", "b"});
+    facts.sort = TableSort{"PERSON.AGE", -1, false};
+    facts.tally = facts.weight = facts.filter = facts.universalFilter = "x";
+    const QString cross = HtmlReport(MadeTable(madeLayout({"h"}, {}), facts)).whole();
+    for (const char* heading : {"TITLE", "DATABASE", "GEOGRAPHIC AREA", "TALLY", "WEIGHT", "FILTER",
+                                "UNIVERSAL FILTER", "SORTED(DESCENDING) BY", "CROSSTAB"})
+        QVERIFY2(cross.contains(QStringLiteral("<h2>%1</h2>").arg(heading)), heading);
+    QVERIFY(cross.contains("<p>OF a</p><p>BY b</p>"));
+    const QString list = HtmlReport(*madeLargeTable(1, 2)).whole();
+    QVERIFY(list.contains("<h2>ENTITY</h2>") && list.contains("<h2>KEY</h2>"));
+    // Other programs read the words of XML.
+    const ExportFixture fixture;
+    QVERIFY(fixture.writer.writeXml(*madeCrosstab(), fixture.path("x.xml")).written());
+    QVERIFY(!fixture.read("x.xml").contains("TITLE"));
 }
 
 QTEST_GUILESS_MAIN(tst_TextExports)

@@ -45,6 +45,7 @@ private slots:
     void decimalSignIsAPointInEveryLanguage();
     void columnsAreAsWideAsTheirTexts();
     void tablesWithoutRowsAreSheetsToo();
+    void sheetsAreReadyToScrollAndPrint();
 
 private:
     ReadWorkbook plain(const QList<const TableBase*>& tables) {
@@ -337,6 +338,26 @@ void TestWorkbook::tablesWithoutRowsAreSheetsToo() {
     QCOMPARE(grid.problems(), QString());
     QCOMPARE(grid.value("B1").toString(), "Count");
     QVERIFY(plain({}).problems().isEmpty());
+}
+
+void TestWorkbook::sheetsAreReadyToScrollAndPrint() {
+    const auto table = madeCrosstab();
+    const ReadWorkbook grid = plain({table.get()});
+    QCOMPARE(grid.view(), "B3 landscape 9 True 1 0");
+    QVERIFY(grid.isCentred("A1") && grid.isCentred("B1") && grid.isCentred("D2"));
+    QVERIFY(!grid.isCentred("A3") && !grid.isCentred("B3"));
+    const MadeTable unlabelled(madeLayout({"a", "b"}, {{"1", "2"}}, 0),
+                               madeFacts(tablekind::frequency, "FREQUENCY", {"Sex"}));
+    QCOMPARE(plain({&unlabelled}).view(), "A2 landscape 9 True 1 0");
+    const ReadWorkbook book = report({table.get()});
+    QCOMPARE(book.view(), "A13 landscape 9 True 1 0");
+    QVERIFY(book.isCentred("B11") && book.isCentred("C12"));
+    QVERIFY(!book.isCentred("A1") && !book.isCentred("B13"));
+    // So many facts that no window would have room for rows below them.
+    TableMetadata facts = table->metadata();
+    facts.filter = facts.weight = facts.tally = QStringLiteral("x");
+    table->setMetadata(facts);
+    QCOMPARE(report({table.get()}).view(), "- landscape 9 True 1 0");
 }
 
 QTEST_GUILESS_MAIN(TestWorkbook)

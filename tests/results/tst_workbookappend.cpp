@@ -70,6 +70,10 @@ void TestWorkbookAppend::keepsAllThatWasThere() {
     QCOMPARE(after.facts()["defined"], before.facts()["defined"]);
     QCOMPARE(after.facts()["selected"], before.facts()["selected"]);
     QCOMPARE(after.sheet(0)["charts"].toInt(), 1);
+    for (int sheet = 3; sheet < 5; ++sheet) {
+        QCOMPARE(after.view(sheet), "A13 landscape 9 True 1 0");
+        QVERIFY(after.isCentred("C12", sheet) && !after.isCentred("C13", sheet));
+    }
     QCOMPARE(after.value("D1").toString(), "=B1*2");
     QCOMPARE(changedParts(before, after),
              QStringList({"[Content_Types].xml", "xl/_rels/workbook.xml.rels", "xl/styles.xml",
@@ -133,6 +137,8 @@ void TestWorkbookAppend::joinsUnusualWorkbooks() {
     QCOMPARE(book.value("A1").toDouble(), 4);
     QCOMPARE(book.look("C13", 1), "Tahoma 9 - FFC0C0C0 thin # ##0");
     QCOMPARE(book.look("C12", 2), "Tahoma 9 bold FF808080 thin General");
+    QVERIFY(book.isCentred("C12", 2));
+    QCOMPARE(book.view(2), "A13 landscape 9 True 1 0");
 }
 
 void TestWorkbookAppend::opensInASpreadsheet() {

@@ -113,7 +113,8 @@ void TestWorkbookLimits::progressGrowsToTheEnd() {
     QCOMPARE(told, 50000);
     QVERIFY(asked.size() >= 10);
     QVERIFY(std::is_sorted(asked.cbegin(), asked.cend()));
-    QVERIFY(asked.last() > 45000 && asked.last() <= 50000);
+    // Then the sheets are packed, read again and counted piece by piece.
+    QVERIFY2(asked.count(50000) > 10, qPrintable(QString::number(asked.count(50000))));
 }
 
 void TestWorkbookLimits::cancelLeavesTheFileThatWasThere() {
@@ -124,6 +125,15 @@ void TestWorkbookLimits::cancelLeavesTheFileThatWasThere() {
     const WriteOutcome plain = writePlainWorkbook({table.get()}, path, stop);
     const WriteOutcome report = writeReportWorkbook({table.get()}, path, true, stop);
     QVERIFY(plain.cancelled && report.cancelled);
+    // All cells written: at the last step, and while they are counted.
+    for (const int last : {1, 6}) {
+        int finishing = 0;
+        const auto stopLate = [&](qint64 done, qint64 total) {
+            finishing += done == total ? 1 : 0;
+            return finishing < last;
+        };
+        QVERIFY(writePlainWorkbook({table.get()}, path, stopLate).cancelled);
+    }
     QCOMPARE(bytesOf(path), "the former one");
     QCOMPARE(files(), QStringList("old.xlsx"));
     QCOMPARE(openFiles(), before);

@@ -64,12 +64,24 @@ QPixmap firstPage(const QString& pdf) {
 /// A workbook or a list as the spreadsheet prints it.
 QPixmap sheetOf(const QString& file) {
     const QDir folder = QFileInfo(file).dir();
-    if (printed(QStringLiteral("soffice"),
-                {QStringLiteral("--headless"), QStringLiteral("--convert-to"),
-                 QStringLiteral("pdf"), QStringLiteral("--outdir"), folder.path(), file})
-            .isEmpty())
+    QStringList arguments{QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+                          QStringLiteral("pdf"), QStringLiteral("--outdir"), folder.path()};
+    // Unasked it takes lists for texts of the system's encoding: commas, quotes, UTF-8, from row 1.
+    if (file.endsWith(QLatin1String(".csv")))
+        arguments += QStringLiteral("--infilter=CSV:44,34,76,1");
+    if (printed(QStringLiteral("soffice"), arguments + QStringList{file}).isEmpty())
         return {};
     return firstPage(folder.filePath(QFileInfo(file).completeBaseName() + QStringLiteral(".pdf")));
+}
+
+/// The table in front as a file.
+QString exported(MainWindow& window, const QString& folder, const char* action,
+                 const QString& name) {
+    QString file = QDir(folder).filePath(name);
+    KelvoraFileDialog::answerNext(file);
+    find<QAction>(window, action)->trigger();
+    require(QFile::exists(file), QStringLiteral("%1 was not written").arg(name));
+    return file;
 }
 
 } // namespace
@@ -97,6 +109,11 @@ void Tour::results() {
     shootResult(QStringLiteral("TABLE BYSEX AS FREQUENCY PERSON.SEX\n"
                                "AREALIST DISTRICT, DISTRICT.AREA_KM2, BYSEX"),
                 QStringLiteral("area-list"), true);
+    // Lists have no quotes, so this one goes there: its labels have no commas.
+    const QPixmap list = sheetOf(
+        exported(window_, folder.path(), "actionCsvNameAsHeader", QStringLiteral("list.csv")));
+    if (!list.isNull())
+        save(list, QStringLiteral("export-csv"));
     const QString threeWay = QStringLiteral("CROSSTABS HOUSEHOLD.TENURE BY PERSON.SEX BY "
                                             "PERSON.LITERATE");
     const QString style = folder.filePath(QStringLiteral("matrix.json"));
@@ -111,33 +128,26 @@ void Tour::results() {
     window_.resize(before);
 }
 
-/// The table in front as a file of each kind, as another program shows it.
+/// The table in front as a file of each other kind, as another program shows it.
 void Tour::exports(const QString& folder) {
-    const auto exported = [&](const char* action, const QString& name) {
-        const QString file = QDir(folder).filePath(name);
-        KelvoraFileDialog::answerNext(file);
-        find<QAction>(window_, action)->trigger();
-        require(QFile::exists(file), QStringLiteral("%1 was not written").arg(name));
-        return file;
+    const auto file = [&](const char* action, const QString& name) {
+        return exported(window_, folder, action, name);
     };
     const auto keep = [this](const QPixmap& picture, const QString& name) {
         if (!picture.isNull())
             save(picture, QStringLiteral("export-") + name);
     };
-    keep(sheetOf(exported("actionCsvNameAsHeader", QStringLiteral("list.csv"))),
-         QStringLiteral("csv"));
-    keep(sheetOf(exported("actionXlsx", QStringLiteral("grid.xlsx"))), QStringLiteral("xlsx-grid"));
+    keep(sheetOf(file("actionXlsx", QStringLiteral("grid.xlsx"))), QStringLiteral("xlsx-grid"));
     find<QTabWidget>(window_, "tabWidget")->setCurrentIndex(1);
-    keep(sheetOf(exported("actionXlsx", QStringLiteral("report.xlsx"))),
-         QStringLiteral("xlsx-report"));
+    keep(sheetOf(file("actionXlsx", QStringLiteral("report.xlsx"))), QStringLiteral("xlsx-report"));
     find<QTabWidget>(window_, "tabWidget")->setCurrentIndex(0);
-    keep(firstPage(exported("actionPdf", QStringLiteral("report.pdf"))), QStringLiteral("pdf"));
+    keep(firstPage(file("actionPdf", QStringLiteral("report.pdf"))), QStringLiteral("pdf"));
     const QString xml =
         printed(QStringLiteral("xmllint"),
-                {QStringLiteral("--format"), exported("actionXml", QStringLiteral("table.xml"))});
+                {QStringLiteral("--format"), file("actionXml", QStringLiteral("table.xml"))});
     const QString json =
         printed(QStringLiteral("python3"), {QStringLiteral("-m"), QStringLiteral("json.tool"),
-                                            exported("actionJson", QStringLiteral("table.json"))});
+                                            file("actionJson", QStringLiteral("table.json"))});
     keep(xml.isEmpty() ? QPixmap() : pictureOf(xml), QStringLiteral("xml"));
     keep(json.isEmpty() ? QPixmap() : pictureOf(json), QStringLiteral("json"));
 }

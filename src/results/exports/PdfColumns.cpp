@@ -13,24 +13,84 @@ namespace {
 constexpr qreal frame = 2 * (8 + 1) + 2;
 constexpr qint64 cellsBetweenQuestions = 4096;
 
+/// Makes columns hold a text that goes over them, in even parts.
+void widen(QList<qreal>& widths, qsizetype first, qsizetype count, qreal width) {
+    const qsizetype end = std::min(first + count, widths.size());
+    qreal has = frame * qreal(count - 1);
+    for (qsizetype column = first; column < end; ++column)
+        has += widths[column];
+    for (qsizetype column = first; column < end && has < width; ++column)
+        widths[column] += (width - has) / qreal(count);
+}
+
 } // namespace
 
 PdfColumns::PdfColumns(const TableBase& table, const QFont& font, qreal widest,
                        const WriteProgress& progress)
     : metrics_(font), widest_(widest), digit_(metrics_.horizontalAdvance(QLatin1Char('0'))),
       widths_(std::max(table.columnHeaders().size(), table.reportCells().width()), digit_) {
+    while (labels_ < widths_.size() && table.reportCells().isTextColumn(labels_))
+        ++labels_;
+    // Where all are texts, there are no figures that the first one could be the label of.
+    if (labels_ == widths_.size())
+        labels_ = std::min<qsizetype>(labels_, 1);
     measureHeader(table, font);
     measureCells(table, progress);
 }
 
-qreal PdfColumns::width() const {
-    return std::accumulate(widths_.begin(), widths_.end(), frame * qreal(widths_.size()));
+/// What is left of a heading that the border of the block cuts needs its width as well.
+QList<qreal> PdfColumns::widthsOf(const ColumnBlock& block) const {
+    QList<qreal> widths;
+    for (qsizetype place = 0; place < block.size(); ++place)
+        widths += widths_[block.column(place)];
+    for (const Span& span : spans_) {
+        const int shown = block.shown(span.first, span.count);
+        if (shown > 0 && shown < span.count)
+            widen(widths, std::max<qsizetype>(0, span.first - block.first) + block.labels, shown,
+                  span.width);
+    }
+    return widths;
 }
 
-QList<qreal> PdfColumns::filling(qreal width) const {
-    QList<qreal> widths = widths_;
-    const qreal share = width / this->width();
-    // On whole units, lest the ground of one column covers the border of the one before.
+qreal PdfColumns::width(const ColumnBlock& block) const {
+    const QList<qreal> widths = widthsOf(block);
+    return std::accumulate(widths.begin(), widths.end(), frame * qreal(widths.size()));
+}
+
+/// Labels that would leave less than half of the width to figures are not repeated.
+qsizetype PdfColumns::repeated(qreal widest) const {
+    qsizetype labels = labels_;
+    while (labels > 0 && width({0, 0, labels}) > widest / 2)
+        --labels;
+    return labels;
+}
+
+QList<ColumnBlock> PdfColumns::blocks(qreal widest) {
+    for (qreal& column : widths_)
+        column = std::min(column, widest / 2 - frame);
+    if (width(all()) <= widest)
+        return {all()};
+    QList<ColumnBlock> blocks;
+    const qsizetype labels = repeated(widest);
+    ColumnBlock block{0, 0, 0};
+    qreal taken = 0;
+    for (qsizetype column = 0; column < widths_.size(); ++column) {
+        const qreal needed = widths_[column] + frame;
+        if (taken + needed > widest && block.end > std::max(block.first, labels)) {
+            blocks += block;
+            block = {labels, column, column};
+            taken = width({0, 0, labels});
+        }
+        taken += needed;
+        block.end = column + 1;
+    }
+    return blocks += block;
+}
+
+/// In whole units, lest the ground of one column covers the border of the one before.
+QList<qreal> PdfColumns::filling(const ColumnBlock& block, qreal width) const {
+    QList<qreal> widths = widthsOf(block);
+    const qreal share = width / this->width(block);
     for (qreal& column : widths)
         column = std::floor((column + frame) * share);
     return widths;
@@ -45,15 +105,6 @@ qreal PdfColumns::wordsWidth(const QFontMetricsF& metrics, const QString& text) 
     return longest;
 }
 
-void PdfColumns::widen(qsizetype first, qsizetype count, qreal width) {
-    const qsizetype end = std::min(first + count, widths_.size());
-    qreal has = frame * qreal(count - 1);
-    for (qsizetype column = first; column < end; ++column)
-        has += widths_[column];
-    for (qsizetype column = first; column < end && has < width; ++column)
-        widths_[column] += (width - has) / qreal(count);
-}
-
 void PdfColumns::measureHeader(const TableBase& table, const QFont& font) {
     QFont bold = font;
     bold.setBold(true);
@@ -62,9 +113,13 @@ void PdfColumns::measureHeader(const TableBase& table, const QFont& font) {
     const auto spans = table.headerSpans();
     const auto positions = table.headerPositions();
     for (qsizetype line = 0; line < texts.size(); ++line)
-        for (qsizetype item = 0; item < texts[line].size(); ++item)
-            widen(positions[line][item].first, spans[line][item].first,
-                  wordsWidth(metrics, texts[line][item]));
+        for (qsizetype item = 0; item < texts[line].size(); ++item) {
+            const Span span{positions[line][item].first, spans[line][item].first,
+                            wordsWidth(metrics, texts[line][item])};
+            widen(widths_, span.first, span.count, span.width);
+            if (span.count > 1)
+                spans_ += span;
+        }
 }
 
 void PdfColumns::measureCells(const TableBase& table, const WriteProgress& progress) {

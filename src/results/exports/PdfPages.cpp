@@ -21,6 +21,12 @@ void PdfPages::add(const PdfSlice& slice) {
     drawWaiting(slice);
 }
 
+void PdfPages::endPage() {
+    if (y_ > 0)
+        printer_->newPage();
+    y_ = 0;
+}
+
 void PdfPages::place(const PdfSlice& slice, PdfBand band, qreal together) {
     if (together > room() && y_ + waiting_.height() > 0)
         beginPage(slice, band.ofRow);

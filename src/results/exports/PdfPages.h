@@ -16,6 +16,8 @@ public:
     PdfPages(QPrinter& printer, QPainter& painter, const QSizeF& paper);
 
     void add(const PdfSlice& slice);
+    /// What is added next begins a page.
+    void endPage();
 
 private:
     void place(const PdfSlice& slice, PdfBand band, qreal together);

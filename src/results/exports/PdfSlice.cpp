@@ -28,7 +28,7 @@ PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype fi
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document_.setDefaultTextOption(option);
     // The line above the next row closes the last one.
-    document_.setHtml(html.slice(first, std::min(end + 1, html.rows())));
+    document_.setHtml(html.slice(first, std::min(end + 1, html.rows()), layout.block));
     QTextTable* const table = this->table();
     if (table != nullptr)
         setColumns(*table, layout);
@@ -36,7 +36,7 @@ PdfSlice::PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype fi
     findParagraphs(0, table != nullptr ? table->firstPosition() - 1 : document_.characterCount());
     if (table == nullptr)
         return;
-    findRows(*table, html.headerRows(), static_cast<int>(end - first));
+    findRows(*table, first == 0, html.headerRows(layout.block), static_cast<int>(end - first));
     if (end == html.rows())
         findParagraphs(table->lastPosition() + 1, document_.characterCount());
 }
@@ -101,13 +101,13 @@ qreal PdfSlice::topOf(const QTextTable& table, int row) const {
            cell.format().toTableCellFormat().topPadding() - line;
 }
 
-void PdfSlice::findRows(const QTextTable& table, int headerRows, int rows) {
+void PdfSlice::findRows(const QTextTable& table, bool withHeader, int headerRows, int rows) {
     const QRectF frame =
         document_.documentLayout()->frameBoundingRect(const_cast<QTextTable*>(&table));
     const int header = std::min(headerRows, table.rows());
     const qreal body = header < table.rows() ? topOf(table, header) : frame.bottom();
     header_ = {topOf(table, 0), body, false};
-    if (!bands_.isEmpty())
+    if (withHeader)
         addBand(body, false);
     below_ = body;
     for (int row = header + 1; row <= header + rows; ++row)

@@ -3,6 +3,8 @@
 // would need more memory than there is.
 #pragma once
 
+#include "results/exports/ColumnBlock.h"
+
 #include <QFont>
 #include <QList>
 #include <QTextDocument>
@@ -15,7 +17,8 @@ class QTextTable;
 struct PdfLayout {
     QFont font;
     qreal width = 0;
-    QList<qreal> columns; ///< widths
+    ColumnBlock block;
+    QList<qreal> columns; ///< widths of those of the block
 };
 
 /// What stands together on a page: a paragraph, the header of the table, a row.
@@ -31,7 +34,8 @@ class PdfSlice {
 public:
     PdfSlice(const HtmlReport& html, const PdfLayout& layout, qsizetype first, qsizetype end);
 
-    /// From above, each below the one before. The header is among them in the first slice only.
+    /// From above, each below the one before. The header is among them in the first slice of a
+    /// block only.
     const QList<PdfBand>& bands() const { return bands_; }
     const PdfBand& header() const { return header_; }
     qreal width() const; ///< what is needed so that nothing is cut off
@@ -43,7 +47,7 @@ private:
     void setColumns(QTextTable& table, const PdfLayout& layout);
     static void drawLinesOnce(QTextTable& table, int row, int column);
     void findParagraphs(int from, int to);
-    void findRows(const QTextTable& table, int headerRows, int rows);
+    void findRows(const QTextTable& table, bool withHeader, int headerRows, int rows);
     qreal topOf(const QTextTable& table, int row) const;
     void addBand(qreal bottom, bool ofRow);
 

@@ -8,16 +8,19 @@
 #include "results/exports/PrintedFile.h"
 #include "results/tables/TableBase.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPrinter>
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr qreal margin = 10; // mm
+constexpr qreal margin = 10;      // mm
+constexpr qreal smallestFont = 5; ///< points
 constexpr qsizetype cellsOfSlice = 4000;
 constexpr qsizetype fewestRows = 12; ///< that make up for the header of a slice
 
@@ -31,19 +34,22 @@ public:
 
 private:
     void setUp(const QString& path);
-    void choosePage(const PdfColumns& columns);
+    void choosePage(PdfColumns& columns);
     qreal paperWidth() const; ///< in units of the screen
-    bool printSlices();
-    bool goOn(qsizetype rows);
+    bool printBlocks(const PdfColumns& columns);
+    bool printSlices(PdfPages& pages);
+    bool goOn(qint64 cells);
 
     const TableBase& table_;
     const WriteProgress& progress_;
     HtmlReport html_;
     QFont font_;
     PdfLayout layout_;
+    QList<ColumnBlock> blocks_;
     QSizeF paper_; ///< of what is laid out for a page, in units of the screen
     QPrinter printer_{QPrinter::PrinterResolution};
     QPainter painter_;
+    qint64 done_ = 0; ///< cells
     bool cancelled_ = false;
 };
 
@@ -69,29 +75,46 @@ qreal PdfReport::paperWidth() const {
 }
 
 /// Across where the table needs it; what is wider still is laid out on a larger sheet, which is
-/// drawn smaller.
-void PdfReport::choosePage(const PdfColumns& columns) {
-    if (columns.width() > paperWidth())
+/// drawn smaller as long as that can be read, and else in blocks of columns.
+void PdfReport::choosePage(PdfColumns& columns) {
+    if (columns.width(columns.all()) > paperWidth())
         printer_.setPageOrientation(QPageLayout::Landscape);
     const QRectF paper = printer_.pageLayout().paintRect(QPageLayout::Inch);
-    const qreal width = std::max(paperWidth(), columns.width());
+    const qreal smaller = std::max(1.0, QFontInfo(font_).pointSizeF() / smallestFont);
+    blocks_ = columns.blocks(paperWidth() * smaller);
+    qreal width = paperWidth();
+    for (const ColumnBlock& block : blocks_)
+        width = std::max(width, columns.width(block));
     paper_ = QSizeF(width, width * paper.height() / paper.width());
     layout_.width = width;
-    layout_.columns = columns.filling(width);
 }
 
 bool PdfReport::print(const QString& path) {
     setUp(path);
-    const PdfColumns columns(table_, font_, paperWidth() / 3, progress_);
+    PdfColumns columns(table_, font_, paperWidth() / 3, progress_);
     cancelled_ = columns.cancelled();
     if (cancelled_)
         return false;
     choosePage(columns);
-    return painter_.begin(&printer_) && printSlices() && painter_.end();
+    return painter_.begin(&printer_) && printBlocks(columns) && painter_.end();
 }
 
-bool PdfReport::printSlices() {
+bool PdfReport::printBlocks(const PdfColumns& columns) {
     PdfPages pages(printer_, painter_, paper_);
+    for (const ColumnBlock& block : std::as_const(blocks_)) {
+        layout_.block = block;
+        // The last few columns are no wider than those before.
+        layout_.columns = columns.filling(block, block.opens() || block.end < html_.columns()
+                                                     ? layout_.width
+                                                     : columns.width(block));
+        pages.endPage();
+        if (!printSlices(pages))
+            return false;
+    }
+    return true;
+}
+
+bool PdfReport::printSlices(PdfPages& pages) {
     const qsizetype rows = html_.rows();
     const qsizetype columns = std::max<qsizetype>(layout_.columns.size(), 1);
     const qsizetype rowsOfSlice = std::max(cellsOfSlice / columns, fewestRows);
@@ -99,14 +122,14 @@ bool PdfReport::printSlices() {
     do {
         const qsizetype end = std::min(rows, first + rowsOfSlice);
         pages.add(PdfSlice(html_, layout_, first, end));
+        done_ += (end - first) * (layout_.block.end - layout_.block.first);
         first = end;
-    } while (goOn(first) && first < rows);
+    } while (goOn(done_) && first < rows);
     return !cancelled_;
 }
 
-bool PdfReport::goOn(qsizetype rows) {
-    const qint64 width = table_.reportCells().width();
-    cancelled_ = progress_ && !progress_(rows * width, html_.rows() * width);
+bool PdfReport::goOn(qint64 cells) {
+    cancelled_ = progress_ && !progress_(cells, html_.rows() * html_.columns());
     return !cancelled_;
 }
 

@@ -20,7 +20,8 @@ ArealistViewOptionsDialog::ArealistViewOptionsDialog(const Options& options, QWi
     groups.setHidden(columnkeys::missing, options.hideMv);
     rows_ = new ColumnGroupRows(groups);
     checkBoxShowColumnsTotal_->setObjectName(QStringLiteral("checkBoxShowColumnsTotal"));
-    checkBoxShowColumnsTotal_->setToolTip(tr("Add a row with the sum of each column"));
+    checkBoxShowColumnsTotal_->setToolTip(
+        tr("Add a row with the sum of each column of whole numbers"));
     checkBoxShowColumnsTotal_->setChecked(options.showTotalsRow);
     QLayout* column = addOptionsGroup(*this, tr("Variables"))->layout();
     column->addWidget(rows_);

@@ -29,7 +29,8 @@ QString endOfLines(const QString& program) {
 /// reference to what was found.
 std::optional<QString> replaced(const QString& program, const QString& line) {
     static const QRegularExpression style(
-        QStringLiteral("^[ \\t]*TABLESTYLE[ \\t]+\"[^\"]*\"[ \\t]*") + lineEnd, options);
+        QStringLiteral("^[ \\t]*TABLESTYLE[ \\t]+\"(?:[^\"]++|\"\")*+\"[ \\t]*") + lineEnd,
+        options);
     QString result;
     qsizetype done = 0;
     for (auto found = style.globalMatch(program); found.hasNext();) {

@@ -43,12 +43,13 @@ void plainsheet::checkSize(const TableBase& table) {
 
 void plainsheet::write(Workbook& book, const TableBase& table, CellProgress& progress) {
     const SheetHeader header(table);
-    header.write(book, 0, 0, CellStyle::Label);
+    header.write(book, 0, 0, CellStyle::GridHeader);
     ColumnWidths widths;
     header.measure(widths);
     const ResultRows& rows = table.cells();
     const QList<int> alignments = table.columnAlignments();
     int row = header.rows();
+    book.freeze(row, rows.isTextColumn(0) && header.columns() > 1 ? 1 : 0);
     for (qsizetype from = 0; from < rows.size(); ++from, ++row) {
         const int columns = static_cast<int>(rows.columns(from));
         for (int column = 0; column < columns; ++column)

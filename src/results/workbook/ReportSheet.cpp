@@ -13,6 +13,8 @@ namespace {
 constexpr int tableColumn = 1; ///< the first one holds the labels of the facts
 constexpr double firstColumnWidth = 1.0;
 constexpr qint64 mostFactRows = 24;
+/// About half of a window: with more of them that stand still, no room is left to scroll in.
+constexpr int mostFrozenRows = 15;
 
 int columnsOf(const TableBase& table, const SheetHeader& header) {
     return static_cast<int>(std::max<qsizetype>(
@@ -37,6 +39,8 @@ void ReportSheet::write(Workbook& book, CellProgress& progress) {
     header_.write(book, row_, tableColumn, CellStyle::Header);
     header_.measure(widths_);
     row_ += header_.rows();
+    if (row_ <= mostFrozenRows)
+        book.freeze(row_, 0);
     writeRows(book, progress);
     for (const QString& line : SheetFrame::closingLines(book, table_)) {
         ++row_;

@@ -33,8 +33,7 @@ QByteArray SheetRestyling::take(QByteArrayView piece) {
     qsizetype done = 0;
     while (true) {
         const qsizetype begin = text.indexOf('<', done);
-        if (!inViews_)
-            out.append(text.sliced(done, (begin < 0 ? text.size() : begin) - done));
+        out.append(text.sliced(done, (begin < 0 ? text.size() : begin) - done));
         done = begin < 0 ? text.size() : begin;
         const qsizetype end = begin < 0 ? -1 : text.indexOf('>', begin);
         if (end < 0)
@@ -47,12 +46,10 @@ QByteArray SheetRestyling::take(QByteArrayView piece) {
 }
 
 void SheetRestyling::takeTag(QByteArrayView tag, QByteArray& out) {
-    if (tag.startsWith("<sheetViews"))
-        inViews_ = true;
     if (tag.startsWith("<c "))
         appendRestyled(tag, formats_, out);
-    else if (!inViews_)
+    else if (tag.startsWith("<sheetView "))
+        out.append(tag.toByteArray().replace(" tabSelected=\"1\"", ""));
+    else
         out.append(tag);
-    if (tag == QByteArrayView("</sheetViews>"))
-        inViews_ = false;
 }

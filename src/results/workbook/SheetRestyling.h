@@ -19,5 +19,4 @@ private:
 
     QList<QByteArray> formats_;
     QByteArray pending_; ///< a tag that has begun
-    bool inViews_ = false;
 };

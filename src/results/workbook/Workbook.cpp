@@ -7,8 +7,11 @@
 
 #include <QFile>
 
+#include <chrono>
 #include <clocale>
+#include <cstdint>
 #include <cstdlib>
+#include <future>
 #include <limits>
 
 #include <xlsxwriter.h>
@@ -17,6 +20,8 @@ namespace {
 
 /// From this size on the archive may pass 4 GB.
 constexpr qint64 largeFile = 10'000'000;
+constexpr std::uint8_t a4 = 9;
+constexpr std::chrono::milliseconds betweenQuestions{50};
 
 void check(lxw_error error) {
     if (error != LXW_NO_ERROR)
@@ -85,6 +90,9 @@ void Workbook::addSheet(const QString& name) {
     if (library_->sheet == nullptr)
         throw WorkbookError::notWritten(
             WorkbookError::tr("there is no room for the sheet %1").arg(name));
+    worksheet_set_paper(library_->sheet, a4);
+    worksheet_set_landscape(library_->sheet);
+    worksheet_fit_to_pages(library_->sheet, 1, 0); // any number of pages high
     cellCounts_.push_back(0);
     row_ = 0;
     hasCutTexts_ = false;
@@ -148,6 +156,11 @@ void Workbook::setColumnWidth(int column, double width) {
     check(worksheet_set_column(library_->sheet, index, index, width, nullptr));
 }
 
+void Workbook::freeze(int rows, int columns) {
+    worksheet_freeze_panes(library_->sheet, static_cast<lxw_row_t>(rows),
+                           static_cast<lxw_col_t>(columns));
+}
+
 void Workbook::checkSheetsReachedDisk() const {
     lxw_sheet* entry = nullptr;
     STAILQ_FOREACH(entry, library_->book->sheets, list_pointers) {
@@ -157,16 +170,27 @@ void Workbook::checkSheetsReachedDisk() const {
     }
 }
 
-void Workbook::close() {
-    checkSheetsReachedDisk();
-    {
+/// The library packs all sheets in one go: beside, so that the user's window answers meanwhile.
+void Workbook::pack(const std::function<bool()>& goOn) {
+    // The library gives up the workbook, written or not.
+    auto packing = std::async(std::launch::async, [book = std::exchange(library_->book, nullptr)] {
         const PointDecimals guard;
-        // The library gives up the workbook, written or not.
-        check(workbook_close(std::exchange(library_->book, nullptr)));
-    }
+        return workbook_close(book);
+    });
+    bool wanted = goOn();
+    while (packing.wait_for(betweenQuestions) != std::future_status::ready)
+        wanted = wanted && goOn();
+    check(packing.get());
+    if (!wanted)
+        throw WritingCancelled();
+}
+
+void Workbook::close(const std::function<bool()>& goOn) {
+    checkSheetsReachedDisk();
+    pack(goOn);
     const ZipPackage written(path_);
     for (std::size_t sheet = 0; sheet < cellCounts_.size(); ++sheet)
-        if (countCells(written, QStringLiteral("xl/worksheets/sheet%1.xml").arg(sheet + 1)) !=
+        if (countCells(written, QStringLiteral("xl/worksheets/sheet%1.xml").arg(sheet + 1), goOn) !=
             cellCounts_[sheet])
             throw WorkbookError::cutOff();
 }

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,17 +39,21 @@ public:
     /// Its cells are written as any others, whenever their rows come. A single cell is none.
     void merge(const CellArea& area);
     void setColumnWidth(int column, double width); ///< in digits
+    /// So many rows above and columns at the left stand still when others scroll.
+    void freeze(int rows, int columns);
     /// A text of this sheet was longer than a cell holds.
     bool hasCutTexts() const { return hasCutTexts_; }
 
-    /// Writes the file and reads it again: all cells must be in it.
-    void close();
+    /// Writes the file and reads it again: all cells must be in it. goOn is asked now and then;
+    /// false throws WritingCancelled.
+    void close(const std::function<bool()>& goOn);
 
 private:
     struct Library;
 
     void countCell(int row);
     void checkSheetsReachedDisk() const;
+    void pack(const std::function<bool()>& goOn);
 
     QString path_;
     std::unique_ptr<Library> library_;

@@ -32,12 +32,14 @@ QStringList ourSheets(qsizetype count) {
 }
 
 void writeRestyled(const ZipPackage& ours, const QString& sheet, const QString& path,
-                   const QList<int>& formats) {
+                   const QList<int>& formats, const std::function<bool()>& goOn) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         throw WorkbookError::notWritten(file.errorString());
     SheetRestyling restyling(formats);
     ours.readInPieces(sheet, [&](QByteArrayView piece) {
+        if (!goOn())
+            throw WritingCancelled();
         const QByteArray text = restyling.take(piece);
         if (file.write(text) != text.size())
             throw WorkbookError::cutOff();
@@ -121,15 +123,15 @@ void WorkbookAppender::append(const QString& newBook, const QStringList& names, 
     const auto before = package_.checksums();
     QList<qint64> cells;
     for (const QString& sheet : ourSheets(names.size()))
-        cells += countCells(ours, sheet);
+        cells += countCells(ours, sheet, goOn);
     const bool hadStyles = !styles_.isEmpty();
     const QList<int> formats = mergeStyles(ours);
-    const QStringList parts = addParts(ours, names, folder, formats);
+    const QStringList parts = addParts(ours, names, folder, formats, goOn);
     declareParts(parts, !hadStyles);
     listSheets(names, relate(parts, !hadStyles));
     listTitles(names);
     package_.close(goOn);
-    checkKept(before, parts, cells);
+    checkKept(before, parts, cells, goOn);
 }
 
 void WorkbookAppender::change(const QString& name, const XmlPart& part) {
@@ -160,11 +162,12 @@ QString WorkbookAppender::freePart(const QString& pattern, const QStringList& ta
 }
 
 QStringList WorkbookAppender::addParts(const ZipPackage& ours, const QStringList& names,
-                                       const QDir& folder, const QList<int>& formats) {
+                                       const QDir& folder, const QList<int>& formats,
+                                       const std::function<bool()>& goOn) {
     QStringList parts;
     for (const QString& sheet : ourSheets(names.size())) {
         const QString file = folder.filePath(QStringLiteral("added%1.xml").arg(parts.size()));
-        writeRestyled(ours, sheet, file, formats);
+        writeRestyled(ours, sheet, file, formats, goOn);
         parts += freePart(QStringLiteral("worksheets/sheet%1.xml"), parts);
         package_.addFile(parts.last(), file);
     }
@@ -235,7 +238,8 @@ void WorkbookAppender::listTitles(const QStringList& names) {
 }
 
 void WorkbookAppender::checkKept(const QHash<QString, quint32>& before, const QStringList& added,
-                                 const QList<qint64>& cells) const {
+                                 const QList<qint64>& cells,
+                                 const std::function<bool()>& goOn) const {
     const ZipPackage written(path_);
     const auto now = written.checksums();
     for (auto part = before.cbegin(); part != before.cend(); ++part)
@@ -243,6 +247,6 @@ void WorkbookAppender::checkKept(const QHash<QString, quint32>& before, const QS
                                           !changed_.contains(part.key(), Qt::CaseInsensitive)))
             throw WorkbookError::cutOff();
     for (qsizetype i = 0; i < added.size(); ++i)
-        if (countCells(written, added[i]) != cells[i])
+        if (countCells(written, added[i], goOn) != cells[i])
             throw WorkbookError::cutOff();
 }

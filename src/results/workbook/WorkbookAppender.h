@@ -31,14 +31,14 @@ private:
 
     QList<int> mergeStyles(const ZipPackage& ours);
     QStringList addParts(const ZipPackage& ours, const QStringList& names, const QDir& folder,
-                         const QList<int>& formats);
+                         const QList<int>& formats, const std::function<bool()>& goOn);
     void declareParts(const QStringList& parts, bool withStyles);
     QStringList relate(const QStringList& parts, bool withStyles);
     void listSheets(const QStringList& names, const QStringList& relations);
     void listTitles(const QStringList& names);
     void change(const QString& name, const XmlPart& part);
     void checkKept(const QHash<QString, quint32>& before, const QStringList& added,
-                   const QList<qint64>& cells) const;
+                   const QList<qint64>& cells, const std::function<bool()>& goOn) const;
 
     QString path_;
     ZipPackage package_;

@@ -57,7 +57,7 @@ void writePlain(const Tables& tables, const QString& path, CellProgress& progres
         book.addSheet(names.takeOrDefault(table->outputName()));
         plainsheet::write(book, *table, progress);
     }
-    book.close();
+    book.close([&] { return progress.mayGoOn(); });
 }
 
 /// The names of the sheets.
@@ -71,7 +71,7 @@ QStringList writeReports(const Tables& tables, const QStringList& taken, const Q
         book.addSheet(written.last());
         ReportSheet(*table).write(book, progress);
     }
-    book.close();
+    book.close([&] { return progress.mayGoOn(); });
     return written;
 }
 

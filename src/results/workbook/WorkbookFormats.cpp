@@ -12,6 +12,7 @@ struct Look {
     bool isBold;
     bool hasBorder;
     bool isBlackBorder;
+    bool isCentred;
     std::uint32_t background; ///< 0 for none
     const char* number;       ///< null for general
 };
@@ -22,17 +23,18 @@ constexpr const char* integerFormat = "# ##0";
 constexpr const char* realFormat = "# ##0.00";
 
 /// By CellStyle.
-constexpr std::array<Look, 10> looks{{
-    {false, false, false, 0, nullptr},
-    {true, false, false, 0, nullptr},
-    {false, false, false, 0, nullptr},
-    {true, true, true, grey, nullptr},
-    {false, true, false, 0, nullptr},
-    {false, true, false, 0, integerFormat},
-    {false, true, false, 0, realFormat},
-    {false, true, false, lightGrey, nullptr},
-    {false, true, false, lightGrey, integerFormat},
-    {false, true, false, lightGrey, realFormat},
+constexpr std::array<Look, 11> looks{{
+    {false, false, false, false, 0, nullptr},
+    {true, false, false, false, 0, nullptr},
+    {true, false, false, true, 0, nullptr},
+    {false, false, false, false, 0, nullptr},
+    {true, true, true, true, grey, nullptr},
+    {false, true, false, false, 0, nullptr},
+    {false, true, false, false, 0, integerFormat},
+    {false, true, false, false, 0, realFormat},
+    {false, true, false, false, lightGrey, nullptr},
+    {false, true, false, false, lightGrey, integerFormat},
+    {false, true, false, false, lightGrey, realFormat},
 }};
 
 void dress(lxw_format* format, const Look& look) {
@@ -44,6 +46,10 @@ void dress(lxw_format* format, const Look& look) {
         format_set_border(format, LXW_BORDER_THIN);
     if (look.isBlackBorder)
         format_set_border_color(format, LXW_COLOR_BLACK);
+    if (look.isCentred) {
+        format_set_align(format, LXW_ALIGN_CENTER);
+        format_set_align(format, LXW_ALIGN_VERTICAL_CENTER);
+    }
     if (look.background != 0)
         format_set_bg_color(format, look.background);
     if (look.number != nullptr)

@@ -9,7 +9,8 @@ struct lxw_workbook;
 
 enum class CellStyle {
     Plain,
-    Label, ///< headings of facts, and headers without borders
+    Label,      ///< headings of facts
+    GridHeader, ///< without borders
     Value,
     Header,
     Text,
@@ -28,5 +29,5 @@ public:
 
 private:
     lxw_workbook* workbook_;
-    std::array<lxw_format*, 10> formats_{};
+    std::array<lxw_format*, 11> formats_{};
 };

@@ -152,11 +152,14 @@ void ZipPackage::close(const std::function<bool()>& goOn) {
     throw archiveError(archive_.get());
 }
 
-qint64 countCells(const ZipPackage& package, const QString& sheet) {
+qint64 countCells(const ZipPackage& package, const QString& sheet,
+                  const std::function<bool()>& goOn) {
     constexpr QByteArrayView cell("<c r=");
     qint64 cells = 0;
     QByteArray tail; // what is sought may lie across two pieces
     package.readInPieces(sheet, [&](QByteArrayView piece) {
+        if (!goOn())
+            throw WritingCancelled();
         const QByteArray text = tail.right(cell.size() - 1).append(piece);
         cells += text.count(cell);
         tail = (tail + piece.toByteArray()).right(sheetEnd.size());

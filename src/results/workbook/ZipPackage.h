@@ -44,5 +44,7 @@ private:
     std::list<QByteArray> contents_; ///< of replaced parts, until they are written
 };
 
-/// Cells of a sheet that this program wrote; -1 where the sheet has no end.
-qint64 countCells(const ZipPackage& package, const QString& sheet);
+/// Cells of a sheet that this program wrote; -1 where the sheet has no end. goOn is asked now and
+/// then; false throws WritingCancelled.
+qint64 countCells(const ZipPackage& package, const QString& sheet,
+                  const std::function<bool()>& goOn);
