@@ -35,12 +35,12 @@
         <translation>View Options</translation>
     </message>
     <message>
-        <source>Add a row with the sum of each column</source>
-        <translation>Add a row with the sum of each column</translation>
-    </message>
-    <message>
         <source>Variables</source>
         <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column of whole numbers</source>
+        <translation>Add a row with the sum of each column of whole numbers</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2220,10 @@ Do you want to reload the file instead?</translation>
         <source>by </source>
         <translation>by </translation>
     </message>
+    <message>
+        <source>Sorted(%1) by</source>
+        <translation>Sorted(%1) by</translation>
+    </message>
 </context>
 <context>
     <name>ResultExports</name>
@@ -2453,6 +2457,13 @@ Run a program, or choose a table in the tree.</translation>
     <message>
         <source>Exports and options</source>
         <translation>Exports and options</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(and %n more)</numerusform>
+            <numerusform>(and %n more)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -35,12 +35,12 @@
         <translation>Opciones de vista</translation>
     </message>
     <message>
-        <source>Add a row with the sum of each column</source>
-        <translation>Agregar una fila con la suma de cada columna</translation>
-    </message>
-    <message>
         <source>Variables</source>
         <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column of whole numbers</source>
+        <translation>Agrega una fila con la suma de cada columna de números enteros</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2220,10 @@ Do you want to reload the file instead?</source>
         <source>by </source>
         <translation>por </translation>
     </message>
+    <message>
+        <source>Sorted(%1) by</source>
+        <translation>Ordenado (%1) por</translation>
+    </message>
 </context>
 <context>
     <name>ResultExports</name>
@@ -2453,6 +2457,13 @@ Ejecute un programa o elija un tabulado en el árbol.</translation>
     <message>
         <source>Exports and options</source>
         <translation>Exportaciones y opciones</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(y %n más)</numerusform>
+            <numerusform>(y %n más)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

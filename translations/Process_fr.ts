@@ -35,12 +35,12 @@
         <translation>Options d’affichage</translation>
     </message>
     <message>
-        <source>Add a row with the sum of each column</source>
-        <translation>Ajouter une ligne avec la somme de chaque colonne</translation>
-    </message>
-    <message>
         <source>Variables</source>
         <translation>Variables</translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column of whole numbers</source>
+        <translation>Ajoute une ligne avec la somme de chaque colonne de nombres entiers</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2220,10 @@ Voulez-vous plutôt recharger le fichier ?</translation>
         <source>by </source>
         <translation>par </translation>
     </message>
+    <message>
+        <source>Sorted(%1) by</source>
+        <translation>Trié (%1) par</translation>
+    </message>
 </context>
 <context>
     <name>ResultExports</name>
@@ -2453,6 +2457,13 @@ Exécutez un programme ou choisissez un tableau dans l’arborescence.</translat
     <message>
         <source>Exports and options</source>
         <translation>Exportations et options</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(et %n autre)</numerusform>
+            <numerusform>(et %n autres)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -35,12 +35,12 @@
         <translation>Opções de exibição</translation>
     </message>
     <message>
-        <source>Add a row with the sum of each column</source>
-        <translation>Adicionar uma linha com a soma de cada coluna</translation>
-    </message>
-    <message>
         <source>Variables</source>
         <translation>Variáveis</translation>
+    </message>
+    <message>
+        <source>Add a row with the sum of each column of whole numbers</source>
+        <translation>Adiciona uma linha com a soma de cada coluna de números inteiros</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2220,10 @@ Deseja recarregar o arquivo em vez disso?</translation>
         <source>by </source>
         <translation>por </translation>
     </message>
+    <message>
+        <source>Sorted(%1) by</source>
+        <translation>Ordenado (%1) por</translation>
+    </message>
 </context>
 <context>
     <name>ResultExports</name>
@@ -2453,6 +2457,13 @@ Run a program, or choose a table in the tree.</source>
     <message>
         <source>Exports and options</source>
         <translation>Exportações e opções</translation>
+    </message>
+    <message numerus="yes">
+        <source>(and %n more)</source>
+        <translation>
+            <numerusform>(e mais %n)</numerusform>
+            <numerusform>(e mais %n)</numerusform>
+        </translation>
     </message>
 </context>
 <context>
