@@ -37,9 +37,9 @@ public:
 
     /// Runs a program text against the open dictionary and shows what it makes.
     virtual void runProgram(const QString& program) = 0;
-    /// Hands the outputs of a run to the window of results, which comes to the front, and writes the
-    /// files that they ask for (OUTFILE). programText: as the user wrote it. Gives a line for each
-    /// file that went elsewhere or could not be written.
+    /// Hands the outputs of a run to the window of results, which comes to the front, and writes
+    /// the files that they ask for (OUTFILE). programText: as the user wrote it. Gives a line for
+    /// each file that went elsewhere or could not be written.
     virtual QStringList showResults(const std::vector<TKelOutput*>& outputs,
                                     const std::shared_ptr<TKelSession>& session,
                                     const QString& programText) = 0;
