@@ -21,11 +21,10 @@ DirectWriter::~DirectWriter() = default;
 
 WriteOutcome DirectWriter::write(const TableBase& table, TKelOutput& output) {
     const QString path = QString::fromStdString(output.options().outputFile);
-    const WriteOutcome outcome =
-        progress_ != nullptr && progress_->beginFile(path)
-            ? DirectExport(*settings_)
-                  .write(table, output.options(), &lines_, progress_->progress())
-            : WriteOutcome{true, path, {}};
+    WriteOutcome outcome = progress_ != nullptr && progress_->beginFile(path)
+                               ? DirectExport(*settings_)
+                                     .write(table, output.options(), &lines_, progress_->progress())
+                               : WriteOutcome{true, path, {}};
     if (!outcome.written())
         lines_ += resultFault(outcome);
     return outcome;
